@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "HostApi.h"
+#include "Result.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace refhost
+{
+
+/// One finished connection as the store keeps it. Times are seconds since
+/// 1970-01-01 00:00 UTC and, like the duration, lie between 0 and 2147483647
+/// (the statistics SDK's callers read them as signed 32-bit numbers); byte
+/// counts are not negative. Texts are UTF-8.
+struct Connection {
+    std::int64_t key = 0; ///< given by the store, never used twice; 0 before that
+    std::string profile;
+    std::int64_t startUtc = 0;
+    std::int64_t endUtc = 0;
+    std::int64_t connectedSeconds = 0;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+    std::string ending = "normal"; ///< how it ended, at most 31 bytes
+    std::string interfaceName;     ///< network interface, at most 31 bytes; may be empty
+};
+
+/// The history of connections in one SQLite file. A store is used on one thread;
+/// several processes may use the same file at once. No operation throws.
+class HOST_API StatisticsStore
+{
+public:
+    /// The user's own store: $NETINFO_STORE if set, else connections.db in the
+    /// refdialer folder of $XDG_DATA_HOME (~/.local/share without it).
+    static std::string defaultPath();
+
+    /// Opens the store in `path` and creates it, mode 0600 in a folder of mode
+    /// 0700, if it is not there. A file that is not a store, is damaged or newer
+    /// is left as it is.
+    static Result<StatisticsStore> openOrCreate(const std::string &path);
+    /// The same, but a file that is not there is not made: until something else
+    /// creates it, the store reads as empty.
+    static Result<StatisticsStore> openForReading(const std::string &path);
+
+    StatisticsStore(StatisticsStore &&) noexcept;
+    StatisticsStore &operator=(StatisticsStore &&) noexcept;
+    ~StatisticsStore();
+
+    /// All finished connections by start time, then by key.
+    Result<std::vector<Connection>> list() const;
+
+    /// Stores one connection and returns its key.
+    Result<std::int64_t> add(const Connection &connection);
+
+    /// Told how many of the given connections have been looked at so far.
+    using Progress = std::function<void(std::size_t done)>;
+    /// Stores those of `connections` that are not in the store yet, all or none,
+    /// and returns how many that were. Equal connections are told apart by their
+    /// number: what is given three times is in the store three times afterwards,
+    /// so giving the same list again adds nothing.
+    Result<std::size_t> addMissing(const std::vector<Connection> &connections,
+                                   const Progress &progress = {});
+
+    /// Removes the connections with these keys, all or none.
+    Result<std::size_t> remove(const std::vector<std::int64_t> &keys);
+
+private:
+    class Private;
+    explicit StatisticsStore(std::unique_ptr<Private> d);
+    std::unique_ptr<Private> d;
+};
+
+} // namespace refhost
