@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QItemDelegate>
+#include <QPointer>
+#include <QSet>
+#include <QString>
+#include <QVector>
+#include <QWidget>
+
+class ExtendDialog;
+class NetInfoRecordLogic;
+class QAction;
+class QGroupBox;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QRect;
+class QShortcut;
+class QTableWidget;
+class QTableWidgetItem;
+struct ConnectionRecord;
+
+/// The table's item delegate, which shows no focus rectangle.
+class GridDelegateLayout : public QItemDelegate
+{
+public:
+    ~GridDelegateLayout() override;
+
+protected:
+    void drawFocus(QPainter *painter, const QStyleOptionViewItem &option,
+                   const QRect &rect) const override;
+};
+
+/// The history window: the table of past connections with its deletion, and the
+/// summary of the connection that has just ended. The object itself is never
+/// shown; what is visible lives under a container widget that goes into the
+/// host's area. One instance per process, GUI thread only.
+class ConnectionHistoryDlg : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The single instance, made on the first call.
+    static ConnectionHistoryDlg *Instance();
+    /// Ends the single instance, and the record store with it.
+    static void Destroy();
+
+    /// Builds the widget tree, fetches every record and fills the table.
+    void Init();
+    /// Places the container in `parent` at `rect` and shows it, at its first
+    /// row and without a current cell; false only without a container.
+    bool ShowWindow(QWidget *parent, QRect &rect);
+    void FitSize(QRect &rect);
+    void Hide();
+    /// Applies the table's settings and every translated text again.
+    void uiSetText();
+    /// The host's text for a string identifier.
+    QString tr(QString id);
+
+    /// Shows one row per record of the store's map, in the map's own order.
+    void populateTable();
+    void PopulateTableRowOfConnectionRecord(ConnectionRecord *record, int row);
+    /// Frees the records that the rows refer to; rows and items stay, so the
+    /// caller empties the store's map and refills or ends the table next.
+    void ReleaseTable();
+
+    /// Makes a fresh context menu; earlier ones live as long as the table.
+    void createTableRightClickAction();
+    /// Replaces any earlier summary by one of the last connection, window-modal
+    /// over `parent`, and returns at once. Shows nothing without a last record.
+    void ShowDialogOfLastConnectedRecord(QWidget *parent);
+
+public Q_SLOTS:
+    // The order of the slots is contract: hosts may invoke them by index.
+    void OnAccumulateClicked();
+    void showTableContextMenu(const QPoint &point);
+    void onDelete();
+    void onDeleteAll();
+    void onClickOkButton();
+
+private:
+    using Cells = QVector<const QTableWidgetItem *>;
+    struct SummaryLayouts;
+
+    ConnectionHistoryDlg();
+    ~ConnectionHistoryDlg() override;
+
+    bool buildLayout();
+    void setTableBehaviour();
+    void releaseRecordsWithoutRows();
+    void deleteHeaderItemsAndDelegate();
+
+    bool isConfirmed(const QString &textId);
+    Cells selectedCells() const;
+    bool removeCells(const Cells &cells);
+    void removeRows(const QSet<const QTableWidgetItem *> &linkedCells);
+    void removeRecords(const QVector<int> &sortedIds);
+
+    void deleteSummary();
+    bool createSummary(QWidget *parent, SummaryLayouts &layouts);
+    void fillSummary(const SummaryLayouts &layouts);
+
+    static ConnectionHistoryDlg *m_pConnectionHistoryInst;
+
+    // Guarded pointers: a host may destroy its area, and with it the container
+    // and all below, or its main window with a summary, before OnDestroy.
+    QPointer<QWidget> m_pContainerWidget;
+    QPointer<QTableWidget> m_pConnectionTblTreeWidget;
+    NetInfoRecordLogic *m_pRecordLogic = nullptr; // shared; ended by the destructor
+    QPointer<QMenu> m_pContextMenu;
+    QAction *m_pDeleteAction = nullptr;    // child of this object
+    QAction *m_pDeleteAllAction = nullptr; // child of this object
+    QPointer<GridDelegateLayout> m_pGridDelegate;
+
+    // The frame owns the rest through its main widget.
+    QPointer<ExtendDialog> m_pLastRecordDlg;
+    QPointer<QWidget> m_pLastRecordWidget;
+    QPointer<QGroupBox> m_pLastRecordGrp;
+    QPointer<QPushButton> m_pLastRecordOkBtn;
+    QPointer<QLabel> m_pDownloadedValueLbl;
+    QPointer<QLabel> m_pUploadedValueLbl;
+    QPointer<QLabel> m_pTransferTimeValueLbl;
+    QPointer<QLabel> m_pDownloadedLbl;
+    QPointer<QLabel> m_pUploadedLbl;
+    QPointer<QLabel> m_pTransferTimeLbl;
+
+    QPointer<QShortcut> m_pTableDeleteShortcut;
+    QPointer<QShortcut> m_pMenuDeleteShortcut;
+    QPointer<QShortcut> m_pMenuDShortcut;
+    QPointer<QShortcut> m_pMenuAShortcut;
+    QPointer<QLabel> m_pNoteLabel;
+
+    int m_nTableChanges = 0; // tells an open question that its rows are others now
+};

@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "NetInfoRecordLogic.h"
+
+#include "KoraStatistics.h"
+#include "Log.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+#include <algorithm>
+#include <iterator>
+
+using Log::now;
+
+namespace
+{
+
+const char sourcePath[] = "../../src/NetInfoRecordUIPlugin/NetInfoRecordLogic";
+
+/// A field's text up to its terminator, or the whole field if it has none.
+template <std::size_t Size>
+QString boundedText(const char (&field)[Size])
+{
+    const char *end = std::find(std::begin(field), std::end(field), '\0');
+    return QString::fromLatin1(field, static_cast<int>(end - field));
+}
+
+template <std::size_t Size>
+QString boundedText(const char16_t (&field)[Size])
+{
+    const char16_t *end = std::find(std::begin(field), std::end(field), u'\0');
+    return QString::fromUtf16(field, static_cast<int>(end - field));
+}
+
+/// Seconds since 1970-01-01 UTC as local time "yyyyMMddhhmmss". The count is
+/// taken as unsigned, so a negative text wraps; that is meant. The C locale
+/// keeps the digits ASCII in every language: the text is parsed again later.
+QString localTimeText(const QString &seconds)
+{
+    const auto count = static_cast<quint32>(seconds.toInt());
+    static const QString format = QLatin1String("yyyyMMddhhmmss");
+    return QLocale::c().toString(QDateTime::fromSecsSinceEpoch(count), format);
+}
+
+double kilobytesOf(const QString &bytes)
+{
+    return bytes.toDouble() * 0.0009765625;
+}
+
+/// Negative values get the leading zero too ("0-5"); that is meant.
+void appendTwoDigits(QString &text, qint64 value)
+{
+    if (value <= 9)
+        text += QLatin1Char('0');
+    text += QString::number(value);
+}
+
+} // namespace
+
+NetInfoRecordLogic *NetInfoRecordLogic::m_pNetInfoRecordLogicInst = nullptr;
+
+NetInfoRecordLogic::NetInfoRecordLogic()
+{
+    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 34);
+    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 36);
+}
+
+NetInfoRecordLogic::~NetInfoRecordLogic()
+{
+    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 58);
+    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 60);
+}
+
+NetInfoRecordLogic *NetInfoRecordLogic::Instance()
+{
+    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 85);
+    if (!m_pNetInfoRecordLogicInst)
+        m_pNetInfoRecordLogicInst = new NetInfoRecordLogic;
+    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 91);
+    return m_pNetInfoRecordLogicInst;
+}
+
+void NetInfoRecordLogic::Destroy()
+{
+    Log::line("Start  : %s: %s: %s %d", now, sourcePath, __func__, 111);
+    delete m_pNetInfoRecordLogicInst;
+    m_pNetInfoRecordLogicInst = nullptr;
+    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 115);
+}
+
+bool NetInfoRecordLogic::GetLastConnectedRecord()
+{
+    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 169);
+    _KORA_ST_CONNRECORD record = {};
+    Log::line("=======> %s: %s: %s: %d: Calling KORA_Statistics_GetLastConnRecord()", now,
+              sourcePath, __func__, 177);
+    const int status = KORA_Statistics_GetLastConnRecord(&record);
+    Log::line("<======= %s: %s: %s: %d: Finished KORA_Statistics_GetLastConnRecord(), retVal=%ld",
+              now, sourcePath, __func__, 182, static_cast<long>(status));
+    const bool succeeded = status == 0;
+    if (succeeded)
+        convertFields(record, m_lastRecord);
+    Log::line("End: %s: %s: %s %d", now, sourcePath, __func__, 233);
+    return succeeded;
+}
+
+bool NetInfoRecordLogic::GetAllConnectedRecords()
+{
+    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 253);
+    _KORA_ST_CONNRECORD *records = nullptr;
+    int count = 0;
+    Log::line("=======> %s: %s: %s: %d: Calling KORA_Statistics_GetAllConnRecord()", now,
+              sourcePath, __func__, 263);
+    const int status = KORA_Statistics_GetAllConnRecord(&records, &count);
+    Log::line("<======= %s: %s: %s: %d: Finished KORA_Statistics_GetAllConnRecord(), retVal=%ld",
+              now, sourcePath, __func__, 269, static_cast<long>(status));
+    const bool succeeded = status == 0;
+    if (succeeded) {
+        // A null array has no second element to go on to: its first one is
+        // reported as missing, and that is all.
+        const int convertible = records ? count : std::min(count, 1);
+        for (int i = 0; i < convertible; ++i)
+            populateSDKtoUIStructure(i, records ? records + i : nullptr);
+    }
+    KORA_Statistics_ReleaseConnRecord(records);
+    Log::line("Exit: %s: %s: %s %d", now, sourcePath, __func__, 282);
+    return succeeded;
+}
+
+void NetInfoRecordLogic::populateSDKtoUIStructure(int id, const _KORA_ST_CONNRECORD *record)
+{
+    Log::line("Enter: %s: %s: %s %d", now, sourcePath, __func__, 302);
+    if (Log::isMissing(record, sourcePath, __func__, 304))
+        return;
+    auto *converted = new ConnectionRecord;
+    converted->m_nRecordId = id;
+    convertFields(*record, *converted);
+    m_records.insert(id, converted);
+    Log::line("Exit: %s: %s: %s %d", now, sourcePath, __func__, 352);
+}
+
+void NetInfoRecordLogic::convertFields(const _KORA_ST_CONNRECORD &from, ConnectionRecord &to)
+{
+    to.m_strProfileName = boundedText(from.szProfileName);
+    to.m_strDownloaded = TransformUnits(kilobytesOf(boundedText(from.szDownloadBytes)));
+    to.m_strEndTime = localTimeText(boundedText(from.szEndTime));
+    to.m_strExtraText2 = boundedText(from.szExtraText2);
+    to.m_strStartTime = localTimeText(boundedText(from.szStartTime));
+    to.m_strExtraText1 = boundedText(from.szExtraText1);
+    to.m_strUploaded = TransformUnits(kilobytesOf(boundedText(from.szUploadBytes)));
+    convertTimeToString(boundedText(from.szDuration).toInt(), to.m_strConnectedTime);
+}
+
+bool NetInfoRecordLogic::DeleteRecord(int id)
+{
+    Log::line("Enter: %s: %s: %s %d", now, sourcePath, __func__, 370);
+    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 372);
+    Log::line("=======> %s: %s: %s: %d: Calling KORA_Statistics_ConnRecord_RemoveRecord ()", now,
+              sourcePath, __func__, 377);
+    const int status = KORA_Statistics_ConnRecord_RemoveRecord(id);
+    // The blank missing after "Finished" is part of the line, here and below.
+    Log::line("<======= %s: %s: %s: %d: FinishedKORA_Statistics_ConnRecord_RemoveRecord (), "
+              "retVal=%ld",
+              now, sourcePath, __func__, 383, static_cast<long>(status));
+    Log::line("End: %s: %s: %s %d", now, sourcePath, __func__, 390);
+    return status == 0;
+}
+
+bool NetInfoRecordLogic::DeleteAll()
+{
+    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 410);
+    Log::line("=======> %s: %s: %s: %d: Calling KORA_Statistics_ConnRecord_RemoveRecord ()", now,
+              sourcePath, __func__, 415);
+    bool anyRemoved = false;
+    const auto count = m_records.size();
+    for (auto i = count; i > 0; --i) {
+        // Always the first record: each removal moves the next one up.
+        const int status = KORA_Statistics_ConnRecord_RemoveRecord(0);
+        Log::line("<======= %s: %s: %s: %d: FinishedKORA_Statistics_ConnRecord_RemoveRecord (), "
+                  "retVal=%ld",
+                  now, sourcePath, __func__, 423, static_cast<long>(status));
+        anyRemoved = anyRemoved || status == 0;
+    }
+    Log::line("End: %s: %s: %s %d", now, sourcePath, __func__, 431);
+    return anyRemoved;
+}
+
+void NetInfoRecordLogic::forgetRecords()
+{
+    m_records = {};
+    m_accumulateRecords = {};
+}
+
+void NetInfoRecordLogic::convertTimeToString(qint64 seconds, QString &out)
+{
+    Log::line("%s: %s: %s: Entered", now, sourcePath, __func__);
+    out.clear();
+    const qint64 rest = seconds % 3600;
+    appendTwoDigits(out, seconds / 3600);
+    out += QLatin1Char(':');
+    appendTwoDigits(out, rest / 60);
+    out += QLatin1Char(':');
+    appendTwoDigits(out, rest % 60);
+    Log::line("%s: %s: %s %d: Exit", now, sourcePath, __func__, 457);
+}
+
+QString NetInfoRecordLogic::TransformUnits(double kilobytes)
+{
+    // The unit is chosen before rounding, so 1023.999 KB stays "1024.00 KB".
+    const char *unit = " KB";
+    if (kilobytes >= 1024.0 && kilobytes < 1048576.0) {
+        kilobytes *= 0.0009765625;
+        unit = " MB";
+    } else if (kilobytes >= 1048576.0) {
+        kilobytes *= 9.5367431640625e-07;
+        unit = " GB";
+    }
+    return QString::asprintf("%.2f", kilobytes) + QLatin1String(unit);
+}

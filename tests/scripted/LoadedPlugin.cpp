@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "LoadedPlugin.h"
+
+#include <QApplication>
+
+LoadedPlugin::LoadedPlugin()
+    : m_loader(fileName())
+    , m_area(new QWidget)
+{
+    if (!m_loader.load())
+        qFatal("%s", qPrintable(m_loader.errorString()));
+    m_loader.instance();
+}
+
+LoadedPlugin::~LoadedPlugin()
+{
+    end();
+    delete m_area;
+    m_loader.unload();
+}
+
+QString LoadedPlugin::fileName()
+{
+    return QStringLiteral(PLUGIN_FILE);
+}
+
+QObject *LoadedPlugin::root()
+{
+    return m_loader.instance();
+}
+
+IUIPlugin *LoadedPlugin::ui()
+{
+    return qobject_cast<IUIPlugin *>(root());
+}
+
+INotify *LoadedPlugin::notify()
+{
+    return qobject_cast<INotify *>(root());
+}
+
+void LoadedPlugin::show(const QSize &size)
+{
+    ui()->Init();
+    m_area->resize(size);
+    QRect rect(QPoint(0, 0), size);
+    ui()->ShowWindow(m_area, rect);
+    m_area->show();
+}
+
+void LoadedPlugin::end()
+{
+    if (m_isEnded)
+        return;
+    m_isEnded = true;
+    static_cast<IDestroyEvent *>(ui())->OnDestroy();
+}
+
+QWidget *LoadedPlugin::container() const
+{
+    return m_area ? m_area->findChild<QWidget *>(
+                        QStringLiteral("NetInfoRecordUIPlugin_ConnectionHistoryWidget"))
+                  : nullptr;
+}
+
+QTableWidget *LoadedPlugin::table() const
+{
+    return m_area ? m_area->findChild<QTableWidget *>() : nullptr;
+}
+
+QObject *LoadedPlugin::historyWindow() const
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget->inherits("ConnectionHistoryDlg"))
+            return widget;
+    }
+    return nullptr;
+}
