@@ -4,7 +4,6 @@
 #include "ScriptedHost.h"
 
 #include <QRegularExpression>
-#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -191,8 +190,10 @@ void tst_Deletion::deletesTheSelectedRows()
     QCOMPARE(profiles(), expected);
     QStringList removed = {QStringLiteral("RemoveRecord(%1)").arg(third),
                            QStringLiteral("RemoveRecord(%1)").arg(fifth)};
-    QCOMPARE(QSet<QString>(removals().cbegin(), removals().cend()),
-             QSet<QString>(removed.cbegin(), removed.cend()));
+    QStringList asked = removals();
+    removed.sort();
+    asked.sort();
+    QCOMPARE(asked, removed);
     QCOMPARE(Host::instance().calls.filter("GetAll").size(), 0); // no reload
 }
 

@@ -3,6 +3,7 @@
 #include "LogCapture.h"
 #include "ScriptedHost.h"
 
+#include <QLoggingCategory>
 #include <QTest>
 
 using scripted::Host;

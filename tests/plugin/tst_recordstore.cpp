@@ -164,7 +164,8 @@ void tst_RecordStore::convertsTimes_data()
     QTest::newRow("negative wraps") << QByteArray("-1") << "21060207072815";
     QTest::newRow("most negative wraps") << QByteArray("-2147483648") << "20380119041408";
     QTest::newRow("in summer time") << QByteArray("1720000000") << "20240703114640";
-    QTest::newRow("before the clocks go back") << QByteArray("1729990800") << "20241027030000";
+    QTest::newRow("before the clocks go back") << QByteArray("1729987200") << "20241027020000";
+    QTest::newRow("after the clocks went back") << QByteArray("1729990800") << "20241027020000";
     QTest::newRow("leap day") << QByteArray("1709164800") << "20240229010000";
 }
 
