@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# scripts/style.sh BUILD: checks the format of every source file, and what
+# clang-tidy finds in those that the build in folder BUILD compiles.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+build=$1
+
+git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
+
+without_licence=$(git ls-files '*.h' '*.cpp' '*.txt' '*.cmake' '*.sh' run test .ci/run |
+    xargs grep -L 'SPDX-License-Identifier: MIT' || true)
+if [ -n "$without_licence" ]; then
+    printf 'No SPDX line in: %s\n' "$without_licence" >&2
+    exit 1
+fi
+
+# A file that has not changed since it was last found clean is not asked again.
+clean=$build/tidy
+mkdir -p "$clean"
+check() {
+    local file=$1 build=$2 stamp
+    stamp=$2/tidy/${file//\//_}
+    if [ -f "$stamp" ] && [ -z "$(find "$file" .clang-tidy host src refhost tests examples \
+        -name '*.h' -newer "$stamp" -print -quit; find "$file" .clang-tidy -newer "$stamp")" ]; then
+        return 0
+    fi
+    clang-tidy --quiet -p "$build" "$file" 2>/dev/null && touch "$stamp"
+}
+export -f check
+git ls-files 'src/*.cpp' 'refhost/*.cpp' 'examples/*.cpp' |
+    xargs -P "$(nproc)" -I{} bash -c 'check "$@"' check {} "$build"
