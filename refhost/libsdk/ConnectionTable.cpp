@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "ConnectionTable.h"
+
+#include <SQLiteCpp/Column.h>
+#include <SQLiteCpp/Database.h>
+
+#include <algorithm>
+#include <string>
+#include <tuple>
+#include <unordered_map>
+
+namespace refhost
+{
+
+namespace
+{
+
+const std::string selection =
+    "SELECT key, profile, start_utc, end_utc, connected_seconds, uploaded_bytes,"
+    " downloaded_bytes, ending, interface_name FROM connection ";
+
+/// What makes two connections the same one; the key does not.
+auto contents(const Connection &connection)
+{
+    return std::tie(connection.profile, connection.startUtc, connection.endUtc,
+                    connection.connectedSeconds, connection.uploadedBytes,
+                    connection.downloadedBytes, connection.ending, connection.interfaceName);
+}
+
+struct ContentsHash {
+    std::size_t operator()(const Connection *connection) const
+    {
+        std::size_t hash = std::hash<std::string>()(connection->profile);
+        for (const std::int64_t value : {connection->startUtc, connection->endUtc,
+                                         connection->uploadedBytes, connection->downloadedBytes})
+            hash = hash * 1099511628211U ^ std::hash<std::int64_t>()(value);
+        return hash;
+    }
+};
+
+struct ContentsEqual {
+    bool operator()(const Connection *left, const Connection *right) const
+    {
+        return contents(*left) == contents(*right);
+    }
+};
+
+/// How often each connection is still to be inserted.
+using Tally = std::unordered_map<const Connection *, std::size_t, ContentsHash, ContentsEqual>;
+
+Tally tallyOf(const std::vector<Connection> &connections)
+{
+    Tally tally;
+    tally.reserve(connections.size());
+    for (const Connection &connection : connections)
+        ++tally[&connection];
+    return tally;
+}
+
+/// Takes away what the table has already: one pass over the time that the
+/// connections span, however many of them start at the same second.
+void subtractStored(SQLite::Database &database, const std::vector<Connection> &connections,
+                    Tally &tally)
+{
+    const auto [first, last] =
+        std::minmax_element(connections.begin(), connections.end(),
+                            [](const Connection &left, const Connection &right) {
+                                return left.startUtc < right.startUtc;
+                            });
+    SQLite::Statement query(database, selection + "WHERE start_utc BETWEEN ? AND ?");
+    query.bind(1, first->startUtc);
+    query.bind(2, last->startUtc);
+    while (query.executeStep()) {
+        const Connection stored = ConnectionRow(query).toConnection();
+        const auto found = tally.find(&stored);
+        if (found != tally.end() && found->second > 0)
+            --found->second;
+    }
+}
+
+} // namespace
+
+Connection ConnectionRow::toConnection() const
+{
+    Connection connection;
+    connection.key = key();
+    connection.profile = profile();
+    connection.startUtc = startUtc();
+    connection.endUtc = endUtc();
+    connection.connectedSeconds = connectedSeconds();
+    connection.uploadedBytes = uploadedBytes();
+    connection.downloadedBytes = downloadedBytes();
+    connection.ending = ending();
+    connection.interfaceName = interfaceName();
+    return connection;
+}
+
+std::int64_t ConnectionRow::integer(int column) const
+{
+    return m_statement.getColumn(column).getInt64();
+}
+
+std::string_view ConnectionRow::text(int column) const
+{
+    const SQLite::Column value = m_statement.getColumn(column);
+    const char *const start = value.getText();
+    return {start, static_cast<std::size_t>(value.getBytes())};
+}
+
+ConnectionTable::ConnectionTable(SQLite::Database &database)
+    : m_database(database)
+{
+}
+
+std::int64_t ConnectionTable::count()
+{
+    return m_database.execAndGet("SELECT count(*) FROM connection").getInt64();
+}
+
+void ConnectionTable::visitAll(const Visitor &visit)
+{
+    SQLite::Statement query(m_database, selection + "ORDER BY start_utc, key");
+    while (query.executeStep())
+        visit(ConnectionRow(query));
+}
+
+bool ConnectionTable::visitLast(const Visitor &visit)
+{
+    SQLite::Statement query(m_database, selection + "ORDER BY end_utc DESC, key DESC LIMIT 1");
+    if (!query.executeStep())
+        return false;
+    visit(ConnectionRow(query));
+    return true;
+}
+
+std::int64_t ConnectionTable::insert(const Connection &connection)
+{
+    SQLite::Statement &statement = prepared(
+        m_insertion, "INSERT INTO connection (profile, start_utc, end_utc, connected_seconds,"
+                     " uploaded_bytes, downloaded_bytes, ending, interface_name)"
+                     " VALUES (?, ?, ?, ?, ?, ?, ?, ?)");
+    statement.bind(1, connection.profile);
+    statement.bind(2, connection.startUtc);
+    statement.bind(3, connection.endUtc);
+    statement.bind(4, connection.connectedSeconds);
+    statement.bind(5, connection.uploadedBytes);
+    statement.bind(6, connection.downloadedBytes);
+    statement.bind(7, connection.ending);
+    statement.bind(8, connection.interfaceName);
+    statement.exec();
+    return m_database.getLastInsertRowid();
+}
+
+std::size_t ConnectionTable::insertMissing(const std::vector<Connection> &connections,
+                                           const StatisticsStore::Progress &progress)
+{
+    if (connections.empty())
+        return 0;
+    Tally tally = tallyOf(connections);
+    subtractStored(m_database, connections, tally);
+    std::size_t inserted = 0;
+    for (std::size_t i = 0; i < connections.size(); ++i) {
+        std::size_t &missing = tally.at(&connections[i]);
+        if (missing > 0) {
+            insert(connections[i]);
+            --missing;
+            ++inserted;
+        }
+        if (progress)
+            progress(i + 1);
+    }
+    return inserted;
+}
+
+bool ConnectionTable::remove(std::int64_t key)
+{
+    SQLite::Statement &statement = prepared(m_removal, "DELETE FROM connection WHERE key = ?");
+    statement.bind(1, key);
+    return statement.exec() == 1;
+}
+
+SQLite::Statement &ConnectionTable::prepared(std::optional<SQLite::Statement> &statement,
+                                             const char *sql)
+{
+    if (!statement)
+        statement.emplace(m_database, sql);
+    // Answers with the error of the call before, which that call has reported.
+    statement->tryReset();
+    return *statement;
+}
+
+} // namespace refhost

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "StatisticsStore.h"
+
+#include <SQLiteCpp/Statement.h>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+namespace SQLite
+{
+class Database;
+}
+
+namespace refhost
+{
+
+/// One row of the table as it is being read; its texts end with the row's turn.
+class ConnectionRow
+{
+public:
+    explicit ConnectionRow(const SQLite::Statement &statement)
+        : m_statement(statement)
+    {
+    }
+
+    std::int64_t key() const { return integer(0); }
+    std::string_view profile() const { return text(1); }
+    std::int64_t startUtc() const { return integer(2); }
+    std::int64_t endUtc() const { return integer(3); }
+    std::int64_t connectedSeconds() const { return integer(4); }
+    std::int64_t uploadedBytes() const { return integer(5); }
+    std::int64_t downloadedBytes() const { return integer(6); }
+    std::string_view ending() const { return text(7); }
+    std::string_view interfaceName() const { return text(8); }
+
+    Connection toConnection() const;
+
+private:
+    std::int64_t integer(int column) const;
+    std::string_view text(int column) const;
+
+    const SQLite::Statement &m_statement;
+};
+
+/// The table of finished connections in an open database. Operations throw
+/// SQLite::Exception.
+class ConnectionTable
+{
+public:
+    explicit ConnectionTable(SQLite::Database &database);
+
+    using Visitor = std::function<void(const ConnectionRow &)>;
+
+    std::int64_t count();
+    /// Every row by start time, then by key.
+    void visitAll(const Visitor &visit);
+    /// The row with the newest end, the one with the highest key among equals;
+    /// false if there is none.
+    bool visitLast(const Visitor &visit);
+
+    /// Adds the connection, whatever its key, and returns the new key.
+    std::int64_t insert(const Connection &connection);
+    /// Inserts those of `connections` that are not there yet; see
+    /// StatisticsStore::addMissing.
+    std::size_t insertMissing(const std::vector<Connection> &connections,
+                              const StatisticsStore::Progress &progress);
+    /// Whether there was such a row to remove.
+    bool remove(std::int64_t key);
+
+private:
+    SQLite::Statement &prepared(std::optional<SQLite::Statement> &statement, const char *sql);
+
+    SQLite::Database &m_database;
+    std::optional<SQLite::Statement> m_insertion;
+    std::optional<SQLite::Statement> m_removal;
+};
+
+} // namespace refhost

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "StatisticsSession.h"
+
+#include "KoraRecord.h"
+
+#include <limits>
+#include <new>
+#include <vector>
+
+namespace refhost
+{
+
+namespace
+{
+
+StoreFailure noSuchRecord(const std::string &path, const std::string &reason)
+{
+    return {StoreError::Kind::NoSuchRecord, historyAt(path) + " " + reason};
+}
+
+/// The records of a table as they are being collected, with their keys.
+struct Listing {
+    RecordList list;
+    std::vector<std::int64_t> keys;
+};
+
+RecordList allocateRecords(std::int64_t count)
+{
+    if (count > std::numeric_limits<int>::max())
+        throw std::bad_alloc();
+    RecordList list;
+    // calloc takes an array of this size straight from the system, which has
+    // zeroed it; nothing of the fields' unused bytes is written a second time.
+    if (count > 0) {
+        list.records.reset(static_cast<_KORA_ST_CONNRECORD *>(
+            std::calloc(static_cast<std::size_t>(count), sizeof(_KORA_ST_CONNRECORD))));
+        if (!list.records)
+            throw std::bad_alloc();
+    }
+    return list;
+}
+
+Listing listingOf(ConnectionTable &table)
+{
+    const std::int64_t count = table.count();
+    Listing listing = {allocateRecords(count), {}};
+    listing.keys.reserve(static_cast<std::size_t>(count));
+    table.visitAll([&](const ConnectionRow &row) {
+        // An index that disagrees with its table could yield more than was counted.
+        if (listing.list.count == count)
+            return;
+        fillRecord(row, listing.list.records[static_cast<std::size_t>(listing.list.count++)]);
+        listing.keys.push_back(row.key());
+    });
+    return listing;
+}
+
+} // namespace
+
+Result<RecordList> StatisticsSession::allRecords()
+{
+    const std::string path = StatisticsStore::defaultPath();
+    return attempt(path, [&] {
+        StoreDatabase &store = database(path);
+        Listing listing = store.read(Listing(), listingOf);
+        ListNumbering numbering;
+        numbering.assign(std::move(listing.keys));
+        m_numbering = std::move(numbering);
+        m_listedFile = store.file();
+        return std::move(listing.list);
+    });
+}
+
+Result<std::int64_t> StatisticsSession::removeRecord(int index)
+{
+    const std::string path = StatisticsStore::defaultPath();
+    return attempt(path, [&] {
+        StoreDatabase &store = database(path);
+        checkIndex(path, index);
+        return store.write([&](ConnectionTable &table) {
+            if (!(store.file() == m_listedFile))
+                throw noSuchRecord(path, "is not the one whose list was handed out; nothing was "
+                                         "removed, fetch the list again.");
+            return removeFirstFrom(static_cast<std::size_t>(index), table);
+        });
+    });
+}
+
+Result<_KORA_ST_CONNRECORD> StatisticsSession::lastRecord()
+{
+    const std::string path = StatisticsStore::defaultPath();
+    return attempt(path, [&] {
+        _KORA_ST_CONNRECORD record = {};
+        const bool isThere = database(path).read(false, [&](ConnectionTable &table) {
+            return table.visitLast([&](const ConnectionRow &row) { fillRecord(row, record); });
+        });
+        if (!isThere)
+            throw noSuchRecord(path, "has no finished connection yet; connect once, then ask "
+                                     "again.");
+        return record;
+    });
+}
+
+StoreDatabase &StatisticsSession::database(const std::string &path)
+{
+    if (!m_database || path != m_path) {
+        m_database = std::make_unique<StoreDatabase>(path, StoreDatabase::IfMissing::ReadAsEmpty);
+        m_path = path;
+    }
+    return *m_database;
+}
+
+void StatisticsSession::checkIndex(const std::string &path, int index) const
+{
+    if (!m_numbering)
+        throw noSuchRecord(path, "has not been listed yet, so the index " + std::to_string(index) +
+                                     " means no record; fetch the list first.");
+    if (index < 0 || static_cast<std::size_t>(index) >= m_numbering->size())
+        throw noSuchRecord(path, "was handed out as a list of " +
+                                     std::to_string(m_numbering->size()) +
+                                     " records, in which there is no index " +
+                                     std::to_string(index) + "; fetch the list again.");
+}
+
+std::int64_t StatisticsSession::removeFirstFrom(std::size_t place, ConnectionTable &table)
+{
+    for (;;) {
+        place = m_numbering->firstFrom(place);
+        if (place == m_numbering->size())
+            throw noSuchRecord(m_path, "has no record left at this index of the list or after it; "
+                                       "fetch the list again.");
+        const std::int64_t key = m_numbering->keyAt(place);
+        // Not marked yet: the removal stands only when it is committed. The next
+        // call that meets this place finds the record gone and marks it then.
+        if (table.remove(key))
+            return key;
+        m_numbering->markGone(place);
+    }
+}
+
+} // namespace refhost

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "StatisticsStore.h"
+
+#include "StoreDatabase.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <limits>
+
+namespace refhost
+{
+
+namespace
+{
+
+using Kind = StoreError::Kind;
+
+constexpr std::int64_t maximumTime = 2147483647;
+constexpr std::int64_t maximumBytes = std::numeric_limits<std::int64_t>::max();
+constexpr std::size_t maximumTextBytes = 31;
+
+std::string environmentValue(const char *name)
+{
+    const char *const value = std::getenv(name);
+    return value ? value : "";
+}
+
+std::filesystem::path homeFolder()
+{
+    const std::string home = environmentValue("HOME");
+    if (!home.empty())
+        return home;
+    const passwd *const user = getpwuid(getuid());
+    return user && user->pw_dir ? user->pw_dir : "/";
+}
+
+std::filesystem::path dataFolder()
+{
+    const std::filesystem::path folder = environmentValue("XDG_DATA_HOME");
+    // A relative path there is to be ignored, as the base directory rules have it.
+    return folder.is_absolute() ? folder : homeFolder() / ".local" / "share";
+}
+
+void checkRange(const std::string &whose, const char *field, std::int64_t value,
+                std::int64_t maximum)
+{
+    if (value < 0 || value > maximum)
+        throw StoreFailure(Kind::BadRecord, "The " + std::string(field) + " of " + whose + " is " +
+                                                std::to_string(value) +
+                                                ", but must lie between 0 and " +
+                                                std::to_string(maximum) + ".");
+}
+
+void checkText(const std::string &whose, const char *field, const std::string &text,
+               std::size_t maximum)
+{
+    if (text.find('\0') != std::string::npos)
+        throw StoreFailure(Kind::BadRecord, "The " + std::string(field) + " of " + whose +
+                                                " contains a NUL character, but must be text "
+                                                "without one.");
+    if (text.size() > maximum)
+        throw StoreFailure(Kind::BadRecord, "The " + std::string(field) + " of " + whose + ", \"" +
+                                                text + "\", has " + std::to_string(text.size()) +
+                                                " bytes, but may have 0 to " +
+                                                std::to_string(maximum) + ".");
+}
+
+void check(const Connection &connection, const std::string &whose)
+{
+    checkText(whose, "profile", connection.profile, connection.profile.max_size());
+    checkRange(whose, "start time", connection.startUtc, maximumTime);
+    checkRange(whose, "end time", connection.endUtc, maximumTime);
+    checkRange(whose, "connected time", connection.connectedSeconds, maximumTime);
+    checkRange(whose, "number of bytes sent", connection.uploadedBytes, maximumBytes);
+    checkRange(whose, "number of bytes received", connection.downloadedBytes, maximumBytes);
+    checkText(whose, "ending", connection.ending, maximumTextBytes);
+    checkText(whose, "interface", connection.interfaceName, maximumTextBytes);
+}
+
+void checkAll(const std::vector<Connection> &connections)
+{
+    for (std::size_t i = 0; i < connections.size(); ++i)
+        check(connections[i], "connection " + std::to_string(i + 1) + " of " +
+                                  std::to_string(connections.size()));
+}
+
+StoreFailure noSuchRecord(const std::string &path, std::int64_t key)
+{
+    return {Kind::NoSuchRecord, historyAt(path) + " has no record with the key " +
+                                    std::to_string(key) +
+                                    "; nothing was removed, list the records again."};
+}
+
+std::vector<std::int64_t> withoutRepetitions(std::vector<std::int64_t> keys)
+{
+    std::sort(keys.begin(), keys.end());
+    keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
+    return keys;
+}
+
+} // namespace
+
+class StatisticsStore::Private
+{
+public:
+    Private(const std::string &path, StoreDatabase::IfMissing ifMissing)
+        : database(path, ifMissing)
+    {
+    }
+
+    static Result<StatisticsStore> open(const std::string &path, StoreDatabase::IfMissing ifMissing)
+    {
+        return refhost::attempt(path, [&] {
+            auto d = std::make_unique<Private>(path, ifMissing);
+            d->database.open();
+            return StatisticsStore(std::move(d));
+        });
+    }
+
+    template <typename Operation>
+    auto attempt(Operation operation)
+    {
+        return refhost::attempt(database.path(), operation);
+    }
+
+    StoreDatabase database;
+};
+
+std::string StatisticsStore::defaultPath()
+{
+    const std::string named = environmentValue("NETINFO_STORE");
+    return named.empty() ? (dataFolder() / "refdialer" / "connections.db").string() : named;
+}
+
+Result<StatisticsStore> StatisticsStore::openOrCreate(const std::string &path)
+{
+    return Private::open(path, StoreDatabase::IfMissing::Create);
+}
+
+Result<StatisticsStore> StatisticsStore::openForReading(const std::string &path)
+{
+    return Private::open(path, StoreDatabase::IfMissing::ReadAsEmpty);
+}
+
+StatisticsStore::StatisticsStore(std::unique_ptr<Private> privateData)
+    : d(std::move(privateData))
+{
+}
+
+StatisticsStore::StatisticsStore(StatisticsStore &&) noexcept = default;
+StatisticsStore &StatisticsStore::operator=(StatisticsStore &&) noexcept = default;
+StatisticsStore::~StatisticsStore() = default;
+
+Result<std::vector<Connection>> StatisticsStore::list() const
+{
+    return d->attempt([&] {
+        return d->database.read(std::vector<Connection>(), [](ConnectionTable &table) {
+            std::vector<Connection> connections;
+            table.visitAll([&](const ConnectionRow &row) {
+                connections.push_back(row.toConnection());
+            });
+            return connections;
+        });
+    });
+}
+
+Result<std::int64_t> StatisticsStore::add(const Connection &connection)
+{
+    return d->attempt([&] {
+        check(connection, "the connection");
+        return d->database.write([&](ConnectionTable &table) { return table.insert(connection); });
+    });
+}
+
+Result<std::size_t> StatisticsStore::addMissing(const std::vector<Connection> &connections,
+                                                const Progress &progress)
+{
+    return d->attempt([&] {
+        checkAll(connections);
+        return d->database.write([&](ConnectionTable &table) {
+            return table.insertMissing(connections, progress);
+        });
+    });
+}
+
+Result<std::size_t> StatisticsStore::remove(const std::vector<std::int64_t> &keys)
+{
+    return d->attempt([&]() -> std::size_t {
+        if (keys.empty())
+            return 0;
+        const auto distinct = withoutRepetitions(keys);
+        if (!d->database.open())
+            throw noSuchRecord(d->database.path(), distinct.front());
+        return d->database.write([&](ConnectionTable &table) {
+            for (const std::int64_t key : distinct) {
+                if (!table.remove(key))
+                    throw noSuchRecord(d->database.path(), key);
+            }
+            return distinct.size();
+        });
+    });
+}
+
+} // namespace refhost

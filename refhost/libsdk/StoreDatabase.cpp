@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "StoreDatabase.h"
+
+#include "StoreSchema.h"
+
+#include <sqlite3.h>
+
+#include <cerrno>
+#include <filesystem>
+
+namespace refhost
+{
+
+namespace
+{
+
+/// Absolute, so that a later change of the working directory changes nothing and
+/// SQLite takes no file name for one of its special ones.
+std::string absolutePath(const std::string &path)
+{
+    return std::filesystem::absolute(path).lexically_normal().string();
+}
+
+} // namespace
+
+StoreDatabase::StoreDatabase(const std::string &path, IfMissing ifMissing)
+    : m_path(absolutePath(path))
+    , m_ifMissing(ifMissing)
+{
+}
+
+StoreDatabase::~StoreDatabase() = default;
+
+bool StoreDatabase::open()
+{
+    const auto file = fileAt(m_path);
+    if (m_database && file == m_file)
+        return true;
+    close();
+    if (!file && m_ifMissing == IfMissing::ReadAsEmpty)
+        return false;
+    if (!file)
+        createPrivateFile(m_path);
+    const bool isNew = inspectFile(resolvedPath(m_path)) == FileContent::Nothing;
+    if (isNew && m_ifMissing == IfMissing::ReadAsEmpty)
+        return false;
+    connect();
+    return true;
+}
+
+void StoreDatabase::connect()
+{
+    try {
+        m_database = std::make_unique<SQLite::Database>(
+            resolvedPath(m_path), SQLite::OPEN_READWRITE, lockTimeoutSeconds * 1000);
+        // Nothing is written for a file that turns out to be no store of ours.
+        setCheckpointOnClose(false);
+        upgradeSchema(m_path, *m_database, storeSchema());
+        setCheckpointOnClose(true);
+        // Refused while another process is just making the same store; until the
+        // next program opens it, the store then works without a log.
+        m_database->tryExec("PRAGMA journal_mode = WAL");
+        m_database->exec("PRAGMA synchronous = NORMAL");
+        m_table = std::make_unique<ConnectionTable>(*m_database);
+        m_file = fileAt(m_path);
+    } catch (const SQLite::Exception &exception) {
+        const StoreFailure reason = failure(Access::Opening, exception);
+        close();
+        throw reason;
+    } catch (const StoreFailure &) {
+        close();
+        throw;
+    }
+}
+
+void StoreDatabase::close()
+{
+    m_table.reset();
+    m_database.reset();
+    m_file.reset();
+    m_isChecked = false;
+}
+
+/// A damaged store must not be written to, and damage far from the records in
+/// use shows only when it is looked for: once, before the first change.
+void StoreDatabase::openForWriting()
+{
+    if (!open())
+        throw cannotOpen(m_path, ENOENT);
+    if (m_isChecked)
+        return;
+    const std::string verdict = translated(Access::Reading, [&] {
+        return m_database->execAndGet("PRAGMA quick_check(1)").getString();
+    });
+    if (verdict != "ok") {
+        setCheckpointOnClose(false);
+        throw damaged(m_path, verdict);
+    }
+    m_isChecked = true;
+}
+
+StoreFailure StoreDatabase::failure(Access access, const SQLite::Exception &exception)
+{
+    sqlite3 *const handle = m_database ? m_database->getHandle() : nullptr;
+    const int code = exception.getErrorCode();
+    const bool isSystemError = code == SQLITE_IOERR || code == SQLITE_CANTOPEN;
+    const int systemError = handle && isSystemError ? sqlite3_system_errno(handle) : 0;
+    StoreFailure reason = sqliteFailure(m_path, access, code, systemError, exception.what());
+    if (handle && reason.error().kind == StoreError::Kind::Damaged)
+        setCheckpointOnClose(false);
+    return reason;
+}
+
+void StoreDatabase::setCheckpointOnClose(bool enabled)
+{
+    sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, enabled ? 0 : 1,
+                      nullptr);
+}
+
+} // namespace refhost

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ConnectionTable.h"
+#include "StoreFailure.h"
+#include "StoreFile.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Transaction.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace refhost
+{
+
+/// The store's file and, once it is needed, the open database in it. All
+/// operations throw StoreFailure only.
+class StoreDatabase
+{
+public:
+    enum class IfMissing { Create, ReadAsEmpty };
+
+    StoreDatabase(const std::string &path, IfMissing ifMissing);
+    ~StoreDatabase();
+    StoreDatabase(const StoreDatabase &) = delete;
+    StoreDatabase &operator=(const StoreDatabase &) = delete;
+
+    const std::string &path() const { return m_path; }
+
+    /// The file that is open; keys read from another one mean nothing in it.
+    const std::optional<FileIdentity> &file() const { return m_file; }
+
+    /// Opens the file, or another one that has taken its place; false when there
+    /// is none and none is to be made.
+    bool open();
+
+    /// Calls `operation` with the table in one read transaction; without a file
+    /// the answer is `ifNotThere`.
+    template <typename Value, typename Operation>
+    Value read(Value ifNotThere, Operation operation)
+    {
+        if (!open())
+            return ifNotThere;
+        return translated(Access::Reading, [&] {
+            SQLite::Transaction transaction(*m_database);
+            Value value = operation(*m_table);
+            transaction.commit();
+            return value;
+        });
+    }
+
+    /// Calls `operation` with the table in one write transaction, whose changes
+    /// stay only if it does not throw.
+    template <typename Operation>
+    auto write(Operation operation)
+    {
+        openForWriting();
+        return translated(Access::Writing, [&] {
+            SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
+            auto value = operation(*m_table);
+            transaction.commit();
+            return value;
+        });
+    }
+
+private:
+    template <typename Operation>
+    auto translated(Access access, Operation operation)
+    {
+        try {
+            return operation();
+        } catch (const SQLite::Exception &exception) {
+            throw failure(access, exception);
+        }
+    }
+
+    StoreFailure failure(Access access, const SQLite::Exception &exception);
+    void connect();
+    void close();
+    void openForWriting();
+    void setCheckpointOnClose(bool enabled);
+
+    std::string m_path;
+    IfMissing m_ifMissing;
+    std::unique_ptr<SQLite::Database> m_database;
+    std::unique_ptr<ConnectionTable> m_table;
+    std::optional<FileIdentity> m_file;
+    bool m_isChecked = false;
+};
+
+} // namespace refhost

@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include "StoreFile.h"
+
+#include "StoreFailure.h"
+#include "StoreSchema.h"
+
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <string_view>
+#include <tuple>
+
+namespace refhost
+{
+
+namespace
+{
+
+using Kind = StoreError::Kind;
+
+/// The database header and the head of the first page behind it.
+using FileHead = std::array<unsigned char, 108>;
+
+constexpr std::size_t headerSize = 100;
+constexpr std::string_view magic("SQLite format 3\0", 16);
+constexpr std::size_t userVersionOffset = 60;
+constexpr std::size_t applicationIdOffset = 68;
+constexpr std::size_t pageTypeOffset = 100;
+constexpr std::size_t cellCountOffset = 103;
+constexpr unsigned char leafTablePage = 0x0d;
+
+std::optional<struct statx> statusOf(const std::string &path)
+{
+    struct statx status = {};
+    if (statx(AT_FDCWD, path.c_str(), 0, STATX_BASIC_STATS | STATX_BTIME, &status) == 0)
+        return status;
+    if (errno == ENOENT)
+        return std::nullopt;
+    throw cannotOpen(path, errno);
+}
+
+void createFolders(const std::filesystem::path &folder)
+{
+    std::error_code error;
+    if (folder.empty() || std::filesystem::is_directory(folder, error))
+        return;
+    createFolders(folder.parent_path());
+    // The umask can only take permissions away here, so there is no moment at
+    // which others could enter; chmod then gives the owner what it took.
+    if (mkdir(folder.c_str(), S_IRWXU) == 0 ? chmod(folder.c_str(), S_IRWXU) != 0
+                                            : errno != EEXIST)
+        throw cannotOpen(folder.string(), errno);
+}
+
+/// Reads through SQLite's own file layer: closing a descriptor of our own would
+/// drop the locks that this process holds on the same file elsewhere.
+class SqliteFile
+{
+public:
+    explicit SqliteFile(const std::string &path)
+        : m_path(path)
+        , m_vfs(sqlite3_vfs_find(nullptr))
+        , m_storage(new unsigned char[static_cast<std::size_t>(m_vfs->szOsFile)]())
+        , m_name(sqlite3_create_filename(path.c_str(), "", "", 0, nullptr), sqlite3_free_filename)
+    {
+        const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_MAIN_DB;
+        if (m_vfs->xOpen(m_vfs, m_name.get(), file(), flags, nullptr) != SQLITE_OK) {
+            const int reason = errno;
+            close();
+            throw cannotOpen(path, reason);
+        }
+    }
+    ~SqliteFile() { close(); }
+
+    SqliteFile(const SqliteFile &) = delete;
+    SqliteFile &operator=(const SqliteFile &) = delete;
+
+    /// The first bytes of the file, followed by zeros if it is shorter.
+    FileHead head()
+    {
+        FileHead bytes = {};
+        const int code =
+            file()->pMethods->xRead(file(), bytes.data(), static_cast<int>(bytes.size()), 0);
+        if (code != SQLITE_OK && code != SQLITE_IOERR_SHORT_READ)
+            throw cannotOpen(m_path, errno);
+        return bytes;
+    }
+
+private:
+    sqlite3_file *file() { return reinterpret_cast<sqlite3_file *>(m_storage.get()); }
+
+    void close()
+    {
+        if (file()->pMethods)
+            file()->pMethods->xClose(file());
+    }
+
+    std::string m_path;
+    sqlite3_vfs *m_vfs;
+    std::unique_ptr<unsigned char[]> m_storage;
+    std::unique_ptr<const char, decltype(&sqlite3_free_filename)> m_name;
+};
+
+std::int32_t bigEndian32(const FileHead &head, std::size_t offset)
+{
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < 4; ++i)
+        value = value << 8U | head[offset + i];
+    return static_cast<std::int32_t>(value);
+}
+
+bool holdsNoTable(const FileHead &head)
+{
+    return head[pageTypeOffset] == leafTablePage && head[cellCountOffset] == 0 &&
+           head[cellCountOffset + 1] == 0;
+}
+
+bool hasContents(const std::string &path)
+{
+    const auto status = statusOf(path);
+    return status && status->stx_size > 0;
+}
+
+FileContent inspectUnmarked(const std::string &path, const FileHead &head)
+{
+    const bool isUntouched = bigEndian32(head, applicationIdOffset) == 0 &&
+                             bigEndian32(head, userVersionOffset) == 0 && holdsNoTable(head) &&
+                             !hasContents(path + "-wal");
+    if (!isUntouched)
+        throw notAStore(path, "a database of another program");
+    return FileContent::Nothing;
+}
+
+FileContent inspectHead(const std::string &path, const FileHead &head)
+{
+    if (std::memcmp(head.data(), magic.data(), magic.size()) != 0)
+        throw notAStore(path, "some other file");
+    if (bigEndian32(head, applicationIdOffset) != storeApplicationId)
+        return inspectUnmarked(path, head);
+    checkSchemaVersion(path, bigEndian32(head, userVersionOffset));
+    return FileContent::Store;
+}
+
+} // namespace
+
+bool FileIdentity::operator==(const FileIdentity &other) const
+{
+    return std::tie(device, inode, bornSeconds, bornNanoseconds) ==
+           std::tie(other.device, other.inode, other.bornSeconds, other.bornNanoseconds);
+}
+
+std::optional<FileIdentity> fileAt(const std::string &path)
+{
+    const auto status = statusOf(path);
+    if (!status)
+        return std::nullopt;
+    const std::uint64_t device = std::uint64_t{status->stx_dev_major} << 32U | status->stx_dev_minor;
+    return FileIdentity{device, status->stx_ino, status->stx_btime.tv_sec,
+                        status->stx_btime.tv_nsec};
+}
+
+std::string resolvedPath(const std::string &path)
+{
+    std::error_code error;
+    const auto resolved = std::filesystem::canonical(path, error);
+    if (error)
+        throw cannotOpen(path, error.value());
+    return resolved.string();
+}
+
+void createPrivateFile(const std::string &path)
+{
+    createFolders(std::filesystem::path(path).parent_path());
+    const int file = open(path.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (file < 0 && errno == EEXIST && statusOf(path))
+        return;
+    const bool isMade = file >= 0 && fchmod(file, S_IRUSR | S_IWUSR) == 0;
+    const int reason = errno;
+    if (file >= 0)
+        close(file);
+    if (!isMade)
+        throw cannotOpen(path, reason);
+}
+
+FileContent inspectFile(const std::string &path)
+{
+    // The log is looked at first: another process that is just making the store
+    // writes the file before its log.
+    const bool hasLog = hasContents(path + "-wal");
+    const auto status = statusOf(path);
+    if (!status)
+        throw cannotOpen(path, ENOENT);
+    if (S_ISDIR(status->stx_mode))
+        throw notAStore(path, "a folder");
+    if (!S_ISREG(status->stx_mode))
+        throw notAStore(path, "a device");
+    if (status->stx_size == 0 && hasLog)
+        throw StoreFailure(Kind::Damaged,
+                           historyAt(path) + " is empty, but \"" + path +
+                               "-wal\" holds records of it; both were left as they are, put a " +
+                               "copy in its place or move both away.");
+    if (status->stx_size == 0)
+        return FileContent::Nothing;
+    if (static_cast<std::size_t>(status->stx_size) < headerSize)
+        throw notAStore(path, "some other file");
+    return inspectHead(path, SqliteFile(path).head());
+}
+
+} // namespace refhost

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace refhost
+{
+
+/// Which file a path leads to at the moment. The time of its birth tells it from
+/// an earlier one, now deleted, whose inode it has taken over.
+struct FileIdentity {
+    std::uint64_t device;
+    std::uint64_t inode;
+    std::int64_t bornSeconds;
+    std::uint32_t bornNanoseconds;
+
+    bool operator==(const FileIdentity &other) const;
+};
+
+/// The file at `path`, or nothing if there is none. Throws StoreFailure if that
+/// cannot be told.
+std::optional<FileIdentity> fileAt(const std::string &path);
+
+/// The path without symbolic links, beside which SQLite keeps its own files.
+std::string resolvedPath(const std::string &path);
+
+/// Makes an empty file of mode 0600 at `path`, and the folders that are missing
+/// on the way to it with mode 0700, whatever the umask. A file that another
+/// process has made meanwhile is as good. Throws StoreFailure.
+void createPrivateFile(const std::string &path);
+
+/// What an existing file may become.
+enum class FileContent {
+    Nothing, ///< an empty file, or an SQLite file in which nothing has been made yet
+    Store,   ///< a store of this version or an older one
+};
+
+/// Looks at the file at `path` without letting SQLite open it as a database, for
+/// that could already write to it or to the log beside it. Throws StoreFailure
+/// for a file that is no store or a newer one.
+FileContent inspectFile(const std::string &path);
+
+} // namespace refhost

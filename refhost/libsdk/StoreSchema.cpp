@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "StoreSchema.h"
+
+#include "StoreFailure.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Transaction.h>
+
+namespace refhost
+{
+
+namespace
+{
+
+using Kind = StoreError::Kind;
+
+struct SchemaState {
+    std::int32_t applicationId;
+    std::int32_t version;
+    bool hasTables;
+};
+
+SchemaState stateOf(SQLite::Database &database)
+{
+    return {database.execAndGet("PRAGMA application_id").getInt(),
+            database.execAndGet("PRAGMA user_version").getInt(),
+            database.execAndGet("SELECT count(*) FROM sqlite_schema").getInt() != 0};
+}
+
+bool isNew(const SchemaState &state)
+{
+    return state.applicationId == 0 && state.version == 0 && !state.hasTables;
+}
+
+void checkVersion(const std::string &path, std::int32_t version, std::size_t newest)
+{
+    if (version < 1)
+        throw damaged(path, "it says that its version is " + std::to_string(version));
+    if (static_cast<std::size_t>(version) > newest)
+        throw StoreFailure(Kind::NewerStore,
+                           historyAt(path) + " has version " + std::to_string(version) +
+                               ", but this program knows only versions up to " +
+                               std::to_string(newest) +
+                               "; it was left as it is, update this program to read it.");
+}
+
+/// How many of the steps have been taken; to be asked within a transaction.
+std::size_t stepsTaken(const std::string &path, SQLite::Database &database,
+                       const SchemaSteps &steps)
+{
+    const SchemaState state = stateOf(database);
+    if (isNew(state))
+        return 0;
+    if (state.applicationId != storeApplicationId)
+        throw notAStore(path, "a database of another program");
+    checkVersion(path, state.version, steps.size());
+    return static_cast<std::size_t>(state.version);
+}
+
+/// The same in a transaction of its own, for an answer from one moment.
+std::size_t stepsTakenNow(const std::string &path, SQLite::Database &database,
+                          const SchemaSteps &steps)
+{
+    const SQLite::Transaction transaction(database);
+    return stepsTaken(path, database, steps);
+}
+
+} // namespace
+
+const SchemaSteps &storeSchema()
+{
+    // The index by start time gives the order of the list without sorting: equal
+    // start times follow by key, which every index entry ends with.
+    static const SchemaSteps steps = {
+        R"(
+        CREATE TABLE connection (
+            key INTEGER PRIMARY KEY AUTOINCREMENT,
+            profile TEXT NOT NULL,
+            start_utc INTEGER NOT NULL,
+            end_utc INTEGER NOT NULL,
+            connected_seconds INTEGER NOT NULL,
+            uploaded_bytes INTEGER NOT NULL,
+            downloaded_bytes INTEGER NOT NULL,
+            ending TEXT NOT NULL,
+            interface_name TEXT NOT NULL
+        ) STRICT;
+        CREATE INDEX connection_by_start ON connection (start_utc);
+        CREATE INDEX connection_by_end ON connection (end_utc);
+        )",
+    };
+    return steps;
+}
+
+void checkSchemaVersion(const std::string &path, std::int32_t version)
+{
+    checkVersion(path, version, storeSchema().size());
+}
+
+void upgradeSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps)
+{
+    const std::size_t seen = stepsTakenNow(path, database, steps);
+    if (seen == steps.size())
+        return;
+    // A store is made without a log, so that there is no moment at which its mark
+    // is only in the log and the file itself looks like another program's.
+    if (seen == 0)
+        database.tryExec("PRAGMA journal_mode = DELETE");
+    SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
+    // Another process may have taken steps before this one got the lock.
+    for (std::size_t i = stepsTaken(path, database, steps); i < steps.size(); ++i)
+        database.exec(steps[i]);
+    database.exec("PRAGMA application_id = " + std::to_string(storeApplicationId));
+    database.exec("PRAGMA user_version = " + std::to_string(steps.size()));
+    transaction.commit();
+}
+
+} // namespace refhost
