@@ -36,6 +36,8 @@ bool StoreDatabase::open()
     const auto file = fileAt(m_path);
     if (m_database && file == m_file)
         return true;
+    if (m_database && file)
+        checkLogAfterReplacement();
     close();
     if (!file && m_ifMissing == IfMissing::ReadAsEmpty)
         return false;
@@ -46,6 +48,17 @@ bool StoreDatabase::open()
         return false;
     connect();
     return true;
+}
+
+/// SQLite would take the former file's log for the new one's and mix the two.
+void StoreDatabase::checkLogAfterReplacement() const
+{
+    const std::string path = resolvedPath(m_path);
+    if (hasLog(path))
+        throw StoreFailure(StoreError::Kind::CannotOpen,
+                           historyAt(m_path) + " was replaced while it was in use, and \"" + path +
+                               "-wal\" still holds records of the former file; close all programs "
+                               "that use it and put the former file back, or move the log away.");
 }
 
 void StoreDatabase::connect()

@@ -78,6 +78,7 @@ private:
     }
 
     StoreFailure failure(Access access, const SQLite::Exception &exception);
+    void checkLogAfterReplacement() const;
     void connect();
     void close();
     void openForWriting();

@@ -123,17 +123,11 @@ bool holdsNoTable(const FileHead &head)
            head[cellCountOffset + 1] == 0;
 }
 
-bool hasContents(const std::string &path)
-{
-    const auto status = statusOf(path);
-    return status && status->stx_size > 0;
-}
-
 FileContent inspectUnmarked(const std::string &path, const FileHead &head)
 {
     const bool isUntouched = bigEndian32(head, applicationIdOffset) == 0 &&
                              bigEndian32(head, userVersionOffset) == 0 && holdsNoTable(head) &&
-                             !hasContents(path + "-wal");
+                             !hasLog(path);
     if (!isUntouched)
         throw notAStore(path, "a database of another program");
     return FileContent::Nothing;
@@ -190,11 +184,17 @@ void createPrivateFile(const std::string &path)
         throw cannotOpen(path, reason);
 }
 
+bool hasLog(const std::string &path)
+{
+    const auto status = statusOf(path + "-wal");
+    return status && status->stx_size > 0;
+}
+
 FileContent inspectFile(const std::string &path)
 {
     // The log is looked at first: another process that is just making the store
     // writes the file before its log.
-    const bool hasLog = hasContents(path + "-wal");
+    const bool isLogged = hasLog(path);
     const auto status = statusOf(path);
     if (!status)
         throw cannotOpen(path, ENOENT);
@@ -202,7 +202,7 @@ FileContent inspectFile(const std::string &path)
         throw notAStore(path, "a folder");
     if (!S_ISREG(status->stx_mode))
         throw notAStore(path, "a device");
-    if (status->stx_size == 0 && hasLog)
+    if (status->stx_size == 0 && isLogged)
         throw StoreFailure(Kind::Damaged,
                            historyAt(path) + " is empty, but \"" + path +
                                "-wal\" holds records of it; both were left as they are, put a " +

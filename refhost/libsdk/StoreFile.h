@@ -31,6 +31,9 @@ std::string resolvedPath(const std::string &path);
 /// process has made meanwhile is as good. Throws StoreFailure.
 void createPrivateFile(const std::string &path);
 
+/// Whether SQLite's log beside this file holds records that are not in it yet.
+bool hasLog(const std::string &path);
+
 /// What an existing file may become.
 enum class FileContent {
     Nothing, ///< an empty file, or an SQLite file in which nothing has been made yet

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "StoreSchema.h"
+
+#include "StoreFailure.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+
+#include <QtTest>
+
+using refhost::SchemaSteps;
+using refhost::StoreError;
+using refhost::StoreFailure;
+using refhost::upgradeSchema;
+
+namespace
+{
+
+const SchemaSteps oneStep = {"CREATE TABLE fruit (name TEXT);"
+                             "INSERT INTO fruit VALUES ('apple')"};
+
+SchemaSteps followedBy(const char *step)
+{
+    SchemaSteps steps = oneStep;
+    steps.push_back(step);
+    return steps;
+}
+
+int versionOf(SQLite::Database &database)
+{
+    return database.execAndGet("PRAGMA user_version").getInt();
+}
+
+std::string fruitsIn(SQLite::Database &database)
+{
+    return database.execAndGet("SELECT group_concat(name) FROM fruit").getString();
+}
+
+} // namespace
+
+class StoreSchemaTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void takesEveryStepInANewDatabase();
+    void takesOnlyTheStepsThatLack();
+    void takesNoStepTwice();
+    void undoesAllStepsWhenOneFails();
+    void refusesANewerDatabase();
+    void refusesADatabaseOfAnotherProgram();
+    void everyReleasedStepCanBeTaken();
+
+private:
+    SQLite::Database m_database{":memory:", SQLite::OPEN_READWRITE};
+
+private slots:
+    void init() { m_database = SQLite::Database(":memory:", SQLite::OPEN_READWRITE); }
+};
+
+void StoreSchemaTest::takesEveryStepInANewDatabase()
+{
+    upgradeSchema("file", m_database, followedBy("INSERT INTO fruit VALUES ('pear')"));
+    QCOMPARE(versionOf(m_database), 2);
+    QCOMPARE(fruitsIn(m_database), std::string("apple,pear"));
+    QCOMPARE(m_database.execAndGet("PRAGMA application_id").getInt(), refhost::storeApplicationId);
+}
+
+void StoreSchemaTest::takesOnlyTheStepsThatLack()
+{
+    upgradeSchema("file", m_database, oneStep);
+    m_database.exec("INSERT INTO fruit VALUES ('fig')");
+    upgradeSchema("file", m_database, followedBy("INSERT INTO fruit VALUES ('pear')"));
+    QCOMPARE(versionOf(m_database), 2);
+    QCOMPARE(fruitsIn(m_database), std::string("apple,fig,pear"));
+}
+
+void StoreSchemaTest::takesNoStepTwice()
+{
+    upgradeSchema("file", m_database, oneStep);
+    upgradeSchema("file", m_database, oneStep);
+    QCOMPARE(fruitsIn(m_database), std::string("apple"));
+}
+
+void StoreSchemaTest::undoesAllStepsWhenOneFails()
+{
+    upgradeSchema("file", m_database, oneStep);
+    SchemaSteps steps = followedBy("INSERT INTO fruit VALUES ('pear')");
+    steps.push_back("INSERT INTO vegetable VALUES ('leek')");
+    QVERIFY_EXCEPTION_THROWN(upgradeSchema("file", m_database, steps), SQLite::Exception);
+    QCOMPARE(versionOf(m_database), 1);
+    QCOMPARE(fruitsIn(m_database), std::string("apple"));
+}
+
+void StoreSchemaTest::refusesANewerDatabase()
+{
+    upgradeSchema("file", m_database, followedBy("INSERT INTO fruit VALUES ('pear')"));
+    try {
+        upgradeSchema("file", m_database, oneStep);
+        QFAIL("a newer database was accepted");
+    } catch (const StoreFailure &failure) {
+        QVERIFY(failure.error().kind == StoreError::Kind::NewerStore);
+        QCOMPARE(failure.error().message,
+                 std::string("The connection history \"file\" has version 2, but this program "
+                             "knows only versions up to 1; it was left as it is, update this "
+                             "program to read it."));
+    }
+}
+
+void StoreSchemaTest::refusesADatabaseOfAnotherProgram()
+{
+    m_database.exec("CREATE TABLE notes (text)");
+    QVERIFY_EXCEPTION_THROWN(upgradeSchema("file", m_database, oneStep), StoreFailure);
+    QCOMPARE(m_database.execAndGet("SELECT count(*) FROM sqlite_schema").getInt(), 1);
+}
+
+void StoreSchemaTest::everyReleasedStepCanBeTaken()
+{
+    SchemaSteps steps;
+    for (const char *const step : refhost::storeSchema()) {
+        steps.push_back(step);
+        upgradeSchema("file", m_database, steps);
+    }
+    QCOMPARE(versionOf(m_database), static_cast<int>(refhost::storeSchema().size()));
+    QCOMPARE(m_database.execAndGet("SELECT count(*) FROM connection").getInt(), 0);
+}
+
+QTEST_APPLESS_MAIN(StoreSchemaTest)
+
+#include "tst_storeschema.moc"
