@@ -114,14 +114,24 @@ void StoreDatabase::openForWriting()
 
 StoreFailure StoreDatabase::failure(Access access, const SQLite::Exception &exception)
 {
-    sqlite3 *const handle = m_database ? m_database->getHandle() : nullptr;
     const int code = exception.getErrorCode();
-    const bool isSystemError = code == SQLITE_IOERR || code == SQLITE_CANTOPEN;
-    const int systemError = handle && isSystemError ? sqlite3_system_errno(handle) : 0;
-    StoreFailure reason = sqliteFailure(m_path, access, code, systemError, exception.what());
-    if (handle && reason.error().kind == StoreError::Kind::Damaged)
+    StoreFailure reason =
+        sqliteFailure(m_path, access, code, systemErrorBehind(code), exception.what());
+    if (m_database && reason.error().kind == StoreError::Kind::Damaged)
         setCheckpointOnClose(false);
     return reason;
+}
+
+int StoreDatabase::systemErrorBehind(int code) const
+{
+    // SQLite's own report on a disk that cannot be written is that a file beside
+    // the store, which it failed to make, is missing.
+    const bool isObstacle = code == SQLITE_CANTOPEN || code == SQLITE_READONLY;
+    const int obstacle = isObstacle ? writeObstacle(m_path) : 0;
+    if (obstacle != 0)
+        return obstacle;
+    const bool isSystemError = code == SQLITE_CANTOPEN || code == SQLITE_IOERR;
+    return m_database && isSystemError ? sqlite3_system_errno(m_database->getHandle()) : 0;
 }
 
 void StoreDatabase::setCheckpointOnClose(bool enabled)

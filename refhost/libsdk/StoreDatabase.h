@@ -78,6 +78,7 @@ private:
     }
 
     StoreFailure failure(Access access, const SQLite::Exception &exception);
+    int systemErrorBehind(int code) const;
     void checkLogAfterReplacement() const;
     void connect();
     void close();

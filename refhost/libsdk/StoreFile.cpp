@@ -190,6 +190,15 @@ bool hasLog(const std::string &path)
     return status && status->stx_size > 0;
 }
 
+int writeObstacle(const std::string &path)
+{
+    for (const auto &each : {std::filesystem::path(path), std::filesystem::path(path).parent_path()}) {
+        if (faccessat(AT_FDCWD, each.c_str(), W_OK, AT_EACCESS) != 0)
+            return errno;
+    }
+    return 0;
+}
+
 FileContent inspectFile(const std::string &path)
 {
     // The log is looked at first: another process that is just making the store

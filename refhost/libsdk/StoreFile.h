@@ -34,6 +34,10 @@ void createPrivateFile(const std::string &path);
 /// Whether SQLite's log beside this file holds records that are not in it yet.
 bool hasLog(const std::string &path);
 
+/// The errno that keeps this process from writing to the file or, for the log
+/// beside it, to its folder; 0 if nothing does.
+int writeObstacle(const std::string &path);
+
 /// What an existing file may become.
 enum class FileContent {
     Nothing, ///< an empty file, or an SQLite file in which nothing has been made yet

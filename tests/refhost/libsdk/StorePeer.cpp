@@ -15,10 +15,21 @@ StorePeer::~StorePeer()
 
 QString StorePeer::tell(const QString &command)
 {
+    send(command);
+    return answer();
+}
+
+void StorePeer::send(const QString &command)
+{
     m_process.write(command.toUtf8() + '\n');
+    m_process.waitForBytesWritten();
+}
+
+QString StorePeer::answer()
+{
     while (!m_process.canReadLine()) {
         if (!m_process.waitForReadyRead())
-            return QStringLiteral("failed: no answer to \"%1\"").arg(command);
+            return QStringLiteral("failed: no answer");
     }
     return QString::fromUtf8(m_process.readLine()).trimmed();
 }

@@ -17,6 +17,10 @@ public:
     /// "ok VALUE" or "failed REASON".
     QString tell(const QString &command);
 
+    /// The two halves of it, for several processes that work at once.
+    void send(const QString &command);
+    QString answer();
+
 private:
     QProcess m_process;
 };

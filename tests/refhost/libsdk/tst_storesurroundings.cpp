@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+// What the disk, the permissions and other processes can do to a store.
+#include "StatisticsStore.h"
+#include "StorePeer.h"
+#include "StoreSamples.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <initializer_list>
+
+using refhost::StatisticsStore;
+
+namespace
+{
+
+/// Whether an answer is an error of this kind whose sentence has all of `parts`.
+bool isFailure(const QString &answer, const QString &kind, std::initializer_list<QString> parts)
+{
+    bool isAsExpected = answer.startsWith("failed " + kind + ' ');
+    for (const QString &part : parts)
+        isAsExpected = isAsExpected && answer.contains(part);
+    if (!isAsExpected)
+        qWarning("the answer is: %s", qPrintable(answer));
+    return isAsExpected;
+}
+
+} // namespace
+
+class StoreSurroundingsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        // Other users may pass through, so that only the tested folder stops them.
+        QCOMPARE(chmod(qPrintable(m_folder->path()), 0711), 0);
+        m_place = m_folder->filePath("place");
+        QVERIFY(QDir().mkdir(m_place));
+        m_path = m_place + "/connections.db";
+    }
+    void cleanup()
+    {
+        chmod(qPrintable(m_place), 0700);
+        m_folder.reset();
+    }
+
+    void aFolderThatMayNotBeReadIsAnError();
+    void aFolderThatMayNotBeWrittenIsAnError();
+    void aStoreWhoseFolderMayNotBeWrittenIsAnError();
+    void aFileThatMayNotBeReadIsAnError();
+    void aFolderBelowAFileIsAnError();
+    void aFolderIsNoStore();
+    void aReadOnlyDiskIsAnError();
+    void aFullDiskLosesNothing();
+    void aFullDiskTakesNoNewStore();
+    void aLockedStoreIsAnErrorUntilItIsReleased();
+    void manyProcessesMakeTheSameStoreAtOnce();
+    void twoStoresOfOneProcessShareTheFile();
+
+private:
+    /// A peer that the permissions bind, whoever runs the tests.
+    std::unique_ptr<StorePeer> boundPeer() const
+    {
+        auto peer = std::make_unique<StorePeer>();
+        if (geteuid() == 0 && peer->tell("become-nobody") != "ok")
+            return nullptr;
+        return peer;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_place;
+    QString m_path;
+};
+
+void StoreSurroundingsTest::aFolderThatMayNotBeReadIsAnError()
+{
+    storeWith(m_path.toStdString(), numberedConnections(1));
+    const QByteArray before = contentsOf(m_path);
+    QCOMPARE(chmod(qPrintable(m_place), 0), 0);
+    const auto peer = boundPeer();
+    QVERIFY(peer);
+    for (const char *const command : {"count %1", "add %1 7"})
+        QVERIFY(isFailure(peer->tell(QString(command).arg(m_path)), "CannotOpen",
+                          {m_path, "Permission denied", "check "}));
+    QCOMPARE(chmod(qPrintable(m_place), 0700), 0);
+    QCOMPARE(contentsOf(m_path), before);
+}
+
+void StoreSurroundingsTest::aFolderThatMayNotBeWrittenIsAnError()
+{
+    QCOMPARE(chmod(qPrintable(m_place), 0555), 0);
+    const auto peer = boundPeer();
+    QVERIFY(peer);
+    QVERIFY(isFailure(peer->tell("add " + m_path + " 7"), "CannotOpen",
+                      {m_path, "Permission denied"}));
+    QCOMPARE(peer->tell("count " + m_path), QString("ok 0"));
+    QVERIFY(!QFile::exists(m_path));
+}
+
+void StoreSurroundingsTest::aStoreWhoseFolderMayNotBeWrittenIsAnError()
+{
+    storeWith(m_path.toStdString(), numberedConnections(1));
+    QCOMPARE(chmod(qPrintable(m_path), 0444), 0);
+    QCOMPARE(chmod(qPrintable(m_place), 0555), 0);
+    const auto peer = boundPeer();
+    QVERIFY(peer);
+    for (const char *const command : {"count %1", "add %1 7"})
+        QVERIFY(isFailure(peer->tell(QString(command).arg(m_path)), "CannotOpen",
+                          {m_path, "Permission denied"}));
+}
+
+void StoreSurroundingsTest::aFileThatMayNotBeReadIsAnError()
+{
+    storeWith(m_path.toStdString(), numberedConnections(1));
+    QCOMPARE(chmod(qPrintable(m_path), 0), 0);
+    QCOMPARE(chmod(qPrintable(m_place), 0777), 0);
+    const auto peer = boundPeer();
+    QVERIFY(peer);
+    for (const char *const command : {"count %1", "add %1 7"})
+        QVERIFY(isFailure(peer->tell(QString(command).arg(m_path)), "CannotOpen",
+                          {m_path, "Permission denied"}));
+}
+
+void StoreSurroundingsTest::aFolderBelowAFileIsAnError()
+{
+    writeFile(m_path, "a file");
+    const QString below = m_path + "/folder/connections.db";
+    const auto store = StatisticsStore::openOrCreate(below.toStdString());
+    QCOMPARE(outcomeOf(store), QString("CannotOpen"));
+    QVERIFY(QString::fromStdString(store.error().message).contains("Not a directory"));
+    QCOMPARE(profilesIn(below.toStdString()), QString("CannotOpen"));
+    QCOMPARE(contentsOf(m_path), QByteArray("a file"));
+}
+
+void StoreSurroundingsTest::aFolderIsNoStore()
+{
+    const auto store = StatisticsStore::openOrCreate(m_place.toStdString());
+    QCOMPARE(outcomeOf(store), QString("NotAStore"));
+    QVERIFY(QString::fromStdString(store.error().message).contains("a folder"));
+}
+
+void StoreSurroundingsTest::aReadOnlyDiskIsAnError()
+{
+    StorePeer peer;
+    if (!peer.tell("mount-small-disk " + m_place).startsWith("ok"))
+        QSKIP("this user may not mount a disk of memory");
+    QCOMPARE(peer.tell("add " + m_path + " 7"), QString("ok 1"));
+    QCOMPARE(peer.tell("remount-read-only " + m_place), QString("ok"));
+    const QString reason = "Read-only file system";
+    QVERIFY(isFailure(peer.tell("add " + m_path + " 8"), "CannotOpen", {m_path, reason}));
+    QVERIFY(isFailure(peer.tell("count " + m_path), "CannotOpen", {m_path, reason}));
+    QVERIFY(isFailure(peer.tell("add " + m_path + ".new 8"), "CannotOpen", {m_path, reason}));
+}
+
+void StoreSurroundingsTest::aFullDiskLosesNothing()
+{
+    StorePeer peer;
+    if (!peer.tell("mount-small-disk " + m_place).startsWith("ok"))
+        QSKIP("this user may not mount a disk of memory");
+    QCOMPARE(peer.tell("add " + m_path + " 7"), QString("ok 1"));
+    QVERIFY(isFailure(peer.tell("add-many " + m_path + " 20000"), "WriteFailed",
+                      {m_path, "the disk is full", "nothing was changed", "free some space"}));
+    QCOMPARE(peer.tell("count " + m_path), QString("ok 1"));
+    QCOMPARE(peer.tell("fill-disk " + m_place + "/filler"), QString("ok"));
+    QVERIFY(isFailure(peer.tell("add " + m_path + " 8"), "WriteFailed", {"the disk is full"}));
+    QCOMPARE(peer.tell("remove-file " + m_place + "/filler"), QString("ok"));
+    QCOMPARE(peer.tell("count " + m_path), QString("ok 1"));
+    QCOMPARE(peer.tell("add " + m_path + " 8"), QString("ok 2"));
+}
+
+void StoreSurroundingsTest::aFullDiskTakesNoNewStore()
+{
+    StorePeer peer;
+    if (!peer.tell("mount-small-disk " + m_place).startsWith("ok"))
+        QSKIP("this user may not mount a disk of memory");
+    QCOMPARE(peer.tell("fill-disk " + m_place + "/filler"), QString("ok"));
+    QVERIFY(isFailure(peer.tell("add " + m_path + " 8"), "WriteFailed", {"the disk is full"}));
+    QCOMPARE(peer.tell("remove-file " + m_place + "/filler"), QString("ok"));
+    QCOMPARE(peer.tell("add " + m_path + " 8"), QString("ok 1"));
+}
+
+void StoreSurroundingsTest::aLockedStoreIsAnErrorUntilItIsReleased()
+{
+    storeWith(m_path.toStdString(), numberedConnections(1));
+    auto peer = std::make_unique<StorePeer>();
+    QCOMPARE(peer->tell("lock " + m_path), QString("ok"));
+    const auto store = StatisticsStore::openForReading(m_path.toStdString());
+    QCOMPARE(outcomeOf(store), QString("Locked"));
+    QVERIFY(QString::fromStdString(store.error().message).contains("locked by another program"));
+    peer.reset();
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("0"));
+}
+
+void StoreSurroundingsTest::manyProcessesMakeTheSameStoreAtOnce()
+{
+    std::array<StorePeer, 6> peers;
+    int second = 0;
+    for (StorePeer &peer : peers)
+        peer.send(QString("add %1 %2").arg(m_path).arg(++second));
+    for (StorePeer &peer : peers) {
+        const QString answer = peer.answer();
+        QVERIFY2(answer.startsWith("ok "), qPrintable(answer));
+    }
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("peer peer peer peer peer peer"));
+}
+
+void StoreSurroundingsTest::twoStoresOfOneProcessShareTheFile()
+{
+    StatisticsStore first = storeWith(m_path.toStdString(), numberedConnections(1));
+    // Opening and closing a second one must not take away the first one's locks:
+    // the other process would then think itself alone and remove the log.
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("0"));
+    StorePeer peer;
+    QCOMPARE(peer.tell("add " + m_path + " 5000"), QString("ok 2"));
+    QVERIFY(QFile::exists(m_path + "-wal"));
+    QVERIFY(first.add(connection("mine", 6000, 6001)));
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("0 peer mine"));
+}
+
+QTEST_GUILESS_MAIN(StoreSurroundingsTest)
+
+#include "tst_storesurroundings.moc"
