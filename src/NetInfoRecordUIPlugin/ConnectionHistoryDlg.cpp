@@ -239,14 +239,16 @@ void ConnectionHistoryDlg::Init()
     if (!buildLayout())
         return;
     uiSetText();
+    discardRows();
     if (m_pRecordLogic) {
         m_pRecordLogic->forgetRecords();
         m_pRecordLogic->GetAllConnectedRecords();
     }
     populateTable();
-    connect(m_pTableDeleteShortcut, SIGNAL(activated()), this, SLOT(onDelete()));
+    connect(m_pTableDeleteShortcut, SIGNAL(activated()), this, SLOT(onDelete()),
+            Qt::UniqueConnection);
     connect(m_pConnectionTblTreeWidget, SIGNAL(customContextMenuRequested(const QPoint &)), this,
-            SLOT(showTableContextMenu(const QPoint &)));
+            SLOT(showTableContextMenu(const QPoint &)), Qt::UniqueConnection);
     Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 501, now);
 }
 
@@ -257,6 +259,8 @@ bool ConnectionHistoryDlg::buildLayout()
         Log::isMissing(m_pContainerWidget, sourcePath, function, 445))
         return false;
     m_pConnectionTblTreeWidget->setObjectName(QLatin1String("m_pConnectionTblTreeWidget"));
+    if (m_pContainerWidget->layout())
+        return true; // built by an earlier Init
 
     auto *vertical = new (std::nothrow) QVBoxLayout;
     if (Log::isMissing(vertical, sourcePath, function, 452) ||
@@ -274,6 +278,17 @@ bool ConnectionHistoryDlg::buildLayout()
     vertical->addLayout(horizontal);
     m_pContainerWidget->setLayout(vertical);
     return true;
+}
+
+/// A host may call Init again: the rows that stood so far make way, and with
+/// them the records that only they lead to.
+void ConnectionHistoryDlg::discardRows()
+{
+    for (int row = 0; row < m_pConnectionTblTreeWidget->rowCount(); ++row) {
+        if (const QTableWidgetItem *item = m_pConnectionTblTreeWidget->item(row, 0))
+            delete linkedRecord(*item);
+    }
+    m_pConnectionTblTreeWidget->setRowCount(0);
 }
 
 bool ConnectionHistoryDlg::ShowWindow(QWidget *parent, QRect &rect)

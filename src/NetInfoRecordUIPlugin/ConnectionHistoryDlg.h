@@ -88,6 +88,7 @@ private:
 
     bool buildLayout();
     void setTableBehaviour();
+    void discardRows();
     void releaseRecordsWithoutRows();
     void deleteHeaderItemsAndDelegate();
 

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void showsTheNullRectangleAsModalBeforeItWasShown();
     void fitsAndHides();
     void refusesAnEmptyLanguage();
+    void initialisesAgain();
     void isNeverReady();
     void registersNoEvents();
     void endsWindowAndStore();
@@ -159,6 +160,22 @@ void tst_Lifecycle::refusesAnEmptyLanguage()
     QCOMPARE(own(log), (QStringList{startOf("ChangeLang", 244), startOf("ChangeLang", 252)}));
     QVERIFY(Host::instance().calls.isEmpty());
     QVERIFY(Host::instance().translated.isEmpty());
+}
+
+void tst_Lifecycle::initialisesAgain()
+{
+    Host::instance().records.fill(scripted::record("a", "1", "2", "1", "0", "0"), 4);
+    LoadedPlugin plugin;
+    plugin.show();
+    Host::instance().records.resize(3);
+    plugin.ui()->Init();
+    QCOMPARE(plugin.table()->rowCount(), 3);
+    QCOMPARE(plugin.table()->item(0, 0)->text(), QStringLiteral("a"));
+    plugin.area()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(plugin.area()));
+    plugin.table()->selectRow(0);
+    QTest::keyClick(plugin.table(), Qt::Key_Delete);
+    QCOMPARE(Host::instance().messageBoxes.size(), 1); // the key is connected once
 }
 
 void tst_Lifecycle::isNeverReady()
