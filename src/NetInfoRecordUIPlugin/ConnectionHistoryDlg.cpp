@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ConnectionHistoryDlg.h"
 
+#ifdef NETINFORECORD_WIRE_STATISTICS
+#    include "AccumulateDlg.h"
+#endif
 #include "Change.h"
 #include "CommonUtils.h"
 #include "ExtendDialog.h"
@@ -228,8 +231,10 @@ void ConnectionHistoryDlg::setTableBehaviour()
 
 void ConnectionHistoryDlg::OnAccumulateClicked()
 {
-    // Keeps its place in the slot table; nothing opens the statistics from here.
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 416, now);
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    AccumulateDlg::Instance()->showWindow(m_pContainerWidget);
+#endif
     Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 425, now);
 }
 

@@ -73,6 +73,8 @@ public:
 
 public Q_SLOTS:
     // The order of the slots is contract: hosts may invoke them by index.
+    /// Opens the statistics where the plug-in was built with them; else it only
+    /// logs, and keeps its place.
     void OnAccumulateClicked();
     void showTableContextMenu(const QPoint &point);
     void onDelete();

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "NetInfoRecordLogic.h"
 
+#ifdef NETINFORECORD_WIRE_STATISTICS
+#    include "AccumulateTotals.h"
+#endif
 #include "KoraStatistics.h"
 #include "Log.h"
+#include "SdkText.h"
 
 #include <QDateTime>
 #include <QLocale>
 
 #include <algorithm>
-#include <iterator>
 
 using Log::now;
 
@@ -17,29 +20,12 @@ namespace
 
 const char sourcePath[] = "../../src/NetInfoRecordUIPlugin/NetInfoRecordLogic";
 
-/// A field's text up to its terminator, or the whole field if it has none.
-template <std::size_t Size>
-QString boundedText(const char (&field)[Size])
+/// Local time "yyyyMMddhhmmss". The C locale keeps the digits ASCII in every
+/// language: the text is parsed again later.
+QString timeText(const QDateTime &time)
 {
-    const char *end = std::find(std::begin(field), std::end(field), '\0');
-    return QString::fromLatin1(field, static_cast<int>(end - field));
-}
-
-template <std::size_t Size>
-QString boundedText(const char16_t (&field)[Size])
-{
-    const char16_t *end = std::find(std::begin(field), std::end(field), u'\0');
-    return QString::fromUtf16(field, static_cast<int>(end - field));
-}
-
-/// Seconds since 1970-01-01 UTC as local time "yyyyMMddhhmmss". The count is
-/// taken as unsigned, so a negative text wraps; that is meant. The C locale
-/// keeps the digits ASCII in every language: the text is parsed again later.
-QString localTimeText(const QString &seconds)
-{
-    const auto count = static_cast<quint32>(seconds.toInt());
     static const QString format = QLatin1String("yyyyMMddhhmmss");
-    return QLocale::c().toString(QDateTime::fromSecsSinceEpoch(count), format);
+    return QLocale::c().toString(time, format);
 }
 
 double kilobytesOf(const QString &bytes)
@@ -121,6 +107,9 @@ bool NetInfoRecordLogic::GetAllConnectedRecords()
         const int convertible = records ? count : std::min(count, 1);
         for (int i = 0; i < convertible; ++i)
             populateSDKtoUIStructure(i, records ? records + i : nullptr);
+#ifdef NETINFORECORD_WIRE_STATISTICS
+        m_accumulateRecords = AccumulateTotals::rowsOf(records, count, QDate::currentDate());
+#endif
     }
     KORA_Statistics_ReleaseConnRecord(records);
     Log::line("Exit: %s: %s: %s %d", now, sourcePath, __func__, 282);
@@ -141,14 +130,14 @@ void NetInfoRecordLogic::populateSDKtoUIStructure(int id, const _KORA_ST_CONNREC
 
 void NetInfoRecordLogic::convertFields(const _KORA_ST_CONNRECORD &from, ConnectionRecord &to)
 {
-    to.m_strProfileName = boundedText(from.szProfileName);
-    to.m_strDownloaded = TransformUnits(kilobytesOf(boundedText(from.szDownloadBytes)));
-    to.m_strEndTime = localTimeText(boundedText(from.szEndTime));
-    to.m_strExtraText2 = boundedText(from.szExtraText2);
-    to.m_strStartTime = localTimeText(boundedText(from.szStartTime));
-    to.m_strExtraText1 = boundedText(from.szExtraText1);
-    to.m_strUploaded = TransformUnits(kilobytesOf(boundedText(from.szUploadBytes)));
-    convertTimeToString(boundedText(from.szDuration).toInt(), to.m_strConnectedTime);
+    to.m_strProfileName = SdkText::bounded(from.szProfileName);
+    to.m_strDownloaded = TransformUnits(kilobytesOf(SdkText::bounded(from.szDownloadBytes)));
+    to.m_strEndTime = timeText(SdkText::localTime(from.szEndTime));
+    to.m_strExtraText2 = SdkText::bounded(from.szExtraText2);
+    to.m_strStartTime = timeText(SdkText::localTime(from.szStartTime));
+    to.m_strExtraText1 = SdkText::bounded(from.szExtraText1);
+    to.m_strUploaded = TransformUnits(kilobytesOf(SdkText::bounded(from.szUploadBytes)));
+    convertTimeToString(SdkText::bounded(from.szDuration).toInt(), to.m_strConnectedTime);
 }
 
 bool NetInfoRecordLogic::DeleteRecord(int id)

@@ -80,9 +80,9 @@ void tst_Exports::asksTheHostForTheContractsSymbolsOnly()
     names.sort();
     QCOMPARE(names,
              (QStringList{"Change::tr", "CommonUtils::GetMainWindow", "CommonUtils::GetSettings",
-                          "CommonUtils::ShowMessage", "ExtendDialog::AddMainWidget",
-                          "ExtendDialog::ExtendDialog", "ExtendDialog::setWindowTitle",
-                          "KORA_Statistics_ConnRecord_RemoveRecord",
+                          "CommonUtils::MoveCentre", "CommonUtils::ShowMessage",
+                          "ExtendDialog::AddMainWidget", "ExtendDialog::ExtendDialog",
+                          "ExtendDialog::setWindowTitle", "KORA_Statistics_ConnRecord_RemoveRecord",
                           "KORA_Statistics_GetAllConnRecord", "KORA_Statistics_GetLastConnRecord",
                           "KORA_Statistics_ReleaseConnRecord", "Startup::GetPluginContainer"}));
 }

@@ -81,9 +81,9 @@ ExtendDialog::~ExtendDialog()
 void ExtendDialog::AddMainWidget(QWidget *widget)
 {
     Host::instance().calls.append(QStringLiteral("AddMainWidget()"));
-    auto *box = new QVBoxLayout(this);
-    box->setContentsMargins(0, 0, 0, 0);
-    box->addWidget(widget);
+    if (!layout())
+        (new QVBoxLayout(this))->setContentsMargins(0, 0, 0, 0);
+    layout()->addWidget(widget);
 }
 
 void ExtendDialog::setWindowTitle(const QString &title)

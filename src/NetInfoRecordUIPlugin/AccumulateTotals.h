@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AccumulateDialogRecord.h"
+
+#include <QMap>
+#include <QString>
+#include <QVector>
+
+struct _KORA_ST_CONNRECORD;
+class QDate;
+
+/// Sums up connections per profile and month into the rows that the statistics
+/// dialog shows. A connection counts wholly in the local month of its start.
+/// Sums are integers throughout; only the finished texts are rounded.
+class AccumulateTotals
+{
+public:
+    /// The rows for these connections; `records` may be null, for none.
+    static QVector<AccumulateDialogRecord> rowsOf(const _KORA_ST_CONNRECORD *records, int count,
+                                                  const QDate &today);
+
+    /// Takes one connection into account.
+    void add(const _KORA_ST_CONNRECORD &record);
+    /// The rows as seen on this day: one for all profiles, under a translatable
+    /// identifier and stamped with the day's month, then one for each profile
+    /// and month with connections, stamped with that month, in the order of the
+    /// names and months.
+    QVector<AccumulateDialogRecord> rows(const QDate &today) const;
+
+private:
+    __extension__ using Bytes = __int128; // no sum of 64-bit counts overflows it
+
+    struct Totals {
+        Bytes uploaded = 0;
+        Bytes downloaded = 0;
+        qint64 seconds = 0;
+
+        void add(const Totals &other);
+    };
+    using TotalsByMonth = QMap<QString, Totals>; // key "yyyyMM"
+
+    static Totals totalsOf(const _KORA_ST_CONNRECORD &record);
+    static Bytes bytesOf(const QString &text);
+    static QString megabytes(Bytes bytes);
+    static AccumulateDialogRecord row(const QString &name, const QString &month,
+                                      const TotalsByMonth &totals, const QDate &today);
+
+    TotalsByMonth m_ofAllProfiles;
+    QMap<QString, TotalsByMonth> m_byProfile;
+};
