@@ -4,6 +4,8 @@
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
 
+#include <sqlite3.h>
+
 #include <algorithm>
 #include <string>
 #include <tuple>
@@ -15,9 +17,50 @@ namespace refhost
 namespace
 {
 
-const std::string selection =
-    "SELECT key, profile, start_utc, end_utc, connected_seconds, uploaded_bytes,"
-    " downloaded_bytes, ending, interface_name FROM connection ";
+/// A query for whole rows. It calls SQLite itself: the wrapper's columns share
+/// the ownership of their statement, which costs more than reading the value.
+class RowQuery
+{
+public:
+    RowQuery(const SQLite::Database &database, const std::string &condition)
+        : m_database(database.getHandle())
+    {
+        const std::string sql =
+            "SELECT key, profile, start_utc, end_utc, connected_seconds, uploaded_bytes,"
+            " downloaded_bytes, ending, interface_name FROM connection " +
+            condition;
+        check(sqlite3_prepare_v2(m_database, sql.c_str(), -1, &m_statement, nullptr), SQLITE_OK);
+    }
+    ~RowQuery() { sqlite3_finalize(m_statement); }
+    RowQuery(const RowQuery &) = delete;
+    RowQuery &operator=(const RowQuery &) = delete;
+
+    void bind(int index, std::int64_t value)
+    {
+        check(sqlite3_bind_int64(m_statement, index, value), SQLITE_OK);
+    }
+
+    /// Goes to the next row; false if there is none.
+    bool next()
+    {
+        const int code = sqlite3_step(m_statement);
+        if (code != SQLITE_ROW)
+            check(code, SQLITE_DONE);
+        return code == SQLITE_ROW;
+    }
+
+    ConnectionRow row() const { return ConnectionRow(m_statement); }
+
+private:
+    void check(int code, int expected) const
+    {
+        if (code != expected)
+            throw SQLite::Exception(m_database, code);
+    }
+
+    sqlite3 *m_database;
+    sqlite3_stmt *m_statement = nullptr;
+};
 
 /// What makes two connections the same one; the key does not.
 auto contents(const Connection &connection)
@@ -67,11 +110,11 @@ void subtractStored(SQLite::Database &database, const std::vector<Connection> &c
                             [](const Connection &left, const Connection &right) {
                                 return left.startUtc < right.startUtc;
                             });
-    SQLite::Statement query(database, selection + "WHERE start_utc BETWEEN ? AND ?");
+    RowQuery query(database, "WHERE start_utc BETWEEN ? AND ?");
     query.bind(1, first->startUtc);
     query.bind(2, last->startUtc);
-    while (query.executeStep()) {
-        const Connection stored = ConnectionRow(query).toConnection();
+    while (query.next()) {
+        const Connection stored = query.row().toConnection();
         const auto found = tally.find(&stored);
         if (found != tally.end() && found->second > 0)
             --found->second;
@@ -97,14 +140,15 @@ Connection ConnectionRow::toConnection() const
 
 std::int64_t ConnectionRow::integer(int column) const
 {
-    return m_statement.getColumn(column).getInt64();
+    return sqlite3_column_int64(m_statement, column);
 }
 
 std::string_view ConnectionRow::text(int column) const
 {
-    const SQLite::Column value = m_statement.getColumn(column);
-    const char *const start = value.getText();
-    return {start, static_cast<std::size_t>(value.getBytes())};
+    const void *const start = sqlite3_column_text(m_statement, column);
+    const int size = sqlite3_column_bytes(m_statement, column);
+    return start ? std::string_view(static_cast<const char *>(start), static_cast<std::size_t>(size))
+                 : std::string_view();
 }
 
 ConnectionTable::ConnectionTable(SQLite::Database &database)
@@ -119,17 +163,17 @@ std::int64_t ConnectionTable::count()
 
 void ConnectionTable::visitAll(const Visitor &visit)
 {
-    SQLite::Statement query(m_database, selection + "ORDER BY start_utc, key");
-    while (query.executeStep())
-        visit(ConnectionRow(query));
+    RowQuery query(m_database, "ORDER BY start_utc, key");
+    while (query.next())
+        visit(query.row());
 }
 
 bool ConnectionTable::visitLast(const Visitor &visit)
 {
-    SQLite::Statement query(m_database, selection + "ORDER BY end_utc DESC, key DESC LIMIT 1");
-    if (!query.executeStep())
+    RowQuery query(m_database, "ORDER BY end_utc DESC, key DESC LIMIT 1");
+    if (!query.next())
         return false;
-    visit(ConnectionRow(query));
+    visit(query.row());
     return true;
 }
 

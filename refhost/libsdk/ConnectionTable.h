@@ -10,6 +10,8 @@
 #include <optional>
 #include <string_view>
 
+struct sqlite3_stmt;
+
 namespace SQLite
 {
 class Database;
@@ -22,7 +24,7 @@ namespace refhost
 class ConnectionRow
 {
 public:
-    explicit ConnectionRow(const SQLite::Statement &statement)
+    explicit ConnectionRow(sqlite3_stmt *statement)
         : m_statement(statement)
     {
     }
@@ -43,7 +45,7 @@ private:
     std::int64_t integer(int column) const;
     std::string_view text(int column) const;
 
-    const SQLite::Statement &m_statement;
+    sqlite3_stmt *m_statement;
 };
 
 /// The table of finished connections in an open database. Operations throw

@@ -64,8 +64,10 @@ void StoreDatabase::checkLogAfterReplacement() const
 void StoreDatabase::connect()
 {
     try {
+        // A store stays on one thread, so SQLite need not lock around every value.
         m_database = std::make_unique<SQLite::Database>(
-            resolvedPath(m_path), SQLite::OPEN_READWRITE, lockTimeoutSeconds * 1000);
+            resolvedPath(m_path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
+            lockTimeoutSeconds * 1000);
         // Nothing is written for a file that turns out to be no store of ours.
         setCheckpointOnClose(false);
         upgradeSchema(m_path, *m_database, storeSchema());
