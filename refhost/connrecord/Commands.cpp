@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "Commands.h"
+
+#include "CalendarTime.h"
+#include "ConnectionText.h"
+#include "CsvFormat.h"
+#include "FieldValue.h"
+#include "Output.h"
+#include "Store.h"
+#include "Utf8Text.h"
+
+#include <cstdint>
+#include <limits>
+
+namespace refhost
+{
+
+namespace
+{
+
+constexpr std::int64_t largestCount = std::numeric_limits<std::int64_t>::max();
+
+/// The value of an option, read by `read`.
+template <typename Read>
+std::int64_t optionValue(const std::string &option, const std::string &text, Read read)
+{
+    try {
+        return read(text);
+    } catch (const FieldError &error) {
+        throw Failure(error.isMalformed ? ExitCode::Usage : ExitCode::Refused,
+                      "For " + option + ", " + error.reason + ".");
+    }
+}
+
+std::int64_t optionNumber(const std::string &option, const std::string &text, std::int64_t largest)
+{
+    return optionValue(option, text,
+                       [largest](const std::string &value) { return fieldNumber(value, largest); });
+}
+
+const std::string &optionText(const std::string &option, const std::string &text)
+{
+    if (!isUtf8(text))
+        throw Failure(ExitCode::Refused, "For " + option + ", the text is not UTF-8.");
+    return text;
+}
+
+Connection connectionFrom(const AddRequest &request)
+{
+    Connection connection;
+    connection.profile = optionText("--profile", request.profile);
+    connection.interfaceName = optionText("--interface", request.interfaceName);
+    connection.startUtc = optionValue("--start", request.start, fieldTime);
+    connection.endUtc = optionValue("--end", request.end, fieldTime);
+    if (connection.endUtc < connection.startUtc)
+        throw Failure(ExitCode::Refused, "The end, " + utcText(connection.endUtc).toStdString() +
+                                             ", is before the start, " +
+                                             utcText(connection.startUtc).toStdString() + ".");
+    connection.connectedSeconds =
+        request.connectedSeconds
+            ? optionNumber("--connected", *request.connectedSeconds, largestTime)
+            : connection.endUtc - connection.startUtc;
+    connection.uploadedBytes = optionNumber("--up", request.uploadedBytes, largestCount);
+    connection.downloadedBytes = optionNumber("--down", request.downloadedBytes, largestCount);
+    return connection;
+}
+
+std::vector<Connection> storedConnections(const CommonRequest &common)
+{
+    const auto store = valueOrFailure(StatisticsStore::openForReading(common.storePath));
+    return valueOrFailure(store.list());
+}
+
+} // namespace
+
+void listConnections(const CommonRequest &common)
+{
+    const std::vector<Connection> connections = storedConnections(common);
+    writeStandardOutput(common.json ? jsonText(toJson(connections)) : toTable(connections));
+}
+
+void addConnection(const CommonRequest &common, const AddRequest &request)
+{
+    const Connection connection = connectionFrom(request);
+    auto store = valueOrFailure(StatisticsStore::openOrCreate(common.storePath));
+    const qint64 key = valueOrFailure(store.add(connection));
+    writeStandardOutput(common.json ? jsonText(QJsonObject{{QStringLiteral("key"), key}})
+                                    : QByteArray::number(key) + '\n');
+}
+
+void removeConnections(const CommonRequest &common, const std::vector<std::string> &keys)
+{
+    std::vector<std::int64_t> numbers;
+    QJsonArray removed;
+    for (const std::string &key : keys) {
+        numbers.push_back(optionNumber("KEY", key, largestCount));
+        removed.append(static_cast<qint64>(numbers.back()));
+    }
+    auto store = valueOrFailure(StatisticsStore::openForReading(common.storePath));
+    valueOrFailure(store.remove(numbers));
+    if (common.json)
+        writeStandardOutput(jsonText(QJsonObject{{QStringLiteral("removed"), removed}}));
+}
+
+void exportConnections(const CommonRequest &common, const std::optional<std::string> &outputPath)
+{
+    const std::vector<Connection> connections = storedConnections(common);
+    const QByteArray contents = common.json ? jsonText(toJson(connections)) : toCsv(connections);
+    if (outputPath)
+        saveFile(*outputPath, contents);
+    else
+        writeStandardOutput(contents);
+}
+
+} // namespace refhost

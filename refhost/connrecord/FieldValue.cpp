@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "FieldValue.h"
+
+#include "CalendarTime.h"
+#include "TextScanner.h"
+#include "Utf8Text.h"
+
+namespace refhost
+{
+
+namespace
+{
+
+std::string quotedText(const std::string &text)
+{
+    return '"' + printable(text) + '"';
+}
+
+} // namespace
+
+std::int64_t fieldNumber(const std::string &text, std::int64_t largest)
+{
+    const auto number = wholeNumber(text);
+    if (!number)
+        throw FieldError{quotedText(text) + " is not a whole number", true};
+    if (text.front() == '-')
+        throw FieldError{quotedText(text) + " is negative", false};
+    if (!number->isInRange || number->value > largest)
+        throw FieldError{quotedText(text) + " is more than " + std::to_string(largest), false};
+    return number->value;
+}
+
+std::int64_t fieldTime(const std::string &text)
+{
+    const auto utc = utcFromIso(text);
+    if (!utc)
+        throw FieldError{quotedText(text) + " is not a time such as 2024-05-31T18:30:00Z", true};
+    if (*utc < 0 || *utc > largestTime)
+        throw FieldError{quotedText(text) + " is not between " + utcText(0).toStdString() +
+                             " and " + utcText(largestTime).toStdString(),
+                         false};
+    return *utc;
+}
+
+} // namespace refhost

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "ImportCommand.h"
+
+#include "ConnectionText.h"
+#include "CsvFormat.h"
+#include "CsvReader.h"
+#include "InputFile.h"
+#include "LineReader.h"
+#include "Output.h"
+#include "PppdConnections.h"
+#include "PppdLog.h"
+#include "ProgressLine.h"
+#include "Store.h"
+#include "Utf8Text.h"
+#include "YearResolver.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+
+namespace refhost
+{
+
+namespace
+{
+
+/// What is shorter than one step is done before anybody asks.
+constexpr std::int64_t bytesPerStep = 4 * 1024 * 1024;
+constexpr std::int64_t connectionsPerStep = 20000;
+
+/// What a file holds.
+struct Contents {
+    std::vector<Connection> connections;
+    std::vector<Unusable> unusable;
+};
+
+void checkReadToTheEnd(const LineReader &lines, InputFile &file)
+{
+    if (lines.hasFailed())
+        throw Failure(ExitCode::Input, file.name() + " cannot be read to its end: " +
+                                           file.device().errorString().toStdString() +
+                                           ". Nothing was imported.");
+}
+
+Contents readCsv(InputFile &file, const ReadProgress &progress)
+{
+    LineReader lines(file.device());
+    try {
+        Contents contents;
+        contents.connections = connectionsFromCsv(lines, progress);
+        checkReadToTheEnd(lines, file);
+        return contents;
+    } catch (const CsvError &error) {
+        checkReadToTheEnd(lines, file);
+        throw Failure(ExitCode::Input, file.name() + ", line " + std::to_string(error.line) +
+                                           ", column " + csvColumnName(error.column) + ": " +
+                                           error.reason + ". Nothing was imported.");
+    }
+}
+
+void checkIsOfPppd(const PppdLog &log, const InputFile &file)
+{
+    const bool isOfPppd =
+        std::any_of(log.events.begin(), log.events.end(),
+                    [](const PppdEvent &event) { return isOfConnection(event.message); });
+    if (!isOfPppd)
+        throw Failure(ExitCode::Input, file.name() +
+                                           " holds no line in which pppd tells of a connection; "
+                                           "give a system log of a machine that dials with it.");
+}
+
+Contents readPppd(InputFile &file, const std::string &profile, const ReadProgress &progress)
+{
+    LineReader lines(file.device(), longestLogLine);
+    const PppdLog log = readPppdLog(lines, progress);
+    checkReadToTheEnd(lines, file);
+    checkIsOfPppd(log, file);
+    // Without any date there is no line whose year would be asked for.
+    const YearResolver years(log.end.value_or(CalendarTime{1970, 1, 1, 0, 0, 0, 0}),
+                             file.modifiedUtc());
+    PppdConnections connections(years, profile);
+    connections.takeAll(log.events);
+    return {connections.connections(), connections.unusable()};
+}
+
+Contents read(const ImportRequest &request, QIODevice *terminal)
+{
+    InputFile file(request.path);
+    ProgressLine line(terminal, "Reading " + file.name(), bytesPerStep, file.size());
+    const auto progress = [&line](std::int64_t bytes) { line.update(bytes); };
+    return request.format == ImportRequest::Format::Csv ? readCsv(file, progress)
+                                                        : readPppd(file, request.profile, progress);
+}
+
+/// How many of the connections were not in the store before.
+std::size_t store(const std::string &storePath, const std::vector<Connection> &connections,
+                  QIODevice *terminal)
+{
+    ProgressLine line(terminal, "Storing", connectionsPerStep,
+                      static_cast<std::int64_t>(connections.size()));
+    auto store = valueOrFailure(StatisticsStore::openOrCreate(storePath));
+    return valueOrFailure(store.addMissing(
+        connections, [&line](std::size_t done) { line.update(static_cast<std::int64_t>(done)); }));
+}
+
+std::string reportText(const Contents &contents, std::size_t added)
+{
+    const std::size_t read = contents.connections.size();
+    std::string text = "Connections read: " + std::to_string(read) +
+                       "\nAdded: " + std::to_string(added) +
+                       "\nAlready there: " + std::to_string(read - added) + '\n';
+    for (const Unusable &unusable : contents.unusable)
+        text += "Not used, " + unusable.reason + ": " + std::to_string(unusable.count) +
+                "; first in line " + std::to_string(unusable.firstLine) + ": " +
+                printable(unusable.firstText) + '\n';
+    return text;
+}
+
+QJsonObject reportJson(const Contents &contents, std::size_t added)
+{
+    const auto read = static_cast<qint64>(contents.connections.size());
+    const auto addedCount = static_cast<qint64>(added);
+    QJsonArray unusable;
+    for (const Unusable &entry : contents.unusable)
+        unusable.append(
+            QJsonObject{{QStringLiteral("reason"), QString::fromStdString(entry.reason)},
+                        {QStringLiteral("count"), static_cast<qint64>(entry.count)},
+                        {QStringLiteral("first_line"), static_cast<qint64>(entry.firstLine)},
+                        {QStringLiteral("first_text"), fromUtf8(entry.firstText)}});
+    return {{QStringLiteral("read"), read},
+            {QStringLiteral("added"), addedCount},
+            {QStringLiteral("already_there"), read - addedCount},
+            {QStringLiteral("unusable"), unusable}};
+}
+
+} // namespace
+
+void importConnections(const CommonRequest &common, const ImportRequest &request)
+{
+    if (!isUtf8(request.profile))
+        throw Failure(ExitCode::Refused, "For --profile, the text is not UTF-8.");
+    QFile standardError;
+    const bool isTerminal =
+        ::isatty(STDERR_FILENO) != 0 &&
+        standardError.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
+    QIODevice *const terminal = isTerminal ? &standardError : nullptr;
+    const Contents contents = read(request, terminal);
+    const std::size_t added = store(common.storePath, contents.connections, terminal);
+    writeStandardOutput(common.json ? jsonText(reportJson(contents, added))
+                                    : QByteArray::fromStdString(reportText(contents, added)));
+}
+
+} // namespace refhost

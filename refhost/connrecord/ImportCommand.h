@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Commands.h"
+
+#include <string>
+
+namespace refhost
+{
+
+struct ImportRequest {
+    enum class Format { Csv, Pppd };
+
+    Format format = Format::Csv;
+    std::string path;    ///< "-": standard input
+    std::string profile; ///< for connections of a pppd log that shows no APN; may be empty
+};
+
+/// Stores the connections of a file that the store does not have yet, all or
+/// none, and says on standard output how many that were. Throws Failure.
+void importConnections(const CommonRequest &common, const ImportRequest &request);
+
+} // namespace refhost

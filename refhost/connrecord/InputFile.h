@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFile>
+
+#include <cstdint>
+#include <string>
+
+namespace refhost
+{
+
+/// A file to import, or standard input.
+class InputFile
+{
+public:
+    /// "-" means standard input. Throws Failure if the file cannot be read.
+    explicit InputFile(const std::string &path);
+
+    QIODevice &device() { return m_file; }
+    /// For messages.
+    const std::string &name() const { return m_name; }
+    /// In bytes; 0 if it is not known.
+    std::int64_t size() const { return m_size; }
+    /// Seconds since 1970-01-01 00:00 UTC; of standard input, now.
+    std::int64_t modifiedUtc() const { return m_modifiedUtc; }
+
+private:
+    void openStandardInput();
+    void open(const std::string &path);
+
+    QFile m_file;
+    std::string m_name;
+    std::int64_t m_size = 0;
+    std::int64_t m_modifiedUtc = 0;
+};
+
+} // namespace refhost

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "PppdMessage.h"
+
+#include "CalendarTime.h"
+#include "TextScanner.h"
+#include "Utf8Text.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+
+namespace refhost
+{
+
+namespace
+{
+
+using Kind = PppdMessage::Kind;
+
+constexpr std::int64_t outOfRange = -1;
+
+PppdMessage messageWithText(Kind kind, std::string_view text)
+{
+    PppdMessage message;
+    message.kind = kind;
+    message.text = cleanedUtf8(text);
+    return message;
+}
+
+PppdMessage plainMessage(Kind kind)
+{
+    return messageWithText(kind, {});
+}
+
+/// Connect: ppp0 <--> /dev/ttyUSB0
+std::optional<PppdMessage> parseConnect(TextScanner scanner)
+{
+    const auto interface = scanner.take("Connect: ") ? scanner.takeUntil(" <--> ") : std::nullopt;
+    if (!interface || interface->empty())
+        return std::nullopt;
+    return messageWithText(Kind::Connect, *interface);
+}
+
+/// local  IP address 198.51.100.7, or local  LL address fe80::1
+std::optional<PppdMessage> parseLocalAddress(TextScanner scanner)
+{
+    if (!scanner.take("local") || !scanner.takeSpaces() ||
+        (!scanner.take("IP address ") && !scanner.take("LL address ")))
+        return std::nullopt;
+    return plainMessage(Kind::LocalAddress);
+}
+
+std::int64_t secondsOfMinutes(std::string_view minutes)
+{
+    bool isNumber = false;
+    const double value =
+        QByteArray(minutes.data(), static_cast<int>(minutes.size())).toDouble(&isNumber);
+    const double seconds = std::round(value * 60);
+    // Written so that infinity is out of range as well.
+    if (!isNumber || !(seconds >= 0 && seconds <= static_cast<double>(largestTime)))
+        return outOfRange;
+    return static_cast<std::int64_t>(seconds);
+}
+
+/// Connect time 12.3 minutes.
+std::optional<PppdMessage> parseConnectTime(TextScanner scanner)
+{
+    const auto minutes =
+        scanner.take("Connect time ") ? scanner.takeUntil(" minutes.") : std::nullopt;
+    if (!minutes)
+        return std::nullopt;
+    TextScanner number(*minutes);
+    number.take('-');
+    if (number.takeDigits().empty() || (number.take('.') && number.takeDigits().empty()) ||
+        !number.isAtEnd())
+        return std::nullopt;
+    PppdMessage message = plainMessage(Kind::ConnectTime);
+    message.seconds = secondsOfMinutes(*minutes);
+    return message;
+}
+
+std::int64_t byteCount(const WholeNumber &number)
+{
+    return number.isInRange && number.value >= 0 ? number.value : outOfRange;
+}
+
+/// Sent 31981 bytes, received 20722 bytes.
+std::optional<PppdMessage> parseByteCounts(TextScanner scanner)
+{
+    const auto sentText =
+        scanner.take("Sent ") ? scanner.takeUntil(" bytes, received ") : std::nullopt;
+    const auto receivedText = sentText ? scanner.takeUntil(" bytes.") : std::nullopt;
+    if (!receivedText)
+        return std::nullopt;
+    const auto sent = wholeNumber(*sentText);
+    const auto received = wholeNumber(*receivedText);
+    if (!sent || !received)
+        return std::nullopt;
+    PppdMessage message = plainMessage(Kind::ByteCounts);
+    message.sent = byteCount(*sent);
+    message.received = byteCount(*received);
+    return message;
+}
+
+std::optional<PppdMessage> parsePlain(TextScanner scanner)
+{
+    if (scanner.take("Connect script failed"))
+        return plainMessage(Kind::ScriptFailed);
+    if (scanner.rest() == "Exit.")
+        return plainMessage(Kind::Exit);
+    if (scanner.take("Failed") && (scanner.isAtEnd() || scanner.take(" (")))
+        return plainMessage(Kind::ChatFailed);
+    return std::nullopt;
+}
+
+/// The next word of a command line, without quotation marks around it.
+std::string_view takeArgument(TextScanner &scanner)
+{
+    scanner.takeSpaces();
+    std::string_view word = scanner.takeWord();
+    while (!word.empty() && (word.front() == '"' || word.front() == '\''))
+        word.remove_prefix(1);
+    while (!word.empty() && (word.back() == '"' || word.back() == '\''))
+        word.remove_suffix(1);
+    return word;
+}
+
+bool isDialString(std::string_view text)
+{
+    return text.find_first_not_of("0123456789*#+") == std::string_view::npos;
+}
+
+/// connect chat -v -f /etc/chatscripts/modem -T internet.example
+std::optional<PppdMessage> parsePppdApn(TextScanner scanner)
+{
+    if (!scanner.take("connect "))
+        return std::nullopt;
+    bool isChat = false;
+    while (!scanner.isAtEnd()) {
+        const std::string_view word = takeArgument(scanner);
+        isChat = isChat || word.substr(word.rfind('/') + 1) == "chat";
+        if (!isChat || !startsWith(word, "-T"))
+            continue;
+        const std::string_view value = word == "-T" ? takeArgument(scanner) : word.substr(2);
+        if (!isDialString(value))
+            return messageWithText(Kind::PppdApn, value);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string_view> takeQuoted(TextScanner &scanner)
+{
+    scanner.takeSpaces();
+    return scanner.take('"') ? scanner.takeUntil("\"") : std::nullopt;
+}
+
+bool takeCommaAfterDigits(TextScanner &scanner)
+{
+    scanner.takeSpaces();
+    scanner.takeDigits();
+    scanner.takeSpaces();
+    return scanner.take(',');
+}
+
+TextScanner behindCommand(std::string_view text, std::string_view command)
+{
+    const auto found = std::search(
+        text.begin(), text.end(), command.begin(), command.end(), [](char left, char right) {
+            return std::toupper(static_cast<unsigned char>(left)) == right;
+        });
+    TextScanner scanner(text.substr(static_cast<std::size_t>(found - text.begin())));
+    scanner.takeUntil("=");
+    return scanner;
+}
+
+/// send (AT+CGDCONT=1,"IP","internet.example"^M)
+std::optional<PppdMessage> parseChatApn(TextScanner scanner)
+{
+    if (!scanner.take("send ("))
+        return std::nullopt;
+    TextScanner fields = behindCommand(scanner.rest(), "+CGDCONT=");
+    if (!takeCommaAfterDigits(fields) || !takeQuoted(fields) || !takeCommaAfterDigits(fields))
+        return std::nullopt;
+    const auto apn = takeQuoted(fields);
+    if (!apn || apn->empty())
+        return std::nullopt;
+    return messageWithText(Kind::ChatApn, *apn);
+}
+
+} // namespace
+
+bool isOfConnection(const PppdMessage &message)
+{
+    switch (message.kind) {
+    case Kind::Connect:
+    case Kind::LocalAddress:
+    case Kind::ConnectTime:
+    case Kind::ByteCounts:
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::optional<PppdMessage> parsePppdMessage(std::string_view message)
+{
+    const TextScanner scanner(message);
+    for (const auto parse : {parseConnect, parseLocalAddress, parseConnectTime, parseByteCounts,
+                             parsePlain, parsePppdApn, parseChatApn}) {
+        if (auto parsed = parse(scanner))
+            return parsed;
+    }
+    return std::nullopt;
+}
+
+} // namespace refhost
