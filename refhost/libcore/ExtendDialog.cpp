@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "ExtendDialog.h"
+
+#include <QVBoxLayout>
+
+ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, enWidgetType /*type*/)
+    : QDialog(parent, flags)
+{
+    auto *const frame = new QVBoxLayout(this);
+    frame->setContentsMargins(0, 0, 0, 0);
+}
+
+ExtendDialog::~ExtendDialog() = default;
+
+void ExtendDialog::AddMainWidget(QWidget *widget)
+{
+    // A plug-in hands over the same content each time it shows the dialog.
+    if (widget && layout()->indexOf(widget) < 0)
+        layout()->addWidget(widget);
+}
+
+void ExtendDialog::setWindowTitle(const QString &title)
+{
+    QDialog::setWindowTitle(title);
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "HostApi.h"
+
+#include <QString>
+#include <QStringList>
+
+class IPluginContainer;
+class QWidget;
+
+/// What the host application tells libcore about itself, so that libcore can
+/// answer the plug-ins. All functions are called on the GUI thread.
+namespace refhost
+{
+
+/// The window that CommonUtils::GetMainWindow answers with from now on; null
+/// for none. The caller keeps the ownership, a destroyed window counts as none.
+HOST_API void setMainWindow(QWidget *window);
+
+/// The container that Startup::GetPluginContainer answers with from now on; null
+/// for none. The caller keeps the ownership and takes it back before it goes.
+HOST_API void setPluginContainer(IPluginContainer *container);
+
+/// Codes of the languages that texts are there for, such as "de", sorted.
+HOST_API QStringList availableLanguages();
+
+/// What speakers of the language call it, or the code itself if it is unknown.
+HOST_API QString languageName(const QString &language);
+
+/// Shows all texts in this language from now on; every window is told with a
+/// LanguageChange event. False, and nothing changes, if there are no texts for it.
+HOST_API bool setLanguage(const QString &language);
+
+/// The code that setLanguage accepted last, empty before that.
+HOST_API QString language();
+
+/// Keeps a setting for CommonUtils::GetSettings, in this and later runs. False
+/// if the settings file cannot be written.
+HOST_API bool storeSetting(const QString &group, const QString &key, const QString &value);
+
+} // namespace refhost

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "HostState.h"
+
+#include "Host.h"
+
+namespace refhost
+{
+
+HostState &hostState()
+{
+    static HostState state;
+    return state;
+}
+
+void setMainWindow(QWidget *window)
+{
+    hostState().mainWindow = window;
+}
+
+void setPluginContainer(IPluginContainer *container)
+{
+    hostState().pluginContainer = container;
+}
+
+} // namespace refhost

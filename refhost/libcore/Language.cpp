@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "Change.h"
+#include "Host.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPointer>
+#include <QTranslator>
+
+#include <memory>
+
+namespace refhost
+{
+
+namespace
+{
+
+constexpr char folder[] = ":/refhost/translations";
+constexpr char prefix[] = "netinforecord_";
+constexpr char suffix[] = ".qm";
+
+/// What is installed at the moment; the application owns the translators.
+struct Installed {
+    QString language;
+    QPointer<QTranslator> texts;
+    QPointer<QTranslator> toolkitTexts;
+};
+
+Installed &installed()
+{
+    static Installed current;
+    return current;
+}
+
+std::unique_ptr<QTranslator> loadTexts(const QString &language)
+{
+    auto translator = std::make_unique<QTranslator>();
+    // Without this check, the loader would fall back from "de_XX" to "de".
+    if (!availableLanguages().contains(language) ||
+        !translator->load(QLatin1String(prefix) + language + QLatin1String(suffix),
+                          QLatin1String(folder)))
+        return nullptr;
+    return translator;
+}
+
+// Qt 6 has a new name for this and calls the one that both versions have old.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+QString toolkitFolder()
+{
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+}
+QT_WARNING_POP
+
+/// The toolkit's own texts; null where the system has none for the language.
+std::unique_ptr<QTranslator> loadToolkitTexts(const QString &language)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
+                          toolkitFolder()))
+        return nullptr;
+    return translator;
+}
+
+QPointer<QTranslator> install(std::unique_ptr<QTranslator> translator)
+{
+    if (!translator)
+        return nullptr;
+    translator->setParent(QCoreApplication::instance());
+    QCoreApplication::installTranslator(translator.get());
+    return translator.release();
+}
+
+} // namespace
+
+QStringList availableLanguages()
+{
+    QStringList languages;
+    const QString pattern = QLatin1String(prefix) + QLatin1Char('*') + QLatin1String(suffix);
+    for (const QFileInfo &file :
+         QDir(QLatin1String(folder)).entryInfoList({pattern}, QDir::Files, QDir::Name))
+        languages.append(file.completeBaseName().mid(int(sizeof(prefix)) - 1));
+    return languages;
+}
+
+QString languageName(const QString &language)
+{
+    const auto texts = loadTexts(language);
+    const QString name = texts ? texts->translate("Host", "IDS_LANGUAGE_NAME") : QString();
+    return name.isEmpty() ? language : name;
+}
+
+bool setLanguage(const QString &language)
+{
+    auto texts = loadTexts(language);
+    if (!texts)
+        return false;
+    const Installed old = installed();
+    installed() = {language, install(std::move(texts)), install(loadToolkitTexts(language))};
+    delete old.texts;
+    delete old.toolkitTexts;
+    return true;
+}
+
+QString language()
+{
+    return installed().language;
+}
+
+} // namespace refhost

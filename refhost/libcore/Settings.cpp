@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "Settings.h"
+
+#include "Host.h"
+
+namespace refhost
+{
+
+Settings::Settings(const QString &group)
+    : QSettings(QStringLiteral("refdialer"), QStringLiteral("refdialer"))
+{
+    beginGroup(group);
+}
+
+bool storeSetting(const QString &group, const QString &key, const QString &value)
+{
+    Settings settings(group);
+    settings.setValue(key, value);
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
+} // namespace refhost

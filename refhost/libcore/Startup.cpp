@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#include "Startup.h"
+
+#include "HostState.h"
+
+IPluginContainer *Startup::GetPluginContainer()
+{
+    return refhost::hostState().pluginContainer;
+}

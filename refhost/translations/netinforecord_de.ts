@@ -1,0 +1,308 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>Host</name>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it</extracomment>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NetInfoRecordUIPlugin</name>
+    <message>
+        <source>IDS_BTN_OK</source>
+        <extracomment>Button that closes a dialog</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_ALLAPN</source>
+        <extracomment>Statistics dialog: entry of the profile list</extracomment>
+        <translation>Alle Profile</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_BEFORELASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Vorletzter Monat</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_LASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Letzter Monat</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_THISMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Dieser Monat</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_STATISTIC</source>
+        <extracomment>Title of the group of figures</extracomment>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_APN</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Profil (APN)</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_CONNECTEDTIME</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DOWNLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Empfangen</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_ENDTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_STARTTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UPLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETE</source>
+        <extracomment>History window: menu entry; the key D acts like it</extracomment>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETEALL</source>
+        <extracomment>History window: menu entry; the key A acts like it</extracomment>
+        <translation>Alle löschen</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>History window: title of both questions before a deletion</extracomment>
+        <translation>Verbindungen löschen</translation>
+    </message>
+    <message>
+        <source>IDS_STC_APN</source>
+        <extracomment>Statistics dialog: caption of the profile list, 100 pixels</extracomment>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_EXPLAIN_TEXT</source>
+        <extracomment>History window: note below the table, one line</extracomment>
+        <translation>Zeiten und Datenmengen misst dieser Computer; die Abrechnung Ihres Anbieters kann davon abweichen.</translation>
+    </message>
+    <message>
+        <source>IDS_STC_MONTH</source>
+        <extracomment>Statistics dialog: caption of the month list, 100 pixels</extracomment>
+        <translation>Monat:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_SINGLEPACKET_UNIT</source>
+        <extracomment>Unit of the volumes in the statistics dialog</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEARALL</source>
+        <extracomment>History window: question before all are deleted</extracomment>
+        <translation>Möchten Sie alle Verbindungen aus dem Verlauf löschen? Sie lassen sich nicht wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>IDS_STR_DELETE</source>
+        <extracomment>History window: question before the selected ones are deleted</extracomment>
+        <translation>Möchten Sie die ausgewählten Verbindungen aus dem Verlauf löschen? Sie lassen sich nicht wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_SINGLE</source>
+        <extracomment>Title of the summary after a connection</extracomment>
+        <translation>Letzte Verbindung</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_TOTAL</source>
+        <extracomment>Title of the statistics dialog; the range of dates follows it</extracomment>
+        <translation>Verbindungsstatistik</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_DOWNLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Empfangen:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_TIME_TRANSFER</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Verbunden für:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_UPLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Gesendet:</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::Application</name>
+    <message>
+        <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
+        <translation>Die Erweiterung %1 konnte nicht starten. „refdialer --debug“ zeigt, wie weit sie kam.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::CommandLine</name>
+    <message>
+        <source>Show the connections in FILE instead of your own history.</source>
+        <translation>Die Verbindungen in DATEI statt Ihres eigenen Verlaufs zeigen.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>Load the history plug-in from FILE.</source>
+        <translation>Die Verlaufserweiterung aus DATEI laden.</translation>
+    </message>
+    <message>
+        <source>Speak this language for once: %1.</source>
+        <translation>Diesmal in dieser Sprache erscheinen: %1.</translation>
+    </message>
+    <message>
+        <source>Write the debug log to standard error.</source>
+        <translation>Das Fehlersuchprotokoll auf die Standardfehlerausgabe schreiben.</translation>
+    </message>
+    <message>
+        <source>Show a temporary copy of a sample history; nothing of yours is touched.</source>
+        <translation>Eine vorübergehende Kopie eines Beispielverlaufs zeigen; Ihre Daten bleiben unberührt.</translation>
+    </message>
+    <message>
+        <source>Draw the window to the PNG picture FILE without a display and exit.</source>
+        <translation>Das Fenster ohne Bildschirm in das PNG-Bild DATEI zeichnen und beenden.</translation>
+    </message>
+    <message>
+        <source>Shows the history of mobile-broadband connections.</source>
+        <translation>Zeigt den Verlauf der Mobilfunkverbindungen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option.</source>
+        <translation>„%1“ ist keine Option.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>Die Option --%1 braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
+        <translation>--demo und --store schließen einander aus: Das eine zeigt einen Beispielverlauf, das andere einen von Ihnen.</translation>
+    </message>
+    <message>
+        <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
+        <translation>Es gibt keine Texte in der Sprache „%1“, sondern nur: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;refdialer --help&quot; shows the options.</source>
+        <translation>„refdialer --help“ zeigt die Optionen.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Diese Hilfe zeigen.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Die Version zeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::DemoStore</name>
+    <message>
+        <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
+        <translation>Der Beispielverlauf %1 lässt sich nicht nach %2 kopieren: %3. Installieren Sie refdialer neu, oder schaffen Sie dort Platz.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Verbindungsverlauf</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Verlauf</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::Picture</name>
+    <message>
+        <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
+        <translation>Das Bild %1 lässt sich nicht schreiben: %2. Nennen Sie eine Datei in einem Ordner, in den Sie schreiben dürfen.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::PluginHandle</name>
+    <message>
+        <source>The plug-in %1 is not there.</source>
+        <translation>Die Erweiterung %1 ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2.</source>
+        <translation>Die Erweiterung %1 lässt sich nicht laden: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
+        <translation>Die Erweiterung %1 bietet die Schnittstellen %2 und %3 nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in for Qt %2: %3.</source>
+        <translation>%1 ist keine Erweiterung für Qt %2: %3.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
+        <translation>Die Erweiterung %1 ist für etwas anderes: Ihre Schnittstelle ist %2 und nicht %3.</translation>
+    </message>
+    <message>
+        <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
+        <translation>Installieren Sie refdialer neu, oder nennen Sie mit --plugin die Datei einer passenden Erweiterung.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::StateLine</name>
+    <message>
+        <source>Sample history. Changes are gone when the window closes.</source>
+        <translation>Beispielverlauf. Änderungen sind fort, sobald das Fenster sich schließt.</translation>
+    </message>
+    <message>
+        <source>History in %1</source>
+        <translation>Verlauf in %1</translation>
+    </message>
+    <message>
+        <source>No connections recorded yet in %1</source>
+        <translation>Noch keine Verbindungen aufgezeichnet in %1</translation>
+    </message>
+</context>
+</TS>
