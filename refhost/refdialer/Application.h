@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Options.h"
+#include "PluginContainer.h"
+#include "StateLine.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+
+namespace refhost
+{
+
+class DemoStore;
+class PluginHandle;
+
+/// One run of the program, from its options to its end. The members stand in
+/// the order in which they are needed: what was made last goes first.
+class Application
+{
+    Q_DECLARE_TR_FUNCTIONS(refhost::Application)
+
+public:
+    explicit Application(Options options);
+    ~Application();
+
+    /// Shows the history until the user ends the program, or draws the picture
+    /// asked for. Throws Failure.
+    void run();
+
+private:
+    void chooseStore();
+    void checkStore() const;
+    void startPlugin();
+    void showWindow();
+
+    const Options m_options;
+    std::unique_ptr<DemoStore> m_demoStore;
+    HistorySource m_source;
+    PluginContainer m_container;
+    std::unique_ptr<PluginHandle> m_plugin;
+};
+
+} // namespace refhost

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "DemoStore.h"
+
+#include "Failure.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace refhost
+{
+
+QString DemoStore::sampleFile()
+{
+    return QDir::cleanPath(
+        QCoreApplication::applicationDirPath() +
+        QStringLiteral("/" NETINFORECORD_DATADIR_FROM_BINDIR "/sample-history.db"));
+}
+
+DemoStore::DemoStore()
+    : m_folder(QDir::tempPath() + QStringLiteral("/refdialer-demo-XXXXXX"))
+{
+    QFile sample(sampleFile());
+    if (!m_folder.isValid() || !sample.copy(file()))
+        throw Failure{ExitCode::StoreNotUsable,
+                      tr("The sample history %1 cannot be copied to %2: %3. Install refdialer "
+                         "again, or make room there.")
+                          .arg(sample.fileName(), QDir::tempPath(),
+                               m_folder.isValid() ? sample.errorString() : m_folder.errorString())};
+    // The copy takes over the mode of an installed file, which nobody may write.
+    QFile::setPermissions(file(), QFile::ReadOwner | QFile::WriteOwner);
+}
+
+QString DemoStore::file() const
+{
+    return m_folder.filePath(QStringLiteral("connections.db"));
+}
+
+} // namespace refhost

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+namespace refhost
+{
+
+/// A copy of the sample history, in a temporary folder that goes with it.
+class DemoStore
+{
+    Q_DECLARE_TR_FUNCTIONS(refhost::DemoStore)
+
+public:
+    /// The sample history that came with this program.
+    static QString sampleFile();
+
+    /// Throws Failure (StoreNotUsable) if the sample cannot be copied.
+    DemoStore();
+
+    QString file() const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace refhost

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLocale>
+#include <QString>
+
+namespace refhost
+{
+
+/// The language to start with: the one the user chose last, else the first of
+/// the system's languages that there are texts for, else English.
+QString startLanguage();
+
+/// Remembers the user's choice for later runs.
+void storeLanguage(const QString &language);
+
+/// How dates are written in this language: as the user's region does if that
+/// speaks it, else as is usual for the language.
+QLocale localeFor(const QString &language);
+
+} // namespace refhost

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "Options.h"
+
+#include "Failure.h"
+#include "Host.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace refhost
+{
+
+namespace
+{
+
+class CommandLine
+{
+    Q_DECLARE_TR_FUNCTIONS(refhost::CommandLine)
+
+public:
+    CommandLine();
+    Options read(const QStringList &arguments);
+
+private:
+    QString information() const;
+    QString value(const QCommandLineOption &option) const;
+    static void check(const Options &options);
+    [[noreturn]] static void refuse(const QString &problem);
+
+    QCommandLineParser m_parser;
+    const QCommandLineOption m_help{{QStringLiteral("h"), QStringLiteral("help")},
+                                    tr("Show this help.")};
+    const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
+                                       tr("Show the version.")};
+    const QCommandLineOption m_store{
+        QStringLiteral("store"), tr("Show the connections in FILE instead of your own history."),
+        tr("FILE")};
+    const QCommandLineOption m_plugin{QStringLiteral("plugin"),
+                                      tr("Load the history plug-in from FILE."), tr("FILE")};
+    const QCommandLineOption m_language{QStringLiteral("lang"),
+                                        tr("Speak this language for once: %1.")
+                                            .arg(availableLanguages().join(QStringLiteral(", "))),
+                                        QStringLiteral("LL")};
+    const QCommandLineOption m_debug{QStringLiteral("debug"),
+                                     tr("Write the debug log to standard error.")};
+    const QCommandLineOption m_demo{
+        QStringLiteral("demo"),
+        tr("Show a temporary copy of a sample history; nothing of yours is touched.")};
+    const QCommandLineOption m_picture{
+        QStringLiteral("screenshot"),
+        tr("Draw the window to the PNG picture FILE without a display and exit."), tr("FILE")};
+};
+
+CommandLine::CommandLine()
+{
+    m_parser.setApplicationDescription(tr("Shows the history of mobile-broadband connections."));
+    m_parser.addOptions(
+        {m_help, m_version, m_store, m_plugin, m_language, m_debug, m_demo, m_picture});
+}
+
+Options CommandLine::read(const QStringList &arguments)
+{
+    if (!m_parser.parse(arguments))
+        refuse(m_parser.errorText());
+    Options options;
+    options.information = information();
+    if (!options.information.isEmpty())
+        return options;
+    if (!m_parser.positionalArguments().isEmpty())
+        refuse(tr("\"%1\" is not an option.").arg(m_parser.positionalArguments().first()));
+    options.storeFile = value(m_store);
+    options.pluginFile = value(m_plugin);
+    options.language = value(m_language);
+    options.pictureFile = value(m_picture);
+    options.isDebug = m_parser.isSet(m_debug);
+    options.isDemo = m_parser.isSet(m_demo);
+    check(options);
+    return options;
+}
+
+QString CommandLine::information() const
+{
+    if (m_parser.isSet(m_help))
+        return m_parser.helpText();
+    if (m_parser.isSet(m_version))
+        return QCoreApplication::applicationName() + QLatin1Char(' ') +
+               QCoreApplication::applicationVersion() + QLatin1Char('\n');
+    return {};
+}
+
+QString CommandLine::value(const QCommandLineOption &option) const
+{
+    const QString text = m_parser.value(option);
+    if (m_parser.isSet(option) && text.isEmpty())
+        refuse(tr("The option --%1 needs a value.").arg(option.names().first()));
+    return text;
+}
+
+void CommandLine::check(const Options &options)
+{
+    if (options.isDemo && !options.storeFile.isEmpty())
+        refuse(tr("--demo and --store exclude each other: the first shows a sample history, the "
+                  "second one of yours."));
+    if (!options.language.isEmpty() && !availableLanguages().contains(options.language))
+        refuse(tr("There are no texts in the language \"%1\"; there are: %2.")
+                   .arg(options.language, availableLanguages().join(QStringLiteral(", "))));
+}
+
+void CommandLine::refuse(const QString &problem)
+{
+    throw Failure{ExitCode::WrongUsage,
+                  problem + QLatin1Char(' ') + tr("\"refdialer --help\" shows the options.")};
+}
+
+} // namespace
+
+Options readOptions(const QStringList &arguments)
+{
+    return CommandLine().read(arguments);
+}
+
+} // namespace refhost

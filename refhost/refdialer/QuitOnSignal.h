@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSocketNotifier>
+
+namespace refhost
+{
+
+/// While it lives, SIGINT, SIGTERM and SIGHUP end the event loop, so that the
+/// program cleans up as after its window was closed. A second signal of the same
+/// kind ends the program at once. At most one at a time.
+class QuitOnSignal
+{
+public:
+    QuitOnSignal();
+    QuitOnSignal(const QuitOnSignal &) = delete;
+    QuitOnSignal &operator=(const QuitOnSignal &) = delete;
+    ~QuitOnSignal();
+
+private:
+    QSocketNotifier m_notifier;
+};
+
+} // namespace refhost

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "Application.h"
+#include "CommonUtils.h"
+#include "Failure.h"
+#include "Host.h"
+#include "LanguageChoice.h"
+#include "Options.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace
+{
+
+void describeProgram()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("refdialer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(REFDIALER_VERSION));
+    refhost::setLanguage(refhost::startLanguage());
+}
+
+// Needs no display, so that help is there and mistakes are told without one.
+refhost::Options readOptions(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    describeProgram();
+    return refhost::readOptions(QCoreApplication::arguments());
+}
+
+void print(std::FILE *stream, const QString &text)
+{
+    std::fputs(text.toLocal8Bit().constData(), stream);
+}
+
+int tellInTerminal(const refhost::Failure &failure)
+{
+    print(stderr, QStringLiteral("refdialer: ") + failure.message + QLatin1Char('\n'));
+    return int(failure.code);
+}
+
+void tellInWindow(const refhost::Failure &failure)
+{
+    CommonUtils::ShowMessage(QMessageBox::Critical, nullptr, QStringLiteral("refdialer"),
+                             failure.message, QStringLiteral("IDS_OK"), {}, {}, true,
+                             Qt::WindowCloseButtonHint, nullptr, {}, true);
+}
+
+int runWindow(const refhost::Options &options, char **argv)
+{
+    // The toolkit takes --plugin and others for its own, so it sees none of them.
+    int programNameOnly = 1;
+    const QApplication application(programNameOnly, argv);
+    describeProgram();
+    QApplication::setDesktopFileName(QStringLiteral("org.example.refdialer"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.refdialer")));
+    try {
+        refhost::Application(options).run();
+        return 0;
+    } catch (const refhost::Failure &failure) {
+        const int code = tellInTerminal(failure);
+        if (options.pictureFile.isEmpty())
+            tellInWindow(failure);
+        return code;
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    try {
+        const refhost::Options options = readOptions(argc, argv);
+        print(stdout, options.information);
+        if (!options.information.isEmpty())
+            return 0;
+        if (!options.pictureFile.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        return runWindow(options, argv);
+    } catch (const refhost::Failure &failure) {
+        return tellInTerminal(failure);
+    }
+}
