@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "CommonUtils.h"
+#include "Host.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QScreen>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <memory>
+
+class TestCommonUtils : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup() { refhost::setMainWindow(nullptr); }
+
+    void readsASettingThatWasStored();
+    void readsASettingWrittenByHand();
+    void readsAnUnsetSettingAsEmpty();
+    void saysWhenASettingCannotBeStored();
+
+    void knowsNoMainWindowAtFirst();
+    void answersWithTheMainWindow();
+    void forgetsAMainWindowThatIsGone();
+
+    void centresADialogOverTheMainWindow();
+    void centresADialogOverTheScreen_data();
+    void centresADialogOverTheScreen();
+    void keepsADialogOnTheScreen();
+    void centresADialogThatHasNoSizeYet();
+    void toleratesNoDialog();
+
+private:
+    QString settingsFile() const { return m_folder->filePath("refdialer/refdialer.conf"); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace
+{
+
+/// As far as whole pixels go.
+bool isCentred(const QWidget &widget, const QRect &over)
+{
+    const QPoint distance = widget.frameGeometry().center() - over.center();
+    return distance.manhattanLength() <= 2;
+}
+
+QRect screenArea()
+{
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+} // namespace
+
+void TestCommonUtils::initTestCase()
+{
+    QVERIFY2(screenArea().width() >= 800 && screenArea().height() >= 600,
+             "the screen is too small for these tests");
+}
+
+void TestCommonUtils::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder->path());
+}
+
+void TestCommonUtils::readsASettingThatWasStored()
+{
+    const QString value = QString::fromUtf8("a, \"b\"; =ä €");
+    QVERIFY(refhost::storeSetting("SomePlugin", "Key", value));
+    QCOMPARE(CommonUtils::GetSettings("SomePlugin", "Key"), value);
+    QVERIFY(QFile::exists(settingsFile()));
+}
+
+void TestCommonUtils::readsASettingWrittenByHand()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir("refdialer"));
+    QFile file(settingsFile());
+    QVERIFY(file.open(QFile::WriteOnly));
+    file.write("[NetInfoRecordUIPlugin]\nWhetherShowNotesbox=true\n");
+    file.close();
+    QCOMPARE(CommonUtils::GetSettings("NetInfoRecordUIPlugin", "WhetherShowNotesbox"),
+             QString("true"));
+}
+
+void TestCommonUtils::readsAnUnsetSettingAsEmpty()
+{
+    QVERIFY(refhost::storeSetting("SomePlugin", "Key", "value"));
+    QCOMPARE(CommonUtils::GetSettings("SomePlugin", "OtherKey"), QString());
+    QCOMPARE(CommonUtils::GetSettings("OtherPlugin", "Key"), QString());
+}
+
+void TestCommonUtils::saysWhenASettingCannotBeStored()
+{
+    // A file where the settings' folder belongs: not even root can write there.
+    QFile obstacle(m_folder->filePath("refdialer"));
+    QVERIFY(obstacle.open(QFile::WriteOnly));
+    QVERIFY(!refhost::storeSetting("SomePlugin", "Key", "value"));
+}
+
+void TestCommonUtils::knowsNoMainWindowAtFirst()
+{
+    QCOMPARE(CommonUtils::GetMainWindow(), nullptr);
+}
+
+void TestCommonUtils::answersWithTheMainWindow()
+{
+    QWidget window;
+    refhost::setMainWindow(&window);
+    QCOMPARE(CommonUtils::GetMainWindow(), &window);
+}
+
+void TestCommonUtils::forgetsAMainWindowThatIsGone()
+{
+    auto window = std::make_unique<QWidget>();
+    refhost::setMainWindow(window.get());
+    window.reset();
+    QCOMPARE(CommonUtils::GetMainWindow(), nullptr);
+}
+
+void TestCommonUtils::centresADialogOverTheMainWindow()
+{
+    QWidget window;
+    window.setGeometry(300, 200, 400, 340);
+    window.show();
+    refhost::setMainWindow(&window);
+    QDialog dialog;
+    dialog.setFixedSize(300, 220);
+    CommonUtils::MoveCentre(&dialog);
+    QVERIFY(isCentred(dialog, window.frameGeometry()));
+    QVERIFY(!isCentred(dialog, screenArea()));
+}
+
+void TestCommonUtils::centresADialogOverTheScreen_data()
+{
+    QTest::addColumn<bool>("hasMainWindow");
+    QTest::newRow("there is no main window") << false;
+    QTest::newRow("the main window is hidden") << true;
+}
+
+void TestCommonUtils::centresADialogOverTheScreen()
+{
+    QFETCH(bool, hasMainWindow);
+    QWidget window;
+    window.setGeometry(0, 0, 100, 100);
+    if (hasMainWindow)
+        refhost::setMainWindow(&window);
+    QDialog dialog;
+    dialog.setFixedSize(300, 220);
+    CommonUtils::MoveCentre(&dialog);
+    QVERIFY(isCentred(dialog, screenArea()));
+}
+
+void TestCommonUtils::keepsADialogOnTheScreen()
+{
+    QWidget window;
+    window.setGeometry(screenArea().right() - 50, screenArea().bottom() - 50, 400, 300);
+    window.show();
+    refhost::setMainWindow(&window);
+    QDialog dialog;
+    dialog.setFixedSize(300, 220);
+    CommonUtils::MoveCentre(&dialog);
+    QVERIFY(screenArea().contains(dialog.frameGeometry()));
+}
+
+void TestCommonUtils::centresADialogThatHasNoSizeYet()
+{
+    QDialog dialog;
+    auto *const content = new QWidget(&dialog);
+    content->setMinimumSize(200, 100);
+    dialog.setLayout(new QVBoxLayout);
+    dialog.layout()->addWidget(content);
+    CommonUtils::MoveCentre(&dialog);
+    QCOMPARE(dialog.size(), dialog.sizeHint());
+    QVERIFY(isCentred(dialog, screenArea()));
+}
+
+void TestCommonUtils::toleratesNoDialog()
+{
+    CommonUtils::MoveCentre(nullptr);
+    QCOMPARE(CommonUtils::GetMainWindow(), nullptr);
+}
+
+QTEST_MAIN(TestCommonUtils)
+#include "tst_commonutils.moc"

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "Change.h"
+#include "Host.h"
+#include "Identifiers.h"
+
+#include <QDirIterator>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QXmlStreamReader>
+
+class TestTranslations : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void haveATextForEachIdentifier_data();
+    void haveATextForEachIdentifier();
+    void knowWhateverThePluginAsksFor_data();
+    void knowWhateverThePluginAsksFor();
+    void knowEveryIdentifierInThePluginsSources();
+    void areCompleteAndUpToDate_data();
+    void areCompleteAndUpToDate();
+    void keepThePlaceholders_data();
+    void keepThePlaceholders();
+};
+
+namespace
+{
+
+/// The identifiers that the plug-in passes on, by its contract with the host.
+const char *const contract[] = {
+    "IDS_BTN_OK",
+    "IDS_COMBO_ALLAPN",
+    "IDS_COMBO_LASTMONTH",
+    "IDS_COMBO_BEFORELASTMONTH",
+    "IDS_COMBO_THISMONTH",
+    "IDS_GROUP_STATISTIC",
+    "IDS_LIST_APN",
+    "IDS_LIST_CONNECTEDTIME",
+    "IDS_LIST_DOWNLOADED",
+    "IDS_LIST_ENDTIME",
+    "IDS_LIST_STARTTIME",
+    "IDS_LIST_UPLOADED",
+    "IDS_MENU_DELETE",
+    "IDS_MENU_DELETEALL",
+    "IDS_PROMPT_CAPTION",
+    "IDS_STC_APN",
+    "IDS_STC_EXPLAIN_TEXT",
+    "IDS_STC_MONTH",
+    "IDS_STC_SINGLEPACKET_UNIT",
+    "IDS_STR_CLEARALL",
+    "IDS_STR_DELETE",
+    "IDS_TITLE_SINGLE",
+    "IDS_TITLE_TOTAL",
+    "IDS_TREE_DOWNLOADED_DATA",
+    "IDS_TREE_TIME_TRANSFER",
+    "IDS_TREE_UPLOADED_DATA",
+};
+
+const QString pluginContext = QStringLiteral("NetInfoRecordUIPlugin");
+
+template <std::size_t Size>
+QStringList listOf(const char *const (&identifiers)[Size])
+{
+    QStringList list;
+    for (const char *const identifier : identifiers)
+        list.append(QString::fromLatin1(identifier));
+    return list;
+}
+
+struct Message {
+    QString source;
+    QString translation;
+    QString state;
+};
+
+QList<Message> messagesIn(const QString &file)
+{
+    QFile input(file);
+    if (!input.open(QFile::ReadOnly))
+        return {};
+    QList<Message> messages;
+    QXmlStreamReader reader(&input);
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (reader.name() == QLatin1String("source")) {
+            messages.append({reader.readElementText(), {}, {}});
+        } else if (reader.name() == QLatin1String("translation")) {
+            messages.last().state = reader.attributes().value("type").toString();
+            messages.last().translation = reader.readElementText();
+        }
+    }
+    return reader.hasError() ? QList<Message>() : messages;
+}
+
+QString translationFile(const QString &language)
+{
+    return QStringLiteral(PROJECT_SOURCES "/refhost/translations/netinforecord_%1.ts")
+        .arg(language);
+}
+
+QStringList placeholders(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral("%\\d"));
+    QStringList found;
+    for (auto match = pattern.globalMatch(text); match.hasNext();)
+        found.append(match.next().captured());
+    found.sort();
+    return found;
+}
+
+void addLanguageRows()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : refhost::availableLanguages())
+        QTest::newRow(qPrintable(refhost::languageName(language))) << language;
+}
+
+} // namespace
+
+void TestTranslations::haveATextForEachIdentifier_data()
+{
+    addLanguageRows();
+}
+
+void TestTranslations::haveATextForEachIdentifier()
+{
+    QFETCH(QString, language);
+    QVERIFY(refhost::setLanguage(language));
+    const auto check = [](const QStringList &identifiers, const QString &context) {
+        for (const QString &id : identifiers) {
+            const QString text = Change::tr(id, context);
+            QVERIFY2(!text.trimmed().isEmpty(), qPrintable(id));
+            QVERIFY2(text != id, qPrintable(id));
+        }
+    };
+    check(listOf(refhost::pluginIdentifiers), pluginContext);
+    check(listOf(refhost::hostIdentifiers), "Host");
+}
+
+void TestTranslations::knowWhateverThePluginAsksFor_data()
+{
+    QTest::addColumn<QString>("id");
+    for (const QString &id : listOf(contract))
+        QTest::newRow(qPrintable(id)) << id;
+}
+
+void TestTranslations::knowWhateverThePluginAsksFor()
+{
+    QFETCH(QString, id);
+    QVERIFY(listOf(refhost::pluginIdentifiers).contains(id));
+}
+
+void TestTranslations::knowEveryIdentifierInThePluginsSources()
+{
+    const QStringList known = listOf(refhost::pluginIdentifiers) + listOf(refhost::hostIdentifiers);
+    static const QRegularExpression pattern(QStringLiteral("\"(IDS_\\w+)\""));
+    int seen = 0;
+    QDirIterator sources(PROJECT_SOURCES "/src", {"*.cpp", "*.h"}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        QFile file(sources.next());
+        QVERIFY(file.open(QFile::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        for (auto match = pattern.globalMatch(text); match.hasNext(); ++seen) {
+            const QString id = match.next().captured(1);
+            QVERIFY2(known.contains(id), qPrintable(id + " in " + file.fileName()));
+        }
+    }
+    QVERIFY(seen > 0);
+}
+
+void TestTranslations::areCompleteAndUpToDate_data()
+{
+    addLanguageRows();
+}
+
+/// Lets the toolkit look for texts in the sources that the file lacks, or the
+/// other way round. The English file holds the identifiers only: what the
+/// program itself says is English.
+void TestTranslations::areCompleteAndUpToDate()
+{
+    QFETCH(QString, language);
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath("copy.ts");
+    QVERIFY(QFile::copy(translationFile(language), copy));
+    QStringList sources{"translations/Identifiers.h"};
+    if (language != "en")
+        sources += {"libcore", "refdialer"};
+    QProcess lupdate;
+    lupdate.setWorkingDirectory(PROJECT_SOURCES "/refhost");
+    lupdate.start(LUPDATE, sources + QStringList({"-silent", "-ts", copy}));
+    QVERIFY(lupdate.waitForFinished());
+    QCOMPARE(lupdate.exitCode(), 0);
+    const QList<Message> messages = messagesIn(copy);
+    QVERIFY(!messages.isEmpty());
+    for (const Message &message : messages) {
+        QVERIFY2(message.state.isEmpty(), qPrintable(message.state + ": " + message.source));
+        QVERIFY2(!message.translation.isEmpty(), qPrintable(message.source));
+    }
+}
+
+void TestTranslations::keepThePlaceholders_data()
+{
+    addLanguageRows();
+}
+
+void TestTranslations::keepThePlaceholders()
+{
+    QFETCH(QString, language);
+    const QList<Message> messages = messagesIn(translationFile(language));
+    QVERIFY(!messages.isEmpty());
+    for (const Message &message : messages)
+        QCOMPARE(placeholders(message.translation), placeholders(message.source));
+}
+
+QTEST_MAIN(TestTranslations)
+#include "tst_translations.moc"
