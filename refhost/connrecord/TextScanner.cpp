@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr std::string_view digits = "0123456789";
+constexpr std::string_view blanks = " \t";
 
 } // namespace
 
@@ -42,7 +43,7 @@ bool TextScanner::takeAnyOf(std::string_view characters)
 
 bool TextScanner::takeSpaces()
 {
-    return !takeFirst(m_rest.find_first_not_of(' ')).empty();
+    return !takeFirst(m_rest.find_first_not_of(blanks)).empty();
 }
 
 std::optional<std::string_view> TextScanner::takeUntil(std::string_view end)
@@ -57,7 +58,7 @@ std::optional<std::string_view> TextScanner::takeUntil(std::string_view end)
 
 std::string_view TextScanner::takeWord()
 {
-    return takeFirst(m_rest.find(' '));
+    return takeFirst(m_rest.find_first_of(blanks));
 }
 
 std::string_view TextScanner::takeDigits()

@@ -23,12 +23,12 @@ public:
     bool take(char character);
     bool take(std::string_view text);
     bool takeAnyOf(std::string_view characters);
-    /// At least one space.
+    /// At least one space or tabulator.
     bool takeSpaces();
     /// Everything up to the next `end`, which is taken as well and not returned;
     /// nothing if there is none.
     std::optional<std::string_view> takeUntil(std::string_view end);
-    /// Everything up to the next space or the end of the text; may be empty.
+    /// Everything up to the next space, tabulator or the end of the text; may be empty.
     std::string_view takeWord();
     /// Decimal digits, as many as there are.
     std::string_view takeDigits();

@@ -1,0 +1,350 @@
+// SPDX-License-Identifier: MIT
+#include "ConnrecordRun.h"
+#include "StatisticsStore.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace refhost;
+
+/// The program's commands on a real store, import aside.
+class ConnrecordTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void listsAStoreThatDoesNotExistAsEmpty_data();
+    void listsAStoreThatDoesNotExistAsEmpty();
+    void usesTheStoreOfTheEnvironment();
+    void addsAndListsAConnection();
+    void takesTheEndMinusTheStartAsTimeConnected();
+    void keepsExactByteCounts();
+    void listsInTheOrderOfTheStore();
+    void refusesWhatCannotBeAdded_data();
+    void refusesWhatCannotBeAdded();
+    void removesAllOrNone();
+    void removesFromNoStoreWithoutMakingOne();
+    void exportsToAFile();
+    void leavesTheFileThatItCannotReplace();
+    void exportsNothingIntoADevice();
+    void tellsWhenTheResultCannotBeWritten();
+    void leavesAFileAloneThatIsNoStore_data();
+    void leavesAFileAloneThatIsNoStore();
+    void tellsWrongUsage_data();
+    void tellsWrongUsage();
+    void helpsWithEveryCommand_data();
+    void helpsWithEveryCommand();
+    void tellsItsVersion();
+
+private:
+    ConnrecordRun run(const QStringList &arguments)
+    {
+        return connrecord(QStringList{"--store", m_store} + arguments);
+    }
+    QStringList addition(const QStringList &changes = {}) const;
+    std::vector<Connection> stored() const
+    {
+        return StatisticsStore::openForReading(m_store.toStdString()).value().list().value();
+    }
+
+    QTemporaryDir m_folder;
+    QString m_store;
+};
+
+void ConnrecordTest::init()
+{
+    static int number = 0;
+    const QDir folder(m_folder.path());
+    const QString name = QString::number(++number);
+    QVERIFY(folder.mkdir(name));
+    m_store = folder.filePath(name + "/connections.db");
+}
+
+/// The arguments of a good `add`, some of them changed: name and value in turn,
+/// a null value for an option that is left out.
+QStringList ConnrecordTest::addition(const QStringList &changes) const
+{
+    QMap<QString, QString> options = {{"--profile", "internet.example"},
+                                      {"--start", "2024-05-31T18:30:00Z"},
+                                      {"--end", "2024-05-31T19:30:00Z"},
+                                      {"--up", "31981"},
+                                      {"--down", "20722"}};
+    for (int i = 0; i + 1 < changes.size(); i += 2)
+        options[changes[i]] = changes[i + 1];
+    QStringList arguments = {"add"};
+    for (auto option = options.cbegin(); option != options.cend(); ++option) {
+        if (!option.value().isNull())
+            arguments << option.key() << option.value();
+    }
+    return arguments;
+}
+
+void ConnrecordTest::listsAStoreThatDoesNotExistAsEmpty_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("output");
+
+    QTest::newRow("list") << QStringList{"list"}
+                          << QByteArray("KEY  PROFILE  START  END  CONNECTED  UPLOADED  "
+                                        "DOWNLOADED  ENDING  INTERFACE\n");
+    QTest::newRow("list as JSON") << QStringList{"list", "--json"} << QByteArray("[\n]\n");
+    QTest::newRow("export") << QStringList{"export"} << csvOf(0);
+    QTest::newRow("export as JSON") << QStringList{"export", "--json"} << QByteArray("[\n]\n");
+}
+
+void ConnrecordTest::listsAStoreThatDoesNotExistAsEmpty()
+{
+    QFETCH(QStringList, arguments);
+    const ConnrecordRun result = run(arguments);
+    QCOMPARE(result.exitCode, 0);
+    QTEST(result.output, "output");
+    QCOMPARE(result.error, QByteArray());
+    QVERIFY(QDir(QFileInfo(m_store).path()).isEmpty());
+}
+
+void ConnrecordTest::usesTheStoreOfTheEnvironment()
+{
+    qputenv("NETINFO_STORE", m_store.toUtf8());
+    const ConnrecordRun result = connrecord(addition());
+    qunsetenv("NETINFO_STORE");
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(stored().size(), std::size_t(1));
+}
+
+void ConnrecordTest::addsAndListsAConnection()
+{
+    const ConnrecordRun added =
+        run(addition({"--connected", "3590", "--interface", "ppp0"}) + QStringList{"--json"});
+    QCOMPARE(added.exitCode, 0);
+    QCOMPARE(added.json().object(), (QJsonObject{{"key", 1}}));
+    QCOMPARE(run(addition()).output, QByteArray("2\n"));
+
+    const QJsonObject first = run({"list", "--json"}).json().array().at(0).toObject();
+    QCOMPARE(first, (QJsonObject{{"key", 1},
+                                 {"profile", "internet.example"},
+                                 {"start", "2024-05-31T18:30:00Z"},
+                                 {"end", "2024-05-31T19:30:00Z"},
+                                 {"connected_seconds", 3590},
+                                 {"uploaded_bytes", 31981},
+                                 {"downloaded_bytes", 20722},
+                                 {"ending", "normal"},
+                                 {"interface", "ppp0"}}));
+    const QByteArray row = run({"list"}).output.split('\n').at(1);
+    QCOMPARE(row, QByteArray("  1  internet.example  2024-05-31 20:30:00  2024-05-31 21:30:00   "
+                             "00:59:50  31.23 KiB   20.24 KiB  normal  ppp0"));
+}
+
+void ConnrecordTest::takesTheEndMinusTheStartAsTimeConnected()
+{
+    QCOMPARE(run(addition({"--end", "2024-05-31T21:30:01"})).exitCode, 0);
+    QCOMPARE(stored().at(0).connectedSeconds, std::int64_t(3601));
+}
+
+void ConnrecordTest::keepsExactByteCounts()
+{
+    QCOMPARE(run(addition({"--up", "9223372036854775807", "--down", "9007199254740993"})).exitCode,
+             0);
+    const QByteArray json = run({"list", "--json"}).output;
+    QVERIFY2(json.contains("\"uploaded_bytes\": 9223372036854775807"), json);
+    QVERIFY2(json.contains("\"downloaded_bytes\": 9007199254740993"), json);
+}
+
+void ConnrecordTest::listsInTheOrderOfTheStore()
+{
+    run(addition({"--profile", "later", "--start", "2024-05-31T18:30:01Z"}));
+    run(addition({"--profile", "", "--start", "2024-05-31T18:30:00Z"}));
+    run(addition({"--profile", "Zürich, 🛰\n", "--start", "2024-05-31T18:30:00Z"}));
+    QStringList profiles;
+    for (const auto connection : run({"list", "--json"}).json().array())
+        profiles << connection.toObject().value("profile").toString();
+    QCOMPARE(profiles, (QStringList{"", "Zürich, 🛰\n", "later"}));
+}
+
+void ConnrecordTest::refusesWhatCannotBeAdded_data()
+{
+    QTest::addColumn<QStringList>("changes");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QByteArray>("reason");
+
+    const auto row = [](const char *name, const char *option, const QString &value, int exitCode,
+                        const char *reason) {
+        QTest::newRow(name) << QStringList{option, value} << exitCode << QByteArray(reason);
+    };
+    row("an end before the start", "--end", "2024-05-31T18:29:59Z", 1, "before the start");
+    row("a time before 1970", "--start", "1969-12-31T23:59:59Z", 1, "--start");
+    row("a time after 31 bits", "--end", "2038-01-19T03:14:08Z", 1, "--end");
+    row("negative bytes", "--up", "-5", 1, "--up");
+    row("more bytes than 63 bits", "--down", "9223372036854775808", 1, "--down");
+    row("too long a time connected", "--connected", "2147483648", 1, "--connected");
+    row("too long an interface", "--interface", QString(32, 'i'), 1, "interface");
+    row("no time", "--start", "yesterday", 2, "--start");
+    row("no number", "--up", "many", 2, "--up");
+    row("no profile", "--profile", QString(), 2, "--profile");
+    row("no end", "--end", QString(), 2, "--end");
+}
+
+void ConnrecordTest::refusesWhatCannotBeAdded()
+{
+    QFETCH(QStringList, changes);
+    QFETCH(QByteArray, reason);
+    const ConnrecordRun result = run(addition(changes));
+    QTEST(result.exitCode, "exitCode");
+    QCOMPARE(result.output, QByteArray());
+    QVERIFY2(result.error.startsWith("connrecord: "), result.error);
+    QVERIFY2(result.error.contains(reason), result.error);
+    QVERIFY(stored().empty());
+}
+
+void ConnrecordTest::removesAllOrNone()
+{
+    for (int i = 0; i < 3; ++i)
+        run(addition());
+    const ConnrecordRun refused = run({"remove", "1", "77", "2"});
+    QCOMPARE(refused.exitCode, 1);
+    QVERIFY2(refused.error.contains("77"), refused.error);
+    QCOMPARE(stored().size(), std::size_t(3));
+    QCOMPARE(run({"remove", "first"}).exitCode, 2);
+
+    QCOMPARE(run({"remove", "1", "1"}).exitCode, 0);
+    const ConnrecordRun removed = run({"remove", "--json", "3", "2"});
+    QCOMPARE(removed.exitCode, 0);
+    QCOMPARE(removed.json().object(), (QJsonObject{{"removed", QJsonArray{3, 2}}}));
+    QVERIFY(stored().empty());
+}
+
+void ConnrecordTest::removesFromNoStoreWithoutMakingOne()
+{
+    QCOMPARE(run({"remove", "1"}).exitCode, 1);
+    QVERIFY(!QFile::exists(m_store));
+}
+
+void ConnrecordTest::exportsToAFile()
+{
+    run(addition({"--profile", "a, \"b\""}));
+    const QString output = m_store + ".csv";
+    writeFile(output, "what was there before, which is longer than what comes now: " +
+                          QByteArray(1000, 'x'));
+    const ConnrecordRun result = run({"export", "--output", output});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(readFile(output), csvOf(0) + "\"a, \"\"b\"\"\",2024-05-31T18:30:00Z,"
+                                          "2024-05-31T19:30:00Z,3600,31981,20722,normal,\n");
+    QCOMPARE(run({"export"}).output, readFile(output));
+    QCOMPARE(run({"export", "--json"}).output, run({"list", "--json"}).output);
+}
+
+void ConnrecordTest::leavesTheFileThatItCannotReplace()
+{
+    run(addition());
+    const QString folder = QFileInfo(m_store).path();
+    const ConnrecordRun toFolder = run({"export", "--output", folder});
+    QCOMPARE(toFolder.exitCode, 5);
+    QVERIFY2(toFolder.error.contains(folder.toUtf8()), toFolder.error);
+    QCOMPARE(run({"export", "--output", folder + "/missing/history.csv"}).exitCode, 5);
+
+    // A store that cannot be read leaves the earlier export as it was.
+    const QString output = folder + "/history.csv";
+    writeFile(output, "earlier");
+    writeFile(folder + "/broken.db", "no store");
+    QCOMPARE(connrecord({"--store", folder + "/broken.db", "export", "--output", output}).exitCode,
+             3);
+    QCOMPARE(readFile(output), QByteArray("earlier"));
+}
+
+void ConnrecordTest::exportsNothingIntoADevice()
+{
+    QCOMPARE(run({"export", "--output", "/dev/null"}).exitCode, 5);
+    QVERIFY(!QFileInfo("/dev/null").isFile());
+}
+
+void ConnrecordTest::tellsWhenTheResultCannotBeWritten()
+{
+    for (const char *const command : {"list", "export", "list --json"}) {
+        const ConnrecordRun result =
+            runProgram("sh", {"-c", "\"$0\" --store \"$1\" " + QString(command) + " > /dev/full",
+                              connrecordProgram(), m_store});
+        QCOMPARE(result.exitCode, 5);
+        QVERIFY2(result.error.startsWith("connrecord: standard output"), result.error);
+    }
+}
+
+void ConnrecordTest::leavesAFileAloneThatIsNoStore_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+
+    QTest::newRow("list") << QStringList{"list"};
+    QTest::newRow("add") << addition();
+    QTest::newRow("remove") << QStringList{"remove", "1"};
+    QTest::newRow("export") << QStringList{"export"};
+    QTest::newRow("import") << QStringList{"import", "--format", "csv", "-"};
+}
+
+void ConnrecordTest::leavesAFileAloneThatIsNoStore()
+{
+    QFETCH(QStringList, arguments);
+    writeFile(m_store, "Dear diary, this is no database.\n");
+    const ConnrecordRun result = connrecord(QStringList{"--store", m_store} + arguments, csvOf(2));
+    QCOMPARE(result.exitCode, 3);
+    QVERIFY2(result.error.contains(m_store.toUtf8()), result.error);
+    QCOMPARE(readFile(m_store), QByteArray("Dear diary, this is no database.\n"));
+}
+
+void ConnrecordTest::tellsWrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+
+    QTest::newRow("no command") << QStringList();
+    QTest::newRow("an unknown command") << QStringList{"delete"};
+    QTest::newRow("an unknown option") << QStringList{"list", "--all"};
+    QTest::newRow("an argument too many") << QStringList{"list", "all"};
+    QTest::newRow("two commands") << QStringList{"list", "export"};
+    QTest::newRow("no key to remove") << QStringList{"remove"};
+    QTest::newRow("no format to import") << QStringList{"import", "-"};
+    QTest::newRow("an unknown format") << QStringList{"import", "--format", "xml", "-"};
+    QTest::newRow("no file to import") << QStringList{"import", "--format", "csv"};
+    QTest::newRow("an option without its value") << QStringList{"list", "--store"};
+}
+
+void ConnrecordTest::tellsWrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    const ConnrecordRun result = run(arguments);
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(result.output, QByteArray());
+    QVERIFY2(result.error.startsWith("connrecord: "), result.error);
+}
+
+void ConnrecordTest::helpsWithEveryCommand_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+
+    QTest::newRow("the program") << QStringList{"--help"};
+    for (const char *const command : {"list", "add", "remove", "export", "import"})
+        QTest::newRow(command) << QStringList{command, "--help"};
+}
+
+void ConnrecordTest::helpsWithEveryCommand()
+{
+    QFETCH(QStringList, arguments);
+    const ConnrecordRun result = run(arguments);
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.output.contains("Exit codes:"), result.output);
+    QVERIFY2(result.output.contains(arguments.first().toUtf8()), result.output);
+    QCOMPARE(result.error, QByteArray());
+}
+
+void ConnrecordTest::tellsItsVersion()
+{
+    const ConnrecordRun result = run({"--version"});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.output.startsWith("connrecord "), result.output);
+}
+
+QTEST_GUILESS_MAIN(ConnrecordTest)
+
+#include "tst_connrecord.moc"

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "ConnrecordRun.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// The program's import of system logs into a real store. Each log in the
+/// folder data/ has beside it the history that it makes.
+class ConnrecordPppdTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void importsALog_data();
+    void importsALog();
+    void givesTheProfileThatTheLogDoesNotShow();
+    void saysWhatItCannotUse();
+    void saysWhatItCannotUseAsJson();
+    void readsStandardInput();
+    void refusesAFileWithoutAnyConnection_data();
+    void refusesAFileWithoutAnyConnection();
+    void readsALongLog();
+
+private:
+    /// A copy of the log, last changed at this local time.
+    QString logFile(const QString &name, const QString &changed);
+    ConnrecordRun import(const QString &path, const QStringList &options = {},
+                         const QByteArray &input = {})
+    {
+        return connrecord(
+            QStringList{"--store", m_store, "import", "--format", "pppd", path} + options, input);
+    }
+    QByteArray exported() const { return connrecord({"--store", m_store, "export"}).output; }
+
+    QScopedPointer<QTemporaryDir> m_folder;
+    QString m_store;
+};
+
+namespace
+{
+
+QString dataFile(const QString &name)
+{
+    return QDir(CONNRECORD_TEST_DATA).filePath(name);
+}
+
+} // namespace
+
+void ConnrecordPppdTest::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    m_store = m_folder->filePath("connections.db");
+}
+
+QString ConnrecordPppdTest::logFile(const QString &name, const QString &changed)
+{
+    const QString path = m_folder->filePath(name);
+    writeFile(path, readFile(dataFile(name)));
+    QFile file(path);
+    const bool isSet = file.open(QIODevice::ReadWrite) &&
+                       file.setFileTime(QDateTime::fromString(changed, Qt::ISODate),
+                                        QFileDevice::FileModificationTime);
+    if (!isSet)
+        qFatal("the time of %s cannot be set", qPrintable(path));
+    return path;
+}
+
+void ConnrecordPppdTest::importsALog_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("changed");
+    QTest::addColumn<int>("count");
+
+    QTest::newRow("two modems at once, every line twice, host and facility")
+        << "host-facility"
+        << "2023-11-10T18:00:00" << 4;
+    QTest::newRow("over the end of a year, host alone") << "host"
+                                                        << "2024-01-02T00:00:00" << 3;
+    QTest::newRow("ISO time in UTC with host and facility") << "iso-utc"
+                                                            << "2023-08-22T00:00:00" << 2;
+    QTest::newRow("ISO time with a fraction, APN from pppd") << "iso-fraction"
+                                                             << "2023-08-11T00:00:00" << 2;
+    QTest::newRow("priorities, dialling that fails") << "priority"
+                                                     << "2022-05-20T23:00:00" << 2;
+    QTest::newRow("weekday and year, lines end with carriage returns")
+        << "weekday-year"
+        << "2023-06-18T00:00:00" << 2;
+    QTest::newRow("no process") << "no-process"
+                                << "2025-09-10T00:00:00" << 2;
+}
+
+void ConnrecordPppdTest::importsALog()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, changed);
+    QFETCH(int, count);
+    const QString log = logFile(name + ".log", changed);
+
+    const QJsonObject first = import(log, {"--json"}).json().object();
+    QCOMPARE(exported(), readFile(dataFile(name + ".csv")));
+    QCOMPARE(
+        first,
+        (QJsonObject{
+            {"read", count}, {"added", count}, {"already_there", 0}, {"unusable", QJsonArray()}}));
+
+    const ConnrecordRun second = import(log);
+    QCOMPARE(second.exitCode, 0);
+    QCOMPARE(second.output, "Connections read: " + QByteArray::number(count) +
+                                "\nAdded: 0\nAlready there: " + QByteArray::number(count) + '\n');
+    QCOMPARE(exported(), readFile(dataFile(name + ".csv")));
+}
+
+void ConnrecordPppdTest::givesTheProfileThatTheLogDoesNotShow()
+{
+    const QString log = logFile("no-process.log", "2025-09-10T00:00:00");
+    QCOMPARE(import(log, {"--profile", "Zürich, Büro"}).exitCode, 0);
+    QVERIFY2(exported().contains("\n\"Zürich, Büro\",2025-09-08T"), exported());
+}
+
+void ConnrecordPppdTest::saysWhatItCannotUse()
+{
+    const ConnrecordRun result =
+        import(logFile("incomplete.log", "2023-11-10T18:00:00"), {"--profile", "p"});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(
+        result.output,
+        QByteArray(
+            "Connections read: 1\n"
+            "Added: 1\n"
+            "Already there: 0\n"
+            "Not used, a connection does not end in the log: 2; first in line 1: "
+            "Nov 10 09:00:00 gw pppd[300]: Connect: ppp0 <--> /dev/ttyUSB0\n"
+            "Not used, a connect time has no byte counts: 1; first in line 3: "
+            "Nov 10 09:20:00 gw pppd[300]: Connect time 4.0 minutes.\n"
+            "Not used, byte counts have no connect time: 1; first in line 4: "
+            "Nov 10 09:30:00 gw pppd[301]: Sent 1 bytes, received 2 bytes.\n"
+            "Not used, the time stamp cannot be read: 1; first in line 5: "
+            "Nov 31 09:40:00 gw pppd[302]: Connect time 1.0 minutes.\n"
+            "Not used, a number or time is out of range: 1; first in line 9: "
+            "Nov 10 09:50:00 gw pppd[303]: Sent 9223372036854775808 bytes, received 2 bytes.\n"));
+}
+
+void ConnrecordPppdTest::saysWhatItCannotUseAsJson()
+{
+    const QString log = logFile("incomplete.log", "2023-11-10T18:00:00");
+    const QJsonArray unusable = import(log, {"--json"}).json().object().value("unusable").toArray();
+    QCOMPARE(unusable.size(), 5);
+    QCOMPARE(unusable[0].toObject(),
+             (QJsonObject{
+                 {"reason", "a connection does not end in the log"},
+                 {"count", 2},
+                 {"first_line", 1},
+                 {"first_text", "Nov 10 09:00:00 gw pppd[300]: Connect: ppp0 <--> /dev/ttyUSB0"}}));
+}
+
+void ConnrecordPppdTest::readsStandardInput()
+{
+    QCOMPARE(import("-", {}, readFile(dataFile("weekday-year.log"))).exitCode, 0);
+    QCOMPARE(exported(), readFile(dataFile("weekday-year.csv")));
+}
+
+void ConnrecordPppdTest::refusesAFileWithoutAnyConnection_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+
+    QTest::newRow("an empty file") << QByteArray();
+    QTest::newRow("a log of other programs") << QByteArray("Nov 10 17:02:09 gw cron[3]: run\n");
+    QTest::newRow("chat alone") << QByteArray(
+        "Nov 10 17:02:09 gw chat[490]: send (AT+CGDCONT=1,\"IP\",\"a\"^M)\n");
+    QTest::newRow("binary contents") << QByteArray(100000, '\0') + QByteArray(100000, '\xFF');
+}
+
+void ConnrecordPppdTest::refusesAFileWithoutAnyConnection()
+{
+    QFETCH(QByteArray, contents);
+    const ConnrecordRun result = import("-", {}, contents);
+    QCOMPARE(result.exitCode, 4);
+    QVERIFY2(result.error.startsWith("connrecord: standard input holds no line"), result.error);
+    QVERIFY(!QFile::exists(m_store));
+}
+
+void ConnrecordPppdTest::readsALongLog()
+{
+    QByteArray log;
+    for (int i = 0; i < 20000; ++i)
+        log +=
+            readFile(dataFile("weekday-year.log")).replace("3844", QByteArray::number(10000 + i));
+    const QJsonObject report = import("-", {"--json"}, log).json().object();
+    QCOMPARE(report.value("read").toInt(), 40000);
+    QCOMPARE(report.value("added").toInt(), 40000);
+}
+
+QTEST_GUILESS_MAIN(ConnrecordPppdTest)
+
+#include "tst_connrecordpppd.moc"

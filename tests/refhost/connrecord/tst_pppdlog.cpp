@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "PppdSample.h"
+
+#include <QTest>
+
+using namespace refhost;
+
+using Kind = PppdMessage::Kind;
+
+class PppdLogTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsTheMessagesOfPppdAndChat();
+    void passesOverCopiesUnderAnotherName();
+    void takesCopiesWhereThereIsNothingElse();
+    void takesChatCopiesBesidePppdsOwnLines();
+    void takesLinesWithoutAProcessWhereThereIsNothingElse();
+    void findsAMessageWithoutAProcessBehindAHost();
+    void knowsTheLastDatedLine();
+    void keepsTheBeginningOfALine();
+    void survivesWhatIsNoLog_data();
+    void survivesWhatIsNoLog();
+};
+
+namespace
+{
+
+QList<qint64> linesOf(const PppdLog &log)
+{
+    QList<qint64> lines;
+    for (const PppdEvent &event : log.events)
+        lines << event.line;
+    return lines;
+}
+
+} // namespace
+
+void PppdLogTest::findsTheMessagesOfPppdAndChat()
+{
+    const PppdLog log =
+        pppdLogOf("Nov 10 17:02:00 gw kernel: usb 1-1: new device\n"
+                  "Nov 10 17:02:05 gw chat[490]: send (AT+CGDCONT=1,\"IP\",\"a\"^M)\n"
+                  "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/ttyUSB0\n"
+                  "Nov 10 17:02:09 gw pppd[485]: Terminating on signal 15\n"
+                  "Nov 10 17:02:10 gw pppd[485]: Exit.\n");
+    QCOMPARE(linesOf(log), (QList<qint64>{2, 3, 5}));
+    QCOMPARE(log.events[0].message.kind, Kind::ChatApn);
+    QCOMPARE(log.events[0].pid, std::int64_t(490));
+    QCOMPARE(log.events[1].message.kind, Kind::Connect);
+    QCOMPARE(log.events[1].time->hour, 17);
+}
+
+void PppdLogTest::passesOverCopiesUnderAnotherName()
+{
+    const PppdLog log =
+        pppdLogOf("Nov 10 17:02:05 gw sh[434]: send (AT+CGDCONT=1,\"IP\",\"a\"^M)\n"
+                  "Nov 10 17:02:05 gw chat[490]: send (AT+CGDCONT=1,\"IP\",\"a\"^M)\n"
+                  "Nov 10 17:02:09 gw sh[434]: Connect: ppp0 <--> /dev/ttyUSB0\n"
+                  "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/ttyUSB0\n"
+                  "Nov 10 17:02:09 Connect: ppp0 <--> /dev/ttyUSB0\n");
+    QCOMPARE(linesOf(log), (QList<qint64>{2, 4}));
+}
+
+void PppdLogTest::takesCopiesWhereThereIsNothingElse()
+{
+    const PppdLog log = pppdLogOf("Nov 10 17:02:05 gw sh[434]: send (AT+CGDCONT=1,\"IP\",\"a\"^M)\n"
+                                  "Nov 10 17:02:09 gw sh[434]: Connect: ppp0 <--> /dev/ttyUSB0\n"
+                                  "Nov 10 17:02:09 gw pppd[485]: Exit.\n");
+    QCOMPARE(linesOf(log), (QList<qint64>{1, 2}));
+    QCOMPARE(log.events[1].pid, std::int64_t(434));
+}
+
+void PppdLogTest::takesChatCopiesBesidePppdsOwnLines()
+{
+    const PppdLog log =
+        pppdLogOf("Nov 10 17:02:05 gw sh[434]: send (AT+CGDCONT=1,\"IP\",\"a\"^M)\n"
+                  "Nov 10 17:02:09 gw sh[434]: Connect: ppp0 <--> /dev/ttyUSB0\n"
+                  "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/ttyUSB0\n");
+    QCOMPARE(linesOf(log), (QList<qint64>{1, 3}));
+}
+
+void PppdLogTest::takesLinesWithoutAProcessWhereThereIsNothingElse()
+{
+    const PppdLog log =
+        pppdLogOf("2025-09-09 16:57:37.935190500 Connect time 1494.0 minutes.\n"
+                  "2025-09-09 16:57:37.935200700 Sent 1 bytes, received 2 bytes.\n");
+    QCOMPARE(linesOf(log), (QList<qint64>{1, 2}));
+    QCOMPARE(log.events[0].pid, log.events[1].pid);
+}
+
+void PppdLogTest::findsAMessageWithoutAProcessBehindAHost()
+{
+    const PppdLog log = pppdLogOf("Nov 10 17:02:09 gw daemon.info Connect time 1494.0 minutes.\n");
+    QCOMPARE(linesOf(log), QList<qint64>{1});
+    QCOMPARE(log.events[0].message.kind, Kind::ConnectTime);
+}
+
+void PppdLogTest::knowsTheLastDatedLine()
+{
+    QCOMPARE(pppdLogOf("Nov 10 17:02:09 gw a\nNov 11 09:00:00 gw b\n no date\n").end->day, 11);
+    QVERIFY(!pppdLogOf("no date\n").end);
+}
+
+void PppdLogTest::keepsTheBeginningOfALine()
+{
+    const PppdLog log = pppdLogOf("Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/" +
+                                  QByteArray(5000, 'x') + '\n');
+    QVERIFY(log.events.at(0).lineText.size() < 1000);
+    QVERIFY(startsWith(log.events.at(0).lineText, "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0"));
+}
+
+void PppdLogTest::survivesWhatIsNoLog_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+
+    QTest::newRow("an empty file") << QByteArray();
+    QTest::newRow("NULs") << QByteArray(100000, '\0');
+    QTest::newRow("bytes that are not UTF-8") << QByteArray(100000, '\xFF');
+    QTest::newRow("a line of eight megabytes") << QByteArray(8 << 20, 'x');
+    QTest::newRow("a line of eight megabytes of spaces") << QByteArray(8 << 20, ' ');
+    QTest::newRow("a million empty lines") << QByteArray(1000000, '\n');
+}
+
+void PppdLogTest::survivesWhatIsNoLog()
+{
+    QFETCH(QByteArray, contents);
+    const QByteArray line = "Nov 10 17:02:09 gw pppd[485]: Exit.\r\n";
+    QVERIFY(pppdLogOf(contents).events.empty());
+    QCOMPARE(pppdLogOf(contents + '\n' + line.mid(0, 30) + "Connect: ppp0 <--> /dev/x\r\n")
+                 .events.size(),
+             std::size_t(1));
+}
+
+QTEST_GUILESS_MAIN(PppdLogTest)
+
+#include "tst_pppdlog.moc"
