@@ -147,8 +147,9 @@ std::string_view ConnectionRow::text(int column) const
 {
     const void *const start = sqlite3_column_text(m_statement, column);
     const int size = sqlite3_column_bytes(m_statement, column);
-    return start ? std::string_view(static_cast<const char *>(start), static_cast<std::size_t>(size))
-                 : std::string_view();
+    return start
+               ? std::string_view(static_cast<const char *>(start), static_cast<std::size_t>(size))
+               : std::string_view();
 }
 
 ConnectionTable::ConnectionTable(SQLite::Database &database)

@@ -43,9 +43,8 @@ bool isHighSurrogate(char16_t unit)
 
 bool isAscii(std::string_view text)
 {
-    return std::all_of(text.begin(), text.end(), [](char byte) {
-        return static_cast<unsigned char>(byte) < 0x80;
-    });
+    return std::all_of(text.begin(), text.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
 void writeProfile(std::string_view profile, char16_t (&field)[profileUnits + 1])

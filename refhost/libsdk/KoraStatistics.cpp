@@ -83,7 +83,7 @@ int KORA_Statistics_ConnRecord_RemoveRecord(int index)
 
 int KORA_Statistics_ReleaseConnRecord(_KORA_ST_CONNRECORD *records)
 {
-    refhost::RecordList::Free()(records);
+    refhost::FreeRecords()(records);
     return refhost::KoraOk;
 }
 

@@ -43,28 +43,27 @@ void preferLargePages(void *start, std::size_t size)
         madvise(firstPage, rest / pageSize * pageSize, MADV_HUGEPAGE);
 }
 
-RecordList allocateRecords(std::int64_t count)
+_KORA_ST_CONNRECORD *allocateRecords(std::int64_t count)
 {
+    if (count == 0)
+        return nullptr;
     if (count > std::numeric_limits<int>::max())
         throw std::bad_alloc();
-    RecordList list;
+    const std::size_t size = static_cast<std::size_t>(count) * sizeof(_KORA_ST_CONNRECORD);
     // calloc takes an array of this size straight from the system, which has
     // zeroed it; nothing of the fields' unused bytes is written a second time.
-    if (count > 0) {
-        const auto number = static_cast<std::size_t>(count);
-        list.records.reset(static_cast<_KORA_ST_CONNRECORD *>(
-            std::calloc(number, sizeof(_KORA_ST_CONNRECORD))));
-        if (!list.records)
-            throw std::bad_alloc();
-        preferLargePages(list.records.get(), number * sizeof(_KORA_ST_CONNRECORD));
-    }
-    return list;
+    void *const records = std::calloc(1, size);
+    if (!records)
+        throw std::bad_alloc();
+    preferLargePages(records, size);
+    return static_cast<_KORA_ST_CONNRECORD *>(records);
 }
 
 Listing listingOf(ConnectionTable &table)
 {
     const std::int64_t count = table.count();
-    Listing listing = {allocateRecords(count), {}};
+    Listing listing;
+    listing.list.records.reset(allocateRecords(count));
     listing.keys.reserve(static_cast<std::size_t>(count));
     table.visitAll([&](const ConnectionRow &row) {
         // An index that disagrees with its table could yield more than was counted.

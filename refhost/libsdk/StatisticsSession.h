@@ -13,13 +13,13 @@
 namespace refhost
 {
 
+struct FreeRecords {
+    void operator()(_KORA_ST_CONNRECORD *records) const { std::free(records); }
+};
+
 /// Records allocated by this library as one array.
 struct RecordList {
-    struct Free {
-        void operator()(_KORA_ST_CONNRECORD *records) const { std::free(records); }
-    };
-
-    std::unique_ptr<_KORA_ST_CONNRECORD[], Free> records; ///< null if there are none
+    std::unique_ptr<_KORA_ST_CONNRECORD[], FreeRecords> records; ///< null if there are none
     int count = 0;
 };
 

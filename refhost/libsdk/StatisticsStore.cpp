@@ -84,8 +84,8 @@ void check(const Connection &connection, const std::string &whose)
 void checkAll(const std::vector<Connection> &connections)
 {
     for (std::size_t i = 0; i < connections.size(); ++i)
-        check(connections[i], "connection " + std::to_string(i + 1) + " of " +
-                                  std::to_string(connections.size()));
+        check(connections[i],
+              "connection " + std::to_string(i + 1) + " of " + std::to_string(connections.size()));
 }
 
 StoreFailure noSuchRecord(const std::string &path, std::int64_t key)
@@ -115,9 +115,9 @@ public:
     static Result<StatisticsStore> open(const std::string &path, StoreDatabase::IfMissing ifMissing)
     {
         return refhost::attempt(path, [&] {
-            auto d = std::make_unique<Private>(path, ifMissing);
-            d->database.open();
-            return StatisticsStore(std::move(d));
+            auto opened = std::make_unique<Private>(path, ifMissing);
+            opened->database.open();
+            return StatisticsStore(std::move(opened));
         });
     }
 
@@ -160,9 +160,8 @@ Result<std::vector<Connection>> StatisticsStore::list() const
     return d->attempt([&] {
         return d->database.read(std::vector<Connection>(), [](ConnectionTable &table) {
             std::vector<Connection> connections;
-            table.visitAll([&](const ConnectionRow &row) {
-                connections.push_back(row.toConnection());
-            });
+            table.visitAll(
+                [&](const ConnectionRow &row) { connections.push_back(row.toConnection()); });
             return connections;
         });
     });
@@ -181,9 +180,8 @@ Result<std::size_t> StatisticsStore::addMissing(const std::vector<Connection> &c
 {
     return d->attempt([&] {
         checkAll(connections);
-        return d->database.write([&](ConnectionTable &table) {
-            return table.insertMissing(connections, progress);
-        });
+        return d->database.write(
+            [&](ConnectionTable &table) { return table.insertMissing(connections, progress); });
     });
 }
 

@@ -55,8 +55,7 @@ void createFolders(const std::filesystem::path &folder)
     createFolders(folder.parent_path());
     // The umask can only take permissions away here, so there is no moment at
     // which others could enter; chmod then gives the owner what it took.
-    if (mkdir(folder.c_str(), S_IRWXU) == 0 ? chmod(folder.c_str(), S_IRWXU) != 0
-                                            : errno != EEXIST)
+    if (mkdir(folder.c_str(), S_IRWXU) == 0 ? chmod(folder.c_str(), S_IRWXU) != 0 : errno != EEXIST)
         throw cannotOpen(folder.string(), errno);
 }
 
@@ -156,7 +155,8 @@ std::optional<FileIdentity> fileAt(const std::string &path)
     const auto status = statusOf(path);
     if (!status)
         return std::nullopt;
-    const std::uint64_t device = std::uint64_t{status->stx_dev_major} << 32U | status->stx_dev_minor;
+    const std::uint64_t device =
+        std::uint64_t{status->stx_dev_major} << 32U | status->stx_dev_minor;
     return FileIdentity{device, status->stx_ino, status->stx_btime.tv_sec,
                         status->stx_btime.tv_nsec};
 }
@@ -192,7 +192,8 @@ bool hasLog(const std::string &path)
 
 int writeObstacle(const std::string &path)
 {
-    for (const auto &each : {std::filesystem::path(path), std::filesystem::path(path).parent_path()}) {
+    for (const auto &each :
+         {std::filesystem::path(path), std::filesystem::path(path).parent_path()}) {
         if (faccessat(AT_FDCWD, each.c_str(), W_OK, AT_EACCESS) != 0)
             return errno;
     }

@@ -45,6 +45,7 @@ Connection connection(const std::string &profile, std::int64_t start, std::int64
 std::vector<Connection> numberedConnections(int count)
 {
     std::vector<Connection> connections;
+    connections.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         connections.push_back(connection(std::to_string(i), 1000 + i * 10, 1005 + i * 10));
     return connections;

@@ -59,6 +59,7 @@ Connection connectionAt(std::int64_t second)
 std::vector<Connection> manyConnections(int count)
 {
     std::vector<Connection> connections;
+    connections.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         connections.push_back(connectionAt(i));
     return connections;
@@ -79,8 +80,7 @@ std::string addMany(std::istream &words)
     int count = 0;
     words >> path >> count;
     auto store = StatisticsStore::openOrCreate(path);
-    return store ? answer(store.value().addMissing(manyConnections(count)))
-                 : answer(store.error());
+    return store ? answer(store.value().addMissing(manyConnections(count))) : answer(store.error());
 }
 
 std::string count(std::istream &words)

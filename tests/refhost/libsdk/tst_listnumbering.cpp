@@ -67,8 +67,8 @@ void ListNumberingTest::agreesWithALongWalk()
     std::mt19937 random(20240229);
     for (std::size_t left = size; left > 0; --left) {
         const std::size_t place = random() % size;
-        const auto found = std::find(isThere.begin() + static_cast<std::ptrdiff_t>(place),
-                                     isThere.end(), true);
+        const auto found =
+            std::find(isThere.begin() + static_cast<std::ptrdiff_t>(place), isThere.end(), true);
         const auto expected = static_cast<std::size_t>(found - isThere.begin());
         QCOMPARE(numbering.firstFrom(place), expected);
         if (expected == size)
@@ -78,6 +78,6 @@ void ListNumberingTest::agreesWithALongWalk()
     }
 }
 
-QTEST_APPLESS_MAIN(ListNumberingTest)
+QTEST_GUILESS_MAIN(ListNumberingTest)
 
 #include "tst_listnumbering.moc"

@@ -81,6 +81,11 @@ void makeWithLog(const QString &path, const char *sql)
     QVERIFY(QFile::remove(QString::fromStdString(live)));
 }
 
+void makeEmptyDatabase(const QString &path)
+{
+    runSql(path.toStdString(), "PRAGMA journal_mode = WAL");
+}
+
 void makeStore(const QString &path)
 {
     storeWith(path.toStdString(), numberedConnections(300));
@@ -112,6 +117,7 @@ private slots:
     void keepsTheModeOfAFolderThatIsThere();
     void writesAheadAndKeepsIntegers();
     void marksItsFile();
+    void isWholeBeforeItsLog_data();
     void isWholeBeforeItsLog();
     void listsWithoutSorting();
 
@@ -183,12 +189,22 @@ void StoreFileTest::marksItsFile()
     QCOMPARE(contents.mid(60, 4), QByteArray("\0\0\0\1", 4));
 }
 
+void StoreFileTest::isWholeBeforeItsLog_data()
+{
+    QTest::addColumn<Maker>("make");
+    QTest::newRow("no file at first") << Maker([](const QString &) {});
+    QTest::newRow("an empty database that writes ahead at first") << Maker(makeEmptyDatabase);
+}
+
 void StoreFileTest::isWholeBeforeItsLog()
 {
-    // A crash right after the making leaves the file alone, without its log.
+    QFETCH(Maker, make);
+    make(m_path);
     const StatisticsStore store = storeWith(m_path.toStdString(), {});
+    // What a crash can leave of it: the file alone.
     const QString copy = m_folder->filePath("copy.db");
     QVERIFY(QFile::copy(m_path, copy));
+    QCOMPARE(contentsOf(copy).mid(68, 4), QByteArray("RDCH"));
     storeWith(copy.toStdString(), {connection("kept", 1, 2)});
     QCOMPARE(profilesIn(copy.toStdString()), QString("kept"));
 }
@@ -215,9 +231,8 @@ void StoreFileTest::takesANewFile_data()
     QTest::newRow("an empty file") << Maker([](const QString &path) { writeFile(path, {}); });
     QTest::newRow("a database without tables")
         << Maker([](const QString &path) { runSql(path.toStdString(), "VACUUM"); });
-    QTest::newRow("a database without tables that writes ahead") << Maker([](const QString &path) {
-        runSql(path.toStdString(), "PRAGMA journal_mode = WAL");
-    });
+    QTest::newRow("a database without tables that writes ahead") << Maker(
+        [](const QString &path) { runSql(path.toStdString(), "PRAGMA journal_mode = WAL"); });
 }
 
 void StoreFileTest::takesANewFile()
@@ -299,11 +314,10 @@ void StoreFileTest::refusesAndKeepsUntouched_data()
         makeStore(path);
         runSql(path.toStdString(), "ALTER TABLE connection RENAME TO elsewhere");
     });
-    row("a store emptied beside its log", "Damaged", refhost::KoraDamaged,
-        [](const QString &path) {
-            writeFile(path, {});
-            writeFile(path + "-wal", "records that were not yet in the file");
-        });
+    row("a store emptied beside its log", "Damaged", refhost::KoraDamaged, [](const QString &path) {
+        writeFile(path, {});
+        writeFile(path + "-wal", "records that were not yet in the file");
+    });
 }
 
 void StoreFileTest::refusesAndKeepsUntouched()
@@ -364,6 +378,6 @@ void StoreFileTest::keepsWhatACrashLeftInTheLog()
     QCOMPARE(profilesIn(copy.toStdString()), QString("0 1 2"));
 }
 
-QTEST_APPLESS_MAIN(StoreFileTest)
+QTEST_GUILESS_MAIN(StoreFileTest)
 
 #include "tst_storefile.moc"

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "StoreSchema.h"
 
-#include "StoreFailure.h"
-
 #include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Exception.h>
 
 #include <QtTest>
 
+#include <exception>
+
 using refhost::SchemaSteps;
-using refhost::StoreError;
-using refhost::StoreFailure;
 using refhost::upgradeSchema;
 
 namespace
@@ -36,6 +33,18 @@ std::string fruitsIn(SQLite::Database &database)
     return database.execAndGet("SELECT group_concat(name) FROM fruit").getString();
 }
 
+/// What the exception says that `operation` throws, nothing if it throws none.
+template <typename Operation>
+QString errorOf(Operation operation)
+{
+    try {
+        operation();
+    } catch (const std::exception &exception) {
+        return QString::fromUtf8(exception.what());
+    }
+    return {};
+}
+
 } // namespace
 
 class StoreSchemaTest : public QObject
@@ -51,11 +60,10 @@ private slots:
     void refusesADatabaseOfAnotherProgram();
     void everyReleasedStepCanBeTaken();
 
+    void init() { m_database = SQLite::Database(":memory:", SQLite::OPEN_READWRITE); }
+
 private:
     SQLite::Database m_database{":memory:", SQLite::OPEN_READWRITE};
-
-private slots:
-    void init() { m_database = SQLite::Database(":memory:", SQLite::OPEN_READWRITE); }
 };
 
 void StoreSchemaTest::takesEveryStepInANewDatabase()
@@ -87,7 +95,8 @@ void StoreSchemaTest::undoesAllStepsWhenOneFails()
     upgradeSchema("file", m_database, oneStep);
     SchemaSteps steps = followedBy("INSERT INTO fruit VALUES ('pear')");
     steps.push_back("INSERT INTO vegetable VALUES ('leek')");
-    QVERIFY_EXCEPTION_THROWN(upgradeSchema("file", m_database, steps), SQLite::Exception);
+    QCOMPARE(errorOf([&] { upgradeSchema("file", m_database, steps); }),
+             QString("no such table: vegetable"));
     QCOMPARE(versionOf(m_database), 1);
     QCOMPARE(fruitsIn(m_database), std::string("apple"));
 }
@@ -95,22 +104,18 @@ void StoreSchemaTest::undoesAllStepsWhenOneFails()
 void StoreSchemaTest::refusesANewerDatabase()
 {
     upgradeSchema("file", m_database, followedBy("INSERT INTO fruit VALUES ('pear')"));
-    try {
-        upgradeSchema("file", m_database, oneStep);
-        QFAIL("a newer database was accepted");
-    } catch (const StoreFailure &failure) {
-        QVERIFY(failure.error().kind == StoreError::Kind::NewerStore);
-        QCOMPARE(failure.error().message,
-                 std::string("The connection history \"file\" has version 2, but this program "
-                             "knows only versions up to 1; it was left as it is, update this "
-                             "program to read it."));
-    }
+    QCOMPARE(errorOf([&] { upgradeSchema("file", m_database, oneStep); }),
+             QString("The connection history \"file\" has version 2, but this program knows only "
+                     "versions up to 1; it was left as it is, update this program to read it."));
+    QCOMPARE(versionOf(m_database), 2);
 }
 
 void StoreSchemaTest::refusesADatabaseOfAnotherProgram()
 {
     m_database.exec("CREATE TABLE notes (text)");
-    QVERIFY_EXCEPTION_THROWN(upgradeSchema("file", m_database, oneStep), StoreFailure);
+    QCOMPARE(errorOf([&] { upgradeSchema("file", m_database, oneStep); }),
+             QString("\"file\" is not a connection history but a database of another program; it "
+                     "was left as it is, move it away or name another file."));
     QCOMPARE(m_database.execAndGet("SELECT count(*) FROM sqlite_schema").getInt(), 1);
 }
 
@@ -125,6 +130,6 @@ void StoreSchemaTest::everyReleasedStepCanBeTaken()
     QCOMPARE(m_database.execAndGet("SELECT count(*) FROM connection").getInt(), 0);
 }
 
-QTEST_APPLESS_MAIN(StoreSchemaTest)
+QTEST_GUILESS_MAIN(StoreSchemaTest)
 
 #include "tst_storeschema.moc"

@@ -75,6 +75,16 @@ private:
         return peer;
     }
 
+    /// Gives the peer a small disk of its own, or skips the test.
+    bool mountsSmallDisk(StorePeer &peer) const
+    {
+        const QString answer = peer.tell("mount-small-disk " + m_place);
+        if (answer != "ok")
+            QTest::qSkip(qPrintable("no disk of memory can be mounted: " + answer), __FILE__,
+                         __LINE__);
+        return answer == "ok";
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_place;
     QString m_path;
@@ -99,8 +109,8 @@ void StoreSurroundingsTest::aFolderThatMayNotBeWrittenIsAnError()
     QCOMPARE(chmod(qPrintable(m_place), 0555), 0);
     const auto peer = boundPeer();
     QVERIFY(peer);
-    QVERIFY(isFailure(peer->tell("add " + m_path + " 7"), "CannotOpen",
-                      {m_path, "Permission denied"}));
+    QVERIFY(
+        isFailure(peer->tell("add " + m_path + " 7"), "CannotOpen", {m_path, "Permission denied"}));
     QCOMPARE(peer->tell("count " + m_path), QString("ok 0"));
     QVERIFY(!QFile::exists(m_path));
 }
@@ -150,8 +160,8 @@ void StoreSurroundingsTest::aFolderIsNoStore()
 void StoreSurroundingsTest::aReadOnlyDiskIsAnError()
 {
     StorePeer peer;
-    if (!peer.tell("mount-small-disk " + m_place).startsWith("ok"))
-        QSKIP("this user may not mount a disk of memory");
+    if (!mountsSmallDisk(peer))
+        return;
     QCOMPARE(peer.tell("add " + m_path + " 7"), QString("ok 1"));
     QCOMPARE(peer.tell("remount-read-only " + m_place), QString("ok"));
     const QString reason = "Read-only file system";
@@ -163,8 +173,8 @@ void StoreSurroundingsTest::aReadOnlyDiskIsAnError()
 void StoreSurroundingsTest::aFullDiskLosesNothing()
 {
     StorePeer peer;
-    if (!peer.tell("mount-small-disk " + m_place).startsWith("ok"))
-        QSKIP("this user may not mount a disk of memory");
+    if (!mountsSmallDisk(peer))
+        return;
     QCOMPARE(peer.tell("add " + m_path + " 7"), QString("ok 1"));
     QVERIFY(isFailure(peer.tell("add-many " + m_path + " 20000"), "WriteFailed",
                       {m_path, "the disk is full", "nothing was changed", "free some space"}));
@@ -179,8 +189,8 @@ void StoreSurroundingsTest::aFullDiskLosesNothing()
 void StoreSurroundingsTest::aFullDiskTakesNoNewStore()
 {
     StorePeer peer;
-    if (!peer.tell("mount-small-disk " + m_place).startsWith("ok"))
-        QSKIP("this user may not mount a disk of memory");
+    if (!mountsSmallDisk(peer))
+        return;
     QCOMPARE(peer.tell("fill-disk " + m_place + "/filler"), QString("ok"));
     QVERIFY(isFailure(peer.tell("add " + m_path + " 8"), "WriteFailed", {"the disk is full"}));
     QCOMPARE(peer.tell("remove-file " + m_place + "/filler"), QString("ok"));
