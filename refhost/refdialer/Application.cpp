@@ -7,7 +7,6 @@
 #include "MainWindow.h"
 #include "Picture.h"
 #include "PluginHandle.h"
-#include "QuitOnSignal.h"
 
 #include "StatisticsStore.h"
 
@@ -92,7 +91,6 @@ void Application::showWindow()
         return;
     }
     window.show();
-    const QuitOnSignal quitOnSignal;
     QCoreApplication::exec();
 }
 

@@ -5,6 +5,7 @@
 #include "Host.h"
 #include "LanguageChoice.h"
 #include "Options.h"
+#include "QuitOnSignal.h"
 
 #include <QApplication>
 
@@ -51,6 +52,7 @@ int runWindow(const refhost::Options &options, char **argv)
     // The toolkit takes --plugin and others for its own, so it sees none of them.
     int programNameOnly = 1;
     const QApplication application(programNameOnly, argv);
+    const refhost::QuitOnSignal quitOnSignal;
     describeProgram();
     QApplication::setDesktopFileName(QStringLiteral("org.example.refdialer"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.refdialer")));
