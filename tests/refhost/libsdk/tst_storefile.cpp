@@ -231,8 +231,7 @@ void StoreFileTest::takesANewFile_data()
     QTest::newRow("an empty file") << Maker([](const QString &path) { writeFile(path, {}); });
     QTest::newRow("a database without tables")
         << Maker([](const QString &path) { runSql(path.toStdString(), "VACUUM"); });
-    QTest::newRow("a database without tables that writes ahead") << Maker(
-        [](const QString &path) { runSql(path.toStdString(), "PRAGMA journal_mode = WAL"); });
+    QTest::newRow("a database without tables that writes ahead") << Maker(makeEmptyDatabase);
 }
 
 void StoreFileTest::takesANewFile()
