@@ -67,7 +67,7 @@ void tst_Exports::needsTheHostsLibrariesByNameOnly()
 void tst_Exports::asksTheHostForTheContractsSymbolsOnly()
 {
 #ifdef SANITIZED
-    QSKIP("the sanitizers ask for symbols of their own");
+    QSKIP("the sanitizers ask for symbols of their own", "");
 #endif
     // A host has these to give, and no more.
     const QRegularExpression hosts(

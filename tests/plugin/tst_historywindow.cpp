@@ -293,7 +293,7 @@ void tst_HistoryWindow::logsItsOperations()
 void tst_HistoryWindow::onlyLogsTheStatisticsSlot()
 {
 #ifdef NETINFORECORD_WIRE_STATISTICS
-    QSKIP("in this build the slot opens the statistics; tst_statistics tests that");
+    QSKIP("in this build the slot opens the statistics; tst_statistics tests that", "");
 #endif
     LoadedPlugin plugin;
     plugin.show();
