@@ -25,7 +25,7 @@ namespace
 {
 
 /// What is shorter than one step is done before anybody asks.
-constexpr std::int64_t bytesPerStep = 4 * 1024 * 1024;
+constexpr std::int64_t bytesPerStep = 4194304;
 constexpr std::int64_t connectionsPerStep = 20000;
 
 /// What a file holds.

@@ -164,7 +164,7 @@ std::int64_t PppdConnections::startOf(const Dial &dial, std::int64_t endUtc) con
 
 std::string PppdConnections::profileOf(const Dial &dial, std::int64_t pid) const
 {
-    const std::string apn = m_apns.apnOf(pid);
+    std::string apn = m_apns.apnOf(pid);
     if (!apn.empty())
         return apn;
     if (!m_fallbackProfile.empty())

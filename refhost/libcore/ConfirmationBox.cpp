@@ -41,7 +41,7 @@ void ConfirmationBox::keyPressEvent(QKeyEvent *event)
 void ConfirmationBox::closeEvent(QCloseEvent *event)
 {
     // The base class would press the only button there is, or refuse to close.
-    QDialog::closeEvent(event);
+    QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 QPushButton *ConfirmationBox::addTranslatedButton(const QString &id, ButtonRole role)

@@ -90,7 +90,7 @@ QString CommandLine::information() const
 
 QString CommandLine::value(const QCommandLineOption &option) const
 {
-    const QString text = m_parser.value(option);
+    QString text = m_parser.value(option);
     if (m_parser.isSet(option) && text.isEmpty())
         refuse(tr("The option --%1 needs a value.").arg(option.names().first()));
     return text;
