@@ -120,7 +120,7 @@ void PppdLogTest::survivesWhatIsNoLog_data()
     QTest::newRow("bytes that are not UTF-8") << QByteArray(100000, '\xFF');
     QTest::newRow("a line of eight megabytes") << QByteArray(8 << 20, 'x');
     QTest::newRow("a line of eight megabytes of spaces") << QByteArray(8 << 20, ' ');
-    QTest::newRow("a million empty lines") << QByteArray(1000000, '\n');
+    QTest::newRow("many empty lines") << QByteArray(100000, '\n');
 }
 
 void PppdLogTest::survivesWhatIsNoLog()
