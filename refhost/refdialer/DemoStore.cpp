@@ -16,17 +16,17 @@ QString DemoStore::sampleFile()
         QStringLiteral("/" NETINFORECORD_DATADIR_FROM_BINDIR "/sample-history.db"));
 }
 
-DemoStore::DemoStore()
+DemoStore::DemoStore(const QString &sample)
     : m_folder(QDir::tempPath() + QStringLiteral("/refdialer-demo-XXXXXX"))
 {
-    QFile sample(sampleFile());
-    if (!m_folder.isValid() || !sample.copy(file()))
+    QFile source(sample);
+    if (!m_folder.isValid() || !source.copy(file()))
         throw Failure{ExitCode::StoreNotUsable,
                       tr("The sample history %1 cannot be copied to %2: %3. Install refdialer "
                          "again, or make room there.")
-                          .arg(sample.fileName(), QDir::tempPath(),
-                               m_folder.isValid() ? sample.errorString() : m_folder.errorString())};
-    // The copy takes over the mode of an installed file, which nobody may write.
+                          .arg(sample, QDir::tempPath(),
+                               m_folder.isValid() ? source.errorString() : m_folder.errorString())};
+    // The mode comes along, and an installed file may be one that nobody writes.
     QFile::setPermissions(file(), QFile::ReadOwner | QFile::WriteOwner);
 }
 

@@ -7,7 +7,7 @@
 namespace refhost
 {
 
-/// A copy of the sample history, in a temporary folder that goes with it.
+/// A copy of a sample history, in a temporary folder that goes with it.
 class DemoStore
 {
     Q_DECLARE_TR_FUNCTIONS(refhost::DemoStore)
@@ -17,7 +17,7 @@ public:
     static QString sampleFile();
 
     /// Throws Failure (StoreNotUsable) if the sample cannot be copied.
-    DemoStore();
+    explicit DemoStore(const QString &sample = sampleFile());
 
     QString file() const;
 

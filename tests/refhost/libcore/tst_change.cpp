@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QTest>
+#include <QTranslator>
 
 class TestChange : public QObject
 {
@@ -15,6 +16,7 @@ private slots:
     void showsTheTextOfAKnownIdentifier();
     void showsAnUnknownIdentifierAsItself_data();
     void showsAnUnknownIdentifierAsItself();
+    void showsTheIdentifierWhereATextIsEmpty();
     void switchesTheLanguage();
     void tellsWindowsThatTheLanguageHasChanged();
     void keepsTheLanguageWhenAnotherIsUnknown_data();
@@ -26,6 +28,17 @@ namespace
 {
 
 const QString plugin = QStringLiteral("NetInfoRecordUIPlugin");
+
+/// A translation that has a text for everything, but an empty one.
+class EmptyTexts : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *, const char *, int) const override
+    {
+        return QStringLiteral("");
+    }
+};
 
 /// Counts the language changes that a window is told of.
 class Window : public QWidget
@@ -68,6 +81,13 @@ void TestChange::showsAnUnknownIdentifierAsItself()
     QFETCH(QString, id);
     QFETCH(QString, context);
     QCOMPARE(Change::tr(id, context), id);
+}
+
+void TestChange::showsTheIdentifierWhereATextIsEmpty()
+{
+    EmptyTexts texts;
+    QVERIFY(QCoreApplication::installTranslator(&texts));
+    QCOMPARE(Change::tr("IDS_LIST_UPLOADED", plugin), QString("IDS_LIST_UPLOADED"));
 }
 
 void TestChange::switchesTheLanguage()

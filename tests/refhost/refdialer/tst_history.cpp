@@ -64,7 +64,7 @@ Connection connection(const std::string &profile, int daysLater)
     made.endUtc = made.startUtc + 3725;
     made.connectedSeconds = 3725;
     made.uploadedBytes = 2048;
-    made.downloadedBytes = 5 * 1024 * 1024;
+    made.downloadedBytes = 5242880;
     return made;
 }
 

@@ -32,6 +32,7 @@ private slots:
 
     void speaksTheChosenLanguage();
     void remembersTheChosenLanguage();
+    void startsInAKnownLanguageWhateverIsStored();
     void marksTheCurrentLanguage();
     void sendsNoTextEventWhenThePluginRefusesTheLanguage();
     void writesDatesAsTheLanguageDoes();
@@ -144,6 +145,12 @@ void TestMainWindow::remembersTheChosenLanguage()
     entry(languageMenu, "Deutsch")->trigger();
     QCOMPARE(CommonUtils::GetSettings("refdialer", "language"), QString("de"));
     QCOMPARE(refhost::startLanguage(), QString("de"));
+}
+
+void TestMainWindow::startsInAKnownLanguageWhateverIsStored()
+{
+    refhost::storeLanguage("xx");
+    QVERIFY(refhost::availableLanguages().contains(refhost::startLanguage()));
 }
 
 void TestMainWindow::marksTheCurrentLanguage()
