@@ -14,8 +14,9 @@ ExtendDialog::~ExtendDialog() = default;
 
 void ExtendDialog::AddMainWidget(QWidget *widget)
 {
-    // A plug-in hands over the same content each time it shows the dialog.
-    if (widget && layout()->indexOf(widget) < 0)
+    // A plug-in may hand over the same content each time it shows the dialog:
+    // adding it again leaves it where it is.
+    if (widget)
         layout()->addWidget(widget);
 }
 

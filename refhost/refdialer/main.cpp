@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Application.h"
-#include "CommonUtils.h"
 #include "Failure.h"
+#include "FailureReport.h"
 #include "Host.h"
 #include "LanguageChoice.h"
 #include "Options.h"
@@ -29,24 +29,6 @@ refhost::Options readOptions(int argc, char **argv)
     return refhost::readOptions(QCoreApplication::arguments());
 }
 
-void print(std::FILE *stream, const QString &text)
-{
-    std::fputs(text.toLocal8Bit().constData(), stream);
-}
-
-int tellInTerminal(const refhost::Failure &failure)
-{
-    print(stderr, QStringLiteral("refdialer: ") + failure.message + QLatin1Char('\n'));
-    return int(failure.code);
-}
-
-void tellInWindow(const refhost::Failure &failure)
-{
-    CommonUtils::ShowMessage(QMessageBox::Critical, nullptr, QStringLiteral("refdialer"),
-                             failure.message, QStringLiteral("IDS_OK"), {}, {}, true,
-                             Qt::WindowCloseButtonHint, nullptr, {}, true);
-}
-
 int runWindow(const refhost::Options &options, char **argv)
 {
     // The toolkit takes --plugin and others for its own, so it sees none of them.
@@ -60,10 +42,10 @@ int runWindow(const refhost::Options &options, char **argv)
         refhost::Application(options).run();
         return 0;
     } catch (const refhost::Failure &failure) {
-        const int code = tellInTerminal(failure);
+        refhost::reportInTerminal(failure);
         if (options.pictureFile.isEmpty())
-            tellInWindow(failure);
-        return code;
+            refhost::reportInWindow(failure);
+        return int(failure.code);
     }
 }
 
@@ -73,13 +55,15 @@ int main(int argc, char **argv)
 {
     try {
         const refhost::Options options = readOptions(argc, argv);
-        print(stdout, options.information);
-        if (!options.information.isEmpty())
+        if (!options.information.isEmpty()) {
+            std::fputs(options.information.toLocal8Bit().constData(), stdout);
             return 0;
+        }
         if (!options.pictureFile.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
             qputenv("QT_QPA_PLATFORM", "offscreen");
         return runWindow(options, argv);
     } catch (const refhost::Failure &failure) {
-        return tellInTerminal(failure);
+        refhost::reportInTerminal(failure);
+        return int(failure.code);
     }
 }

@@ -18,6 +18,7 @@ private slots:
     void showsAnUnknownIdentifierAsItself();
     void showsTheIdentifierWhereATextIsEmpty();
     void switchesTheLanguage();
+    void keepsOneLanguageInMemory();
     void tellsWindowsThatTheLanguageHasChanged();
     void keepsTheLanguageWhenAnotherIsUnknown_data();
     void keepsTheLanguageWhenAnotherIsUnknown();
@@ -98,6 +99,17 @@ void TestChange::switchesTheLanguage()
     QVERIFY(refhost::setLanguage("en"));
     QCOMPARE(refhost::language(), QString("en"));
     QCOMPARE(Change::tr("IDS_LIST_UPLOADED", plugin), QString("Uploaded"));
+}
+
+void TestChange::keepsOneLanguageInMemory()
+{
+    const auto loaded = [] { return qApp->findChildren<QTranslator *>().size(); };
+    const auto before = loaded();
+    for (int i = 0; i < 3; ++i) {
+        QVERIFY(refhost::setLanguage("de"));
+        QVERIFY(refhost::setLanguage("en"));
+    }
+    QCOMPARE(loaded(), before);
 }
 
 void TestChange::tellsWindowsThatTheLanguageHasChanged()

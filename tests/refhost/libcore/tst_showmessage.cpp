@@ -110,9 +110,9 @@ int TestShowMessage::ask(const Step &step, const QStringList &buttons)
         if (box)
             box->close();
     });
-    return CommonUtils::ShowMessage(QMessageBox::Question, m_parent, "Title", m_text, buttons[0],
-                                    buttons[1], buttons[2], true, Qt::WindowCloseButtonHint,
-                                    m_dialog, QString(), true);
+    return CommonUtils::ShowMessage(
+        QMessageBox::Question, m_parent, "Title", m_text, buttons[0], buttons[1], buttons[2], true,
+        Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint, m_dialog, QString(), true);
 }
 
 void TestShowMessage::isConfirmedByTheFirstButtonOnly_data()
@@ -197,6 +197,7 @@ void TestShowMessage::showsTitleTextAndIcon()
         QCOMPARE(box.text(), QString("Delete the selected connections?"));
         QCOMPARE(box.icon(), QMessageBox::Question);
         QVERIFY(box.windowFlags() & Qt::WindowCloseButtonHint);
+        QVERIFY(box.windowFlags() & Qt::WindowStaysOnTopHint);
         QCOMPARE(box.windowType(), Qt::Dialog);
     });
     QVERIFY(m_wasOpen);
