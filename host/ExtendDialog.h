@@ -12,6 +12,8 @@ enum enWidgetType { enWidgetTypeDialog = 1 };
 /// The host's dialog frame (library libcore): its title bar and styling around
 /// one content widget. It deliberately has no meta-object of its own, so a host
 /// has four symbols to give: constructor, destructor and the two operations.
+/// The plug-in allocates it, so a host's class has no data members of its own;
+/// what it has to keep goes into child objects.
 class HOST_API ExtendDialog : public QDialog
 {
 public:

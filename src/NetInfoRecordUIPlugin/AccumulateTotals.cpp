@@ -60,6 +60,9 @@ AccumulateTotals::Bytes AccumulateTotals::bytesOf(const QString &text)
     const qlonglong whole = text.toLongLong(&isWhole);
     if (isWhole)
         return whole;
+    const qulonglong large = text.toULongLong(&isWhole);
+    if (isWhole)
+        return large;
     const double number = text.toDouble();
     const auto limit = static_cast<double>(std::numeric_limits<quint64>::max());
     return number > -limit && number < limit ? static_cast<Bytes>(number) : 0;

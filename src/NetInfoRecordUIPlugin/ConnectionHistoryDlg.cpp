@@ -233,7 +233,8 @@ void ConnectionHistoryDlg::OnAccumulateClicked()
 {
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 416, now);
 #ifdef NETINFORECORD_WIRE_STATISTICS
-    AccumulateDlg::Instance()->showWindow(m_pContainerWidget);
+    if (m_pContainerWidget) // a dialog without it would outlive the record store
+        AccumulateDlg::Instance()->showWindow(m_pContainerWidget);
 #endif
     Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 425, now);
 }
@@ -480,8 +481,12 @@ ConnectionHistoryDlg::Cells ConnectionHistoryDlg::selectedCells() const
 {
     Cells cells;
     const QModelIndexList indexes = m_pConnectionTblTreeWidget->selectionModel()->selectedIndexes();
-    for (const QModelIndex &index : indexes)
-        cells.append(m_pConnectionTblTreeWidget->item(index.row(), index.column()));
+    for (const QModelIndex &index : indexes) {
+        // What the host has hidden is not what the user has chosen.
+        if (!m_pConnectionTblTreeWidget->isRowHidden(index.row()) &&
+            !m_pConnectionTblTreeWidget->isColumnHidden(index.column()))
+            cells.append(m_pConnectionTblTreeWidget->item(index.row(), index.column()));
+    }
     return cells;
 }
 
@@ -508,6 +513,8 @@ bool ConnectionHistoryDlg::removeCells(const Cells &cells)
 void ConnectionHistoryDlg::removeRows(const QSet<const QTableWidgetItem *> &linkedCells)
 {
     ++m_nTableChanges;
+    // Thousands of selected ranges would each be mended at every removal.
+    m_pConnectionTblTreeWidget->clearSelection();
     // The highest row goes first, so that the lower ones keep their place.
     for (int row = m_pConnectionTblTreeWidget->rowCount() - 1; row >= 0; --row) {
         if (linkedCells.contains(m_pConnectionTblTreeWidget->item(row, 0)))

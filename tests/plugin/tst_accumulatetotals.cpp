@@ -131,6 +131,7 @@ void tst_AccumulateTotals::formatsAmounts_data()
     QTest::newRow("2^53 bytes") << QByteArray("9007199254740992") << "8589934592.00";
     QTest::newRow("2^53 + 2^20 bytes") << QByteArray("9007199255789568") << "8589934593.00";
     QTest::newRow("2^63 - 1 bytes") << QByteArray("9223372036854775807") << "8796093022208.00";
+    QTest::newRow("2^64 - 1 bytes") << QByteArray("18446744073709551615") << "17592186044416.00";
     QTest::newRow("negative") << QByteArray("-1048576") << "-1.00";
     QTest::newRow("with an exponent") << QByteArray("1.048576e6") << "1.00";
     QTest::newRow("no number") << QByteArray("much") << "0.00";

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void changesNothingWhenDeclined_data();
     void changesNothingWhenDeclined();
     void deletesTheSelectedRows();
+    void keepsSelectedRowsThatAreHidden();
     void removesTheHigherRowFirst();
     void removesTheHigherIdentifierFirst();
     void removesTheRowEvenWhereTheSdkKeepsIt();
@@ -195,6 +196,17 @@ void tst_Deletion::deletesTheSelectedRows()
     asked.sort();
     QCOMPARE(asked, removed);
     QCOMPARE(Host::instance().calls.filter("GetAll").size(), 0); // no reload
+}
+
+void tst_Deletion::keepsSelectedRowsThatAreHidden()
+{
+    start(5);
+    const QString hidden = profiles().at(2);
+    m_plugin->table()->setRowHidden(2, true);
+    m_plugin->table()->selectAll();
+    trigger("onDelete");
+    QCOMPARE(profiles(), QStringList{hidden});
+    QCOMPARE(removals().size(), 4);
 }
 
 void tst_Deletion::removesTheHigherRowFirst()
