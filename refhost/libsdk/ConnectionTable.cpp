@@ -196,6 +196,16 @@ std::int64_t ConnectionTable::insert(const Connection &connection)
     return m_database.getLastInsertRowid();
 }
 
+bool ConnectionTable::holds(const std::string &interfaceName, std::int64_t startUtc)
+{
+    SQLite::Statement query(m_database, "SELECT EXISTS (SELECT 1 FROM connection"
+                                        " WHERE start_utc = ? AND interface_name = ?)");
+    query.bind(1, startUtc);
+    query.bind(2, interfaceName);
+    query.executeStep();
+    return query.getColumn(0).getInt() != 0;
+}
+
 std::size_t ConnectionTable::insertMissing(const std::vector<Connection> &connections,
                                            const StatisticsStore::Progress &progress)
 {

@@ -66,6 +66,8 @@ public:
 
     /// Adds the connection, whatever its key, and returns the new key.
     std::int64_t insert(const Connection &connection);
+    /// Whether there is a connection of this interface that began at that time.
+    bool holds(const std::string &interfaceName, std::int64_t startUtc);
     /// Inserts those of `connections` that are not there yet; see
     /// StatisticsStore::addMissing.
     std::size_t insertMissing(const std::vector<Connection> &connections,

@@ -88,6 +88,28 @@ void checkAll(const std::vector<Connection> &connections)
               "connection " + std::to_string(i + 1) + " of " + std::to_string(connections.size()));
 }
 
+void check(const OpenConnection &connection)
+{
+    const std::string whose = "the open connection";
+    checkText(whose, "boot id", connection.bootId, connection.bootId.max_size());
+    checkText(whose, "profile", connection.profile, connection.profile.max_size());
+    checkText(whose, "interface", connection.interfaceName, maximumTextBytes);
+    checkText(whose, "ending", connection.ending, maximumTextBytes);
+    checkRange(whose, "start time", connection.startUtc, maximumTime);
+    checkRange(whose, "time of the last update", connection.updatedUtc, maximumTime);
+    checkRange(whose, "connected time", connection.connectedSeconds, maximumTime);
+    checkRange(whose, "number of bytes sent", connection.uploadedBytes, maximumBytes);
+    checkRange(whose, "number of bytes received", connection.downloadedBytes, maximumBytes);
+}
+
+StoreFailure noSuchOpenConnection(const std::string &path, std::int64_t key)
+{
+    return {Kind::NoSuchRecord, historyAt(path) + " has no open connection with the key " +
+                                    std::to_string(key) +
+                                    "; nothing was changed, another program has finished it or "
+                                    "the file has been replaced."};
+}
+
 StoreFailure noSuchRecord(const std::string &path, std::int64_t key)
 {
     return {Kind::NoSuchRecord, historyAt(path) + " has no record with the key " +
@@ -199,6 +221,55 @@ Result<std::size_t> StatisticsStore::remove(const std::vector<std::int64_t> &key
                     throw noSuchRecord(d->database.path(), key);
             }
             return distinct.size();
+        });
+    });
+}
+
+Result<OpenConnection> StatisticsStore::begin(const OpenConnection &connection)
+{
+    return d->attempt([&] {
+        check(connection);
+        return d->database.write([&](ConnectionTable &) {
+            OpenConnectionTable &table = d->database.openConnections();
+            if (auto earlier = table.find(connection.bootId, connection.interfaceIndex))
+                return *std::move(earlier);
+            OpenConnection stored = connection;
+            stored.key = table.insert(connection);
+            return stored;
+        });
+    });
+}
+
+Result<std::int64_t> StatisticsStore::checkpoint(const OpenConnection &connection)
+{
+    return d->attempt([&] {
+        check(connection);
+        return d->database.write([&](ConnectionTable &) {
+            if (!d->database.openConnections().update(connection))
+                throw noSuchOpenConnection(d->database.path(), connection.key);
+            return connection.key;
+        });
+    });
+}
+
+Result<std::int64_t> StatisticsStore::finish(std::int64_t openKey, const Connection &connection)
+{
+    return d->attempt([&] {
+        check(connection, "the connection");
+        return d->database.write([&](ConnectionTable &table) -> std::int64_t {
+            const bool wasOpen = d->database.openConnections().remove(openKey);
+            if (!wasOpen && table.holds(connection.interfaceName, connection.startUtc))
+                return 0;
+            return table.insert(connection);
+        });
+    });
+}
+
+Result<std::vector<OpenConnection>> StatisticsStore::listOpen() const
+{
+    return d->attempt([&] {
+        return d->database.read(std::vector<OpenConnection>(), [&](ConnectionTable &) {
+            return d->database.openConnections().all();
         });
     });
 }

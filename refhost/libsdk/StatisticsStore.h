@@ -29,6 +29,30 @@ struct Connection {
     std::string interfaceName;     ///< network interface, at most 31 bytes; may be empty
 };
 
+/// A connection from the moment it begins until it is finished, as the store
+/// keeps it for the case that its recorder ends first. It belongs to one link of
+/// one run of the system: an interface of the same name that is made anew has
+/// another index, and after a restart the boot id is another one. Values have
+/// the units and ranges of Connection unless a line says otherwise.
+struct OpenConnection {
+    std::int64_t key = 0;            ///< given by the store, never used twice; 0 before that
+    std::string bootId;              ///< /proc/sys/kernel/random/boot_id
+    std::int64_t interfaceIndex = 0; ///< the kernel's number of the interface
+    std::string interfaceName;       ///< may change while the connection lasts
+    std::string profile;             ///< may change while the connection lasts
+    std::int64_t startUtc = 0;
+    std::int64_t startBootMilliseconds = 0; ///< CLOCK_BOOTTIME at the start
+    /// What the interface's counters show minus this is what the connection has
+    /// moved: their values at the start, less (below 0 even) after a reset.
+    std::int64_t baseUploaded = 0;
+    std::int64_t baseDownloaded = 0;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+    std::int64_t updatedUtc = 0; ///< when these values were true
+    std::int64_t connectedSeconds = 0;
+    std::string ending = "normal"; ///< what it is to end with, unless something happens
+};
+
 /// The history of connections in one SQLite file. A store is used on one thread;
 /// several processes may use the same file at once. No operation throws.
 class HOST_API StatisticsStore
@@ -67,6 +91,22 @@ public:
 
     /// Removes the connections with these keys, all or none.
     Result<std::size_t> remove(const std::vector<std::int64_t> &keys);
+
+    /// Stores a connection that has begun. A link has one open connection at
+    /// most: if there is one already, of an earlier process or another one that
+    /// records the same link, nothing is stored. Returns what the store holds
+    /// then, with its key. It is in no list before it is finished.
+    Result<OpenConnection> begin(const OpenConnection &connection);
+    /// Brings an open connection up to date: its names, base, totals, last update
+    /// and ending; by its key, which is returned.
+    Result<std::int64_t> checkpoint(const OpenConnection &connection);
+    /// Turns the open connection with this key into the finished one that is
+    /// given, both at once, and returns the finished one's key. If it is open no
+    /// longer, another process may have finished it: then the connection is added
+    /// unless one of the same interface and start is there, which gives 0.
+    Result<std::int64_t> finish(std::int64_t openKey, const Connection &connection);
+    /// The connections that have begun and not been finished, by key.
+    Result<std::vector<OpenConnection>> listOpen() const;
 
 private:
     class Private;

@@ -77,6 +77,7 @@ void StoreDatabase::connect()
         m_database->tryExec("PRAGMA journal_mode = WAL");
         m_database->exec("PRAGMA synchronous = NORMAL");
         m_table = std::make_unique<ConnectionTable>(*m_database);
+        m_openConnections = std::make_unique<OpenConnectionTable>(*m_database);
         m_file = fileAt(m_path);
     } catch (const SQLite::Exception &exception) {
         const StoreFailure reason = failure(Access::Opening, exception);
@@ -91,6 +92,7 @@ void StoreDatabase::connect()
 void StoreDatabase::close()
 {
     m_table.reset();
+    m_openConnections.reset();
     m_database.reset();
     m_file.reset();
     m_isChecked = false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ConnectionTable.h"
+#include "OpenConnectionTable.h"
 #include "StoreFailure.h"
 #include "StoreFile.h"
 
@@ -36,6 +37,10 @@ public:
     /// Opens the file, or another one that has taken its place; false when there
     /// is none and none is to be made.
     bool open();
+
+    /// The connections that are not finished yet; to be used by the operations
+    /// given to read() and write(), in whose transaction it then works.
+    OpenConnectionTable &openConnections() { return *m_openConnections; }
 
     /// Calls `operation` with the table in one read transaction; without a file
     /// the answer is `ifNotThere`.
@@ -89,6 +94,7 @@ private:
     IfMissing m_ifMissing;
     std::unique_ptr<SQLite::Database> m_database;
     std::unique_ptr<ConnectionTable> m_table;
+    std::unique_ptr<OpenConnectionTable> m_openConnections;
     std::optional<FileIdentity> m_file;
     bool m_isChecked = false;
 };

@@ -87,6 +87,25 @@ const SchemaSteps &storeSchema()
         CREATE INDEX connection_by_start ON connection (start_utc);
         CREATE INDEX connection_by_end ON connection (end_utc);
         )",
+        R"(
+        CREATE TABLE open_connection (
+            key INTEGER PRIMARY KEY AUTOINCREMENT,
+            boot_id TEXT NOT NULL,
+            interface_index INTEGER NOT NULL,
+            interface_name TEXT NOT NULL,
+            profile TEXT NOT NULL,
+            start_utc INTEGER NOT NULL,
+            start_boot_ms INTEGER NOT NULL,
+            base_uploaded INTEGER NOT NULL,
+            base_downloaded INTEGER NOT NULL,
+            uploaded_bytes INTEGER NOT NULL,
+            downloaded_bytes INTEGER NOT NULL,
+            updated_utc INTEGER NOT NULL,
+            connected_seconds INTEGER NOT NULL,
+            ending TEXT NOT NULL,
+            UNIQUE (boot_id, interface_index)
+        ) STRICT;
+        )",
     };
     return steps;
 }

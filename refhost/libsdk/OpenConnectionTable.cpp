@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "OpenConnectionTable.h"
+
+#include <SQLiteCpp/Column.h>
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+
+namespace refhost
+{
+
+namespace
+{
+
+constexpr const char *selection =
+    "SELECT key, boot_id, interface_index, interface_name, profile, start_utc, start_boot_ms,"
+    " base_uploaded, base_downloaded, uploaded_bytes, downloaded_bytes, updated_utc,"
+    " connected_seconds, ending FROM open_connection ";
+
+OpenConnection connectionIn(SQLite::Statement &row)
+{
+    OpenConnection connection;
+    connection.key = row.getColumn(0).getInt64();
+    connection.bootId = row.getColumn(1).getString();
+    connection.interfaceIndex = row.getColumn(2).getInt64();
+    connection.interfaceName = row.getColumn(3).getString();
+    connection.profile = row.getColumn(4).getString();
+    connection.startUtc = row.getColumn(5).getInt64();
+    connection.startBootMilliseconds = row.getColumn(6).getInt64();
+    connection.baseUploaded = row.getColumn(7).getInt64();
+    connection.baseDownloaded = row.getColumn(8).getInt64();
+    connection.uploadedBytes = row.getColumn(9).getInt64();
+    connection.downloadedBytes = row.getColumn(10).getInt64();
+    connection.updatedUtc = row.getColumn(11).getInt64();
+    connection.connectedSeconds = row.getColumn(12).getInt64();
+    connection.ending = row.getColumn(13).getString();
+    return connection;
+}
+
+/// Binds what can change while a connection lasts to parameters 1 to 9.
+void bindProgress(SQLite::Statement &statement, const OpenConnection &connection)
+{
+    statement.bind(1, connection.interfaceName);
+    statement.bind(2, connection.profile);
+    statement.bind(3, connection.baseUploaded);
+    statement.bind(4, connection.baseDownloaded);
+    statement.bind(5, connection.uploadedBytes);
+    statement.bind(6, connection.downloadedBytes);
+    statement.bind(7, connection.updatedUtc);
+    statement.bind(8, connection.connectedSeconds);
+    statement.bind(9, connection.ending);
+}
+
+} // namespace
+
+OpenConnectionTable::OpenConnectionTable(SQLite::Database &database)
+    : m_database(database)
+{
+}
+
+std::vector<OpenConnection> OpenConnectionTable::all()
+{
+    SQLite::Statement query(m_database, std::string(selection) + "ORDER BY key");
+    std::vector<OpenConnection> connections;
+    while (query.executeStep())
+        connections.push_back(connectionIn(query));
+    return connections;
+}
+
+std::optional<OpenConnection> OpenConnectionTable::find(const std::string &bootId,
+                                                        std::int64_t interfaceIndex)
+{
+    SQLite::Statement query(m_database,
+                            std::string(selection) + "WHERE boot_id = ? AND interface_index = ?");
+    query.bind(1, bootId);
+    query.bind(2, interfaceIndex);
+    if (!query.executeStep())
+        return std::nullopt;
+    return connectionIn(query);
+}
+
+std::int64_t OpenConnectionTable::insert(const OpenConnection &connection)
+{
+    SQLite::Statement statement(
+        m_database, "INSERT INTO open_connection (interface_name, profile, base_uploaded,"
+                    " base_downloaded, uploaded_bytes, downloaded_bytes, updated_utc,"
+                    " connected_seconds, ending, boot_id, interface_index, start_utc,"
+                    " start_boot_ms) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+    bindProgress(statement, connection);
+    statement.bind(10, connection.bootId);
+    statement.bind(11, connection.interfaceIndex);
+    statement.bind(12, connection.startUtc);
+    statement.bind(13, connection.startBootMilliseconds);
+    statement.exec();
+    return m_database.getLastInsertRowid();
+}
+
+bool OpenConnectionTable::update(const OpenConnection &connection)
+{
+    SQLite::Statement statement(
+        m_database, "UPDATE open_connection SET interface_name = ?, profile = ?,"
+                    " base_uploaded = ?, base_downloaded = ?, uploaded_bytes = ?,"
+                    " downloaded_bytes = ?, updated_utc = ?, connected_seconds = ?, ending = ?"
+                    " WHERE key = ?");
+    bindProgress(statement, connection);
+    statement.bind(10, connection.key);
+    return statement.exec() == 1;
+}
+
+bool OpenConnectionTable::remove(std::int64_t key)
+{
+    SQLite::Statement statement(m_database, "DELETE FROM open_connection WHERE key = ?");
+    statement.bind(1, key);
+    return statement.exec() == 1;
+}
+
+} // namespace refhost
