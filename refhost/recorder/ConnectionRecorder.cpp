@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include "ConnectionRecorder.h"
+
+#include "LinkMonitor.h"
+#include "LiveConnection.h"
+#include "RecordBook.h"
+#include "SystemClock.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace refhost
+{
+
+namespace
+{
+
+constexpr std::chrono::seconds tickInterval(1);
+constexpr int ticksPerCheckpoint = 5;
+
+bool isMobile(const std::string &interfaceName)
+{
+    return interfaceName.rfind("ppp", 0) == 0 || interfaceName.rfind("wwan", 0) == 0;
+}
+
+/// Queued, so that a listener that opens a dialog does not hold up or re-enter
+/// what is being recorded.
+template <typename Emission>
+void later(QObject *sender, Emission emission)
+{
+    QMetaObject::invokeMethod(sender, emission, Qt::QueuedConnection);
+}
+
+} // namespace
+
+ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
+                                       QObject *parent)
+    : ConnectionRecorder(storePath, interfaceNames, std::make_unique<LinkMonitor>(),
+                         std::make_unique<SystemClock>(), parent)
+{
+}
+
+ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
+                                       std::unique_ptr<LinkSource> links,
+                                       std::unique_ptr<SystemClock> clock, QObject *parent)
+    : QObject(parent)
+    , m_storePath(storePath)
+    , m_interfaceNames(interfaceNames)
+    , m_links(links.release())
+    , m_clock(std::move(clock))
+    , m_bootId(currentBootId())
+    , m_timer(this)
+{
+    qRegisterMetaType<refhost::Connection>();
+    qRegisterMetaType<refhost::ConnectionState>();
+    m_links->setParent(this);
+    connect(m_links, &LinkSource::failed, this, [this](const QString &reason) {
+        later(this, [this, reason] { emit failed(reason); });
+    });
+    m_timer.setInterval(tickInterval);
+    connect(&m_timer, &QTimer::timeout, this, &ConnectionRecorder::tick);
+}
+
+ConnectionRecorder::~ConnectionRecorder()
+{
+    saveAll();
+}
+
+bool ConnectionRecorder::start()
+{
+    if (!openBook() || !m_links->start())
+        return false;
+    m_book->recoverEarlierConnections();
+    for (const Link &link : m_links->links())
+        handleChange({link, false, false});
+    connect(m_links, &LinkSource::linkChanged, this, &ConnectionRecorder::handleChange);
+    m_timer.start();
+    return true;
+}
+
+bool ConnectionRecorder::openBook()
+{
+    const auto fail = [this](const QString &reason) {
+        later(this, [this, reason] { emit failed(reason); });
+    };
+    if (m_bootId.empty()) {
+        fail(
+            QStringLiteral("\"/proc/sys/kernel/random/boot_id\" cannot be read, so connections are "
+                           "not recorded; mount /proc and start the program again."));
+        return false;
+    }
+    auto store = StatisticsStore::openOrCreate(m_storePath.toStdString());
+    if (!store) {
+        fail(QString::fromStdString(store.error().message));
+        return false;
+    }
+    const auto finished = [this](const Connection &connection) {
+        later(this, [this, connection] { emit disconnected(connection); });
+    };
+    const auto failedToWrite = [fail](const StoreError &error) {
+        fail(QString::fromStdString(error.message));
+    };
+    m_book = std::make_unique<RecordBook>(
+        std::move(store.value()), m_bootId,
+        [this](std::int64_t linkIndex) { return isConnected(linkIndex); },
+        RecordBook::Listener{finished, failedToWrite});
+    return true;
+}
+
+void ConnectionRecorder::setProfileName(const QString &name)
+{
+    m_profileName = name;
+    for (auto &entry : m_live)
+        entry.second.setProfile(profileFor(entry.second.row().interfaceName));
+}
+
+void ConnectionRecorder::handleChange(const LinkChange &change)
+{
+    const auto live = m_live.find(change.link.index);
+    if (live != m_live.end())
+        handleLiveChange(live->second, change);
+    else if (!change.isGone && change.link.isConnected() && isWatched(change.link.name))
+        begin(change.link, change.link.idleCounters);
+}
+
+void ConnectionRecorder::handleLiveChange(LiveConnection &connection, const LinkChange &change)
+{
+    const bool isStillConnected = !change.isGone && change.link.isConnected();
+    connection.setInterfaceName(change.link.name);
+    if (!isStillConnected)
+        connection.end(now());
+    if (change.hasFreshCounters)
+        connection.advance(change.link.counters, now());
+    if (!connection.hasEnded())
+        return report(connection);
+    if (!change.hasFreshCounters && !change.isGone)
+        return m_links->requestCounters(change.link.index);
+    finish(connection, change.hasFreshCounters);
+    // What came back before the final counters of the former connection did
+    // begins where those end.
+    if (isStillConnected)
+        begin(change.link, change.link.counters);
+}
+
+void ConnectionRecorder::begin(const Link &link, const LinkCounters &base)
+{
+    const Moment moment = now();
+    const auto [live, isNew] =
+        m_live.try_emplace(link.index, m_bootId, profileFor(link.name), link, base, moment);
+    LiveConnection &connection = live->second;
+    m_book->save(connection, moment);
+    // What an earlier process has recorded may bear another profile.
+    if (!m_profileName.isEmpty())
+        connection.setProfile(m_profileName.toStdString());
+    later(this, [this, state = stateOf(connection)] { emit connected(state); });
+}
+
+void ConnectionRecorder::finish(LiveConnection &connection, bool hasFinalCounters)
+{
+    m_book->finish(connection, hasFinalCounters);
+    m_live.erase(connection.linkIndex());
+}
+
+void ConnectionRecorder::report(LiveConnection &connection)
+{
+    if (connection.isCheckpointDue)
+        m_book->save(connection, now());
+    connection.isCheckpointDue = false;
+    if (connection.isStateDue)
+        later(this, [this, state = stateOf(connection)] { emit stateChanged(state); });
+    connection.isStateDue = false;
+}
+
+void ConnectionRecorder::tick()
+{
+    m_ticks = (m_ticks + 1) % ticksPerCheckpoint;
+    const bool isCheckpoint = m_ticks == 0;
+    if (isCheckpoint && m_book->isBehind())
+        m_book->catchUp();
+    for (auto &entry : m_live) {
+        entry.second.isStateDue = true;
+        entry.second.isCheckpointDue |= isCheckpoint;
+    }
+    requestCounters();
+}
+
+/// Of what is watched and up even without a connection: the next one begins
+/// with the counters known last, which must not be old then.
+void ConnectionRecorder::requestCounters()
+{
+    for (const Link &link : m_links->links()) {
+        if (m_live.count(link.index) != 0 || (link.isUp && isWatched(link.name)))
+            m_links->requestCounters(link.index);
+    }
+}
+
+void ConnectionRecorder::saveAll()
+{
+    for (auto &entry : m_live)
+        m_book->save(entry.second, now());
+}
+
+bool ConnectionRecorder::isWatched(const std::string &interfaceName) const
+{
+    return isMobile(interfaceName) ||
+           m_interfaceNames.contains(QString::fromStdString(interfaceName));
+}
+
+bool ConnectionRecorder::isConnected(std::int64_t linkIndex) const
+{
+    const auto links = m_links->links();
+    return std::any_of(links.begin(), links.end(), [linkIndex](const Link &link) {
+        return link.index == linkIndex && link.isConnected();
+    });
+}
+
+std::string ConnectionRecorder::profileFor(const std::string &interfaceName) const
+{
+    return m_profileName.isEmpty() ? interfaceName : m_profileName.toStdString();
+}
+
+ConnectionState ConnectionRecorder::stateOf(LiveConnection &connection) const
+{
+    const OpenConnection &row = connection.row();
+    const LinkCounters rate = connection.takeRate(now());
+    ConnectionState state;
+    state.profile = QString::fromStdString(row.profile);
+    state.interfaceName = QString::fromStdString(row.interfaceName);
+    state.since = QDateTime::fromSecsSinceEpoch(row.startUtc, Qt::UTC);
+    state.uploadedBytes = row.uploadedBytes;
+    state.downloadedBytes = row.downloadedBytes;
+    state.uploadRate = rate.uploaded;
+    state.downloadRate = rate.downloaded;
+    return state;
+}
+
+Moment ConnectionRecorder::now() const
+{
+    return {m_clock->utcSeconds(), m_clock->bootMilliseconds()};
+}
+
+} // namespace refhost

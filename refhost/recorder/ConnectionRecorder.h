@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "StatisticsStore.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+#include <map>
+#include <memory>
+#include <string>
+
+namespace refhost
+{
+
+class LinkSource;
+class LiveConnection;
+class RecordBook;
+class SystemClock;
+struct Link;
+struct LinkChange;
+struct LinkCounters;
+struct Moment;
+
+/// A connection that lasts, as it is at the moment.
+struct ConnectionState {
+    QString profile;
+    QString interfaceName;
+    QDateTime since; ///< in UTC
+    qint64 uploadedBytes = 0;
+    qint64 downloadedBytes = 0;
+    qint64 uploadRate = 0; ///< bytes per second since the last report
+    qint64 downloadRate = 0;
+};
+
+/// Records the connections of mobile interfaces (ppp*, wwan*) and of those that
+/// are named, to the byte: an interface is connected while it is up, running and
+/// has an address (see Link::isConnected). Its record lies in the store from the
+/// first moment, is brought up to date every five seconds and gets the kernel's
+/// final counters at the end. Connections that an earlier process left open are
+/// gone on with if their link is still connected, else closed at their last
+/// update and marked "recovered".
+///
+/// An interface of that index is one link: one that is renamed stays the same,
+/// one that is made anew under the same name is another. Start and end are the
+/// wall clock's; if that was set back behind the start meanwhile, the end is the
+/// start plus the time connected, which is measured by a clock that never jumps
+/// and counts suspend.
+///
+/// Signals come from the event loop, never from within a call, one after the
+/// other. Everything happens on the thread that the recorder lives in, which may
+/// be one of its own (moveToThread before start()): a store that another program
+/// keeps locked can block it for seconds.
+class ConnectionRecorder : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Records into the store at `storePath`. Does nothing before start().
+    explicit ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames = {},
+                                QObject *parent = nullptr);
+    /// The same with another source of news about links and other clocks.
+    ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
+                       std::unique_ptr<LinkSource> links, std::unique_ptr<SystemClock> clock,
+                       QObject *parent = nullptr);
+    /// Leaves what is connected open in the store, for the next start to go on with.
+    ~ConnectionRecorder() override;
+
+public slots:
+    /// Opens the store, settles what earlier processes left open, and begins to
+    /// watch; false, with failed(), if that is not possible. To be called once.
+    bool start();
+
+    /// Names the profile of present and coming connections; with an empty name,
+    /// as in the beginning, each bears its interface's.
+    void setProfileName(const QString &name);
+
+signals:
+    void connected(const refhost::ConnectionState &state);
+    /// The connection is finished in the store already.
+    void disconnected(const refhost::Connection &connection);
+    /// Once a second for each connection that lasts.
+    void stateChanged(const refhost::ConnectionState &state);
+    /// One sentence for the user. What could not be written is kept and tried
+    /// again; each reason is told once.
+    void failed(const QString &reason);
+
+private:
+    void handleChange(const LinkChange &change);
+    void handleLiveChange(LiveConnection &connection, const LinkChange &change);
+    void begin(const Link &link, const LinkCounters &base);
+    void finish(LiveConnection &connection, bool hasFinalCounters);
+    void report(LiveConnection &connection);
+    void tick();
+    void requestCounters();
+    void saveAll();
+    bool openBook();
+    bool isWatched(const std::string &interfaceName) const;
+    bool isConnected(std::int64_t linkIndex) const;
+    std::string profileFor(const std::string &interfaceName) const;
+    ConnectionState stateOf(LiveConnection &connection) const;
+    Moment now() const;
+
+    const QString m_storePath;
+    const QStringList m_interfaceNames;
+    QString m_profileName;
+    LinkSource *const m_links; ///< a child
+    const std::unique_ptr<SystemClock> m_clock;
+    std::unique_ptr<RecordBook> m_book;
+    std::map<int, LiveConnection> m_live; ///< by the link's index
+    std::string m_bootId;
+    QTimer m_timer;
+    int m_ticks = 0;
+};
+
+} // namespace refhost
+
+Q_DECLARE_METATYPE(refhost::Connection)
+Q_DECLARE_METATYPE(refhost::ConnectionState)

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "LinkMessage.h"
+
+#include <libmnl/libmnl.h>
+#include <linux/if_addr.h>
+#include <linux/if_link.h>
+#include <linux/rtnetlink.h>
+#include <net/if.h>
+#include <net/if_arp.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <limits>
+
+namespace refhost
+{
+
+namespace
+{
+
+/// The message's fixed part, or null if it is too short for it.
+template <typename Header>
+const Header *headerOf(const nlmsghdr &message)
+{
+    return mnl_nlmsg_get_payload_len(&message) >= sizeof(Header)
+               ? static_cast<const Header *>(mnl_nlmsg_get_payload(&message))
+               : nullptr;
+}
+
+template <typename Header, typename Visit>
+void visitAttributes(const nlmsghdr &message, Visit visit)
+{
+    const auto callback = [](const nlattr *attribute, void *visitor) {
+        (*static_cast<Visit *>(visitor))(*attribute);
+        return MNL_CB_OK;
+    };
+    mnl_attr_parse(&message, sizeof(Header), callback, &visit);
+}
+
+std::string bytesOf(const nlattr &attribute)
+{
+    return {static_cast<const char *>(mnl_attr_get_payload(&attribute)),
+            mnl_attr_get_payload_len(&attribute)};
+}
+
+/// The text up to its terminator, if it has one.
+std::string textOf(const nlattr &attribute)
+{
+    const std::string bytes = bytesOf(attribute);
+    return bytes.substr(0, bytes.find('\0'));
+}
+
+/// A counter of the kernel's statistics, which may lie at odd addresses.
+std::int64_t counterAt(const nlattr &statistics, std::size_t offset)
+{
+    std::uint64_t value = 0;
+    std::memcpy(&value, static_cast<const char *>(mnl_attr_get_payload(&statistics)) + offset,
+                sizeof(value));
+    constexpr std::uint64_t maximum = std::numeric_limits<std::int64_t>::max();
+    return static_cast<std::int64_t>(std::min(value, maximum));
+}
+
+std::optional<LinkCounters> countersIn(const nlattr &statistics)
+{
+    constexpr std::size_t sent = offsetof(rtnl_link_stats64, tx_bytes);
+    constexpr std::size_t received = offsetof(rtnl_link_stats64, rx_bytes);
+    static_assert(sent > received);
+    // Newer kernels append counters, so only the ones in use must be there.
+    if (mnl_attr_get_payload_len(&statistics) < sent + sizeof(std::uint64_t))
+        return std::nullopt;
+    return LinkCounters{counterAt(statistics, sent), counterAt(statistics, received)};
+}
+
+std::optional<LinkNews> parseLink(const nlmsghdr &message)
+{
+    const auto *const header = headerOf<ifinfomsg>(message);
+    if (!header || header->ifi_family != AF_UNSPEC)
+        return std::nullopt;
+    LinkReport report;
+    report.index = header->ifi_index;
+    report.isGone = message.nlmsg_type == RTM_DELLINK;
+    report.isUp = (header->ifi_flags & IFF_UP) != 0;
+    report.isRunning = (header->ifi_flags & IFF_RUNNING) != 0;
+    report.isPpp = header->ifi_type == ARPHRD_PPP;
+    visitAttributes<ifinfomsg>(message, [&](const nlattr &attribute) {
+        if (mnl_attr_get_type(&attribute) == IFLA_IFNAME)
+            report.name = textOf(attribute);
+        else if (mnl_attr_get_type(&attribute) == IFLA_STATS64)
+            report.counters = countersIn(attribute);
+    });
+    return report;
+}
+
+bool isIpv6LinkLocal(int family, const std::string &address)
+{
+    return family == AF_INET6 && address.size() == 16 && address[0] == '\xfe' &&
+           (static_cast<unsigned char>(address[1]) & 0xc0U) == 0x80U;
+}
+
+/// An address that is still being checked cannot be used, one that turned out
+/// to be a duplicate never.
+bool isUsable(unsigned flags)
+{
+    const bool isUnchecked = (flags & IFA_F_TENTATIVE) != 0 && (flags & IFA_F_OPTIMISTIC) == 0;
+    return !isUnchecked && (flags & IFA_F_DADFAILED) == 0;
+}
+
+std::optional<LinkNews> parseAddress(const nlmsghdr &message)
+{
+    const auto *const header = headerOf<ifaddrmsg>(message);
+    if (!header)
+        return std::nullopt;
+    // On a point-to-point link, the address is the peer's and the local one is
+    // this machine's; elsewhere only one of them may be there.
+    std::string address;
+    std::string local;
+    visitAttributes<ifaddrmsg>(message, [&](const nlattr &attribute) {
+        if (mnl_attr_get_type(&attribute) == IFA_ADDRESS)
+            address = bytesOf(attribute);
+        else if (mnl_attr_get_type(&attribute) == IFA_LOCAL)
+            local = bytesOf(attribute);
+    });
+    const std::string &own = local.empty() ? address : local;
+    AddressReport report;
+    report.linkIndex = static_cast<int>(header->ifa_index);
+    report.address = std::string{static_cast<char>(header->ifa_family),
+                                 static_cast<char>(header->ifa_prefixlen)} +
+                     own + address;
+    report.isThere = message.nlmsg_type == RTM_NEWADDR && isUsable(header->ifa_flags);
+    report.isIpv6LinkLocal = isIpv6LinkLocal(header->ifa_family, own);
+    return report;
+}
+
+} // namespace
+
+std::optional<LinkNews> parseLinkMessage(const nlmsghdr &message)
+{
+    switch (message.nlmsg_type) {
+    case RTM_NEWLINK:
+    case RTM_DELLINK:
+        return parseLink(message);
+    case RTM_NEWADDR:
+    case RTM_DELADDR:
+        return parseAddress(message);
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace refhost

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "LinkTable.h"
+
+#include <algorithm>
+
+namespace refhost
+{
+
+bool Link::isConnected() const
+{
+    return isUp && isRunning &&
+           std::any_of(addresses.begin(), addresses.end(), [this](const auto &entry) {
+               return isPpp || !entry.second.isIpv6LinkLocal;
+           });
+}
+
+std::optional<LinkChange> LinkTable::apply(const LinkReport &report)
+{
+    if (report.isGone && m_links.count(report.index) == 0)
+        return std::nullopt;
+    Link &link = linkFor(report);
+    // Taken from the message before: what has passed since belongs to the
+    // connection that this message may tell of.
+    if (!link.isConnected())
+        link.idleCounters = link.counters;
+    link.name = report.name.empty() ? link.name : report.name;
+    link.isUp = report.isUp;
+    link.isRunning = report.isRunning;
+    link.isPpp = report.isPpp;
+    link.counters = report.counters.value_or(link.counters);
+    link.listing = m_listing;
+    const LinkChange change = {link, report.isGone, report.counters.has_value()};
+    if (report.isGone)
+        m_links.erase(report.index);
+    return change;
+}
+
+Link &LinkTable::linkFor(const LinkReport &report)
+{
+    const auto [found, isNew] = m_links.try_emplace(report.index);
+    if (isNew) {
+        found->second.index = report.index;
+        found->second.counters = countersBeforeFirstSight(report);
+    }
+    return found->second;
+}
+
+/// A link in the first listing may have lived long before, unless it is a PPP one,
+/// which is made for its connection. One that a later listing shows was made
+/// while messages were lost. In both cases all that it has moved is new.
+LinkCounters LinkTable::countersBeforeFirstSight(const LinkReport &report) const
+{
+    const bool isMadeForItsConnection = report.isPpp || m_listing > 1;
+    return m_isListing && isMadeForItsConnection ? LinkCounters()
+                                                 : report.counters.value_or(LinkCounters());
+}
+
+std::optional<LinkChange> LinkTable::apply(const AddressReport &report)
+{
+    const auto found = m_links.find(report.linkIndex);
+    if (found == m_links.end())
+        return std::nullopt;
+    Link &link = found->second;
+    // A listing tells of addresses after the links, long after they came.
+    if (!link.isConnected() && !m_isListing)
+        link.idleCounters = link.counters;
+    if (report.isThere)
+        link.addresses[report.address] = {report.isIpv6LinkLocal, m_listing};
+    else
+        link.addresses.erase(report.address);
+    return LinkChange{link, false, false};
+}
+
+void LinkTable::beginListing()
+{
+    ++m_listing;
+    m_isListing = true;
+}
+
+std::vector<LinkChange> LinkTable::endListing()
+{
+    m_isListing = false;
+    std::vector<LinkChange> changes;
+    for (auto entry = m_links.begin(); entry != m_links.end();) {
+        Link &link = entry->second;
+        const bool isGone = link.listing != m_listing;
+        const std::size_t addressesBefore = link.addresses.size();
+        for (auto address = link.addresses.begin(); address != link.addresses.end();)
+            address = address->second.listing == m_listing ? std::next(address)
+                                                           : link.addresses.erase(address);
+        if (isGone || link.addresses.size() != addressesBefore)
+            changes.push_back({link, isGone, false});
+        entry = isGone ? m_links.erase(entry) : std::next(entry);
+    }
+    return changes;
+}
+
+std::vector<Link> LinkTable::links() const
+{
+    std::vector<Link> links;
+    for (const auto &entry : m_links)
+        links.push_back(entry.second);
+    return links;
+}
+
+} // namespace refhost

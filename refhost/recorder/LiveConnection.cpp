@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "LiveConnection.h"
+
+#include <algorithm>
+
+namespace refhost
+{
+
+namespace
+{
+
+constexpr const char *endedNormally = "normal";
+constexpr const char *endedByRecovery = "recovered";
+constexpr const char *endedAfterReset = "counter reset";
+
+/// The range of times that the store takes; a clock may have been set beyond it.
+constexpr std::int64_t maximumSeconds = 2147483647;
+
+std::int64_t storableSeconds(std::int64_t seconds)
+{
+    return std::clamp(seconds, std::int64_t{0}, maximumSeconds);
+}
+
+/// Brings a total up to date; false if the counter has gone backwards.
+bool advanceTotal(std::int64_t counter, std::int64_t &base, std::int64_t &total)
+{
+    if (counter - base >= total) {
+        total = counter - base;
+        return true;
+    }
+    base = counter - total;
+    return false;
+}
+
+std::int64_t perSecond(std::int64_t bytes, std::int64_t milliseconds)
+{
+    // Bytes of hours at any speed stay far below the range of the product.
+    return milliseconds > 0 ? bytes * 1000 / milliseconds : 0;
+}
+
+Connection finishedFrom(const OpenConnection &row, const std::string &ending)
+{
+    Connection connection;
+    connection.profile = row.profile;
+    connection.startUtc = row.startUtc;
+    connection.endUtc = row.updatedUtc;
+    connection.connectedSeconds = row.connectedSeconds;
+    connection.uploadedBytes = row.uploadedBytes;
+    connection.downloadedBytes = row.downloadedBytes;
+    connection.ending = ending;
+    connection.interfaceName = row.interfaceName;
+    return connection;
+}
+
+} // namespace
+
+LiveConnection::LiveConnection(const std::string &bootId, const std::string &profile,
+                               const Link &link, const LinkCounters &base, const Moment &now)
+    : m_rateMilliseconds(now.bootMilliseconds)
+{
+    m_row.bootId = bootId;
+    m_row.interfaceIndex = link.index;
+    m_row.interfaceName = link.name;
+    m_row.profile = profile;
+    m_row.startUtc = storableSeconds(now.utcSeconds);
+    m_row.startBootMilliseconds = now.bootMilliseconds;
+    // Some interfaces start to count anew when they are switched on, which is no
+    // reset in the middle of a connection.
+    m_row.baseUploaded = std::min(base.uploaded, link.counters.uploaded);
+    m_row.baseDownloaded = std::min(base.downloaded, link.counters.downloaded);
+    m_row.ending = endedNormally;
+    advance(link.counters, now);
+}
+
+void LiveConnection::adopt(const OpenConnection &stored, const Moment &now)
+{
+    const std::string name = m_row.interfaceName;
+    m_row = stored;
+    m_row.interfaceName = name;
+    m_rateTotals = {stored.uploadedBytes, stored.downloadedBytes};
+    advance(m_counters, now);
+}
+
+void LiveConnection::advance(const LinkCounters &counters, const Moment &now)
+{
+    m_counters = counters;
+    const bool hasGoneUp = advanceTotal(counters.uploaded, m_row.baseUploaded, m_row.uploadedBytes);
+    const bool hasGoneDown =
+        advanceTotal(counters.downloaded, m_row.baseDownloaded, m_row.downloadedBytes);
+    if (!hasGoneUp || !hasGoneDown)
+        m_row.ending = endedAfterReset;
+    updateTimes(now);
+}
+
+void LiveConnection::end(const Moment &now)
+{
+    updateTimes(now);
+    m_hasEnded = true;
+}
+
+Connection LiveConnection::finished(bool hasFinalCounters) const
+{
+    return hasFinalCounters ? finishedFrom(m_row, m_row.ending) : recovered(m_row);
+}
+
+LinkCounters LiveConnection::takeRate(const Moment &now)
+{
+    const std::int64_t milliseconds = now.bootMilliseconds - m_rateMilliseconds;
+    const LinkCounters rate = {
+        perSecond(m_row.uploadedBytes - m_rateTotals.uploaded, milliseconds),
+        perSecond(m_row.downloadedBytes - m_rateTotals.downloaded, milliseconds)};
+    m_rateTotals = {m_row.uploadedBytes, m_row.downloadedBytes};
+    m_rateMilliseconds = now.bootMilliseconds;
+    return rate;
+}
+
+/// A wall clock that has been set back behind the start says nothing about the
+/// end; the start and the time connected do.
+void LiveConnection::updateTimes(const Moment &now)
+{
+    if (m_hasEnded)
+        return;
+    m_row.connectedSeconds =
+        storableSeconds((now.bootMilliseconds - m_row.startBootMilliseconds) / 1000);
+    m_row.updatedUtc = storableSeconds(
+        now.utcSeconds < m_row.startUtc ? m_row.startUtc + m_row.connectedSeconds : now.utcSeconds);
+}
+
+Connection recovered(const OpenConnection &row)
+{
+    return finishedFrom(row, endedByRecovery);
+}
+
+} // namespace refhost

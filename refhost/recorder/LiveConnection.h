@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "LinkTable.h"
+#include "StatisticsStore.h"
+
+#include <cstdint>
+#include <string>
+
+namespace refhost
+{
+
+/// One moment on both clocks.
+struct Moment {
+    std::int64_t utcSeconds = 0;
+    std::int64_t bootMilliseconds = 0;
+};
+
+/// A connection while it lasts: what its link's counters and the clocks make of it.
+class LiveConnection
+{
+public:
+    /// One that begins now on a link whose counters showed `base` before.
+    LiveConnection(const std::string &bootId, const std::string &profile, const Link &link,
+                   const LinkCounters &base, const Moment &now);
+
+    int linkIndex() const { return static_cast<int>(m_row.interfaceIndex); }
+    const OpenConnection &row() const { return m_row; }
+
+    /// Goes on with what the store has of this connection: the same, or what an
+    /// earlier process has recorded of it.
+    void adopt(const OpenConnection &stored, const Moment &now);
+
+    void setProfile(const std::string &profile) { m_row.profile = profile; }
+    void setInterfaceName(const std::string &name) { m_row.interfaceName = name; }
+
+    /// Takes the link's counters as they are now. One that has gone backwards has
+    /// been reset: what it shows is a new base then, what had been counted stays,
+    /// and the connection is marked.
+    void advance(const LinkCounters &counters, const Moment &now);
+
+    /// It has ended, at the first of these moments; its final counters may still
+    /// be on their way.
+    void end(const Moment &now);
+    bool hasEnded() const { return m_hasEnded; }
+    /// The finished connection; one without its final counters is "recovered".
+    Connection finished(bool hasFinalCounters) const;
+
+    /// Bytes per second since the last call, or since the beginning.
+    LinkCounters takeRate(const Moment &now);
+
+    // What the recorder still owes its listeners and the store.
+    bool isStateDue = false;
+    bool isCheckpointDue = false;
+
+private:
+    void updateTimes(const Moment &now);
+
+    OpenConnection m_row;
+    LinkCounters m_counters;
+    LinkCounters m_rateTotals;
+    std::int64_t m_rateMilliseconds = 0;
+    bool m_hasEnded = false;
+};
+
+/// A connection that an earlier process had left open, as it was last known.
+Connection recovered(const OpenConnection &row);
+
+} // namespace refhost

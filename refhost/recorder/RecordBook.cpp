@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "RecordBook.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace refhost
+{
+
+RecordBook::RecordBook(StatisticsStore store, std::string bootId, IsConnected isConnected,
+                       Listener listener)
+    : m_store(std::move(store))
+    , m_bootId(std::move(bootId))
+    , m_isConnected(std::move(isConnected))
+    , m_listener(std::move(listener))
+{
+}
+
+void RecordBook::recoverEarlierConnections()
+{
+    const auto open = m_store.listOpen();
+    if (!open)
+        return fail(open.error());
+    m_isRecovered = std::all_of(open.value().begin(), open.value().end(),
+                                [this](const OpenConnection &row) { return recover(row); });
+}
+
+bool RecordBook::recover(const OpenConnection &row)
+{
+    if (row.bootId == m_bootId && m_isConnected(row.interfaceIndex))
+        return true;
+    const auto key = m_store.finish(row.key, recovered(row));
+    if (!key)
+        fail(key.error());
+    return static_cast<bool>(key);
+}
+
+void RecordBook::save(LiveConnection &connection, const Moment &now)
+{
+    catchUp();
+    // An unfinished row of the same link would be taken for this connection's.
+    if (isBehind())
+        return;
+    if (connection.row().key == 0) {
+        const auto stored = m_store.begin(connection.row());
+        if (!stored)
+            return fail(stored.error());
+        connection.adopt(stored.value(), now);
+    } else {
+        const auto key = m_store.checkpoint(connection.row());
+        // Another process may have finished it already; finish() copes with that.
+        if (!key && key.error().kind != StoreError::Kind::NoSuchRecord)
+            return fail(key.error());
+    }
+    m_lastFailure.clear();
+}
+
+void RecordBook::finish(const LiveConnection &connection, bool hasFinalCounters)
+{
+    m_unwritten.push_back({connection.row().key, connection.finished(hasFinalCounters)});
+    catchUp();
+}
+
+void RecordBook::catchUp()
+{
+    if (!m_isRecovered)
+        recoverEarlierConnections();
+    if (m_isRecovered)
+        writeFinished();
+}
+
+void RecordBook::writeFinished()
+{
+    while (!m_unwritten.empty()) {
+        const auto &[openKey, connection] = m_unwritten.front();
+        // One whose beginning could not be written has no row to be finished.
+        const auto key =
+            openKey == 0 ? m_store.add(connection) : m_store.finish(openKey, connection);
+        if (!key)
+            return fail(key.error());
+        m_lastFailure.clear();
+        m_listener.finished(connection);
+        m_unwritten.pop_front();
+    }
+}
+
+void RecordBook::fail(const StoreError &error)
+{
+    if (error.message == m_lastFailure)
+        return;
+    m_lastFailure = error.message;
+    m_listener.failed(error);
+}
+
+} // namespace refhost
