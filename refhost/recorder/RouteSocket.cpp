@@ -18,8 +18,8 @@ namespace
 /// Listings come in datagrams of at most half of that.
 constexpr std::size_t datagramSize = 65536;
 
-/// Room for a second of storms, as far as the system grants it.
-constexpr int queueSize = 4 * 1024 * 1024;
+/// Room for hundreds of messages, as far as the system grants it.
+constexpr int queueSize = 1024 * 1024;
 
 /// A message to the kernel with its fixed part, all zero.
 template <typename Header>

@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: MIT
+#include "ConnectionRecorder.h"
+#include "NetworkNamespace.h"
+#include "RecordText.h"
+#include "TunDevice.h"
+#include "VethPair.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+#include <optional>
+
+using refhost::Connection;
+using refhost::ConnectionRecorder;
+using refhost::ConnectionState;
+
+namespace
+{
+
+QString record(const char *interfaceName, qint64 uploaded, qint64 downloaded)
+{
+    return QStringLiteral("%1 up %2 down %3 normal")
+        .arg(QLatin1String(interfaceName))
+        .arg(uploaded)
+        .arg(downloaded);
+}
+
+/// More news than a socket's queue holds.
+QString storm()
+{
+    QString lines;
+    for (int i = 0; i < 1500; ++i)
+        lines += QStringLiteral("link set far0 mtu %1\n").arg(1400 + i % 2);
+    return lines;
+}
+
+} // namespace
+
+class NetworkRecordingTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit NetworkRecordingTest(QString obstacle)
+        : m_obstacle(std::move(obstacle))
+    {
+    }
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void carriesEveryByteUntilTheLinkGoesDown();
+    void theRecordIsInTheStoreBeforeAnybodyHearsOfIt();
+    void countsOnlyWhatALivingInterfaceMovesWhileConnected();
+    void tenShortSessionsLoseNothingAndInventNothing();
+    void reconnectsThatNobodyHadTimeToSeeAreRecordsOfTheirOwn();
+    void anInterfaceDeletedAtOnceTakesNoByteWithIt();
+    void anInterfaceMadeAnewUnderTheSameNameIsAnotherConnection();
+    void goesOnWithANewNameAfterARename();
+    void endsWhenTheAddressGoes();
+    void recordsANamedInterface();
+    void leavesOtherInterfacesAlone();
+    void reportsTheStateEverySecond();
+    void updatesTheStoreWhileConnected();
+    void findsTheFinalCountersAfterAStormOfNews();
+    void findsOutWhatWentAwayInAStormOfNews();
+
+private:
+    bool startRecorder(const QStringList &interfaceNames = {});
+
+    const QString m_obstacle;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+    std::optional<VethPair> m_line;
+    std::unique_ptr<ConnectionRecorder> m_recorder;
+    std::unique_ptr<QSignalSpy> m_connections;
+    std::unique_ptr<QSignalSpy> m_disconnections;
+    std::unique_ptr<QSignalSpy> m_failures;
+};
+
+void NetworkRecordingTest::initTestCase()
+{
+    if (!m_obstacle.isEmpty())
+        QSKIP(qPrintable(m_obstacle));
+}
+
+void NetworkRecordingTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_path = m_folder->filePath("connections.db");
+    m_line.emplace();
+    QVERIFY(m_line->isMade());
+    QVERIFY(startRecorder());
+}
+
+void NetworkRecordingTest::cleanup()
+{
+    if (m_failures)
+        QVERIFY(m_failures->isEmpty());
+    m_recorder.reset();
+    m_line.reset();
+    m_folder.reset();
+}
+
+bool NetworkRecordingTest::startRecorder(const QStringList &interfaceNames)
+{
+    m_recorder = std::make_unique<ConnectionRecorder>(m_path, interfaceNames);
+    m_connections = std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::connected);
+    m_disconnections =
+        std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::disconnected);
+    m_failures = std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::failed);
+    return m_recorder->start();
+}
+
+void NetworkRecordingTest::carriesEveryByteUntilTheLinkGoesDown()
+{
+    QVERIFY(m_line->goUp());
+    QTRY_COMPARE(m_connections->size(), 1);
+    QVERIFY(m_line->upload(40, 1000));
+    QVERIFY(m_line->download(25, 700));
+    QVERIFY(m_line->goDown());
+    QTRY_COMPARE(m_disconnections->size(), 1);
+    QCOMPARE(recordsIn(m_path),
+             QStringList(record("wwan0", VethPair::bytesOf(40, 1000), VethPair::bytesOf(25, 700))));
+    QCOMPARE(recordsSeenBy(*m_disconnections), recordsIn(m_path));
+}
+
+void NetworkRecordingTest::theRecordIsInTheStoreBeforeAnybodyHearsOfIt()
+{
+    QStringList inStore;
+    connect(m_recorder.get(), &ConnectionRecorder::disconnected, this,
+            [&] { inStore = recordsIn(m_path); });
+    QVERIFY(m_line->goUp());
+    QVERIFY(m_line->goDown());
+    QTRY_COMPARE(inStore, QStringList(record("wwan0", 0, 0)));
+}
+
+void NetworkRecordingTest::countsOnlyWhatALivingInterfaceMovesWhileConnected()
+{
+    m_recorder.reset();
+    QVERIFY(m_line->goUp());
+    QVERIFY(m_line->upload(7, 500));
+    QVERIFY(startRecorder());
+    QTRY_COMPARE(m_connections->size(), 1);
+    QVERIFY(m_line->upload(3, 100));
+    QVERIFY(m_line->goDown());
+    QTRY_COMPARE(recordsIn(m_path), QStringList(record("wwan0", VethPair::bytesOf(3, 100), 0)));
+}
+
+void NetworkRecordingTest::tenShortSessionsLoseNothingAndInventNothing()
+{
+    QStringList expected;
+    for (int i = 1; i <= 10; ++i) {
+        QVERIFY(m_line->goUp());
+        QVERIFY(m_line->upload(i, 100 * i));
+        QVERIFY(m_line->download(2 * i, 50 * i));
+        QVERIFY(m_line->goDown());
+        expected << record("wwan0", VethPair::bytesOf(i, 100 * i),
+                           VethPair::bytesOf(2 * i, 50 * i));
+    }
+    QTRY_COMPARE(m_disconnections->size(), 10);
+    QCOMPARE(recordsIn(m_path), expected);
+}
+
+void NetworkRecordingTest::reconnectsThatNobodyHadTimeToSeeAreRecordsOfTheirOwn()
+{
+    QVERIFY(m_line->goUp());
+    QTRY_COMPARE(m_connections->size(), 1);
+    QVERIFY(m_line->upload(1, 10));
+    // All of that waits in the queue when the recorder gets to read it.
+    QVERIFY(ipBatch(QStringLiteral("link set wwan0 down\nlink set wwan0 up\n"
+                                   "link set wwan0 down\nlink set wwan0 up\n")));
+    QTRY_COMPARE(m_connections->size(), 3);
+    QVERIFY(m_line->goUp());
+    QVERIFY(m_line->download(1, 20));
+    QVERIFY(m_line->goDown());
+    QTRY_COMPARE(m_disconnections->size(), 3);
+    QCOMPARE(recordsIn(m_path),
+             QStringList({record("wwan0", VethPair::bytesOf(1, 10), 0), record("wwan0", 0, 0),
+                          record("wwan0", 0, VethPair::bytesOf(1, 20))}));
+}
+
+void NetworkRecordingTest::anInterfaceDeletedAtOnceTakesNoByteWithIt()
+{
+    {
+        const TunDevice device;
+        if (!device.isMade())
+            QSKIP("an interface cannot be made through /dev/net/tun");
+        QVERIFY(device.goUp());
+        QTRY_COMPARE(m_connections->size(), 1);
+        QVERIFY(device.upload(40, 1000));
+        QVERIFY(device.download(25, 700));
+    }
+    QTRY_COMPARE(m_disconnections->size(), 1);
+    QCOMPARE(recordsIn(m_path), QStringList(record("ppp0", TunDevice::bytesOf(40, 1000),
+                                                   TunDevice::bytesOf(25, 700))));
+}
+
+void NetworkRecordingTest::anInterfaceMadeAnewUnderTheSameNameIsAnotherConnection()
+{
+    QStringList expected;
+    for (int i = 1; i <= 5; ++i) {
+        const TunDevice device;
+        if (!device.isMade())
+            QSKIP("an interface cannot be made through /dev/net/tun");
+        QVERIFY(device.goUp());
+        QVERIFY(device.upload(i, 100));
+        QVERIFY(device.download(i, 200));
+        expected << record("ppp0", TunDevice::bytesOf(i, 100), TunDevice::bytesOf(i, 200));
+    }
+    QTRY_COMPARE(m_disconnections->size(), 5);
+    QCOMPARE(recordsIn(m_path), expected);
+}
+
+void NetworkRecordingTest::goesOnWithANewNameAfterARename()
+{
+    QVERIFY(ip(QStringLiteral("link set wwan0 name other0")));
+    QVERIFY(ip(QStringLiteral("link set other0 name wwan9")));
+    QVERIFY(ip(QStringLiteral("link set wwan9 up")));
+    QTRY_COMPARE(m_connections->size(), 1);
+    QCOMPARE(m_connections->first().first().value<ConnectionState>().interfaceName,
+             QStringLiteral("wwan9"));
+    QVERIFY(ip(QStringLiteral("link set wwan9 down")));
+    QTRY_COMPARE(recordsIn(m_path), QStringList(record("wwan9", 0, 0)));
+}
+
+void NetworkRecordingTest::endsWhenTheAddressGoes()
+{
+    QVERIFY(m_line->goUp());
+    QTRY_COMPARE(m_connections->size(), 1);
+    QVERIFY(m_line->upload(5, 300));
+    QVERIFY(ip(QStringLiteral("addr del 10.0.0.1/24 dev wwan0")));
+    QTRY_COMPARE(recordsIn(m_path), QStringList(record("wwan0", VethPair::bytesOf(5, 300), 0)));
+}
+
+void NetworkRecordingTest::recordsANamedInterface()
+{
+    m_recorder.reset();
+    QVERIFY(m_line->goUp());
+    QVERIFY(startRecorder({QStringLiteral("far0")}));
+    QTRY_COMPARE(m_connections->size(), 2);
+    QVERIFY(m_line->download(2, 50));
+    QVERIFY(ip(QStringLiteral("link set far0 down")));
+    QTRY_COMPARE(m_disconnections->size(), 2);
+    QVERIFY(recordsIn(m_path).contains(record("far0", VethPair::bytesOf(2, 50), 0)));
+}
+
+void NetworkRecordingTest::leavesOtherInterfacesAlone()
+{
+    QVERIFY(m_line->goUp());
+    QVERIFY(m_line->goDown());
+    QTRY_COMPARE(m_disconnections->size(), 1);
+    QCOMPARE(m_connections->size(), 1);
+}
+
+void NetworkRecordingTest::reportsTheStateEverySecond()
+{
+    m_recorder->setProfileName(QStringLiteral("internet"));
+    QSignalSpy states(m_recorder.get(), &ConnectionRecorder::stateChanged);
+    QVERIFY(m_line->goUp());
+    QVERIFY(m_line->download(10, 400));
+    const auto lastState = [&] { return states.last().first().value<ConnectionState>(); };
+    QTRY_VERIFY(!states.isEmpty() && lastState().downloadedBytes == VethPair::bytesOf(10, 400));
+    QCOMPARE(lastState().profile, QStringLiteral("internet"));
+    QCOMPARE(lastState().interfaceName, QStringLiteral("wwan0"));
+    QVERIFY(lastState().downloadRate > 0);
+    QCOMPARE(lastState().uploadRate, 0);
+    QTRY_COMPARE(lastState().downloadRate, 0);
+}
+
+void NetworkRecordingTest::updatesTheStoreWhileConnected()
+{
+    QVERIFY(m_line->goUp());
+    QTRY_COMPARE(openRowsIn(m_path).size(), std::size_t{1});
+    QVERIFY(m_line->upload(10, 400));
+    QTRY_COMPARE_WITH_TIMEOUT(openRowsIn(m_path).front().uploadedBytes,
+                              std::int64_t{VethPair::bytesOf(10, 400)}, 20000);
+    QVERIFY(recordsIn(m_path).isEmpty());
+}
+
+void NetworkRecordingTest::findsTheFinalCountersAfterAStormOfNews()
+{
+    QVERIFY(m_line->goUp());
+    QTRY_COMPARE(m_connections->size(), 1);
+    QVERIFY(m_line->upload(4, 200));
+    QVERIFY(ipBatch(storm()));
+    QVERIFY(m_line->goDown());
+    QTRY_COMPARE(recordsIn(m_path), QStringList(record("wwan0", VethPair::bytesOf(4, 200), 0)));
+}
+
+void NetworkRecordingTest::findsOutWhatWentAwayInAStormOfNews()
+{
+    QVERIFY(m_line->goUp());
+    QTRY_COMPARE(m_connections->size(), 1);
+    QVERIFY(ipBatch(storm()));
+    // Its final counters are lost with the last message about it.
+    m_line.reset();
+    QTRY_COMPARE(recordsIn(m_path), QStringList(QStringLiteral("wwan0 up 0 down 0 recovered")));
+    m_line.emplace();
+    QVERIFY(m_line->goUp());
+    QTRY_COMPARE(m_connections->size(), 2);
+}
+
+int main(int argc, char **argv)
+{
+    const QString obstacle = enterNetworkNamespace();
+    const QCoreApplication application(argc, argv);
+    NetworkRecordingTest test(obstacle);
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_networkrecording.moc"
