@@ -63,14 +63,17 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
 
 ConnectionRecorder::~ConnectionRecorder()
 {
-    saveAll();
+    if (m_book)
+        m_book->catchUp();
+    for (auto &entry : m_live)
+        m_book->save(entry.second, now());
 }
 
 bool ConnectionRecorder::start()
 {
     if (!openBook() || !m_links->start())
         return false;
-    m_book->recoverEarlierConnections();
+    m_book->catchUp();
     for (const Link &link : m_links->links())
         handleChange({link, false, false});
     connect(m_links, &LinkSource::linkChanged, this, &ConnectionRecorder::handleChange);
@@ -175,7 +178,7 @@ void ConnectionRecorder::tick()
 {
     m_ticks = (m_ticks + 1) % ticksPerCheckpoint;
     const bool isCheckpoint = m_ticks == 0;
-    if (isCheckpoint && m_book->isBehind())
+    if (isCheckpoint)
         m_book->catchUp();
     for (auto &entry : m_live) {
         entry.second.isStateDue = true;
@@ -192,12 +195,6 @@ void ConnectionRecorder::requestCounters()
         if (m_live.count(link.index) != 0 || (link.isUp && isWatched(link.name)))
             m_links->requestCounters(link.index);
     }
-}
-
-void ConnectionRecorder::saveAll()
-{
-    for (auto &entry : m_live)
-        m_book->save(entry.second, now());
 }
 
 bool ConnectionRecorder::isWatched(const std::string &interfaceName) const

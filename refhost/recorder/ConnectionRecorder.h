@@ -96,7 +96,6 @@ private:
     void report(LiveConnection &connection);
     void tick();
     void requestCounters();
-    void saveAll();
     bool openBook();
     bool isWatched(const std::string &interfaceName) const;
     bool isConnected(std::int64_t linkIndex) const;

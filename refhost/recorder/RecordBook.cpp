@@ -37,7 +37,6 @@ bool RecordBook::recover(const OpenConnection &row)
 
 void RecordBook::save(LiveConnection &connection, const Moment &now)
 {
-    catchUp();
     // An unfinished row of the same link would be taken for this connection's.
     if (isBehind())
         return;
@@ -57,8 +56,11 @@ void RecordBook::save(LiveConnection &connection, const Moment &now)
 
 void RecordBook::finish(const LiveConnection &connection, bool hasFinalCounters)
 {
+    // A store that is locked is not waited for again with each connection.
+    const bool wasBehind = isBehind();
     m_unwritten.push_back({connection.row().key, connection.finished(hasFinalCounters)});
-    catchUp();
+    if (!wasBehind)
+        catchUp();
 }
 
 void RecordBook::catchUp()

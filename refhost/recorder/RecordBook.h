@@ -27,17 +27,17 @@ public:
     RecordBook(StatisticsStore store, std::string bootId, IsConnected isConnected,
                Listener listener);
 
-    /// Finishes what earlier processes left open on links that are gone or not
-    /// connected, as recovered at its last update.
-    void recoverEarlierConnections();
-
     /// Brings the store up to date with the connection. The first time, it goes
     /// on with what the store has of the same one already.
     void save(LiveConnection &connection, const Moment &now);
     void finish(const LiveConnection &connection, bool hasFinalCounters);
 
-    /// Whether there is something to try again.
+    /// Whether there is something that catchUp() has to write before anything else
+    /// is written, which is so in the beginning.
     bool isBehind() const { return !m_isRecovered || !m_unwritten.empty(); }
+    /// Finishes what earlier processes left open on links that are gone or not
+    /// connected, as recovered at its last update; then tries again what could
+    /// not be written.
     void catchUp();
 
 private:
@@ -46,6 +46,7 @@ private:
         Connection connection;
     };
 
+    void recoverEarlierConnections();
     bool recover(const OpenConnection &row);
     void writeFinished();
     void fail(const StoreError &error);

@@ -1,2 +1,493 @@
 // SPDX-License-Identifier: MIT
-int main() {}
+#include "ConnectionRecorder.h"
+
+#include "FakeClock.h"
+#include "FakeLinks.h"
+#include "RecordText.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Transaction.h>
+
+#include <QTemporaryDir>
+#include <QThread>
+#include <QtTest>
+
+#include <memory>
+#include <optional>
+
+using refhost::Connection;
+using refhost::ConnectionRecorder;
+using refhost::ConnectionState;
+using refhost::OpenConnection;
+using refhost::StatisticsStore;
+
+namespace
+{
+
+/// A checkpoint may be five seconds off, and a loaded machine slow.
+constexpr int checkpointTimeout = 30000;
+
+OpenConnection rowOf(const std::string &bootId, int linkIndex)
+{
+    OpenConnection row;
+    row.bootId = bootId;
+    row.interfaceIndex = linkIndex;
+    row.interfaceName = "wwan0";
+    row.profile = "internet";
+    row.startUtc = 1699999000;
+    row.startBootMilliseconds = 4000000;
+    row.baseUploaded = 10;
+    row.baseDownloaded = 20;
+    row.uploadedBytes = 100;
+    row.downloadedBytes = 200;
+    row.updatedUtc = 1699999900;
+    row.connectedSeconds = 900;
+    return row;
+}
+
+} // namespace
+
+class ConnectionRecorderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void recordsMobileAndNamedInterfacesOnly_data();
+    void recordsMobileAndNamedInterfacesOnly();
+    void takesTheFinalCountersMinusThoseAtTheStart();
+    void takesTheFinalCountersOfALinkThatIsDeleted();
+    void asksForTheFinalCountersWhenTheAddressGoes();
+    void aNewAddressBeforeTheFinalCountersIsAnotherConnection();
+    void aNewIndexIsAnotherConnection();
+    void goesOnUnderAnotherName();
+    void marksAsRecoveredWhatEndedWhileMessagesWereLost();
+
+    void aCounterThatGoesBackwardsIsANewBase();
+    void aResetBeforeTheStartIsNone();
+    void countsBeyond32Bits();
+
+    void measuresTimeWithAClockThatNeverJumps();
+    void anEndBeforeTheStartIsTheStartPlusTheTimeConnected();
+
+    void aConnectionIsARowFromTheMomentItBegins();
+    void bringsTheRowUpToDate();
+    void leavesTheRowOpenWhenTheProgramEnds();
+    void resumesARowOfTheSameLink();
+    void aResumedLinkThatWasResetIsMarked();
+    void closesARowAtItsLastUpdate_data();
+    void closesARowAtItsLastUpdate();
+    void leavesARowOfAConnectedLinkThatIsNotWatched();
+
+    void keepsWhatItCannotWriteAndTriesAgain();
+    void saysWhyItCannotStart();
+
+    void aConnectionBearsItsInterfacesNameOrTheGivenOne();
+    void saysNothingFromWithinACall();
+    void worksOnAThreadOfItsOwn();
+
+private:
+    bool start(const QStringList &interfaceNames = {});
+    void connectLink(int index, const std::string &name, std::int64_t uploaded,
+                     std::int64_t downloaded);
+    void addRow(const OpenConnection &row);
+    Connection onlyRecord();
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+    std::vector<refhost::LinkNews> m_atStart;
+    FakeLinks *m_links = nullptr; ///< the recorder's
+    FakeClock *m_clock = nullptr; ///< the recorder's
+    std::unique_ptr<ConnectionRecorder> m_recorder;
+    std::unique_ptr<QSignalSpy> m_connections;
+    std::unique_ptr<QSignalSpy> m_disconnections;
+    std::unique_ptr<QSignalSpy> m_failures;
+};
+
+void ConnectionRecorderTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_path = m_folder->filePath("connections.db");
+    m_atStart.clear();
+}
+
+void ConnectionRecorderTest::cleanup()
+{
+    m_recorder.reset();
+    m_folder.reset();
+}
+
+bool ConnectionRecorderTest::start(const QStringList &interfaceNames)
+{
+    auto links = std::make_unique<FakeLinks>();
+    auto clock = std::make_unique<FakeClock>();
+    m_links = links.get();
+    m_clock = clock.get();
+    m_links->atStart = m_atStart;
+    m_recorder = std::make_unique<ConnectionRecorder>(m_path, interfaceNames, std::move(links),
+                                                      std::move(clock));
+    m_connections = std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::connected);
+    m_disconnections =
+        std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::disconnected);
+    m_failures = std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::failed);
+    return m_recorder->start();
+}
+
+void ConnectionRecorderTest::connectLink(int index, const std::string &name, std::int64_t uploaded,
+                                         std::int64_t downloaded)
+{
+    m_links->tell(downLink(index, name, uploaded, downloaded));
+    m_links->tell(addressOn(index));
+    m_links->tell(runningLink(index, name, uploaded, downloaded));
+}
+
+void ConnectionRecorderTest::addRow(const OpenConnection &row)
+{
+    auto store = StatisticsStore::openOrCreate(m_path.toStdString());
+    QVERIFY(store);
+    QVERIFY(store.value().begin(row));
+}
+
+Connection ConnectionRecorderTest::onlyRecord()
+{
+    const auto store = StatisticsStore::openForReading(m_path.toStdString());
+    const auto list = store.value().list();
+    return list.value().size() == 1 ? list.value().front() : Connection();
+}
+
+void ConnectionRecorderTest::recordsMobileAndNamedInterfacesOnly_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isRecorded");
+    QTest::newRow("PPP") << QStringLiteral("ppp0") << true;
+    QTest::newRow("mobile broadband") << QStringLiteral("wwan12") << true;
+    QTest::newRow("mobile broadband named after its place") << QStringLiteral("wwan0u1i4") << true;
+    QTest::newRow("named by the user") << QStringLiteral("usb0") << true;
+    QTest::newRow("another one") << QStringLiteral("eth0") << false;
+    QTest::newRow("a longer name than the user's") << QStringLiteral("usb01") << false;
+    QTest::newRow("loopback") << QStringLiteral("lo") << false;
+}
+
+void ConnectionRecorderTest::recordsMobileAndNamedInterfacesOnly()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isRecorded);
+    QVERIFY(start({QStringLiteral("usb0")}));
+    connectLink(3, name.toStdString(), 0, 0);
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{isRecorded});
+}
+
+void ConnectionRecorderTest::takesTheFinalCountersMinusThoseAtTheStart()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 1000, 2000);
+    m_links->tell(downLink(3, "wwan0", 1566, 52000));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 566 down 50000 normal"));
+    QTRY_COMPARE(recordsSeenBy(*m_disconnections), recordsIn(m_path));
+    QVERIFY(openRowsIn(m_path).empty());
+}
+
+void ConnectionRecorderTest::takesTheFinalCountersOfALinkThatIsDeleted()
+{
+    QVERIFY(start());
+    connectLink(3, "ppp0", 0, 0);
+    m_links->tell(goneLink(3, "ppp0", 12, 34));
+    QCOMPARE(recordsIn(m_path), QStringList("ppp0 up 12 down 34 normal"));
+}
+
+void ConnectionRecorderTest::asksForTheFinalCountersWhenTheAddressGoes()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_clock->pass(60000);
+    m_links->tell(addressGoneFrom(3));
+    QVERIFY(recordsIn(m_path).isEmpty());
+    QCOMPARE(m_links->requests, std::vector<int>{3});
+    m_clock->pass(9000);
+    m_links->tell(runningLink(3, "wwan0", 5, 6));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5 down 6 normal"));
+    QCOMPARE(onlyRecord().connectedSeconds, std::int64_t{60});
+}
+
+void ConnectionRecorderTest::aNewAddressBeforeTheFinalCountersIsAnotherConnection()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_links->tell(addressGoneFrom(3));
+    m_links->tell(addressOn(3));
+    m_links->tell(runningLink(3, "wwan0", 5, 6));
+    m_links->tell(downLink(3, "wwan0", 15, 26));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"wwan0 up 5 down 6 normal", "wwan0 up 10 down 20 normal"}));
+}
+
+void ConnectionRecorderTest::aNewIndexIsAnotherConnection()
+{
+    QVERIFY(start());
+    connectLink(3, "ppp0", 0, 0);
+    m_links->tell(goneLink(3, "ppp0", 5, 6));
+    connectLink(4, "ppp0", 0, 0);
+    m_links->tell(goneLink(4, "ppp0", 7, 8));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"ppp0 up 5 down 6 normal", "ppp0 up 7 down 8 normal"}));
+}
+
+void ConnectionRecorderTest::goesOnUnderAnotherName()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_links->tell(runningLink(3, "modem", 1, 1));
+    m_links->tell(downLink(3, "modem", 2, 3));
+    QCOMPARE(recordsIn(m_path), QStringList("modem up 2 down 3 normal"));
+}
+
+void ConnectionRecorderTest::marksAsRecoveredWhatEndedWhileMessagesWereLost()
+{
+    QVERIFY(start());
+    connectLink(3, "ppp0", 0, 0);
+    m_links->tell(runningLink(3, "ppp0", 70, 80));
+    m_links->relist({});
+    QCOMPARE(recordsIn(m_path), QStringList("ppp0 up 70 down 80 recovered"));
+}
+
+void ConnectionRecorderTest::aCounterThatGoesBackwardsIsANewBase()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 1000, 1000);
+    m_links->tell(runningLink(3, "wwan0", 6000, 3000));
+    m_links->tell(runningLink(3, "wwan0", 100, 4000));
+    m_links->tell(downLink(3, "wwan0", 150, 4001));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5050 down 3001 counter reset"));
+}
+
+void ConnectionRecorderTest::aResetBeforeTheStartIsNone()
+{
+    QVERIFY(start());
+    m_links->tell(downLink(3, "wwan0", 1000, 1000));
+    m_links->tell(addressOn(3));
+    m_links->tell(runningLink(3, "wwan0", 0, 0));
+    m_links->tell(downLink(3, "wwan0", 40, 50));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 40 down 50 normal"));
+}
+
+void ConnectionRecorderTest::countsBeyond32Bits()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 4294967290, 1);
+    m_links->tell(downLink(3, "wwan0", 4294967300, 5000000001));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 10 down 5000000000 normal"));
+}
+
+void ConnectionRecorderTest::measuresTimeWithAClockThatNeverJumps()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_clock->boot += 90500;
+    m_clock->utc += 3600;
+    m_links->tell(downLink(3, "wwan0", 0, 0));
+    const Connection record = onlyRecord();
+    QCOMPARE(record.connectedSeconds, std::int64_t{90});
+    QCOMPARE(record.startUtc, std::int64_t{1700000000});
+    QCOMPARE(record.endUtc, std::int64_t{1700003600});
+}
+
+void ConnectionRecorderTest::anEndBeforeTheStartIsTheStartPlusTheTimeConnected()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_clock->boot += 90000;
+    m_clock->utc -= 3600;
+    m_links->tell(downLink(3, "wwan0", 0, 0));
+    QCOMPARE(onlyRecord().endUtc, std::int64_t{1700000090});
+}
+
+void ConnectionRecorderTest::aConnectionIsARowFromTheMomentItBegins()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 1000, 2000);
+    const auto rows = openRowsIn(m_path);
+    QCOMPARE(rows.size(), std::size_t{1});
+    QCOMPARE(rows.front().bootId, refhost::currentBootId());
+    QCOMPARE(rows.front().interfaceIndex, std::int64_t{3});
+    QCOMPARE(rows.front().startUtc, std::int64_t{1700000000});
+    QCOMPARE(rows.front().startBootMilliseconds, std::int64_t{5000000});
+    QCOMPARE(rows.front().baseUploaded, std::int64_t{1000});
+    QCOMPARE(rows.front().baseDownloaded, std::int64_t{2000});
+    QVERIFY(recordsIn(m_path).isEmpty());
+}
+
+void ConnectionRecorderTest::bringsTheRowUpToDate()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_clock->pass(5000);
+    // Whenever the recorder asks, the answer shows that more has been sent.
+    const auto rowAfterAnswer = [this] {
+        m_links->tell(runningLink(3, "wwan0", 700, 800));
+        return openRowsIn(m_path).front();
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(rowAfterAnswer().uploadedBytes, std::int64_t{700}, checkpointTimeout);
+    QCOMPARE(rowAfterAnswer().downloadedBytes, std::int64_t{800});
+    QCOMPARE(rowAfterAnswer().updatedUtc, std::int64_t{1700000005});
+    QCOMPARE(rowAfterAnswer().connectedSeconds, std::int64_t{5});
+}
+
+void ConnectionRecorderTest::leavesTheRowOpenWhenTheProgramEnds()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_links->tell(runningLink(3, "wwan0", 70, 80));
+    m_recorder.reset();
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+    QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{70});
+    QVERIFY(recordsIn(m_path).isEmpty());
+}
+
+void ConnectionRecorderTest::resumesARowOfTheSameLink()
+{
+    addRow(rowOf(refhost::currentBootId(), 3));
+    m_atStart = {runningLink(3, "wwan0", 1010, 2020), addressOn(3)};
+    QVERIFY(start());
+    QTRY_COMPARE(m_connections->size(), 1);
+    const auto state = m_connections->first().first().value<ConnectionState>();
+    QCOMPARE(state.profile, QStringLiteral("internet"));
+    QCOMPARE(state.since.toSecsSinceEpoch(), 1699999000);
+    QCOMPARE(state.uploadedBytes, 1000);
+    m_links->tell(downLink(3, "wwan0", 1011, 2022));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 1001 down 2002 normal"));
+    QCOMPARE(onlyRecord().startUtc, std::int64_t{1699999000});
+    QCOMPARE(onlyRecord().connectedSeconds, std::int64_t{1000});
+    QVERIFY(openRowsIn(m_path).empty());
+}
+
+void ConnectionRecorderTest::aResumedLinkThatWasResetIsMarked()
+{
+    addRow(rowOf(refhost::currentBootId(), 3));
+    m_atStart = {runningLink(3, "wwan0", 50, 50), addressOn(3)};
+    QVERIFY(start());
+    m_links->tell(downLink(3, "wwan0", 57, 58));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 107 down 208 counter reset"));
+}
+
+void ConnectionRecorderTest::closesARowAtItsLastUpdate_data()
+{
+    QTest::addColumn<QString>("bootId");
+    QTest::addColumn<int>("linkNow");
+    QTest::addColumn<bool>("isConnectedNow");
+    const QString thisBoot = QString::fromStdString(refhost::currentBootId());
+    QTest::newRow("of another run of the system") << QStringLiteral("another") << 3 << true;
+    QTest::newRow("of a link that was made anew") << thisBoot << 4 << true;
+    QTest::newRow("of a link that is not connected") << thisBoot << 3 << false;
+}
+
+void ConnectionRecorderTest::closesARowAtItsLastUpdate()
+{
+    QFETCH(QString, bootId);
+    QFETCH(int, linkNow);
+    QFETCH(bool, isConnectedNow);
+    addRow(rowOf(bootId.toStdString(), 3));
+    m_atStart = {runningLink(linkNow, "wwan0", 1010, 2020)};
+    if (isConnectedNow)
+        m_atStart.emplace_back(addressOn(linkNow));
+    QVERIFY(start());
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 100 down 200 recovered"));
+    QCOMPARE(onlyRecord().endUtc, std::int64_t{1699999900});
+    QCOMPARE(onlyRecord().connectedSeconds, std::int64_t{900});
+    QCOMPARE(onlyRecord().profile, std::string("internet"));
+    // What is connected now is a connection of its own.
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{isConnectedNow});
+}
+
+void ConnectionRecorderTest::leavesARowOfAConnectedLinkThatIsNotWatched()
+{
+    OpenConnection row = rowOf(refhost::currentBootId(), 3);
+    row.interfaceName = "usb0";
+    addRow(row);
+    m_atStart = {runningLink(3, "usb0", 1010, 2020), addressOn(3)};
+    QVERIFY(start());
+    QVERIFY(recordsIn(m_path).isEmpty());
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+}
+
+void ConnectionRecorderTest::keepsWhatItCannotWriteAndTriesAgain()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    SQLite::Database other(m_path.toStdString(), SQLite::OPEN_READWRITE);
+    std::optional<SQLite::Transaction> lock(std::in_place, other,
+                                            SQLite::TransactionBehavior::IMMEDIATE);
+    m_links->tell(downLink(3, "wwan0", 5, 6));
+    // The next connection of the same link must not be taken for the former one.
+    m_links->tell(runningLink(3, "wwan0", 5, 6));
+    QTRY_COMPARE(m_failures->size(), 1);
+    QCOMPARE(m_failures->first().first().toString(),
+             QStringLiteral("The connection history \"%1\" has been locked by another program for "
+                            "5 seconds; close that program or try again later.")
+                 .arg(m_path));
+    QVERIFY(m_disconnections->isEmpty());
+    lock.reset();
+    m_links->tell(downLink(3, "wwan0", 7, 7));
+    QTRY_COMPARE_WITH_TIMEOUT(m_disconnections->size(), 2, checkpointTimeout);
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"wwan0 up 5 down 6 normal", "wwan0 up 2 down 1 normal"}));
+    QVERIFY(openRowsIn(m_path).empty());
+}
+
+void ConnectionRecorderTest::saysWhyItCannotStart()
+{
+    m_path = m_folder->path();
+    QVERIFY(!start());
+    QTRY_COMPARE(m_failures->size(), 1);
+    QCOMPARE(m_failures->first().first().toString(),
+             QStringLiteral("\"%1\" is not a connection history but a folder; it was left as it "
+                            "is, move it away or name another file.")
+                 .arg(m_path));
+}
+
+void ConnectionRecorderTest::aConnectionBearsItsInterfacesNameOrTheGivenOne()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    connectLink(4, "wwan1", 0, 0);
+    m_links->tell(downLink(3, "wwan0", 0, 0));
+    QCOMPARE(onlyRecord().profile, std::string("wwan0"));
+    m_recorder->setProfileName(QStringLiteral("internet"));
+    m_links->tell(downLink(4, "wwan1", 0, 0));
+    QTRY_COMPARE(m_disconnections->size(), 2);
+    QCOMPARE(m_disconnections->last().first().value<Connection>().profile, std::string("internet"));
+}
+
+void ConnectionRecorderTest::saysNothingFromWithinACall()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_links->tell(downLink(3, "wwan0", 0, 0));
+    QVERIFY(m_connections->isEmpty());
+    QVERIFY(m_disconnections->isEmpty());
+    QTRY_COMPARE(m_connections->size(), 1);
+    QTRY_COMPARE(m_disconnections->size(), 1);
+}
+
+void ConnectionRecorderTest::worksOnAThreadOfItsOwn()
+{
+    QThread thread;
+    auto links = std::make_unique<FakeLinks>();
+    links->atStart = {runningLink(3, "ppp0", 10, 20), addressOn(3)};
+    auto *const recorder =
+        new ConnectionRecorder(m_path, {}, std::move(links), std::make_unique<FakeClock>());
+    QSignalSpy connections(recorder, &ConnectionRecorder::connected);
+    recorder->moveToThread(&thread);
+    QObject::connect(&thread, &QThread::started, recorder, &ConnectionRecorder::start);
+    QObject::connect(&thread, &QThread::finished, recorder, &QObject::deleteLater);
+    thread.start();
+    QTRY_COMPARE(connections.size(), 1);
+    thread.quit();
+    QVERIFY(thread.wait());
+    QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{10});
+}
+
+QTEST_GUILESS_MAIN(ConnectionRecorderTest)
+
+#include "tst_connectionrecorder.moc"
