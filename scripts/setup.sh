@@ -5,12 +5,13 @@ build_packages=(
     cmake ninja-build g++
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
     libsqlitecpp-dev libsqlite3-dev libutfcpp-dev libcli11-dev
+    libmnl-dev pkg-config
 )
 run_packages=(fonts-dejavu-core)
 test_packages=(
     qtbase5-dev qttools5-dev qttools5-dev-tools
     clang clang-format clang-tidy
-    sqlite3 man-db desktop-file-utils appstream
+    sqlite3 man-db desktop-file-utils appstream iproute2
 )
 
 say() {
