@@ -69,16 +69,31 @@ void checkText(const std::string &whose, const char *field, const std::string &t
                                                 std::to_string(maximum) + ".");
 }
 
-void check(const Connection &connection, const std::string &whose)
+/// Checks what finished and open connections have in common.
+template <typename AnyConnection>
+void checkCommon(const AnyConnection &connection, const std::string &whose)
 {
     checkText(whose, "profile", connection.profile, connection.profile.max_size());
     checkRange(whose, "start time", connection.startUtc, maximumTime);
-    checkRange(whose, "end time", connection.endUtc, maximumTime);
     checkRange(whose, "connected time", connection.connectedSeconds, maximumTime);
     checkRange(whose, "number of bytes sent", connection.uploadedBytes, maximumBytes);
     checkRange(whose, "number of bytes received", connection.downloadedBytes, maximumBytes);
     checkText(whose, "ending", connection.ending, maximumTextBytes);
     checkText(whose, "interface", connection.interfaceName, maximumTextBytes);
+}
+
+void check(const Connection &connection, const std::string &whose)
+{
+    checkCommon(connection, whose);
+    checkRange(whose, "end time", connection.endUtc, maximumTime);
+}
+
+void check(const OpenConnection &connection)
+{
+    const std::string whose = "the open connection";
+    checkCommon(connection, whose);
+    checkRange(whose, "time of the last update", connection.updatedUtc, maximumTime);
+    checkText(whose, "boot id", connection.bootId, connection.bootId.max_size());
 }
 
 void checkAll(const std::vector<Connection> &connections)
@@ -86,20 +101,6 @@ void checkAll(const std::vector<Connection> &connections)
     for (std::size_t i = 0; i < connections.size(); ++i)
         check(connections[i],
               "connection " + std::to_string(i + 1) + " of " + std::to_string(connections.size()));
-}
-
-void check(const OpenConnection &connection)
-{
-    const std::string whose = "the open connection";
-    checkText(whose, "boot id", connection.bootId, connection.bootId.max_size());
-    checkText(whose, "profile", connection.profile, connection.profile.max_size());
-    checkText(whose, "interface", connection.interfaceName, maximumTextBytes);
-    checkText(whose, "ending", connection.ending, maximumTextBytes);
-    checkRange(whose, "start time", connection.startUtc, maximumTime);
-    checkRange(whose, "time of the last update", connection.updatedUtc, maximumTime);
-    checkRange(whose, "connected time", connection.connectedSeconds, maximumTime);
-    checkRange(whose, "number of bytes sent", connection.uploadedBytes, maximumBytes);
-    checkRange(whose, "number of bytes received", connection.downloadedBytes, maximumBytes);
 }
 
 StoreFailure noSuchOpenConnection(const std::string &path, std::int64_t key)

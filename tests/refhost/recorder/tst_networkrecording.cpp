@@ -60,6 +60,7 @@ private slots:
     void reconnectsThatNobodyHadTimeToSeeAreRecordsOfTheirOwn();
     void anInterfaceDeletedAtOnceTakesNoByteWithIt();
     void anInterfaceMadeAnewUnderTheSameNameIsAnotherConnection();
+    void aLineMadeAnewUnderTheSameNameIsAnotherConnection();
     void goesOnWithANewNameAfterARename();
     void endsWhenTheAddressGoes();
     void recordsANamedInterface();
@@ -213,6 +214,24 @@ void NetworkRecordingTest::anInterfaceMadeAnewUnderTheSameNameIsAnotherConnectio
         expected << record("ppp0", TunDevice::bytesOf(i, 100), TunDevice::bytesOf(i, 200));
     }
     QTRY_COMPARE(m_disconnections->size(), 5);
+    QCOMPARE(recordsIn(m_path), expected);
+}
+
+void NetworkRecordingTest::aLineMadeAnewUnderTheSameNameIsAnotherConnection()
+{
+    QStringList expected;
+    for (int i = 1; i <= 3; ++i) {
+        QVERIFY(m_line->goUp());
+        QVERIFY(m_line->upload(i, 100));
+        QVERIFY(m_line->download(i, 200));
+        // One end of a pair that is deleted while it is up no longer knows what it
+        // has received, for the other end had counted that.
+        QVERIFY(m_line->goDown());
+        m_line.reset();
+        m_line.emplace();
+        expected << record("wwan0", VethPair::bytesOf(i, 100), VethPair::bytesOf(i, 200));
+    }
+    QTRY_COMPARE(m_disconnections->size(), 3);
     QCOMPARE(recordsIn(m_path), expected);
 }
 

@@ -54,6 +54,11 @@ qint64 checkpointedBytes()
     return VethPair::bytesOf(10, 400);
 }
 
+QString recoveredRecord()
+{
+    return QStringLiteral("wwan0 up %1 down 0 recovered").arg(checkpointedBytes());
+}
+
 } // namespace
 
 void RecordingCrashTest::initTestCase()
