@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#include "DialupService.h"
+
+namespace refhost
+{
+
+DialupService::~DialupService() = default;
+
+} // namespace refhost
