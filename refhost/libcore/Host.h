@@ -39,4 +39,7 @@ HOST_API QString language();
 /// if the settings file cannot be written.
 HOST_API bool storeSetting(const QString &group, const QString &key, const QString &value);
 
+/// The file that settings are kept in.
+HOST_API QString settingsFile();
+
 } // namespace refhost

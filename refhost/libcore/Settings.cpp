@@ -20,4 +20,9 @@ bool storeSetting(const QString &group, const QString &key, const QString &value
     return settings.status() == QSettings::NoError;
 }
 
+QString settingsFile()
+{
+    return Settings(QString()).fileName();
+}
+
 } // namespace refhost

@@ -7,6 +7,9 @@
 #include "MainWindow.h"
 #include "Picture.h"
 #include "PluginHandle.h"
+#include "Recording.h"
+#include "ServicePlugin.h"
+#include "SummaryChoice.h"
 
 #include "StatisticsStore.h"
 
@@ -36,6 +39,8 @@ void Application::run()
 {
     chooseStore();
     checkStore();
+    loadDialupService();
+    startRecording();
     startPlugin();
     showWindow();
 }
@@ -67,6 +72,25 @@ void Application::checkStore() const
                       QString::fromStdString(connections.error().message)};
 }
 
+void Application::loadDialupService()
+{
+    if (!m_options.hasDialupService)
+        return;
+    m_dialupService = std::make_unique<ServicePlugin>(ServicePlugin::dialupServiceFile());
+    m_container.add(m_dialupService->classId(), m_dialupService->root());
+}
+
+// Before the plug-in reads the history, so that it finds there what an earlier
+// run has left unfinished.
+void Application::startRecording()
+{
+    if (m_options.isDemo || !m_options.pictureFile.isEmpty())
+        return;
+    offerSummary();
+    m_recording = std::make_unique<Recording>(m_source.file, m_options.interfaceNames, m_state);
+    m_recording->start();
+}
+
 void Application::startPlugin()
 {
     const QString file = m_options.pluginFile.isEmpty()
@@ -84,7 +108,7 @@ void Application::startPlugin()
 
 void Application::showWindow()
 {
-    MainWindow window(*m_plugin, m_source);
+    MainWindow window(*m_plugin, m_source, m_state);
     setMainWindow(&window);
     if (!m_options.pictureFile.isEmpty()) {
         savePicture(window, m_options.pictureFile);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "LineState.h"
 #include "Options.h"
 #include "PluginContainer.h"
 #include "StateLine.h"
@@ -14,6 +15,8 @@ namespace refhost
 
 class DemoStore;
 class PluginHandle;
+class Recording;
+class ServicePlugin;
 
 /// One run of the program, from its options to its end. The members stand in
 /// the order in which they are needed: what was made last goes first.
@@ -32,6 +35,8 @@ public:
 private:
     void chooseStore();
     void checkStore() const;
+    void loadDialupService();
+    void startRecording();
     void startPlugin();
     void showWindow();
 
@@ -39,6 +44,9 @@ private:
     std::unique_ptr<DemoStore> m_demoStore;
     HistorySource m_source;
     PluginContainer m_container;
+    LineState m_state;
+    std::unique_ptr<ServicePlugin> m_dialupService;
+    std::unique_ptr<Recording> m_recording;
     std::unique_ptr<PluginHandle> m_plugin;
 };
 

@@ -2,22 +2,20 @@
 #include "HistoryArea.h"
 
 #include "PluginHandle.h"
+#include "RowSelection.h"
+#include "TrueValues.h"
 
 #include <QTableWidget>
+
+#include <optional>
 
 namespace refhost
 {
 
-namespace
-{
-
-constexpr int startTimeColumn = 1;
-
-} // namespace
-
-HistoryArea::HistoryArea(PluginHandle &plugin, QWidget *parent)
+HistoryArea::HistoryArea(PluginHandle &plugin, const QString &storeFile, QWidget *parent)
     : QWidget(parent)
     , m_plugin(plugin)
+    , m_storePath(storeFile.toStdString())
 {
 }
 
@@ -32,10 +30,21 @@ void HistoryArea::hideHistory()
     m_plugin.hide();
 }
 
-void HistoryArea::sortNewestFirst()
+void HistoryArea::sort(const HistoryOrder &order)
 {
-    if (auto *const table = findChild<QTableWidget *>())
-        table->sortItems(startTimeColumn, Qt::DescendingOrder);
+    m_order = order;
+    sortTable();
+}
+
+void HistoryArea::showFinishedConnection()
+{
+    std::optional<RowSelection> selection;
+    if (table())
+        selection.emplace(*table());
+    m_plugin.tellDisconnected();
+    sortTable();
+    if (selection && table())
+        selection->restore();
 }
 
 void HistoryArea::resizeEvent(QResizeEvent *event)
@@ -43,6 +52,17 @@ void HistoryArea::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     if (m_hasHistory)
         m_plugin.fitTo(rect());
+}
+
+QTableWidget *HistoryArea::table() const
+{
+    return findChild<QTableWidget *>();
+}
+
+void HistoryArea::sortTable()
+{
+    if (table())
+        sortRows(*table(), m_order, TrueValues::readFrom(m_storePath));
 }
 
 } // namespace refhost

@@ -28,11 +28,9 @@ QString startLanguage()
     return QStringLiteral("en");
 }
 
-void storeLanguage(const QString &language)
+bool storeLanguage(const QString &language)
 {
-    if (!storeSetting(settingsGroup, languageKey, language))
-        qWarning("The language %s is not remembered: the settings file cannot be written.",
-                 qUtf8Printable(language));
+    return storeSetting(settingsGroup, languageKey, language);
 }
 
 QLocale localeFor(const QString &language)

@@ -11,8 +11,8 @@ namespace refhost
 /// the system's languages that there are texts for, else English.
 QString startLanguage();
 
-/// Remembers the user's choice for later runs.
-void storeLanguage(const QString &language);
+/// Remembers the user's choice for later runs; false if it cannot be written.
+bool storeLanguage(const QString &language);
 
 /// How dates are written in this language: as the user's region does if that
 /// speaks it, else as is usual for the language.

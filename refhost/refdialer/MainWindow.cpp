@@ -4,10 +4,12 @@
 #include "HistoryArea.h"
 #include "Host.h"
 #include "LanguageChoice.h"
+#include "LineState.h"
 #include "PluginHandle.h"
+#include "SettingsDialog.h"
+#include "SortMenu.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -24,22 +26,25 @@ constexpr QSize defaultSize(780, 500);
 
 } // namespace
 
-MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source)
+MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state)
     : m_plugin(plugin)
-    , m_area(new HistoryArea(plugin))
+    , m_state(state)
+    , m_area(new HistoryArea(plugin, source.file))
 {
     auto *const content = new QWidget;
     auto *const layout = new QVBoxLayout(content);
     // The history brings margins of its own.
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new StateLine(source));
+    layout->addWidget(new StateLine(source, state));
     layout->addWidget(m_area, 1);
     setCentralWidget(content);
     createMenus();
     retranslate();
     resize(defaultSize);
     m_area->showHistory();
-    m_area->sortNewestFirst();
+    m_area->sort(HistoryOrder());
+    connect(&state, &LineState::connected, this, [this] { m_plugin.tellConnected(); });
+    connect(&state, &LineState::disconnected, this, &MainWindow::showFinishedConnection);
 }
 
 MainWindow::~MainWindow()
@@ -63,6 +68,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::createMenus()
 {
     m_fileMenu = menuBar()->addMenu(QString());
+    m_settingsAction = m_fileMenu->addAction(QString());
+    m_settingsAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+,")));
+    connect(m_settingsAction, &QAction::triggered, this, &MainWindow::showSettings);
+    m_fileMenu->addSeparator();
     m_quitAction = m_fileMenu->addAction(QString());
     m_quitAction->setShortcut(QKeySequence::Quit);
     connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
@@ -72,21 +81,9 @@ void MainWindow::createMenus()
     m_historyAction->setCheckable(true);
     m_historyAction->setChecked(true);
     connect(m_historyAction, &QAction::toggled, this, &MainWindow::setHistoryVisible);
-
-    m_languageMenu = menuBar()->addMenu(QString());
-    createLanguageActions();
-}
-
-void MainWindow::createLanguageActions()
-{
-    auto *const group = new QActionGroup(this);
-    for (const QString &code : availableLanguages()) {
-        QAction *const action = m_languageMenu->addAction(languageName(code));
-        action->setCheckable(true);
-        action->setChecked(code == language());
-        group->addAction(action);
-        connect(action, &QAction::triggered, this, [this, code] { chooseLanguage(code); });
-    }
+    m_sortMenu = new SortMenu(m_viewMenu);
+    m_viewMenu->addMenu(m_sortMenu);
+    connect(m_sortMenu, &SortMenu::orderChosen, m_area, &HistoryArea::sort);
 }
 
 void MainWindow::retranslate()
@@ -94,10 +91,10 @@ void MainWindow::retranslate()
     setLocale(localeFor(language()));
     setWindowTitle(tr("Connection history"));
     m_fileMenu->setTitle(tr("&File"));
+    m_settingsAction->setText(tr("&Settings…"));
     m_quitAction->setText(tr("&Quit"));
     m_viewMenu->setTitle(tr("&View"));
     m_historyAction->setText(tr("&History"));
-    m_languageMenu->setTitle(tr("&Language"));
 }
 
 void MainWindow::setHistoryVisible(bool isVisible)
@@ -108,12 +105,21 @@ void MainWindow::setHistoryVisible(bool isVisible)
         m_area->hideHistory();
 }
 
-void MainWindow::chooseLanguage(const QString &language)
+void MainWindow::showFinishedConnection()
 {
-    if (!setLanguage(language))
-        return;
-    storeLanguage(language);
-    m_plugin.changeLanguage(language);
+    m_area->showFinishedConnection();
+    // The plug-in knows of one connection at a time: without this, the end of
+    // another one that still lasts would mean nothing to it.
+    if (!m_state.connections().isEmpty())
+        m_plugin.tellConnected();
+}
+
+void MainWindow::showSettings()
+{
+    SettingsDialog dialog(this);
+    connect(&dialog, &SettingsDialog::languageChosen, this,
+            [this](const QString &language) { m_plugin.changeLanguage(language); });
+    dialog.exec();
 }
 
 } // namespace refhost

@@ -12,7 +12,9 @@ namespace refhost
 {
 
 class HistoryArea;
+class LineState;
 class PluginHandle;
+class SortMenu;
 
 /// The window: what is shown above, the plug-in's history below.
 class MainWindow : public QMainWindow
@@ -20,9 +22,10 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Shows the history of a plug-in that has been started and that outlives
-    /// the window; the window ends it before its own area goes.
-    MainWindow(PluginHandle &plugin, const HistorySource &source);
+    /// Shows the history of a plug-in that has been started, and tells it what
+    /// becomes of connections. Both outlive the window, which ends the plug-in
+    /// before its own area goes.
+    MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state);
     ~MainWindow() override;
 
 protected:
@@ -31,18 +34,20 @@ protected:
 
 private:
     void createMenus();
-    void createLanguageActions();
     void retranslate();
     void setHistoryVisible(bool isVisible);
-    void chooseLanguage(const QString &language);
+    void showFinishedConnection();
+    void showSettings();
 
     PluginHandle &m_plugin;
+    const LineState &m_state;
     HistoryArea *m_area;
     QMenu *m_fileMenu;
+    QAction *m_settingsAction;
     QAction *m_quitAction;
     QMenu *m_viewMenu;
     QAction *m_historyAction;
-    QMenu *m_languageMenu;
+    SortMenu *m_sortMenu;
 };
 
 } // namespace refhost

@@ -24,6 +24,7 @@ public:
 private:
     QString information() const;
     QString value(const QCommandLineOption &option) const;
+    QStringList values(const QCommandLineOption &option) const;
     static void check(const Options &options);
     [[noreturn]] static void refuse(const QString &problem);
 
@@ -46,6 +47,15 @@ private:
     const QCommandLineOption m_demo{
         QStringLiteral("demo"),
         tr("Show a temporary copy of a sample history; nothing of yours is touched.")};
+    const QCommandLineOption m_interface{
+        QStringLiteral("interface"),
+        tr("Record the connections of the network interface NAME too, not only of ppp* and wwan*; "
+           "may be given several times."),
+        tr("NAME")};
+    const QCommandLineOption m_noDialupService{
+        QStringLiteral("no-dialup-service"),
+        tr("Leave the dial-up service out, without which the history does not react to "
+           "connections.")};
     const QCommandLineOption m_picture{
         QStringLiteral("screenshot"),
         tr("Draw the window to the PNG picture FILE without a display and exit."), tr("FILE")};
@@ -54,8 +64,8 @@ private:
 CommandLine::CommandLine()
 {
     m_parser.setApplicationDescription(tr("Shows the history of mobile-broadband connections."));
-    m_parser.addOptions(
-        {m_help, m_version, m_store, m_plugin, m_language, m_debug, m_demo, m_picture});
+    m_parser.addOptions({m_help, m_version, m_store, m_plugin, m_interface, m_noDialupService,
+                         m_language, m_debug, m_demo, m_picture});
 }
 
 Options CommandLine::read(const QStringList &arguments)
@@ -72,6 +82,8 @@ Options CommandLine::read(const QStringList &arguments)
     options.pluginFile = value(m_plugin);
     options.language = value(m_language);
     options.pictureFile = value(m_picture);
+    options.interfaceNames = values(m_interface);
+    options.hasDialupService = !m_parser.isSet(m_noDialupService);
     options.isDebug = m_parser.isSet(m_debug);
     options.isDemo = m_parser.isSet(m_demo);
     check(options);
@@ -90,10 +102,16 @@ QString CommandLine::information() const
 
 QString CommandLine::value(const QCommandLineOption &option) const
 {
-    QString text = m_parser.value(option);
-    if (m_parser.isSet(option) && text.isEmpty())
+    const QStringList texts = values(option);
+    return texts.isEmpty() ? QString() : texts.last();
+}
+
+QStringList CommandLine::values(const QCommandLineOption &option) const
+{
+    const QStringList texts = m_parser.values(option);
+    if (texts.contains(QString()))
         refuse(tr("The option --%1 needs a value.").arg(option.names().first()));
-    return text;
+    return texts;
 }
 
 void CommandLine::check(const Options &options)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace refhost
 {
@@ -12,8 +13,10 @@ struct Options {
     QString pluginFile;
     QString language;
     QString pictureFile;
+    QStringList interfaceNames;
     bool isDebug = false;
     bool isDemo = false;
+    bool hasDialupService = true;
     /// To print instead of doing anything else: help or version.
     QString information;
 };

@@ -2,11 +2,11 @@
 #include "PluginHandle.h"
 
 #include "Failure.h"
+#include "PluginFile.h"
 
 #include "INotify.h"
 #include "IUIPlugin.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QPluginLoader>
@@ -20,14 +20,13 @@ namespace
 {
 
 constexpr unsigned int textsChanged = 1024;
+constexpr unsigned int connectionChanged = 1536;
 
 } // namespace
 
 QString PluginHandle::defaultFile()
 {
-    return QDir::cleanPath(
-        QCoreApplication::applicationDirPath() +
-        QStringLiteral("/" NETINFORECORD_LIBDIR_FROM_BINDIR "/libNetInfoRecordUIPlugin.so"));
+    return pluginFile(QStringLiteral("NetInfoRecordUIPlugin"));
 }
 
 std::unique_ptr<PluginHandle> PluginHandle::load(const QString &file)
@@ -131,6 +130,22 @@ void PluginHandle::changeLanguage(const QString &language)
 {
     if (!m_hasEnded && m_ui->ChangeLang(language))
         m_events->Notify(textsChanged, 0, 0);
+}
+
+void PluginHandle::tellConnected()
+{
+    tellConnection(1);
+}
+
+void PluginHandle::tellDisconnected()
+{
+    tellConnection(0);
+}
+
+void PluginHandle::tellConnection(unsigned int status)
+{
+    if (!m_hasEnded)
+        m_events->Notify(connectionChanged, status, 0);
 }
 
 void PluginHandle::end()

@@ -45,12 +45,16 @@ public:
     void fitTo(const QRect &rect);
     void hide();
     void changeLanguage(const QString &language);
+    void tellConnected();
+    /// After the connection's record is finished; the plug-in loads the table anew.
+    void tellDisconnected();
     /// Ends the plug-in, which must happen while its area is still there.
     void end();
 
 private:
     PluginHandle(QObject *root, IUIPlugin *ui, INotify *events);
     static void checkMetadata(const QString &file, const QPluginLoader &loader);
+    void tellConnection(unsigned int status);
     [[noreturn]] static void fail(const QString &problem);
 
     QPointer<QObject> m_root;

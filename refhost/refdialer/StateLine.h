@@ -6,19 +6,24 @@
 namespace refhost
 {
 
+class LineState;
+struct ConnectionState;
+
 /// Where the connections that the window shows come from.
 struct HistorySource {
     QString file;
     bool isSample = false;
 };
 
-/// The line above the history: what the user is looking at.
+/// The line above the history: the connections that last, or what the user is
+/// looking at where none are watched.
 class StateLine : public QLabel
 {
     Q_OBJECT
 
 public:
-    explicit StateLine(HistorySource source, QWidget *parent = nullptr);
+    /// The state must outlive the line.
+    StateLine(HistorySource source, const LineState &state, QWidget *parent = nullptr);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -26,8 +31,11 @@ protected:
 private:
     void showState();
     QString stateText() const;
+    QString connectionText(const ConnectionState &connection) const;
+    QString sourceText() const;
 
     const HistorySource m_source;
+    const LineState &m_state;
 };
 
 } // namespace refhost

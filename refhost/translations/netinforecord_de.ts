@@ -221,6 +221,18 @@
         <source>Show the version.</source>
         <translation>Die Version zeigen.</translation>
     </message>
+    <message>
+        <source>Record the connections of the network interface NAME too, not only of ppp* and wwan*; may be given several times.</source>
+        <translation>Auch die Verbindungen der Netzwerkschnittstelle NAME aufzeichnen, nicht nur die von ppp* und wwan*; mehrfach möglich.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>Leave the dial-up service out, without which the history does not react to connections.</source>
+        <translation>Den Einwahldienst weglassen, ohne den der Verlauf nicht auf Verbindungen reagiert.</translation>
+    </message>
 </context>
 <context>
     <name>refhost::DemoStore</name>
@@ -252,8 +264,8 @@
         <translation>&amp;Verlauf</translation>
     </message>
     <message>
-        <source>&amp;Language</source>
-        <translation>&amp;Sprache</translation>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Einstellungen …</translation>
     </message>
 </context>
 <context>
@@ -291,6 +303,71 @@
     </message>
 </context>
 <context>
+    <name>refhost::ServicePlugin</name>
+    <message>
+        <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
+        <translation>Der Einwahldienst %1 lässt sich nicht laden: %2. Installieren Sie refdialer neu, oder lassen Sie den Dienst mit --no-dialup-service weg.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Show a summary after each connection</source>
+        <translation>Nach jeder Verbindung eine &amp;Zusammenfassung zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
+        <translation>Das gilt nur, bis sich das Fenster schließt: Die Einstellungen lassen sich nicht in %1 schreiben. Schaffen Sie dort Platz, oder erlauben Sie sich das Schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Sortieren nach</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Beginn</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>&amp;Ende</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>&amp;Profil</translation>
+    </message>
+    <message>
+        <source>D&amp;uration</source>
+        <translation>&amp;Dauer</translation>
+    </message>
+    <message>
+        <source>Up&amp;loaded</source>
+        <translation>&amp;Gesendet</translation>
+    </message>
+    <message>
+        <source>&amp;Downloaded</source>
+        <translation>E&amp;mpfangen</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Aufsteigend</translation>
+    </message>
+    <message>
+        <source>Descendin&amp;g</source>
+        <translation>Ab&amp;steigend</translation>
+    </message>
+</context>
+<context>
     <name>refhost::StateLine</name>
     <message>
         <source>Sample history. Changes are gone when the window closes.</source>
@@ -303,6 +380,14 @@
     <message>
         <source>No connections recorded yet in %1</source>
         <translation>Noch keine Verbindungen aufgezeichnet in %1</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>%1, connected since %2. Sent: %3 (%4 per second), received: %5 (%6 per second)</source>
+        <translation>%1, verbunden seit %2. Gesendet: %3 (%4 je Sekunde), empfangen: %5 (%6 je Sekunde)</translation>
     </message>
 </context>
 </TS>

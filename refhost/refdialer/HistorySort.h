@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "HistoryRow.h"
+
+#include <Qt>
+
+class QTableWidget;
+
+namespace refhost
+{
+
+class TrueValues;
+
+struct HistoryOrder {
+    HistoryColumn column = HistoryColumn::Start;
+    Qt::SortOrder direction = Qt::DescendingOrder;
+};
+
+/// Puts the rows in this order, once; those that are equal in it stand newest
+/// first. Cells, selection and current cell move with their rows, and the
+/// table's own sorting stays as it is.
+void sortRows(QTableWidget &table, const HistoryOrder &order, TrueValues values);
+
+} // namespace refhost

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "Recording.h"
+
+#include "ConnectionRecorder.h"
+#include "LineState.h"
+
+namespace refhost
+{
+
+Recording::Recording(const QString &storePath, const QStringList &interfaceNames, LineState &state)
+    : m_state(state)
+    , m_recorder(new ConnectionRecorder(storePath, interfaceNames))
+{
+    QObject::connect(m_recorder, &ConnectionRecorder::connected, &m_state, &LineState::begin);
+    QObject::connect(m_recorder, &ConnectionRecorder::stateChanged, &m_state, &LineState::update);
+    QObject::connect(m_recorder, &ConnectionRecorder::disconnected, &m_state, &LineState::end);
+    QObject::connect(m_recorder, &ConnectionRecorder::failed, &m_state, &LineState::setProblem);
+    m_recorder->moveToThread(&m_thread);
+    QObject::connect(&m_thread, &QThread::finished, m_recorder, &QObject::deleteLater);
+    m_thread.start();
+}
+
+Recording::~Recording()
+{
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void Recording::start()
+{
+    bool hasStarted = false;
+    QMetaObject::invokeMethod(m_recorder, &ConnectionRecorder::start, Qt::BlockingQueuedConnection,
+                              &hasStarted);
+    m_state.setWatched(hasStarted);
+}
+
+} // namespace refhost

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "SummaryChoice.h"
+
+#include "CommonUtils.h"
+#include "Host.h"
+
+namespace refhost
+{
+
+namespace
+{
+
+// The plug-in's own names.
+const char *const settingsGroup = "NetInfoRecordUIPlugin";
+const char *const summaryKey = "WhetherShowNotesbox";
+const char *const wanted = "true";
+
+QString storedChoice()
+{
+    return CommonUtils::GetSettings(settingsGroup, summaryKey);
+}
+
+} // namespace
+
+bool isSummaryWanted()
+{
+    return storedChoice().compare(QLatin1String(wanted), Qt::CaseInsensitive) == 0;
+}
+
+bool storeSummaryChoice(bool isWanted)
+{
+    return storeSetting(settingsGroup, summaryKey, isWanted ? wanted : "false");
+}
+
+void offerSummary()
+{
+    if (storedChoice().isEmpty() && !storeSummaryChoice(true))
+        qWarning("No summary is shown after connections: the settings cannot be written to %s.",
+                 qUtf8Printable(settingsFile()));
+}
+
+} // namespace refhost

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace refhost
+{
+
+/// Whether the history plug-in shows a summary after each connection, as its
+/// setting says.
+bool isSummaryWanted();
+
+/// False if the choice cannot be written.
+bool storeSummaryChoice(bool isWanted);
+
+/// Turns the summary on for a user who has not chosen yet, so that it is seen.
+void offerSummary();
+
+} // namespace refhost
