@@ -3,7 +3,7 @@
 
 #include "HistoryRow.h"
 
-#include <Qt>
+#include <QMetaType>
 
 class QTableWidget;
 
@@ -23,3 +23,5 @@ struct HistoryOrder {
 void sortRows(QTableWidget &table, const HistoryOrder &order, TrueValues values);
 
 } // namespace refhost
+
+Q_DECLARE_METATYPE(refhost::HistoryOrder)

@@ -56,9 +56,11 @@ QString StateLine::stateText() const
 
 QString StateLine::connectionText(const ConnectionState &connection) const
 {
-    // The units of the history below, where 1 KB is 1024 bytes.
+    // The units of the history below, where 1 KB is 1024 bytes and has a capital K.
     const auto size = [this](qint64 bytes) {
-        return locale().formattedDataSize(bytes, 2, QLocale::DataSizeTraditionalFormat);
+        return locale()
+            .formattedDataSize(bytes, 2, QLocale::DataSizeTraditionalFormat)
+            .replace(QLatin1String("kB"), QLatin1String("KB"));
     };
     return tr("%1, connected since %2. Sent: %3 (%4 per second), received: %5 (%6 per second)")
         .arg(connection.profile,

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "BoxInput.h"
 #include "CommonUtils.h"
 #include "Host.h"
 
-#include <QApplication>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QWindow>
 
 #include <functional>
 
@@ -43,20 +42,6 @@ private:
 namespace
 {
 
-QMessageBox *openBox()
-{
-    return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-}
-
-QAbstractButton *buttonNamed(const QMessageBox &box, const QString &text)
-{
-    for (QAbstractButton *const button : box.buttons()) {
-        if (button->text() == text)
-            return button;
-    }
-    return nullptr;
-}
-
 QStringList buttonTexts(const QMessageBox &box)
 {
     QStringList texts;
@@ -64,20 +49,6 @@ QStringList buttonTexts(const QMessageBox &box)
         texts.append(button->text());
     texts.sort();
     return texts;
-}
-
-/// Presses a key as the window system does: whoever has the focus gets it.
-void pressKey(QMessageBox &box, Qt::Key key)
-{
-    QVERIFY(QTest::qWaitForWindowActive(&box));
-    QTest::keyClick(box.windowHandle(), key);
-}
-
-void clickOn(QMessageBox &box, const QString &text)
-{
-    QAbstractButton *const button = buttonNamed(box, text);
-    QVERIFY2(button, qPrintable("no button " + text));
-    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 void closeBox(QMessageBox &box)
@@ -127,25 +98,29 @@ void TestShowMessage::isConfirmedByTheFirstButtonOnly_data()
     const auto click = [](const char *text) {
         return Step([text](QMessageBox &box) { clickOn(box, text); });
     };
-    const auto press = [](Qt::Key key) {
-        return Step([key](QMessageBox &box) { pressKey(box, key); });
-    };
-    const Step tabThenEnter = [](QMessageBox &box) {
-        pressKey(box, Qt::Key_Tab);
-        QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+    const auto press = [](const QList<Qt::Key> &keys) {
+        return Step([keys](QMessageBox &box) { pressKeys(box, keys); });
     };
     QTest::newRow("a click on the first of two") << two << click("OK") << true;
     QTest::newRow("a click on the second of two") << two << click("Cancel") << false;
     QTest::newRow("a click on the third") << three << click("Third") << false;
-    QTest::newRow("Enter presses the second of two") << two << press(Qt::Key_Return) << false;
-    QTest::newRow("Enter after moving to the first") << two << tabThenEnter << true;
-    QTest::newRow("Escape with two buttons") << two << press(Qt::Key_Escape) << false;
-    QTest::newRow("Escape with three buttons") << three << press(Qt::Key_Escape) << false;
+    QTest::newRow("Enter presses the second of two") << two << press({Qt::Key_Return}) << false;
+    QTest::newRow("Enter after moving to the first")
+        << two << press({Qt::Key_Tab, Qt::Key_Return}) << true;
+    QTest::newRow("the number block's Enter") << two << press({Qt::Key_Enter}) << false;
+    QTest::newRow("Space presses the second of two") << two << press({Qt::Key_Space}) << false;
+    QTest::newRow("Space after moving to the first")
+        << two << press({Qt::Key_Tab, Qt::Key_Space}) << true;
+    QTest::newRow("Escape after moving to the first")
+        << two << press({Qt::Key_Tab, Qt::Key_Escape}) << false;
+    QTest::newRow("Space with one button") << one << press({Qt::Key_Space}) << true;
+    QTest::newRow("Escape with two buttons") << two << press({Qt::Key_Escape}) << false;
+    QTest::newRow("Escape with three buttons") << three << press({Qt::Key_Escape}) << false;
     QTest::newRow("closing with two buttons") << two << Step(closeBox) << false;
     QTest::newRow("closing with three buttons") << three << Step(closeBox) << false;
     QTest::newRow("a click on the only button") << one << click("OK") << true;
-    QTest::newRow("Enter with one button") << one << press(Qt::Key_Return) << true;
-    QTest::newRow("Escape with one button") << one << press(Qt::Key_Escape) << false;
+    QTest::newRow("Enter with one button") << one << press({Qt::Key_Return}) << true;
+    QTest::newRow("Escape with one button") << one << press({Qt::Key_Escape}) << false;
     QTest::newRow("closing with one button") << one << Step(closeBox) << false;
     QTest::newRow("closing without buttons") << none << Step(closeBox) << false;
 }

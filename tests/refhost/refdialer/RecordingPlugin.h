@@ -39,9 +39,9 @@ public:
         note("ChangeLang " + language + ", texts in " + refhost::language());
         return m_acceptsLanguages;
     }
-    unsigned int Notify(unsigned int event, unsigned int, unsigned int) override
+    unsigned int Notify(unsigned int event, unsigned int first, unsigned int second) override
     {
-        note("Notify " + QString::number(event));
+        note(QString("Notify %1, %2, %3").arg(event).arg(first).arg(second));
         return 0;
     }
     void OnDestroy() override { note(m_area ? "OnDestroy" : "OnDestroy without the area"); }

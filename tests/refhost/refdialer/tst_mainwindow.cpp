@@ -1,17 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "CommonUtils.h"
 #include "LanguageChoice.h"
+#include "LineState.h"
 #include "MainWindow.h"
+#include "MenuEntry.h"
 #include "PluginHandle.h"
 #include "RecordingPlugin.h"
+#include "SettingsDialog.h"
+#include "SortMenu.h"
+#include "SummaryChoice.h"
 
 #include <QAction>
-#include <QMenu>
-#include <QMenuBar>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLabel>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <QWindow>
 
+#include <functional>
 #include <memory>
 
 using refhost::MainWindow;
@@ -30,10 +42,16 @@ private slots:
     void hidesTheHistoryAndShowsItAgain();
     void showsTheNewestConnectionFirst();
 
-    void speaksTheChosenLanguage();
+    void sortsOnceAsChosen();
+    void sortsInTheUsualDirectionOfAnotherColumn();
+    void tellsThePluginOfConnections();
+
+    void speaksTheLanguageOfTheSettings();
     void remembersTheChosenLanguage();
     void startsInAKnownLanguageWhateverIsStored();
-    void marksTheCurrentLanguage();
+    void remembersWhetherASummaryIsWanted();
+    void saysWhenASettingCannotBeStored();
+    void offersTheSummaryToANewUserOnly();
     void sendsNoTextEventWhenThePluginRefusesTheLanguage();
     void writesDatesAsTheLanguageDoes();
 
@@ -42,25 +60,41 @@ private slots:
     void endsThePluginOnceWhenDestroyed();
     void leavesThePluginAloneAfterItsEnd();
 
-    void saysWhereTheHistoryComesFrom();
-
 private:
-    QAction *entry(int menu, const QString &text) const;
+    QAction *entry(const QStringList &path) const { return menuEntry(*m_window, path); }
+    void openSettings(const std::function<void(refhost::SettingsDialog &)> &step);
     int callsTo(const QString &operation) const { return int(m_calls.filter(operation).size()); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QStringList m_calls;
     RecordingPlugin *m_recording = nullptr;
     std::unique_ptr<PluginHandle> m_plugin;
+    refhost::LineState m_state;
     std::unique_ptr<MainWindow> m_window;
 };
 
 namespace
 {
 
-constexpr int fileMenu = 0;
-constexpr int viewMenu = 1;
-constexpr int languageMenu = 2;
+QList<int> daysIn(const QTableWidget &table)
+{
+    QList<int> days;
+    for (int row = 0; row < table.rowCount(); ++row)
+        days.append(table.item(row, 1)->data(Qt::DisplayRole).toDate().day());
+    return days;
+}
+
+void chooseLanguage(refhost::SettingsDialog &dialog, const QString &name)
+{
+    auto &box = *dialog.findChild<QComboBox *>();
+    QTest::keyClicks(&box, name);
+    QCOMPARE(box.currentText(), name);
+}
+
+void chooseGerman(refhost::SettingsDialog &dialog)
+{
+    chooseLanguage(dialog, "Deutsch");
+}
 
 } // namespace
 
@@ -73,24 +107,15 @@ void TestMainWindow::init()
     m_recording = new RecordingPlugin(m_calls);
     m_plugin = PluginHandle::adopt(m_recording);
     QVERIFY(m_plugin);
-    m_window = std::make_unique<MainWindow>(*m_plugin, refhost::HistorySource{});
+    m_window = std::make_unique<MainWindow>(*m_plugin, refhost::HistorySource{}, m_state);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
 
 void TestMainWindow::cleanup()
 {
     m_window.reset();
     m_plugin.reset();
-}
-
-QAction *TestMainWindow::entry(int menu, const QString &text) const
-{
-    for (QAction *const action : m_window->menuBar()->actions().at(menu)->menu()->actions()) {
-        if (action->text().remove('&') == text)
-            return action;
-    }
-    return nullptr;
 }
 
 void TestMainWindow::showsTheHistoryInItsArea()
@@ -109,7 +134,7 @@ void TestMainWindow::fitsTheHistoryToItsAreaWhenResized()
 
 void TestMainWindow::hidesTheHistoryAndShowsItAgain()
 {
-    QAction *const history = entry(viewMenu, "History");
+    QAction *const history = entry({"View", "History"});
     QVERIFY(history && history->isChecked());
     history->trigger();
     QCOMPARE(m_calls.last(), QString("Hide"));
@@ -121,28 +146,101 @@ void TestMainWindow::hidesTheHistoryAndShowsItAgain()
 
 void TestMainWindow::showsTheNewestConnectionFirst()
 {
-    QList<int> days;
-    for (int row = 0; row < 3; ++row)
-        days.append(m_recording->table()->item(row, 1)->data(Qt::DisplayRole).toDate().day());
-    QCOMPARE(days, QList<int>({30, 12, 2}));
+    QCOMPARE(daysIn(*m_recording->table()), QList<int>({30, 12, 2}));
     QVERIFY(!m_recording->table()->isSortingEnabled());
 }
 
-void TestMainWindow::speaksTheChosenLanguage()
+void TestMainWindow::sortsOnceAsChosen()
+{
+    entry({"View", "Sort by", "Ascending"})->trigger();
+    QCOMPARE(daysIn(*m_recording->table()), QList<int>({2, 12, 30}));
+    QVERIFY(!m_recording->table()->isSortingEnabled());
+}
+
+void TestMainWindow::sortsInTheUsualDirectionOfAnotherColumn()
+{
+    QSignalSpy chosen(m_window->findChild<refhost::SortMenu *>(), &refhost::SortMenu::orderChosen);
+    const auto last = [&chosen] {
+        const auto order = chosen.last().first().value<refhost::HistoryOrder>();
+        return QPair<int, Qt::SortOrder>(int(order.column), order.direction);
+    };
+    using Expected = QPair<int, Qt::SortOrder>;
+    entry({"View", "Sort by", "Ascending"})->trigger();
+    QCOMPARE(last(), Expected(1, Qt::AscendingOrder));
+    entry({"View", "Sort by", "Start"})->trigger();
+    QCOMPARE(last(), Expected(1, Qt::AscendingOrder));
+    entry({"View", "Sort by", "End"})->trigger();
+    QCOMPARE(last(), Expected(2, Qt::DescendingOrder));
+    QVERIFY(entry({"View", "Sort by", "Descending"})->isChecked());
+    entry({"View", "Sort by", "Profile"})->trigger();
+    QCOMPARE(last(), Expected(0, Qt::AscendingOrder));
+    QVERIFY(entry({"View", "Sort by", "Ascending"})->isChecked());
+    entry({"View", "Sort by", "Duration"})->trigger();
+    QCOMPARE(last(), Expected(3, Qt::DescendingOrder));
+    entry({"View", "Sort by", "Uploaded"})->trigger();
+    QCOMPARE(last(), Expected(4, Qt::DescendingOrder));
+    entry({"View", "Sort by", "Downloaded"})->trigger();
+    QCOMPARE(last(), Expected(5, Qt::DescendingOrder));
+}
+
+void TestMainWindow::tellsThePluginOfConnections()
+{
+    refhost::ConnectionState state;
+    state.interfaceName = "wwan0";
+    m_calls.clear();
+    m_state.begin(state);
+    QCOMPARE(m_calls, QStringList("Notify 1536, 1, 0"));
+    refhost::Connection finished;
+    finished.interfaceName = "wwan0";
+    m_state.end(finished);
+    QCOMPARE(m_calls, QStringList({"Notify 1536, 1, 0", "Notify 1536, 0, 0"}));
+}
+
+/// Opens the settings with their key, does the step there and closes them.
+void TestMainWindow::openSettings(const std::function<void(refhost::SettingsDialog &)> &step)
+{
+    // Nobody but a window manager does that after a dialog.
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    bool wasOpen = false;
+    // Showing the dialog may handle events before it is there.
+    QTimer whenOpen;
+    connect(&whenOpen, &QTimer::timeout, this, [&step, &wasOpen, &whenOpen] {
+        auto *const dialog =
+            qobject_cast<refhost::SettingsDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        whenOpen.stop();
+        wasOpen = true;
+        step(*dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    whenOpen.start();
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Comma, Qt::ControlModifier);
+    QVERIFY(wasOpen);
+}
+
+void TestMainWindow::speaksTheLanguageOfTheSettings()
 {
     m_calls.clear();
-    QVERIFY(entry(languageMenu, "Deutsch"));
-    entry(languageMenu, "Deutsch")->trigger();
-    QCOMPARE(m_calls, QStringList({"ChangeLang de, texts in de", "Notify 1024"}));
-    QTRY_COMPARE(m_window->windowTitle(), QString("Verbindungsverlauf"));
-    QVERIFY(entry(viewMenu, "Verlauf"));
-    entry(languageMenu, "English")->trigger();
-    QTRY_COMPARE(m_window->windowTitle(), QString("Connection history"));
+    openSettings([this](refhost::SettingsDialog &dialog) {
+        chooseGerman(dialog);
+        QCOMPARE(m_calls, QStringList({"ChangeLang de, texts in de", "Notify 1024, 0, 0"}));
+        QTRY_COMPARE(dialog.windowTitle(), QString("Einstellungen"));
+        QTRY_COMPARE(m_window->windowTitle(), QString("Verbindungsverlauf"));
+    });
+    QVERIFY(entry({"Ansicht", "Verlauf"}));
+    QVERIFY(entry({"Ansicht", "Sortieren nach", "Dauer"}));
+    openSettings([this](refhost::SettingsDialog &dialog) {
+        QCOMPARE(dialog.findChild<QComboBox *>()->currentText(), QString("Deutsch"));
+        chooseLanguage(dialog, "English");
+        QTRY_COMPARE(m_window->windowTitle(), QString("Connection history"));
+    });
 }
 
 void TestMainWindow::remembersTheChosenLanguage()
 {
-    entry(languageMenu, "Deutsch")->trigger();
+    openSettings(chooseGerman);
     QCOMPARE(CommonUtils::GetSettings("refdialer", "language"), QString("de"));
     QCOMPARE(refhost::startLanguage(), QString("de"));
 }
@@ -153,18 +251,52 @@ void TestMainWindow::startsInAKnownLanguageWhateverIsStored()
     QVERIFY(refhost::availableLanguages().contains(refhost::startLanguage()));
 }
 
-void TestMainWindow::marksTheCurrentLanguage()
+void TestMainWindow::remembersWhetherASummaryIsWanted()
 {
-    QVERIFY(entry(languageMenu, "English")->isChecked());
-    entry(languageMenu, "Deutsch")->trigger();
-    QVERIFY(entry(languageMenu, "Deutsch")->isChecked());
-    QVERIFY(!entry(languageMenu, "English")->isChecked());
+    const auto toggle = [](refhost::SettingsDialog &dialog) {
+        QTest::keyClick(dialog.findChild<QCheckBox *>(), Qt::Key_Space);
+    };
+    QVERIFY(!refhost::isSummaryWanted());
+    openSettings(toggle);
+    QCOMPARE(CommonUtils::GetSettings("NetInfoRecordUIPlugin", "WhetherShowNotesbox"),
+             QString("true"));
+    openSettings([](refhost::SettingsDialog &dialog) {
+        QVERIFY(dialog.findChild<QCheckBox *>()->isChecked());
+    });
+    openSettings(toggle);
+    QCOMPARE(CommonUtils::GetSettings("NetInfoRecordUIPlugin", "WhetherShowNotesbox"),
+             QString("false"));
+}
+
+void TestMainWindow::saysWhenASettingCannotBeStored()
+{
+    // A file where the settings' folder should be.
+    QFile obstacle(QFileInfo(refhost::settingsFile()).path());
+    QVERIFY(obstacle.open(QFile::WriteOnly));
+    openSettings([](refhost::SettingsDialog &dialog) {
+        QTest::keyClick(dialog.findChild<QCheckBox *>(), Qt::Key_Space);
+        QStringList shown;
+        for (const QLabel *const label : dialog.findChildren<QLabel *>()) {
+            if (label->isVisible())
+                shown.append(label->text());
+        }
+        QVERIFY2(shown.join(' ').contains(refhost::settingsFile()), qPrintable(shown.join(' ')));
+    });
+}
+
+void TestMainWindow::offersTheSummaryToANewUserOnly()
+{
+    refhost::offerSummary();
+    QVERIFY(refhost::isSummaryWanted());
+    QVERIFY(refhost::storeSummaryChoice(false));
+    refhost::offerSummary();
+    QVERIFY(!refhost::isSummaryWanted());
 }
 
 void TestMainWindow::sendsNoTextEventWhenThePluginRefusesTheLanguage()
 {
     m_recording->refuseLanguages();
-    entry(languageMenu, "Deutsch")->trigger();
+    openSettings(chooseGerman);
     QCOMPARE(callsTo("ChangeLang"), 1);
     QCOMPARE(callsTo("Notify"), 0);
 }
@@ -172,7 +304,7 @@ void TestMainWindow::sendsNoTextEventWhenThePluginRefusesTheLanguage()
 void TestMainWindow::writesDatesAsTheLanguageDoes()
 {
     QCOMPARE(m_recording->table()->locale().language(), QLocale::English);
-    entry(languageMenu, "Deutsch")->trigger();
+    openSettings(chooseGerman);
     QTRY_COMPARE(m_recording->table()->locale().language(), QLocale::German);
 }
 
@@ -187,7 +319,7 @@ void TestMainWindow::endsThePluginOnceWhenClosed()
 
 void TestMainWindow::endsThePluginOnceByTheQuitEntry()
 {
-    entry(fileMenu, "Quit")->trigger();
+    entry({"File", "Quit"})->trigger();
     QVERIFY(!m_window->isVisible());
     cleanup();
     QCOMPARE(m_calls.mid(m_calls.size() - 2), QStringList({"OnDestroy", "deleted"}));
@@ -203,32 +335,18 @@ void TestMainWindow::endsThePluginOnceWhenDestroyed()
 
 void TestMainWindow::leavesThePluginAloneAfterItsEnd()
 {
-    QAction *const history = entry(viewMenu, "History");
-    QAction *const german = entry(languageMenu, "Deutsch");
+    QAction *const history = entry({"View", "History"});
+    QAction *const ascending = entry({"View", "Sort by", "Ascending"});
     m_window->close();
     m_calls.clear();
     history->trigger();
     history->trigger();
-    german->trigger();
+    ascending->trigger();
+    m_state.begin({});
+    m_state.end({});
     m_recording->area()->resize(100, 100);
     m_window->show();
     QCOMPARE(m_calls, QStringList());
-}
-
-void TestMainWindow::saysWhereTheHistoryComesFrom()
-{
-    const QString file = m_folder->filePath("<b>connections.db");
-    refhost::StateLine line({file, false});
-    QCOMPARE(line.text(), "No connections recorded yet in " + file);
-    QFile store(file);
-    QVERIFY(store.open(QFile::WriteOnly));
-    QCOMPARE(refhost::StateLine({file, false}).text(), "History in " + file);
-    QCOMPARE(line.textFormat(), Qt::PlainText);
-
-    refhost::StateLine sample({file, true});
-    QVERIFY(sample.text().startsWith("Sample history."));
-    QVERIFY(refhost::setLanguage("de"));
-    QTRY_VERIFY(sample.text().startsWith("Beispielverlauf."));
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -35,6 +35,8 @@ void TestOptions::areEmptyByDefault()
     QCOMPARE(options.language, QString());
     QCOMPARE(options.pictureFile, QString());
     QCOMPARE(options.information, QString());
+    QCOMPARE(options.interfaceNames, QStringList());
+    QVERIFY(options.hasDialupService);
     QVERIFY(!options.isDebug);
     QVERIFY(!options.isDemo);
 }
@@ -50,6 +52,10 @@ void TestOptions::readsAllThatIsGiven()
     QCOMPARE(options.pictureFile, QString("p.png"));
     QVERIFY(options.isDebug);
     QVERIFY(refhost::readOptions({"refdialer", "--demo"}).isDemo);
+    QVERIFY(!refhost::readOptions({"refdialer", "--no-dialup-service"}).hasDialupService);
+    QCOMPARE(refhost::readOptions({"refdialer", "--interface", "usb0", "--interface=eth1"})
+                 .interfaceNames,
+             QStringList({"usb0", "eth1"}));
 }
 
 void TestOptions::refusesWhatDoesNotFit_data()
@@ -63,6 +69,7 @@ void TestOptions::refusesWhatDoesNotFit_data()
     QTest::newRow("an empty plug-in") << QStringList{"--plugin="} << "--plugin";
     QTest::newRow("an empty picture") << QStringList{"--screenshot", ""} << "--screenshot";
     QTest::newRow("an empty language") << QStringList{"--lang", ""} << "--lang";
+    QTest::newRow("an empty interface") << QStringList{"--interface", ""} << "--interface";
     QTest::newRow("the known languages") << QStringList{"--lang", "xx"} << "de, en";
     QTest::newRow("the unknown language") << QStringList{"--lang", "xx"} << "\"xx\"";
     QTest::newRow("sample and own history") << QStringList{"--demo", "--store", "x"} << "--demo";

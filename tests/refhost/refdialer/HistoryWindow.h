@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "LineState.h"
+#include "MainWindow.h"
+#include "PluginContainer.h"
+#include "PluginHandle.h"
+#include "ServicePlugin.h"
+#include "StatisticsStore.h"
+
+#include <QTemporaryDir>
+
+#include <memory>
+#include <vector>
+
+class QTableWidget;
+
+/// 2026-09-01 00:00 UTC
+constexpr std::int64_t firstDay = 1788220800;
+
+/// A connection of 01:02:05 that sent 2.00 KB and received 5.00 MB, so many days
+/// after the first day.
+refhost::Connection connection(const std::string &profile, int daysLater);
+
+/// The built plug-in and the dial-up service in our window, in English, on a real
+/// store and with settings of its own.
+class HistoryWindow
+{
+public:
+    HistoryWindow();
+    ~HistoryWindow();
+
+    std::string storePath() const { return m_storePath; }
+    /// Adds the connections to the store.
+    bool store(const std::vector<refhost::Connection> &connections) const;
+    QStringList storedProfiles() const;
+    /// Runs SQL on the store, as another program would.
+    bool runSql(const std::string &sql) const;
+
+    bool open(bool hasDialupService = true);
+    void close();
+
+    refhost::LineState &state() { return m_state; }
+    refhost::PluginHandle &plugin() const { return *m_plugin; }
+    refhost::MainWindow &window() const { return *m_window; }
+    QTableWidget &table() const;
+    QStringList column(int column) const;
+    QStringList shownProfiles() const { return column(0); }
+
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    /// Presses a key as the window system does: whoever has the focus gets it.
+    void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+
+private:
+    QTemporaryDir m_folder;
+    std::string m_storePath;
+    refhost::LineState m_state;
+    refhost::PluginContainer m_container;
+    refhost::ServicePlugin m_service;
+    std::unique_ptr<refhost::PluginHandle> m_plugin;
+    std::unique_ptr<refhost::MainWindow> m_window;
+};
