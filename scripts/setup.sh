@@ -10,7 +10,7 @@ build_packages=(
 run_packages=(fonts-dejavu-core)
 test_packages=(
     qtbase5-dev qttools5-dev qttools5-dev-tools
-    clang clang-format clang-tidy
+    clang libclang-rt-dev clang-format clang-tidy
     sqlite3 man-db desktop-file-utils appstream iproute2
 )
 
