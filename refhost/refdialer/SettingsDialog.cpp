@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
+#include <QPushButton>
 
 namespace refhost
 {
@@ -64,6 +65,7 @@ void SettingsDialog::retranslate()
     setWindowTitle(tr("Settings"));
     m_summaryBox->setText(tr("&Show a summary after each connection"));
     m_languageLabel->setText(tr("&Language:"));
+    m_buttons->button(QDialogButtonBox::Close)->setText(tr("&Close"));
 }
 
 void SettingsDialog::chooseLanguage(int index)

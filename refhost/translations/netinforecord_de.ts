@@ -324,6 +324,10 @@
         <translation>&amp;Sprache:</translation>
     </message>
     <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
         <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
         <translation>Das gilt nur, bis sich das Fenster schließt: Die Einstellungen lassen sich nicht in %1 schreiben. Schaffen Sie dort Platz, oder erlauben Sie sich das Schreiben.</translation>
     </message>

@@ -6,6 +6,7 @@
 #include "VethPair.h"
 
 #include <QCoreApplication>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -18,6 +19,18 @@ using refhost::ConnectionState;
 
 namespace
 {
+
+/// Datagrams sent in one direction.
+struct Volume {
+    explicit Volume(QRandomGenerator &random)
+        : count(random.bounded(12))
+        , size(random.bounded(1, 1400))
+    {
+    }
+
+    int count;
+    int size;
+};
 
 QString record(const char *interfaceName, qint64 uploaded, qint64 downloaded)
 {
@@ -34,6 +47,23 @@ QString storm()
     for (int i = 0; i < 1500; ++i)
         lines += QStringLiteral("link set far0 mtu %1\n").arg(1400 + i % 2);
     return lines;
+}
+
+/// Switches the line on and sends these volumes; the record that this is to
+/// leave, or nothing if the line did not do it.
+template <typename Line>
+QString useLine(const Line &line, const char *name, const Volume &up, const Volume &down)
+{
+    const bool isUsed =
+        line.goUp() && line.upload(up.count, up.size) && line.download(down.count, down.size);
+    return isUsed ? record(name, Line::bytesOf(up.count, up.size),
+                           Line::bytesOf(down.count, down.size))
+                  : QString();
+}
+
+int numberFromEnvironment(const char *name, int otherwise)
+{
+    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
 }
 
 } // namespace
@@ -57,6 +87,7 @@ private slots:
     void theRecordIsInTheStoreBeforeAnybodyHearsOfIt();
     void countsOnlyWhatALivingInterfaceMovesWhileConnected();
     void tenShortSessionsLoseNothingAndInventNothing();
+    void manyReconnectsLoseNothingAndInventNothing();
     void reconnectsThatNobodyHadTimeToSeeAreRecordsOfTheirOwn();
     void anInterfaceDeletedAtOnceTakesNoByteWithIt();
     void anInterfaceMadeAnewUnderTheSameNameIsAnotherConnection();
@@ -71,6 +102,9 @@ private slots:
     void findsOutWhatWentAwayInAStormOfNews();
 
 private:
+    /// A session of random volumes on a line that lives on, or on one that is
+    /// deleted at its end; the record that it is to leave, or nothing on failure.
+    QString reconnect(QRandomGenerator &random);
     bool startRecorder(const QStringList &interfaceNames = {});
 
     const QString m_obstacle;
@@ -165,6 +199,40 @@ void NetworkRecordingTest::tenShortSessionsLoseNothingAndInventNothing()
     }
     QTRY_COMPARE(m_disconnections->size(), 10);
     QCOMPARE(recordsIn(m_path), expected);
+}
+
+QString NetworkRecordingTest::reconnect(QRandomGenerator &random)
+{
+    const Volume up(random);
+    const Volume down(random);
+    if (random.bounded(2) == 0) {
+        const TunDevice device;
+        if (device.isMade())
+            return useLine(device, "ppp0", up, down);
+    }
+    const QString left = useLine(*m_line, "wwan0", up, down);
+    return m_line->goDown() ? left : QString();
+}
+
+/// NETINFORECORD_RECONNECTS and NETINFORECORD_SEED make it longer, or another one.
+void NetworkRecordingTest::manyReconnectsLoseNothingAndInventNothing()
+{
+    const int sessions = numberFromEnvironment("NETINFORECORD_RECONNECTS", 60);
+    const int seed = numberFromEnvironment("NETINFORECORD_SEED", 1);
+    qInfo("%d sessions, seed %d", sessions, seed);
+    QRandomGenerator random(static_cast<quint32>(seed));
+    QStringList expected;
+    while (expected.size() < sessions) {
+        expected << reconnect(random);
+        QVERIFY(!expected.last().isEmpty());
+        QCoreApplication::processEvents();
+    }
+    QTRY_COMPARE(int(m_disconnections->size()), sessions);
+    QCOMPARE(recordsSeenBy(*m_disconnections), expected);
+    expected.sort();
+    QStringList stored = recordsIn(m_path);
+    stored.sort();
+    QCOMPARE(stored, expected);
 }
 
 void NetworkRecordingTest::reconnectsThatNobodyHadTimeToSeeAreRecordsOfTheirOwn()

@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QLabel>
+#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -227,6 +228,7 @@ void TestMainWindow::speaksTheLanguageOfTheSettings()
         chooseGerman(dialog);
         QCOMPARE(m_calls, QStringList({"ChangeLang de, texts in de", "Notify 1024, 0, 0"}));
         QTRY_COMPARE(dialog.windowTitle(), QString("Einstellungen"));
+        QCOMPARE(dialog.findChild<QPushButton *>()->text(), QString("S&chließen"));
         QTRY_COMPARE(m_window->windowTitle(), QString("Verbindungsverlauf"));
     });
     QVERIFY(entry({"Ansicht", "Verlauf"}));
