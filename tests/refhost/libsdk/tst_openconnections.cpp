@@ -296,6 +296,6 @@ void OpenConnectionsTest::refusesValuesOutsideTheirRange()
     QVERIFY(open().listOpen().value().empty());
 }
 
-QTEST_APPLESS_MAIN(OpenConnectionsTest)
+QTEST_GUILESS_MAIN(OpenConnectionsTest)
 
 #include "tst_openconnections.moc"
