@@ -162,19 +162,26 @@ std::int64_t ConnectionTable::count()
     return m_database.execAndGet("SELECT count(*) FROM connection").getInt64();
 }
 
-void ConnectionTable::visitAll(const Visitor &visit)
+void ConnectionTable::visitAll(const Visitor &visitor)
 {
-    RowQuery query(m_database, "ORDER BY start_utc, key");
-    while (query.next())
-        visit(query.row());
+    visit({}, visitor);
 }
 
-bool ConnectionTable::visitLast(const Visitor &visit)
+void ConnectionTable::visit(const TimeRange &range, const Visitor &visitor)
+{
+    RowQuery query(m_database, "WHERE start_utc >= ? AND start_utc < ? ORDER BY start_utc, key");
+    query.bind(1, range.fromUtc);
+    query.bind(2, range.untilUtc);
+    while (query.next())
+        visitor(query.row());
+}
+
+bool ConnectionTable::visitLast(const Visitor &visitor)
 {
     RowQuery query(m_database, "ORDER BY end_utc DESC, key DESC LIMIT 1");
     if (!query.next())
         return false;
-    visit(query.row());
+    visitor(query.row());
     return true;
 }
 

@@ -59,10 +59,12 @@ public:
 
     std::int64_t count();
     /// Every row by start time, then by key.
-    void visitAll(const Visitor &visit);
+    void visitAll(const Visitor &visitor);
+    /// Those of them that start in `range`.
+    void visit(const TimeRange &range, const Visitor &visitor);
     /// The row with the newest end, the one with the highest key among equals;
     /// false if there is none.
-    bool visitLast(const Visitor &visit);
+    bool visitLast(const Visitor &visitor);
 
     /// Adds the connection, whatever its key, and returns the new key.
     std::int64_t insert(const Connection &connection);

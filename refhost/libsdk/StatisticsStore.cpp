@@ -2,6 +2,7 @@
 #include "StatisticsStore.h"
 
 #include "StoreDatabase.h"
+#include "TotalsSum.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -178,13 +179,14 @@ StatisticsStore::StatisticsStore(StatisticsStore &&) noexcept = default;
 StatisticsStore &StatisticsStore::operator=(StatisticsStore &&) noexcept = default;
 StatisticsStore::~StatisticsStore() = default;
 
-Result<std::vector<Connection>> StatisticsStore::list() const
+Result<std::vector<Connection>> StatisticsStore::list(const TimeRange &range) const
 {
     return d->attempt([&] {
-        return d->database.read(std::vector<Connection>(), [](ConnectionTable &table) {
+        return d->database.read(std::vector<Connection>(), [&](ConnectionTable &table) {
             std::vector<Connection> connections;
-            table.visitAll(
-                [&](const ConnectionRow &row) { connections.push_back(row.toConnection()); });
+            table.visit(range, [&](const ConnectionRow &row) {
+                connections.push_back(row.toConnection());
+            });
             return connections;
         });
     });
@@ -271,6 +273,21 @@ Result<std::vector<OpenConnection>> StatisticsStore::listOpen() const
     return d->attempt([&] {
         return d->database.read(std::vector<OpenConnection>(), [&](ConnectionTable &) {
             return d->database.openConnections().all();
+        });
+    });
+}
+
+Result<std::vector<Totals>> StatisticsStore::totals(const TimeRange &range, Profiles profiles,
+                                                    const PeriodOf &periodOf) const
+{
+    return d->attempt([&] {
+        return d->database.read(std::vector<Totals>(), [&](ConnectionTable &table) {
+            TotalsSum sum(d->database.path(), profiles == Profiles::Apart);
+            table.visit(range, [&](const ConnectionRow &row) {
+                if (const auto period = periodOf(row.startUtc()))
+                    sum.add(row, *period);
+            });
+            return sum.groups();
         });
     });
 }

@@ -6,7 +6,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,6 +55,23 @@ struct OpenConnection {
     std::string ending = "normal"; ///< what it is to end with, unless something happens
 };
 
+/// Times from one second up to another one, which is outside, in seconds since
+/// 1970-01-01 00:00 UTC; all times unless set.
+struct TimeRange {
+    std::int64_t fromUtc = std::numeric_limits<std::int64_t>::min();
+    std::int64_t untilUtc = std::numeric_limits<std::int64_t>::max();
+};
+
+/// What the connections of one group add up to, exactly.
+struct Totals {
+    std::string profile; ///< empty if the profiles are not told apart
+    int period = 0;      ///< what StatisticsStore::PeriodOf made of their starts
+    std::int64_t connections = 0;
+    std::int64_t connectedSeconds = 0;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+};
+
 /// The history of connections in one SQLite file. A store is used on one thread;
 /// several processes may use the same file at once. No operation throws.
 class HOST_API StatisticsStore
@@ -74,8 +93,8 @@ public:
     StatisticsStore &operator=(StatisticsStore &&) noexcept;
     ~StatisticsStore();
 
-    /// All finished connections by start time, then by key.
-    Result<std::vector<Connection>> list() const;
+    /// The finished connections that start in `range`, by start time, then by key.
+    Result<std::vector<Connection>> list(const TimeRange &range = {}) const;
 
     /// Stores one connection and returns its key.
     Result<std::int64_t> add(const Connection &connection);
@@ -107,6 +126,17 @@ public:
     Result<std::int64_t> finish(std::int64_t openKey, const Connection &connection);
     /// The connections that have begun and not been finished, by key.
     Result<std::vector<OpenConnection>> listOpen() const;
+
+    /// Whether totals tell profiles apart, upper and lower case included.
+    enum class Profiles { Together, Apart };
+    /// The period that a connection counts in, wholly, by its start, in seconds
+    /// since 1970-01-01 00:00 UTC; nothing leaves the connection out.
+    using PeriodOf = std::function<std::optional<int>(std::int64_t startUtc)>;
+    /// The totals of the finished connections that start in `range`, by profile,
+    /// in the order of its bytes, then by period; groups without a connection are
+    /// left out. A sum that 64 bits do not hold is an error and never a number.
+    Result<std::vector<Totals>> totals(const TimeRange &range, Profiles profiles,
+                                       const PeriodOf &periodOf) const;
 
 private:
     class Private;

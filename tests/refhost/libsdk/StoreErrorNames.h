@@ -24,6 +24,8 @@ inline const char *nameOf(refhost::StoreError::Kind kind)
         return "BadRecord";
     case Kind::NoSuchRecord:
         return "NoSuchRecord";
+    case Kind::SumTooLarge:
+        return "SumTooLarge";
     }
     return "unknown";
 }
