@@ -5,6 +5,7 @@
 #include "Failure.h"
 #include "ImportCommand.h"
 #include "StatisticsStore.h"
+#include "TotalsCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -37,6 +38,17 @@ ImportRequest::Format formatNamed(const std::string &name)
     throw CLI::ValidationError("--format", "it is csv or pppd, not " + name);
 }
 
+TotalsGroups groupsNamed(const std::string &names)
+{
+    if (names == "profile")
+        return {true, false};
+    if (names == "month")
+        return {false, true};
+    if (names == "profile,month")
+        return {true, true};
+    throw CLI::ValidationError("--by", "it is profile, month or profile,month, not " + names);
+}
+
 /// Declares the commands, and remembers the one that the user chooses.
 class CommandLine
 {
@@ -53,6 +65,7 @@ private:
     void addRemove();
     void addExport();
     void addImport();
+    void addTotals();
 
     CLI::App m_parser;
     CommonRequest m_common;
@@ -60,6 +73,7 @@ private:
     std::vector<std::string> m_keys;
     std::optional<std::string> m_outputPath;
     ImportRequest m_import;
+    TotalsRequest m_totals;
     std::function<void()> m_action;
 };
 
@@ -79,6 +93,7 @@ CommandLine::CommandLine()
     addRemove();
     addExport();
     addImport();
+    addTotals();
 }
 
 CLI::App *CommandLine::addCommand(const char *name, const char *description)
@@ -150,6 +165,24 @@ void CommandLine::addImport()
         ->type_name("")
         ->required();
     command->callback([this] { m_action = [this] { importConnections(m_common, m_import); }; });
+}
+
+void CommandLine::addTotals()
+{
+    CLI::App *const command =
+        addCommand("totals", "Add up connections, each in the local month of its start");
+    command
+        ->add_option_function<std::string>(
+            "--by", [this](const std::string &names) { m_totals.groups = groupsNamed(names); },
+            "One sum for each of these; one in all without it")
+        ->type_name("profile|month|profile,month");
+    command
+        ->add_option("--from", m_totals.from,
+                     "First day counted, as 2024-05-31, in local time; by the start")
+        ->type_name("DATE");
+    command->add_option("--to", m_totals.to, "Last day counted, itself included")
+        ->type_name("DATE");
+    command->callback([this] { m_action = [this] { showTotals(m_common, m_totals); }; });
 }
 
 int complain(ExitCode code, const std::string &sentence)

@@ -4,7 +4,7 @@
 #include "CalendarTime.h"
 #include "ConnectionText.h"
 #include "CsvFormat.h"
-#include "FieldValue.h"
+#include "OptionValue.h"
 #include "Output.h"
 #include "Store.h"
 #include "Utf8Text.h"
@@ -19,18 +19,6 @@ namespace
 {
 
 constexpr std::int64_t largestCount = std::numeric_limits<std::int64_t>::max();
-
-/// The value of an option, read by `read`.
-template <typename Read>
-std::int64_t optionValue(const std::string &option, const std::string &text, Read read)
-{
-    try {
-        return read(text);
-    } catch (const FieldError &error) {
-        throw Failure(error.isMalformed ? ExitCode::Usage : ExitCode::Refused,
-                      "For " + option + ", " + error.reason + ".");
-    }
-}
 
 std::int64_t optionNumber(const std::string &option, const std::string &text, std::int64_t largest)
 {

@@ -16,16 +16,6 @@ namespace
 
 constexpr int mostCharactersInCell = 60;
 
-QString cell(const std::string &text)
-{
-    return printable(fromUtf8(text), mostCharactersInCell);
-}
-
-QString volume(std::int64_t bytes)
-{
-    return QLocale::c().formattedDataSize(bytes);
-}
-
 QJsonObject toJson(const Connection &connection)
 {
     return {{QStringLiteral("key"), static_cast<qint64>(connection.key)},
@@ -41,6 +31,16 @@ QJsonObject toJson(const Connection &connection)
 
 } // namespace
 
+QString nameText(const std::string &name)
+{
+    return printable(fromUtf8(name), mostCharactersInCell);
+}
+
+QString volumeText(std::int64_t bytes)
+{
+    return QLocale::c().formattedDataSize(bytes);
+}
+
 QByteArray toTable(const std::vector<Connection> &connections)
 {
     using Alignment = TextTable::Alignment;
@@ -54,11 +54,11 @@ QByteArray toTable(const std::vector<Connection> &connections)
                      {QStringLiteral("ENDING"), Alignment::Left},
                      {QStringLiteral("INTERFACE"), Alignment::Left}});
     for (const Connection &connection : connections)
-        table.addRow({QString::number(connection.key), cell(connection.profile),
+        table.addRow({QString::number(connection.key), nameText(connection.profile),
                       localText(connection.startUtc), localText(connection.endUtc),
-                      durationText(connection.connectedSeconds), volume(connection.uploadedBytes),
-                      volume(connection.downloadedBytes), cell(connection.ending),
-                      cell(connection.interfaceName)});
+                      durationText(connection.connectedSeconds),
+                      volumeText(connection.uploadedBytes), volumeText(connection.downloadedBytes),
+                      nameText(connection.ending), nameText(connection.interfaceName)});
     return table.text().toUtf8();
 }
 

@@ -42,4 +42,14 @@ std::int64_t fieldTime(const std::string &text)
     return *utc;
 }
 
+QDate fieldDay(const std::string &text)
+{
+    const QString day = fromUtf8(text);
+    const QDate date = QDate::fromString(day, Qt::ISODate);
+    // Other separators and what follows a date are read as well.
+    if (date.toString(Qt::ISODate) != day || date.isNull())
+        throw FieldError{quotedText(text) + " is not a day such as 2024-05-31", true};
+    return date;
+}
+
 } // namespace refhost

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDate>
+
 #include <cstdint>
 #include <string>
 
@@ -19,5 +21,8 @@ std::int64_t fieldNumber(const std::string &text, std::int64_t largest);
 
 /// An ISO 8601 time that the store can keep; local time unless it has a zone.
 std::int64_t fieldTime(const std::string &text);
+
+/// A day of the calendar as yyyy-MM-dd.
+QDate fieldDay(const std::string &text);
 
 } // namespace refhost

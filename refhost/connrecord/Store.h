@@ -12,8 +12,9 @@ namespace refhost
 /// The exit code that tells a program what kind of error the store has met.
 inline ExitCode exitCodeOf(const StoreError &error)
 {
-    const bool isRefused =
-        error.kind == StoreError::Kind::BadRecord || error.kind == StoreError::Kind::NoSuchRecord;
+    const bool isRefused = error.kind == StoreError::Kind::BadRecord ||
+                           error.kind == StoreError::Kind::NoSuchRecord ||
+                           error.kind == StoreError::Kind::SumTooLarge;
     return isRefused ? ExitCode::Refused : ExitCode::Store;
 }
 

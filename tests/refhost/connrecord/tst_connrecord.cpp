@@ -328,7 +328,7 @@ void ConnrecordTest::helpsWithEveryCommand_data()
     QTest::addColumn<QStringList>("arguments");
 
     QTest::newRow("the program") << QStringList{"--help"};
-    for (const char *const command : {"list", "add", "remove", "export", "import"})
+    for (const char *const command : {"list", "add", "remove", "export", "import", "totals"})
         QTest::newRow(command) << QStringList{command, "--help"};
 }
 

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "TotalsText.h"
+
+#include "CalendarTime.h"
+#include "ConnectionText.h"
+#include "TextTable.h"
+#include "Utf8Text.h"
+
+#include <QJsonObject>
+
+namespace refhost
+{
+
+namespace
+{
+
+QString monthText(int period)
+{
+    return QStringLiteral("%1-%2")
+        .arg(period / 100, 4, 10, QLatin1Char('0'))
+        .arg(period % 100, 2, 10, QLatin1Char('0'));
+}
+
+/// An empty name is told from one that is not shown.
+QString profileText(const std::string &profile)
+{
+    return profile.empty() ? QStringLiteral("\"\"") : nameText(profile);
+}
+
+TextTable tableFor(const TotalsGroups &groups)
+{
+    using Alignment = TextTable::Alignment;
+    std::vector<TextTable::Column> columns;
+    if (groups.byProfile)
+        columns.push_back({QStringLiteral("PROFILE"), Alignment::Left});
+    if (groups.byMonth)
+        columns.push_back({QStringLiteral("MONTH"), Alignment::Left});
+    for (const char *const header : {"CONNECTIONS", "CONNECTED", "UPLOADED", "DOWNLOADED"})
+        columns.push_back({QString::fromLatin1(header), Alignment::Right});
+    return TextTable(std::move(columns));
+}
+
+std::vector<QString> row(const Totals &totals, const TotalsGroups &groups)
+{
+    std::vector<QString> cells;
+    if (groups.byProfile)
+        cells.push_back(profileText(totals.profile));
+    if (groups.byMonth)
+        cells.push_back(monthText(totals.period));
+    cells.push_back(QString::number(totals.connections));
+    cells.push_back(durationText(totals.connectedSeconds));
+    cells.push_back(volumeText(totals.uploadedBytes));
+    cells.push_back(volumeText(totals.downloadedBytes));
+    return cells;
+}
+
+QJsonObject toJson(const Totals &totals, const TotalsGroups &groups)
+{
+    QJsonObject object = {
+        {QStringLiteral("connections"), static_cast<qint64>(totals.connections)},
+        {QStringLiteral("connected_seconds"), static_cast<qint64>(totals.connectedSeconds)},
+        {QStringLiteral("uploaded_bytes"), static_cast<qint64>(totals.uploadedBytes)},
+        {QStringLiteral("downloaded_bytes"), static_cast<qint64>(totals.downloadedBytes)}};
+    if (groups.byProfile)
+        object.insert(QStringLiteral("profile"), fromUtf8(totals.profile));
+    if (groups.byMonth)
+        object.insert(QStringLiteral("month"), monthText(totals.period));
+    return object;
+}
+
+} // namespace
+
+int periodOfMonth(const QDate &day)
+{
+    return day.year() * 100 + day.month();
+}
+
+QByteArray toTable(const std::vector<Totals> &totals, const TotalsGroups &groups)
+{
+    TextTable table = tableFor(groups);
+    for (const Totals &each : totals)
+        table.addRow(row(each, groups));
+    return table.text().toUtf8();
+}
+
+QJsonArray toJson(const std::vector<Totals> &totals, const TotalsGroups &groups)
+{
+    QJsonArray array;
+    for (const Totals &each : totals)
+        array.append(toJson(each, groups));
+    return array;
+}
+
+} // namespace refhost
