@@ -40,9 +40,7 @@ void TotalsSum::increase(std::int64_t &sum, std::int64_t amount, const char *wha
     if (__builtin_add_overflow(sum, amount, &sum))
         throw StoreFailure(
             StoreError::Kind::SumTooLarge,
-            historyAt(m_path) + " holds more " + what +
-                " than can be added up: "
-                "the sum is past " +
+            historyAt(m_path) + " holds more " + what + " than can be added up: the sum is past " +
                 std::to_string(std::numeric_limits<std::int64_t>::max()) +
                 "; ask for a shorter time, or for each profile or month on its own.");
 }

@@ -33,6 +33,7 @@ private slots:
     void tellsProfilesApartByTheirBytes();
     void putsAConnectionWhollyInThePeriodOfItsStart();
     void leavesOutWhatHasNoPeriod();
+    void leavesOpenConnectionsOut();
     void hasNoGroupWithoutConnections();
     void addsExactlyPastTheWholeNumbersOfADouble();
     void refusesASumThatDoesNotFit_data();
@@ -161,6 +162,25 @@ void StoreTotalsTest::leavesOutWhatHasNoPeriod()
         return startUtc < 200 ? std::optional<int>() : 7;
     };
     QCOMPARE(linesOf(history.totals({}, Profiles::Apart, late)), QStringList{"a|7|1|10|2|2"});
+}
+
+void StoreTotalsTest::leavesOpenConnectionsOut()
+{
+    StatisticsStore history = store({volume("a", 100, 1, 1)});
+    refhost::OpenConnection open;
+    open.bootId = "boot";
+    open.interfaceIndex = 3;
+    open.profile = "a";
+    open.startUtc = 100;
+    open.uploadedBytes = 1000;
+    open.updatedUtc = 110;
+    open.connectedSeconds = 10;
+    const auto begun = history.begin(open);
+    QVERIFY(begun);
+    QCOMPARE(linesOf(history.totals({}, Profiles::Apart, onePeriod)), QStringList{"a|0|1|10|1|1"});
+    QVERIFY(history.finish(begun.value().key, volume("a", 100, 1000, 2)));
+    QCOMPARE(linesOf(history.totals({}, Profiles::Apart, onePeriod)),
+             QStringList{"a|0|2|20|1001|3"});
 }
 
 void StoreTotalsTest::hasNoGroupWithoutConnections()
