@@ -29,6 +29,8 @@ public:
     QVector<AccumulateDialogRecord> rows(const QDate &today) const;
 
 private:
+    friend class AccumulateAgreementTest;
+
     __extension__ using Bytes = __int128; // no sum of 64-bit counts overflows it
 
     struct Totals {

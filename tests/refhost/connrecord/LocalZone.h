@@ -22,7 +22,10 @@ public:
 private:
     static void set(const QByteArray &name)
     {
-        qputenv("TZ", name);
+        if (name.isNull())
+            qunsetenv("TZ");
+        else
+            qputenv("TZ", name);
         tzset();
     }
 
