@@ -45,6 +45,11 @@ void tst_Contract::tellsItsIdentityBeforeAnyCodeIsLoaded()
     QCOMPARE(own.value("ClassId").toString(),
              QStringLiteral("27A315A2-D587-498a-9FC5-7CF2738679DF"));
     QCOMPARE(own.value("Version").toInt(), 257);
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    QCOMPARE(own.value("Statistics"), QJsonValue(true));
+#else
+    QCOMPARE(own.value("Statistics"), QJsonValue(false));
+#endif
     QVERIFY(!loader.isLoaded());
 }
 
