@@ -13,6 +13,7 @@
 #include <QEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QVBoxLayout>
 
 namespace refhost
@@ -84,6 +85,12 @@ void MainWindow::createMenus()
     m_sortMenu = new SortMenu(m_viewMenu);
     m_viewMenu->addMenu(m_sortMenu);
     connect(m_sortMenu, &SortMenu::orderChosen, m_area, &HistoryArea::sort);
+    m_viewMenu->addSeparator();
+    m_viewMenu->setToolTipsVisible(true);
+    m_statisticsAction = m_viewMenu->addAction(QString());
+    m_statisticsAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+T")));
+    m_statisticsAction->setEnabled(m_plugin.hasStatistics());
+    connect(m_statisticsAction, &QAction::triggered, this, &MainWindow::showStatistics);
 }
 
 void MainWindow::retranslate()
@@ -95,6 +102,13 @@ void MainWindow::retranslate()
     m_quitAction->setText(tr("&Quit"));
     m_viewMenu->setTitle(tr("&View"));
     m_historyAction->setText(tr("&History"));
+    m_statisticsAction->setText(tr("S&tatistics…"));
+    if (!m_statisticsAction->isEnabled()) {
+        const QString reason = tr("The history plug-in in use has no statistics. Start refdialer "
+                                  "with one that has them: --plugin FILE.");
+        m_statisticsAction->setToolTip(reason);
+        m_statisticsAction->setStatusTip(reason);
+    }
 }
 
 void MainWindow::setHistoryVisible(bool isVisible)
@@ -120,6 +134,15 @@ void MainWindow::showSettings()
     connect(&dialog, &SettingsDialog::languageChosen, this,
             [this](const QString &language) { m_plugin.changeLanguage(language); });
     dialog.exec();
+}
+
+void MainWindow::showStatistics()
+{
+    if (!m_plugin.showStatistics())
+        QMessageBox::warning(this, windowTitle(),
+                             tr("The history plug-in says that it has statistics but cannot be "
+                                "asked for them. Start refdialer with another one: --plugin "
+                                "FILE."));
 }
 
 } // namespace refhost

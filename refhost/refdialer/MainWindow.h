@@ -38,6 +38,7 @@ private:
     void setHistoryVisible(bool isVisible);
     void showFinishedConnection();
     void showSettings();
+    void showStatistics();
 
     PluginHandle &m_plugin;
     const LineState &m_state;
@@ -48,6 +49,7 @@ private:
     QMenu *m_viewMenu;
     QAction *m_historyAction;
     SortMenu *m_sortMenu;
+    QAction *m_statisticsAction;
 };
 
 } // namespace refhost

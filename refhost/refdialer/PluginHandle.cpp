@@ -7,6 +7,7 @@
 #include "INotify.h"
 #include "IUIPlugin.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QPluginLoader>
@@ -21,6 +22,23 @@ namespace
 
 constexpr unsigned int textsChanged = 1024;
 constexpr unsigned int connectionChanged = 1536;
+
+bool saysItHasStatistics(const QPluginLoader &loader)
+{
+    const QJsonObject own = loader.metaData().value(QStringLiteral("MetaData")).toObject();
+    return own.value(QStringLiteral("Statistics")).toBool();
+}
+
+/// The plug-in's history window, which is known by the name of its class alone;
+/// null once the plug-in has ended.
+QWidget *historyWindow()
+{
+    for (QWidget *const widget : QApplication::topLevelWidgets()) {
+        if (qstrcmp(widget->metaObject()->className(), "ConnectionHistoryDlg") == 0)
+            return widget;
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -47,6 +65,7 @@ std::unique_ptr<PluginHandle> PluginHandle::load(const QString &file)
         fail(tr("The plug-in %1 does not offer the interfaces %2 and %3.")
                  .arg(file, QStringLiteral(IUIPlugin_iid), QStringLiteral(INotify_iid)));
     }
+    handle->m_hasStatistics = saysItHasStatistics(loader);
     return handle;
 }
 
@@ -146,6 +165,12 @@ void PluginHandle::tellConnection(unsigned int status)
 {
     if (!m_hasEnded)
         m_events->Notify(connectionChanged, status, 0);
+}
+
+bool PluginHandle::showStatistics()
+{
+    QWidget *const window = historyWindow();
+    return window && QMetaObject::invokeMethod(window, "OnAccumulateClicked");
 }
 
 void PluginHandle::end()

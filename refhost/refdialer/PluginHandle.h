@@ -37,6 +37,9 @@ public:
 
     QObject *root() const;
     QString classId() const;
+    /// Whether the plug-in says, in what can be read before it is loaded, that it
+    /// opens its statistics when it is asked to.
+    bool hasStatistics() const { return m_hasStatistics; }
 
     /// Lets the plug-in build its contents; false if it cannot. Once only.
     bool start();
@@ -48,6 +51,8 @@ public:
     void tellConnected();
     /// After the connection's record is finished; the plug-in loads the table anew.
     void tellDisconnected();
+    /// Opens the statistics; false if the plug-in has nothing to be asked by.
+    bool showStatistics();
     /// Ends the plug-in, which must happen while its area is still there.
     void end();
 
@@ -60,6 +65,7 @@ private:
     QPointer<QObject> m_root;
     IUIPlugin *m_ui;
     INotify *m_events;
+    bool m_hasStatistics = false;
     bool m_hasEnded = false;
 };
 
