@@ -62,7 +62,7 @@ constexpr const char *pluginIdentifiers[] = {
     QT_TRANSLATE_NOOP("NetInfoRecordUIPlugin", "IDS_STR_DELETE"),
     //: Title of the summary after a connection
     QT_TRANSLATE_NOOP("NetInfoRecordUIPlugin", "IDS_TITLE_SINGLE"),
-    //: Title of the statistics dialog; the range of dates follows it
+    //: Title of the statistics dialog; the range of dates follows it, so one short word fits
     QT_TRANSLATE_NOOP("NetInfoRecordUIPlugin", "IDS_TITLE_TOTAL"),
     //: Caption of a figure
     QT_TRANSLATE_NOOP("NetInfoRecordUIPlugin", "IDS_TREE_DOWNLOADED_DATA"),

@@ -133,8 +133,8 @@
     </message>
     <message>
         <source>IDS_TITLE_TOTAL</source>
-        <extracomment>Title of the statistics dialog; the range of dates follows it</extracomment>
-        <translation>Connection statistics</translation>
+        <extracomment>Title of the statistics dialog; the range of dates follows it, so one short word fits</extracomment>
+        <translation>Statistics</translation>
     </message>
     <message>
         <source>IDS_TREE_DOWNLOADED_DATA</source>
