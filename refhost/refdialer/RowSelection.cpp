@@ -33,6 +33,15 @@ QList<int> selectedRows(const QTableWidget &table)
     return rows;
 }
 
+/// A range for each run of rows: one for each row would make every later look at
+/// a long selection slow.
+void appendRow(QItemSelection &selection, const QAbstractItemModel &model, int row)
+{
+    const bool isNext = !selection.isEmpty() && selection.last().bottom() == row - 1;
+    const int top = isNext ? selection.takeLast().top() : row;
+    selection.append({model.index(top, 0), model.index(row, model.columnCount() - 1)});
+}
+
 } // namespace
 
 RowSelection::RowSelection(QTableWidget &table)
@@ -57,7 +66,7 @@ void RowSelection::restore() const
         const QString content = contentOf(m_table, row);
         if (wanted.value(content) > 0) {
             --wanted[content];
-            selection.append({model.index(row, 0), model.index(row, model.columnCount() - 1)});
+            appendRow(selection, model, row);
         }
         if (!current.isValid() && content == m_current)
             current = model.index(row, m_currentColumn);

@@ -22,7 +22,8 @@ SettingsDialog::SettingsDialog(QWidget *parent)
     , m_languageLabel(new QLabel)
     , m_languageBox(new QComboBox)
     , m_problem(new QLabel)
-    , m_buttons(new QDialogButtonBox(QDialogButtonBox::Close))
+    , m_buttons(new QDialogButtonBox)
+    , m_closeButton(m_buttons->addButton(QString(), QDialogButtonBox::RejectRole))
 {
     m_summaryBox->setChecked(isSummaryWanted());
     addLanguages();
@@ -65,7 +66,7 @@ void SettingsDialog::retranslate()
     setWindowTitle(tr("Settings"));
     m_summaryBox->setText(tr("&Show a summary after each connection"));
     m_languageLabel->setText(tr("&Language:"));
-    m_buttons->button(QDialogButtonBox::Close)->setText(tr("&Close"));
+    m_closeButton->setText(tr("&Close"));
 }
 
 void SettingsDialog::chooseLanguage(int index)

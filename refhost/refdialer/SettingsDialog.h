@@ -7,6 +7,7 @@ class QCheckBox;
 class QComboBox;
 class QDialogButtonBox;
 class QLabel;
+class QPushButton;
 
 namespace refhost
 {
@@ -36,6 +37,7 @@ private:
     QComboBox *m_languageBox;
     QLabel *m_problem; ///< shown only when a setting cannot be stored
     QDialogButtonBox *m_buttons;
+    QPushButton *m_closeButton; ///< not the toolkit's own, whose text comes in its languages only
 };
 
 } // namespace refhost

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
+#include <QLocale>
 #include <QStyle>
 
 #include <utility>

@@ -15,6 +15,8 @@ namespace
 qint64 wallClock(const QDateTime &time)
 {
     constexpr qint64 millisecondsPerDay = 86400000;
+    if (!time.isValid())
+        return -1;
     return time.date().toJulianDay() * millisecondsPerDay + time.time().msecsSinceStartOfDay();
 }
 

@@ -8,6 +8,7 @@
 #include "QuitOnSignal.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <cstdio>
 

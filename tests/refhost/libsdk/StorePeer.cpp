@@ -4,7 +4,7 @@
 StorePeer::StorePeer()
 {
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(QStringLiteral(STORE_PEER), {});
+    m_process.start(QStringLiteral(STORE_PEER), QStringList());
 }
 
 StorePeer::~StorePeer()
