@@ -4,6 +4,7 @@
 #include "CalendarTime.h"
 #include "ConnectionText.h"
 #include "CsvFormat.h"
+#include "JsonText.h"
 #include "OptionValue.h"
 #include "Output.h"
 #include "Store.h"

@@ -5,7 +5,7 @@
 #include "TextTable.h"
 #include "Utf8Text.h"
 
-#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLocale>
 
 namespace refhost
@@ -68,16 +68,6 @@ QJsonArray toJson(const std::vector<Connection> &connections)
     for (const Connection &connection : connections)
         array.append(toJson(connection));
     return array;
-}
-
-QByteArray jsonText(const QJsonArray &array)
-{
-    return QJsonDocument(array).toJson();
-}
-
-QByteArray jsonText(const QJsonObject &object)
-{
-    return QJsonDocument(object).toJson();
 }
 
 } // namespace refhost

@@ -5,7 +5,6 @@
 
 #include <QByteArray>
 #include <QJsonArray>
-#include <QJsonObject>
 #include <QString>
 
 #include <cstdint>
@@ -25,9 +24,5 @@ QByteArray toTable(const std::vector<Connection> &connections);
 
 /// The connections for programs: exact integers, times as ISO 8601 in UTC.
 QJsonArray toJson(const std::vector<Connection> &connections);
-
-/// The document's text, indented, ended by a line feed.
-QByteArray jsonText(const QJsonArray &array);
-QByteArray jsonText(const QJsonObject &object);
 
 } // namespace refhost

@@ -5,6 +5,7 @@
 #include "CsvFormat.h"
 #include "CsvReader.h"
 #include "InputFile.h"
+#include "JsonText.h"
 #include "LineReader.h"
 #include "Output.h"
 #include "PppdConnections.h"

@@ -43,13 +43,14 @@ QString escaped(QChar character)
 
 bool isUtf8(std::string_view text)
 {
-    const QByteArray bytes = guarded(text);
-    return QString::fromUtf8(bytes).toUtf8() == bytes;
+    return fromUtf8(text).toUtf8() == QByteArray(text.data(), static_cast<int>(text.size()));
 }
 
 QString fromUtf8(std::string_view text)
 {
-    return QString::fromUtf8(guarded(text)).mid(1);
+    const QByteArray bytes = guarded(text);
+    // With its length: a NUL does not end it.
+    return QString::fromUtf8(bytes.constData(), bytes.size()).mid(1);
 }
 
 std::string cleanedUtf8(std::string_view text)

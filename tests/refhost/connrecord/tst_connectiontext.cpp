@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ConnectionText.h"
+#include "JsonText.h"
 
 #include <QJsonDocument>
 #include <QTest>
@@ -45,7 +46,7 @@ void ConnectionTextTest::givesTheHeaderAloneWithoutConnections()
 {
     QCOMPARE(toTable({}), QByteArray("KEY  PROFILE  START  END  CONNECTED  UPLOADED  DOWNLOADED  "
                                      "ENDING  INTERFACE\n"));
-    QCOMPARE(jsonText(toJson(std::vector<Connection>())), QByteArray("[\n]\n"));
+    QCOMPARE(jsonText(toJson(std::vector<Connection>())), QByteArray("[]\n"));
 }
 
 void ConnectionTextTest::alignsTheColumns()

@@ -2,6 +2,7 @@
 #include "TotalsText.h"
 
 #include "ConnectionText.h"
+#include "JsonText.h"
 
 #include <QTest>
 
