@@ -14,7 +14,7 @@ namespace
 constexpr const char *selection =
     "SELECT key, boot_id, interface_index, interface_name, profile, start_utc, start_boot_ms,"
     " base_uploaded, base_downloaded, uploaded_bytes, downloaded_bytes, updated_utc,"
-    " connected_seconds, ending FROM open_connection ";
+    " connected_seconds, ending, link_mark FROM open_connection ";
 
 OpenConnection connectionIn(SQLite::Statement &row)
 {
@@ -33,10 +33,11 @@ OpenConnection connectionIn(SQLite::Statement &row)
     connection.updatedUtc = row.getColumn(11).getInt64();
     connection.connectedSeconds = row.getColumn(12).getInt64();
     connection.ending = row.getColumn(13).getString();
+    connection.linkMark = row.getColumn(14).getString();
     return connection;
 }
 
-/// Binds what can change while a connection lasts to parameters 1 to 9.
+/// Binds what can change while a connection lasts to parameters 1 to 10.
 void bindProgress(SQLite::Statement &statement, const OpenConnection &connection)
 {
     statement.bind(1, connection.interfaceName);
@@ -48,6 +49,7 @@ void bindProgress(SQLite::Statement &statement, const OpenConnection &connection
     statement.bind(7, connection.updatedUtc);
     statement.bind(8, connection.connectedSeconds);
     statement.bind(9, connection.ending);
+    statement.bind(10, connection.linkMark);
 }
 
 } // namespace
@@ -83,13 +85,13 @@ std::int64_t OpenConnectionTable::insert(const OpenConnection &connection)
     SQLite::Statement statement(
         m_database, "INSERT INTO open_connection (interface_name, profile, base_uploaded,"
                     " base_downloaded, uploaded_bytes, downloaded_bytes, updated_utc,"
-                    " connected_seconds, ending, boot_id, interface_index, start_utc,"
-                    " start_boot_ms) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+                    " connected_seconds, ending, link_mark, boot_id, interface_index, start_utc,"
+                    " start_boot_ms) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
     bindProgress(statement, connection);
-    statement.bind(10, connection.bootId);
-    statement.bind(11, connection.interfaceIndex);
-    statement.bind(12, connection.startUtc);
-    statement.bind(13, connection.startBootMilliseconds);
+    statement.bind(11, connection.bootId);
+    statement.bind(12, connection.interfaceIndex);
+    statement.bind(13, connection.startUtc);
+    statement.bind(14, connection.startBootMilliseconds);
     statement.exec();
     return m_database.getLastInsertRowid();
 }
@@ -99,10 +101,10 @@ bool OpenConnectionTable::update(const OpenConnection &connection)
     SQLite::Statement statement(
         m_database, "UPDATE open_connection SET interface_name = ?, profile = ?,"
                     " base_uploaded = ?, base_downloaded = ?, uploaded_bytes = ?,"
-                    " downloaded_bytes = ?, updated_utc = ?, connected_seconds = ?, ending = ?"
-                    " WHERE key = ?");
+                    " downloaded_bytes = ?, updated_utc = ?, connected_seconds = ?, ending = ?,"
+                    " link_mark = ? WHERE key = ?");
     bindProgress(statement, connection);
-    statement.bind(10, connection.key);
+    statement.bind(11, connection.key);
     return statement.exec() == 1;
 }
 

@@ -131,15 +131,18 @@ std::vector<std::int64_t> withoutRepetitions(std::vector<std::int64_t> keys)
 class StatisticsStore::Private
 {
 public:
-    Private(const std::string &path, StoreDatabase::IfMissing ifMissing)
-        : database(path, ifMissing)
+    Private(const std::string &path, StoreDatabase::IfMissing ifMissing,
+            StoreDatabase::Durability durability)
+        : database(path, ifMissing, durability)
     {
     }
 
-    static Result<StatisticsStore> open(const std::string &path, StoreDatabase::IfMissing ifMissing)
+    static Result<StatisticsStore>
+    open(const std::string &path, StoreDatabase::IfMissing ifMissing,
+         StoreDatabase::Durability durability = StoreDatabase::Durability::System)
     {
         return refhost::attempt(path, [&] {
-            auto opened = std::make_unique<Private>(path, ifMissing);
+            auto opened = std::make_unique<Private>(path, ifMissing, durability);
             opened->database.open();
             return StatisticsStore(std::move(opened));
         });
@@ -163,6 +166,11 @@ std::string StatisticsStore::defaultPath()
 Result<StatisticsStore> StatisticsStore::openOrCreate(const std::string &path)
 {
     return Private::open(path, StoreDatabase::IfMissing::Create);
+}
+
+Result<StatisticsStore> StatisticsStore::openForRecording(const std::string &path)
+{
+    return Private::open(path, StoreDatabase::IfMissing::Create, StoreDatabase::Durability::Disk);
 }
 
 Result<StatisticsStore> StatisticsStore::openForReading(const std::string &path)

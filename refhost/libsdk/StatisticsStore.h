@@ -41,6 +41,7 @@ struct OpenConnection {
     std::string bootId;              ///< /proc/sys/kernel/random/boot_id
     std::int64_t interfaceIndex = 0; ///< the kernel's number of the interface
     std::string interfaceName;       ///< may change while the connection lasts
+    std::string linkMark;            ///< tells this connection of the link from later ones
     std::string profile;             ///< may change while the connection lasts
     std::int64_t startUtc = 0;
     std::int64_t startBootMilliseconds = 0; ///< CLOCK_BOOTTIME at the start
@@ -85,7 +86,10 @@ public:
     /// 0700, if it is not there. A file that is not a store, is damaged or newer
     /// is left as it is.
     static Result<StatisticsStore> openOrCreate(const std::string &path);
-    /// The same, but a file that is not there is not made: until something else
+    /// The same, and each change is on the disk before it is told to be done: not
+    /// even a power cut takes it back.
+    static Result<StatisticsStore> openForRecording(const std::string &path);
+    /// As openOrCreate, but a file that is not there is not made: until something else
     /// creates it, the store reads as empty.
     static Result<StatisticsStore> openForReading(const std::string &path);
 
@@ -116,7 +120,7 @@ public:
     /// records the same link, nothing is stored. Returns what the store holds
     /// then, with its key. It is in no list before it is finished.
     Result<OpenConnection> begin(const OpenConnection &connection);
-    /// Brings an open connection up to date: its names, base, totals, last update
+    /// Brings an open connection up to date: its names, mark, base, totals, last update
     /// and ending; by its key, which is returned.
     Result<std::int64_t> checkpoint(const OpenConnection &connection);
     /// Turns the open connection with this key into the finished one that is

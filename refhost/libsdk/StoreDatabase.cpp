@@ -23,9 +23,10 @@ std::string absolutePath(const std::string &path)
 
 } // namespace
 
-StoreDatabase::StoreDatabase(const std::string &path, IfMissing ifMissing)
+StoreDatabase::StoreDatabase(const std::string &path, IfMissing ifMissing, Durability durability)
     : m_path(absolutePath(path))
     , m_ifMissing(ifMissing)
+    , m_durability(durability)
 {
 }
 
@@ -75,7 +76,8 @@ void StoreDatabase::connect()
         // Refused while another process is just making the same store; until the
         // next program opens it, the store then works without a log.
         m_database->tryExec("PRAGMA journal_mode = WAL");
-        m_database->exec("PRAGMA synchronous = NORMAL");
+        m_database->exec(m_durability == Durability::Disk ? "PRAGMA synchronous = FULL"
+                                                          : "PRAGMA synchronous = NORMAL");
         m_table = std::make_unique<ConnectionTable>(*m_database);
         m_openConnections = std::make_unique<OpenConnectionTable>(*m_database);
         m_file = fileAt(m_path);

@@ -23,8 +23,11 @@ class StoreDatabase
 {
 public:
     enum class IfMissing { Create, ReadAsEmpty };
+    /// What a change that is done survives: the program's end, or the system's too.
+    enum class Durability { System, Disk };
 
-    StoreDatabase(const std::string &path, IfMissing ifMissing);
+    StoreDatabase(const std::string &path, IfMissing ifMissing,
+                  Durability durability = Durability::System);
     ~StoreDatabase();
     StoreDatabase(const StoreDatabase &) = delete;
     StoreDatabase &operator=(const StoreDatabase &) = delete;
@@ -92,6 +95,7 @@ private:
 
     std::string m_path;
     IfMissing m_ifMissing;
+    Durability m_durability;
     std::unique_ptr<SQLite::Database> m_database;
     std::unique_ptr<ConnectionTable> m_table;
     std::unique_ptr<OpenConnectionTable> m_openConnections;

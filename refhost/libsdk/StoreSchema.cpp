@@ -94,6 +94,7 @@ const SchemaSteps &storeSchema()
             interface_index INTEGER NOT NULL,
             interface_name TEXT NOT NULL,
             profile TEXT NOT NULL,
+            link_mark TEXT NOT NULL,
             start_utc INTEGER NOT NULL,
             start_boot_ms INTEGER NOT NULL,
             base_uploaded INTEGER NOT NULL,

@@ -48,30 +48,48 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     , m_interfaceNames(interfaceNames)
     , m_links(links.release())
     , m_clock(std::move(clock))
+    , m_lock(storePath + QStringLiteral(".recorder"))
     , m_bootId(currentBootId())
     , m_timer(this)
 {
     qRegisterMetaType<refhost::Connection>();
     qRegisterMetaType<refhost::ConnectionState>();
     m_links->setParent(this);
-    connect(m_links, &LinkSource::failed, this, [this](const QString &reason) {
-        later(this, [this, reason] { emit failed(reason); });
-    });
+    // The lock of a process that was killed is free again, however old it is.
+    m_lock.setStaleLockTime(0);
+    connect(m_links, &LinkSource::failed, this, &ConnectionRecorder::stop);
     m_timer.setInterval(tickInterval);
     connect(&m_timer, &QTimer::timeout, this, &ConnectionRecorder::tick);
 }
 
 ConnectionRecorder::~ConnectionRecorder()
 {
-    if (m_book)
-        m_book->catchUp();
+    if (!m_book)
+        return;
+    catchUpWithLinks();
+    m_book->catchUp();
     for (auto &entry : m_live)
         m_book->save(entry.second, now());
 }
 
+/// What has ended must not be left open, and what lasts is left as it is now.
+void ConnectionRecorder::catchUpWithLinks()
+{
+    for (auto &entry : m_live)
+        m_links->requestCounters(entry.first);
+    m_links->catchUp();
+    std::vector<LiveConnection> ended;
+    for (const auto &entry : m_live) {
+        if (entry.second.hasEnded())
+            ended.push_back(entry.second);
+    }
+    for (LiveConnection &connection : ended)
+        finish(connection, false);
+}
+
 bool ConnectionRecorder::start()
 {
-    if (!openBook() || !m_links->start())
+    if (!openBook() || !lockStore() || !m_links->start())
         return false;
     m_book->catchUp();
     for (const Link &link : m_links->links())
@@ -83,31 +101,60 @@ bool ConnectionRecorder::start()
 
 bool ConnectionRecorder::openBook()
 {
-    const auto fail = [this](const QString &reason) {
-        later(this, [this, reason] { emit failed(reason); });
-    };
     if (m_bootId.empty()) {
-        fail(
-            QStringLiteral("\"/proc/sys/kernel/random/boot_id\" cannot be read, so connections are "
-                           "not recorded; mount /proc and start the program again."));
+        fail(tr("\"/proc/sys/kernel/random/boot_id\" cannot be read, so connections are not "
+                "recorded; mount /proc and start the program again."));
         return false;
     }
-    auto store = StatisticsStore::openOrCreate(m_storePath.toStdString());
+    auto store = StatisticsStore::openForRecording(m_storePath.toStdString());
     if (!store) {
         fail(QString::fromStdString(store.error().message));
         return false;
     }
-    const auto finished = [this](const Connection &connection) {
-        later(this, [this, connection] { emit disconnected(connection); });
+    const auto finished = [this](const Connection &connection, std::int64_t id) {
+        later(this, [this, connection, id] { emit disconnected(connection, id); });
     };
-    const auto failedToWrite = [fail](const StoreError &error) {
+    const auto succeededToWrite = [this] { later(this, [this] { emit succeeded(); }); };
+    const auto failedToWrite = [this](const StoreError &error) {
         fail(QString::fromStdString(error.message));
     };
     m_book = std::make_unique<RecordBook>(
         std::move(store.value()), m_bootId,
-        [this](std::int64_t linkIndex) { return isConnected(linkIndex); },
-        RecordBook::Listener{finished, failedToWrite});
+        [this](const OpenConnection &row) { return stillLasts(row); },
+        RecordBook::Listener{finished, failedToWrite, succeededToWrite});
     return true;
+}
+
+bool ConnectionRecorder::lockStore()
+{
+    if (m_lock.tryLock(0))
+        return true;
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (m_lock.error() == QLockFile::LockFailedError &&
+        m_lock.getLockInfo(&process, &host, &program))
+        fail(tr("Connections are recorded by another %1 already (process %2), and appear here "
+                "when the history is opened again.")
+                 .arg(program)
+                 .arg(process));
+    else
+        fail(tr("Connections are not recorded, for %1 cannot be written; allow yourself to write "
+                "there and start the program again.")
+                 .arg(m_storePath + QStringLiteral(".recorder")));
+    return false;
+}
+
+void ConnectionRecorder::fail(const QString &reason)
+{
+    later(this, [this, reason] { emit failed(reason); });
+}
+
+/// Nothing more will be heard of the links; what is known is kept for the next start.
+void ConnectionRecorder::stop(const QString &reason)
+{
+    m_timer.stop();
+    fail(reason);
 }
 
 void ConnectionRecorder::setProfileName(const QString &name)
@@ -129,7 +176,7 @@ void ConnectionRecorder::handleChange(const LinkChange &change)
 void ConnectionRecorder::handleLiveChange(LiveConnection &connection, const LinkChange &change)
 {
     const bool isStillConnected = !change.isGone && change.link.isConnected();
-    connection.setInterfaceName(change.link.name);
+    connection.setLink(change.link);
     if (!isStillConnected)
         connection.end(now());
     if (change.hasFreshCounters)
@@ -148,8 +195,8 @@ void ConnectionRecorder::handleLiveChange(LiveConnection &connection, const Link
 void ConnectionRecorder::begin(const Link &link, const LinkCounters &base)
 {
     const Moment moment = now();
-    const auto [live, isNew] =
-        m_live.try_emplace(link.index, m_bootId, profileFor(link.name), link, base, moment);
+    const auto [live, isNew] = m_live.try_emplace(link.index, ++m_lastId, m_bootId,
+                                                  profileFor(link.name), link, base, moment);
     LiveConnection &connection = live->second;
     m_book->save(connection, moment);
     // What an earlier process has recorded may bear another profile.
@@ -203,11 +250,12 @@ bool ConnectionRecorder::isWatched(const std::string &interfaceName) const
            m_interfaceNames.contains(QString::fromStdString(interfaceName));
 }
 
-bool ConnectionRecorder::isConnected(std::int64_t linkIndex) const
+bool ConnectionRecorder::stillLasts(const OpenConnection &row) const
 {
     const auto links = m_links->links();
-    return std::any_of(links.begin(), links.end(), [linkIndex](const Link &link) {
-        return link.index == linkIndex && link.isConnected();
+    return std::any_of(links.begin(), links.end(), [&row](const Link &link) {
+        return link.index == row.interfaceIndex && link.isConnected() &&
+               link.connectionMark() == row.linkMark;
     });
 }
 
@@ -221,6 +269,7 @@ ConnectionState ConnectionRecorder::stateOf(LiveConnection &connection) const
     const OpenConnection &row = connection.row();
     const LinkCounters rate = connection.takeRate(now());
     ConnectionState state;
+    state.id = connection.id();
     state.profile = QString::fromStdString(row.profile);
     state.interfaceName = QString::fromStdString(row.interfaceName);
     state.since = QDateTime::fromSecsSinceEpoch(row.startUtc, Qt::UTC);

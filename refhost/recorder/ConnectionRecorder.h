@@ -4,6 +4,7 @@
 #include "StatisticsStore.h"
 
 #include <QDateTime>
+#include <QLockFile>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -27,6 +28,7 @@ struct Moment;
 
 /// A connection that lasts, as it is at the moment.
 struct ConnectionState {
+    qint64 id = 0; ///< of this connection alone
     QString profile;
     QString interfaceName;
     QDateTime since; ///< in UTC
@@ -50,6 +52,9 @@ struct ConnectionState {
 /// start plus the time connected, which is measured by a clock that never jumps
 /// and counts suspend.
 ///
+/// Of several recorders for one store the first one records; the others cannot
+/// start.
+///
 /// Signals come from the event loop, never from within a call, one after the
 /// other. Everything happens on the thread that the recorder lives in, which may
 /// be one of its own (moveToThread before start()): a store that another program
@@ -66,7 +71,8 @@ public:
     ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
                        std::unique_ptr<LinkSource> links, std::unique_ptr<SystemClock> clock,
                        QObject *parent = nullptr);
-    /// Leaves what is connected open in the store, for the next start to go on with.
+    /// Leaves what is connected open in the store, as it is at this moment, for the
+    /// next start to go on with.
     ~ConnectionRecorder() override;
 
 public slots:
@@ -80,13 +86,15 @@ public slots:
 
 signals:
     void connected(const refhost::ConnectionState &state);
-    /// The connection is finished in the store already.
-    void disconnected(const refhost::Connection &connection);
+    /// The connection is finished in the store already; `id` is its state's.
+    void disconnected(const refhost::Connection &connection, qint64 id);
     /// Once a second for each connection that lasts.
     void stateChanged(const refhost::ConnectionState &state);
     /// One sentence for the user. What could not be written is kept and tried
     /// again; each reason is told once.
     void failed(const QString &reason);
+    /// What could not be written is in the store now.
+    void succeeded();
 
 private:
     void handleChange(const LinkChange &change);
@@ -98,7 +106,11 @@ private:
     void requestCounters();
     bool openBook();
     bool isWatched(const std::string &interfaceName) const;
-    bool isConnected(std::int64_t linkIndex) const;
+    bool stillLasts(const OpenConnection &row) const;
+    bool lockStore();
+    void fail(const QString &reason);
+    void stop(const QString &reason);
+    void catchUpWithLinks();
     std::string profileFor(const std::string &interfaceName) const;
     ConnectionState stateOf(LiveConnection &connection) const;
     Moment now() const;
@@ -108,11 +120,13 @@ private:
     QString m_profileName;
     LinkSource *const m_links; ///< a child
     const std::unique_ptr<SystemClock> m_clock;
+    QLockFile m_lock;
     std::unique_ptr<RecordBook> m_book;
     std::map<int, LiveConnection> m_live; ///< by the link's index
     std::string m_bootId;
     QTimer m_timer;
     int m_ticks = 0;
+    std::int64_t m_lastId = 0;
 };
 
 } // namespace refhost

@@ -72,6 +72,16 @@ std::optional<LinkCounters> countersIn(const nlattr &statistics)
     return LinkCounters{counterAt(statistics, sent), counterAt(statistics, received)};
 }
 
+/// A value that may lie at odd addresses; 0 if it is cut off.
+std::uint32_t numberAt(const nlattr &attribute, std::size_t offset)
+{
+    std::uint32_t value = 0;
+    if (mnl_attr_get_payload_len(&attribute) >= offset + sizeof(value))
+        std::memcpy(&value, static_cast<const char *>(mnl_attr_get_payload(&attribute)) + offset,
+                    sizeof(value));
+    return value;
+}
+
 std::optional<LinkNews> parseLink(const nlmsghdr &message)
 {
     const auto *const header = headerOf<ifinfomsg>(message);
@@ -88,6 +98,8 @@ std::optional<LinkNews> parseLink(const nlmsghdr &message)
             report.name = textOf(attribute);
         else if (mnl_attr_get_type(&attribute) == IFLA_STATS64)
             report.counters = countersIn(attribute);
+        else if (mnl_attr_get_type(&attribute) == IFLA_CARRIER_DOWN_COUNT)
+            report.carrierLosses = numberAt(attribute, 0);
     });
     return report;
 }
@@ -115,14 +127,16 @@ std::optional<LinkNews> parseAddress(const nlmsghdr &message)
     // this machine's; elsewhere only one of them may be there.
     std::string address;
     std::string local;
+    AddressReport report;
     visitAttributes<ifaddrmsg>(message, [&](const nlattr &attribute) {
         if (mnl_attr_get_type(&attribute) == IFA_ADDRESS)
             address = bytesOf(attribute);
         else if (mnl_attr_get_type(&attribute) == IFA_LOCAL)
             local = bytesOf(attribute);
+        else if (mnl_attr_get_type(&attribute) == IFA_CACHEINFO)
+            report.createdAt = numberAt(attribute, offsetof(ifa_cacheinfo, cstamp));
     });
     const std::string &own = local.empty() ? address : local;
-    AddressReport report;
     report.linkIndex = static_cast<int>(header->ifa_index);
     report.address = std::string{static_cast<char>(header->ifa_family),
                                  static_cast<char>(header->ifa_prefixlen)} +

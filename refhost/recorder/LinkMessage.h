@@ -25,6 +25,7 @@ struct LinkReport {
     bool isUp = false;      ///< switched on
     bool isRunning = false; ///< its line is there
     bool isPpp = false;
+    std::uint32_t carrierLosses = 0;      ///< how often its line has been gone
     std::optional<LinkCounters> counters; ///< at the time of the message
 };
 
@@ -34,6 +35,7 @@ struct AddressReport {
     std::string address;  ///< family, prefix and bytes: equal for the same address only
     bool isThere = false; ///< false too while it is being checked for duplicates
     bool isIpv6LinkLocal = false;
+    std::uint32_t createdAt = 0; ///< when it was given, on the kernel's own clock
 };
 
 using LinkNews = std::variant<LinkReport, AddressReport>;

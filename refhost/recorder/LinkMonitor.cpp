@@ -57,6 +57,13 @@ void LinkMonitor::requestCounters(int linkIndex)
     m_socket.requestLink(linkIndex, singleRequest);
 }
 
+void LinkMonitor::catchUp()
+{
+    // The kernel answers before a request returns.
+    if (m_stage == Stage::Watching)
+        receiveAll();
+}
+
 void LinkMonitor::receiveAll()
 {
     RouteSocket::Outcome outcome;
@@ -142,8 +149,8 @@ void LinkMonitor::fail(int systemError)
     m_stage = Stage::Failed;
     if (m_notifier)
         m_notifier->setEnabled(false);
-    emit failed(QStringLiteral("The network interfaces cannot be watched (%1), so connections are "
-                               "not recorded any more; start the program again.")
+    emit failed(tr("The network interfaces cannot be watched (%1), so connections are not recorded "
+                   "any more; start the program again.")
                     .arg(QString::fromStdString(std::generic_category().message(systemError))));
 }
 

@@ -24,6 +24,7 @@ public:
     bool start() override;
     std::vector<Link> links() const override { return m_table.links(); }
     void requestCounters(int linkIndex) override;
+    void catchUp() override;
 
 private:
     enum class Stage { Watching, ListingLinks, ListingAddresses, Failed };

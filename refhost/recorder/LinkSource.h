@@ -27,6 +27,9 @@ public:
     /// Asks for the link's counters, which come as a change unless it is gone.
     virtual void requestCounters(int linkIndex) = 0;
 
+    /// Tells of all that has happened until now, answers to requests included.
+    virtual void catchUp() = 0;
+
 signals:
     void linkChanged(const refhost::LinkChange &change);
     /// One sentence for the user.

@@ -14,6 +14,16 @@ bool Link::isConnected() const
            });
 }
 
+std::string Link::connectionMark() const
+{
+    const auto oldest =
+        std::min_element(addresses.begin(), addresses.end(), [](const auto &a, const auto &b) {
+            return a.second.createdAt < b.second.createdAt;
+        });
+    const std::uint32_t since = oldest == addresses.end() ? 0 : oldest->second.createdAt;
+    return std::to_string(carrierLosses) + '/' + std::to_string(since);
+}
+
 std::optional<LinkChange> LinkTable::apply(const LinkReport &report)
 {
     if (report.isGone && m_links.count(report.index) == 0)
@@ -27,6 +37,7 @@ std::optional<LinkChange> LinkTable::apply(const LinkReport &report)
     link.isUp = report.isUp;
     link.isRunning = report.isRunning;
     link.isPpp = report.isPpp;
+    link.carrierLosses = report.carrierLosses;
     link.counters = report.counters.value_or(link.counters);
     link.listing = m_listing;
     const LinkChange change = {link, report.isGone, report.counters.has_value()};
@@ -45,12 +56,12 @@ Link &LinkTable::linkFor(const LinkReport &report)
     return found->second;
 }
 
-/// A link in the first listing may have lived long before, unless it is a PPP one,
-/// which is made for its connection. One that a later listing shows was made
-/// while messages were lost. In both cases all that it has moved is new.
+/// A link in the first complete listing may have lived long before, unless it is a
+/// PPP one, which is made for its connection. One that a later listing shows was
+/// made while messages were lost. In both cases all that it has moved is new.
 LinkCounters LinkTable::countersBeforeFirstSight(const LinkReport &report) const
 {
-    const bool isMadeForItsConnection = report.isPpp || m_listing > 1;
+    const bool isMadeForItsConnection = report.isPpp || m_knowsAll;
     return m_isListing && isMadeForItsConnection ? LinkCounters()
                                                  : report.counters.value_or(LinkCounters());
 }
@@ -65,7 +76,7 @@ std::optional<LinkChange> LinkTable::apply(const AddressReport &report)
     if (!link.isConnected() && !m_isListing)
         link.idleCounters = link.counters;
     if (report.isThere)
-        link.addresses[report.address] = {report.isIpv6LinkLocal, m_listing};
+        link.addresses[report.address] = {report.isIpv6LinkLocal, report.createdAt, m_listing};
     else
         link.addresses.erase(report.address);
     return LinkChange{link, false, false};
@@ -80,6 +91,7 @@ void LinkTable::beginListing()
 std::vector<LinkChange> LinkTable::endListing()
 {
     m_isListing = false;
+    m_knowsAll = true;
     std::vector<LinkChange> changes;
     for (auto entry = m_links.begin(); entry != m_links.end();) {
         Link &link = entry->second;

@@ -18,6 +18,7 @@ struct Link {
     bool isUp = false;
     bool isRunning = false;
     bool isPpp = false;
+    std::uint32_t carrierLosses = 0;
     LinkCounters counters;     ///< at the last message
     LinkCounters idleCounters; ///< at the last one before the present connection
 
@@ -27,8 +28,13 @@ struct Link {
     /// agreement and may be the only one.
     bool isConnected() const;
 
+    /// Stays the same for as long as the present connection does, whoever looks at
+    /// it: a line that was lost, or addresses that are all new, make another one.
+    std::string connectionMark() const;
+
     struct Address {
         bool isIpv6LinkLocal = false;
+        std::uint32_t createdAt = 0;
         unsigned listing = 0; ///< see LinkTable
     };
     std::map<std::string, Address> addresses;
@@ -65,6 +71,7 @@ private:
     std::map<int, Link> m_links;
     unsigned m_listing = 0;
     bool m_isListing = false;
+    bool m_knowsAll = false; ///< a listing has been complete
 };
 
 } // namespace refhost

@@ -54,13 +54,16 @@ Connection finishedFrom(const OpenConnection &row, const std::string &ending)
 
 } // namespace
 
-LiveConnection::LiveConnection(const std::string &bootId, const std::string &profile,
-                               const Link &link, const LinkCounters &base, const Moment &now)
-    : m_rateMilliseconds(now.bootMilliseconds)
+LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
+                               const std::string &profile, const Link &link,
+                               const LinkCounters &base, const Moment &now)
+    : m_id(id)
+    , m_rateMilliseconds(now.bootMilliseconds)
 {
     m_row.bootId = bootId;
     m_row.interfaceIndex = link.index;
     m_row.interfaceName = link.name;
+    m_row.linkMark = link.connectionMark();
     m_row.profile = profile;
     m_row.startUtc = storableSeconds(now.utcSeconds);
     m_row.startBootMilliseconds = now.bootMilliseconds;
@@ -75,8 +78,10 @@ LiveConnection::LiveConnection(const std::string &bootId, const std::string &pro
 void LiveConnection::adopt(const OpenConnection &stored, const Moment &now)
 {
     const std::string name = m_row.interfaceName;
+    const std::string mark = m_row.linkMark;
     m_row = stored;
     m_row.interfaceName = name;
+    m_row.linkMark = mark;
     m_rateTotals = {stored.uploadedBytes, stored.downloadedBytes};
     advance(m_counters, now);
 }
@@ -90,6 +95,17 @@ void LiveConnection::advance(const LinkCounters &counters, const Moment &now)
     if (!hasGoneUp || !hasGoneDown)
         m_row.ending = endedAfterReset;
     updateTimes(now);
+}
+
+void LiveConnection::setLink(const Link &link)
+{
+    m_row.interfaceName = link.name;
+    const std::string mark = link.connectionMark();
+    // An old mark in the store would make another connection of this one.
+    if (!m_hasEnded && link.isConnected() && mark != m_row.linkMark) {
+        m_row.linkMark = mark;
+        isCheckpointDue = true;
+    }
 }
 
 void LiveConnection::end(const Moment &now)

@@ -21,9 +21,11 @@ class LiveConnection
 {
 public:
     /// One that begins now on a link whose counters showed `base` before.
-    LiveConnection(const std::string &bootId, const std::string &profile, const Link &link,
-                   const LinkCounters &base, const Moment &now);
+    LiveConnection(std::int64_t id, const std::string &bootId, const std::string &profile,
+                   const Link &link, const LinkCounters &base, const Moment &now);
 
+    /// Tells it from all others of this process.
+    std::int64_t id() const { return m_id; }
     int linkIndex() const { return static_cast<int>(m_row.interfaceIndex); }
     const OpenConnection &row() const { return m_row; }
 
@@ -32,7 +34,8 @@ public:
     void adopt(const OpenConnection &stored, const Moment &now);
 
     void setProfile(const std::string &profile) { m_row.profile = profile; }
-    void setInterfaceName(const std::string &name) { m_row.interfaceName = name; }
+    /// Takes over what the link is called and marked with.
+    void setLink(const Link &link);
 
     /// Takes the link's counters as they are now. One that has gone backwards has
     /// been reset: what it shows is a new base then, what had been counted stays,
@@ -56,6 +59,7 @@ public:
 private:
     void updateTimes(const Moment &now);
 
+    const std::int64_t m_id;
     OpenConnection m_row;
     LinkCounters m_counters;
     LinkCounters m_rateTotals;

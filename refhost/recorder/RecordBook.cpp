@@ -7,11 +7,11 @@
 namespace refhost
 {
 
-RecordBook::RecordBook(StatisticsStore store, std::string bootId, IsConnected isConnected,
+RecordBook::RecordBook(StatisticsStore store, std::string bootId, StillLasts stillLasts,
                        Listener listener)
     : m_store(std::move(store))
     , m_bootId(std::move(bootId))
-    , m_isConnected(std::move(isConnected))
+    , m_stillLasts(std::move(stillLasts))
     , m_listener(std::move(listener))
 {
 }
@@ -27,7 +27,7 @@ void RecordBook::recoverEarlierConnections()
 
 bool RecordBook::recover(const OpenConnection &row)
 {
-    if (row.bootId == m_bootId && m_isConnected(row.interfaceIndex))
+    if (row.bootId == m_bootId && m_stillLasts(row))
         return true;
     const auto key = m_store.finish(row.key, recovered(row));
     if (!key)
@@ -41,24 +41,35 @@ void RecordBook::save(LiveConnection &connection, const Moment &now)
     if (isBehind())
         return;
     if (connection.row().key == 0) {
-        const auto stored = m_store.begin(connection.row());
-        if (!stored)
-            return fail(stored.error());
-        connection.adopt(stored.value(), now);
+        const auto key = begin(connection, now);
+        if (!key)
+            return fail(key.error());
     } else {
-        const auto key = m_store.checkpoint(connection.row());
-        // Another process may have finished it already; finish() copes with that.
-        if (!key && key.error().kind != StoreError::Kind::NoSuchRecord)
+        auto key = m_store.checkpoint(connection.row());
+        // Somebody has put another file in the store's place.
+        if (!key && key.error().kind == StoreError::Kind::NoSuchRecord)
+            key = begin(connection, now);
+        if (!key)
             return fail(key.error());
     }
-    m_lastFailure.clear();
+    succeed();
+}
+
+Result<std::int64_t> RecordBook::begin(LiveConnection &connection, const Moment &now)
+{
+    const auto stored = m_store.begin(connection.row());
+    if (!stored)
+        return stored.error();
+    connection.adopt(stored.value(), now);
+    return stored.value().key;
 }
 
 void RecordBook::finish(const LiveConnection &connection, bool hasFinalCounters)
 {
     // A store that is locked is not waited for again with each connection.
     const bool wasBehind = isBehind();
-    m_unwritten.push_back({connection.row().key, connection.finished(hasFinalCounters)});
+    m_unwritten.push_back(
+        {connection.id(), connection.row().key, connection.finished(hasFinalCounters)});
     if (!wasBehind)
         catchUp();
 }
@@ -74,16 +85,24 @@ void RecordBook::catchUp()
 void RecordBook::writeFinished()
 {
     while (!m_unwritten.empty()) {
-        const auto &[openKey, connection] = m_unwritten.front();
+        const auto &[id, openKey, connection] = m_unwritten.front();
         // One whose beginning could not be written has no row to be finished.
         const auto key =
             openKey == 0 ? m_store.add(connection) : m_store.finish(openKey, connection);
         if (!key)
             return fail(key.error());
-        m_lastFailure.clear();
-        m_listener.finished(connection);
+        succeed();
+        m_listener.finished(connection, id);
         m_unwritten.pop_front();
     }
+}
+
+void RecordBook::succeed()
+{
+    if (m_lastFailure.empty())
+        return;
+    m_lastFailure.clear();
+    m_listener.succeeded();
 }
 
 void RecordBook::fail(const StoreError &error)

@@ -18,14 +18,16 @@ class RecordBook
 {
 public:
     struct Listener {
-        std::function<void(const Connection &)> finished; ///< it is in the store now
-        std::function<void(const StoreError &)> failed;   ///< once for each new reason
+        /// It is in the store now; with its LiveConnection::id.
+        std::function<void(const Connection &, std::int64_t id)> finished;
+        std::function<void(const StoreError &)> failed; ///< once for each new reason
+        std::function<void()> succeeded;                ///< the first time after that
     };
-    /// Whether a link of this index is there and connected.
-    using IsConnected = std::function<bool(std::int64_t linkIndex)>;
+    /// Whether the connection that an earlier process has left open, in this run of
+    /// the system, still lasts.
+    using StillLasts = std::function<bool(const OpenConnection &row)>;
 
-    RecordBook(StatisticsStore store, std::string bootId, IsConnected isConnected,
-               Listener listener);
+    RecordBook(StatisticsStore store, std::string bootId, StillLasts stillLasts, Listener listener);
 
     /// Brings the store up to date with the connection. The first time, it goes
     /// on with what the store has of the same one already.
@@ -42,18 +44,21 @@ public:
 
 private:
     struct Unwritten {
+        std::int64_t id;
         std::int64_t openKey;
         Connection connection;
     };
 
+    Result<std::int64_t> begin(LiveConnection &connection, const Moment &now);
     void recoverEarlierConnections();
     bool recover(const OpenConnection &row);
     void writeFinished();
     void fail(const StoreError &error);
+    void succeed();
 
     StatisticsStore m_store;
     std::string m_bootId;
-    IsConnected m_isConnected;
+    StillLasts m_stillLasts;
     Listener m_listener;
     std::deque<Unwritten> m_unwritten;
     std::string m_lastFailure;

@@ -87,7 +87,8 @@ void Application::startRecording()
     if (m_options.isDemo || !m_options.pictureFile.isEmpty())
         return;
     offerSummary();
-    m_recording = std::make_unique<Recording>(m_source.file, m_options.interfaceNames, m_state);
+    m_recording = std::make_unique<Recording>(m_source.file, m_options.interfaceNames,
+                                              m_options.profile, m_state);
     m_recording->start();
 }
 

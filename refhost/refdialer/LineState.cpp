@@ -18,14 +18,13 @@ void LineState::begin(const ConnectionState &connection)
 
 void LineState::update(const ConnectionState &connection)
 {
-    m_connections.insert(connection.interfaceName, connection);
+    m_connections.insert(connection.id, connection);
     emit changed();
 }
 
-void LineState::end(const Connection &connection)
+void LineState::end(qint64 id)
 {
-    m_connections.remove(QString::fromStdString(connection.interfaceName));
-    m_problem.clear();
+    m_connections.remove(id);
     emit changed();
     emit disconnected();
 }

@@ -21,7 +21,7 @@ public:
 
     /// Whether connections are watched at all.
     bool isWatched() const { return m_isWatched; }
-    /// Those that last, by the names of their interfaces.
+    /// Those that last, in the order in which they began.
     QList<ConnectionState> connections() const { return m_connections.values(); }
     /// Why connections are not recorded as they should be, a sentence for the
     /// user; empty if they are.
@@ -30,8 +30,8 @@ public:
     void setWatched(bool isWatched);
     void begin(const ConnectionState &connection);
     void update(const ConnectionState &connection);
-    /// The connection has been written, so an earlier problem is over.
-    void end(const Connection &connection);
+    void end(qint64 id);
+    /// With an empty text it is over.
     void setProblem(const QString &problem);
 
 signals:
@@ -43,7 +43,7 @@ signals:
 
 private:
     bool m_isWatched = false;
-    QMap<QString, ConnectionState> m_connections;
+    QMap<qint64, ConnectionState> m_connections; ///< by id
     QString m_problem;
 };
 

@@ -29,7 +29,6 @@ constexpr QSize defaultSize(780, 500);
 
 MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state)
     : m_plugin(plugin)
-    , m_state(state)
     , m_area(new HistoryArea(plugin, source.file))
 {
     auto *const content = new QWidget;
@@ -121,11 +120,10 @@ void MainWindow::setHistoryVisible(bool isVisible)
 
 void MainWindow::showFinishedConnection()
 {
+    // The plug-in knows of one connection at a time, and an end without a
+    // beginning before it means nothing to it; another one may have ended since.
+    m_plugin.tellConnected();
     m_area->showFinishedConnection();
-    // The plug-in knows of one connection at a time: without this, the end of
-    // another one that still lasts would mean nothing to it.
-    if (!m_state.connections().isEmpty())
-        m_plugin.tellConnected();
 }
 
 void MainWindow::showSettings()

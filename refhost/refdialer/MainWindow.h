@@ -41,7 +41,6 @@ private:
     void showStatistics();
 
     PluginHandle &m_plugin;
-    const LineState &m_state;
     HistoryArea *m_area;
     QMenu *m_fileMenu;
     QAction *m_settingsAction;

@@ -34,8 +34,8 @@ private:
     const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
                                        tr("Show the version.")};
     const QCommandLineOption m_store{
-        QStringLiteral("store"), tr("Show the connections in FILE instead of your own history."),
-        tr("FILE")};
+        QStringLiteral("store"),
+        tr("Use the history in FILE instead of your own, to show and to record."), tr("FILE")};
     const QCommandLineOption m_plugin{QStringLiteral("plugin"),
                                       tr("Load the history plug-in from FILE."), tr("FILE")};
     const QCommandLineOption m_language{QStringLiteral("lang"),
@@ -52,6 +52,10 @@ private:
         tr("Record the connections of the network interface NAME too, not only of ppp* and wwan*; "
            "may be given several times."),
         tr("NAME")};
+    const QCommandLineOption m_profile{
+        QStringLiteral("profile"),
+        tr("Record connections under the profile (APN) NAME, not under their interface's name."),
+        tr("NAME")};
     const QCommandLineOption m_noDialupService{
         QStringLiteral("no-dialup-service"),
         tr("Leave the dial-up service out, without which the history does not react to "
@@ -64,8 +68,8 @@ private:
 CommandLine::CommandLine()
 {
     m_parser.setApplicationDescription(tr("Shows the history of mobile-broadband connections."));
-    m_parser.addOptions({m_help, m_version, m_store, m_plugin, m_interface, m_noDialupService,
-                         m_language, m_debug, m_demo, m_picture});
+    m_parser.addOptions({m_help, m_version, m_store, m_plugin, m_interface, m_profile,
+                         m_noDialupService, m_language, m_debug, m_demo, m_picture});
 }
 
 Options CommandLine::read(const QStringList &arguments)
@@ -83,6 +87,7 @@ Options CommandLine::read(const QStringList &arguments)
     options.language = value(m_language);
     options.pictureFile = value(m_picture);
     options.interfaceNames = values(m_interface);
+    options.profile = value(m_profile);
     options.hasDialupService = !m_parser.isSet(m_noDialupService);
     options.isDebug = m_parser.isSet(m_debug);
     options.isDemo = m_parser.isSet(m_demo);

@@ -14,6 +14,7 @@ struct Options {
     QString language;
     QString pictureFile;
     QStringList interfaceNames;
+    QString profile;
     bool isDebug = false;
     bool isDemo = false;
     bool hasDialupService = true;

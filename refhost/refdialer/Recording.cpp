@@ -7,14 +7,19 @@
 namespace refhost
 {
 
-Recording::Recording(const QString &storePath, const QStringList &interfaceNames, LineState &state)
+Recording::Recording(const QString &storePath, const QStringList &interfaceNames,
+                     const QString &profile, LineState &state)
     : m_state(state)
     , m_recorder(new ConnectionRecorder(storePath, interfaceNames))
 {
     QObject::connect(m_recorder, &ConnectionRecorder::connected, &m_state, &LineState::begin);
     QObject::connect(m_recorder, &ConnectionRecorder::stateChanged, &m_state, &LineState::update);
-    QObject::connect(m_recorder, &ConnectionRecorder::disconnected, &m_state, &LineState::end);
+    QObject::connect(m_recorder, &ConnectionRecorder::disconnected, &m_state,
+                     [&state](const Connection &, qint64 id) { state.end(id); });
     QObject::connect(m_recorder, &ConnectionRecorder::failed, &m_state, &LineState::setProblem);
+    QObject::connect(m_recorder, &ConnectionRecorder::succeeded, &m_state,
+                     [&state] { state.setProblem(QString()); });
+    m_recorder->setProfileName(profile);
     m_recorder->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::finished, m_recorder, &QObject::deleteLater);
     m_thread.start();

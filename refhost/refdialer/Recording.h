@@ -15,9 +15,11 @@ class LineState;
 class Recording
 {
 public:
-    /// Records into the store at this path; `state`, which must live longer, is
-    /// told on its own thread what happens.
-    Recording(const QString &storePath, const QStringList &interfaceNames, LineState &state);
+    /// Records into the store at this path, under this profile or, if that is
+    /// empty, under the interfaces' names; `state`, which must live longer, is told
+    /// on its own thread what happens.
+    Recording(const QString &storePath, const QStringList &interfaceNames, const QString &profile,
+              LineState &state);
     Recording(const Recording &) = delete;
     Recording &operator=(const Recording &) = delete;
     /// What is connected stays open in the store, for the next start to go on with.

@@ -72,10 +72,10 @@ void SettingsDialog::retranslate()
 void SettingsDialog::chooseLanguage(int index)
 {
     const QString chosen = m_languageBox->itemData(index).toString();
-    if (chosen == language() || !setLanguage(chosen))
-        return;
+    // The present one too: it may have been asked for on the command line only.
     tellUnlessStored(storeLanguage(chosen));
-    emit languageChosen(chosen);
+    if (chosen != language() && setLanguage(chosen))
+        emit languageChosen(chosen);
 }
 
 void SettingsDialog::tellUnlessStored(bool isStored)

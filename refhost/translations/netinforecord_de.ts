@@ -162,8 +162,8 @@
 <context>
     <name>refhost::CommandLine</name>
     <message>
-        <source>Show the connections in FILE instead of your own history.</source>
-        <translation>Die Verbindungen in DATEI statt Ihres eigenen Verlaufs zeigen.</translation>
+        <source>Use the history in FILE instead of your own, to show and to record.</source>
+        <translation>Den Verlauf in DATEI statt des eigenen zeigen und dort aufzeichnen.</translation>
     </message>
     <message>
         <source>FILE</source>
@@ -228,6 +228,10 @@
     <message>
         <source>NAME</source>
         <translation>NAME</translation>
+    </message>
+    <message>
+        <source>Record connections under the profile (APN) NAME, not under their interface&apos;s name.</source>
+        <translation>Verbindungen unter dem Profil (APN) NAME aufzeichnen, nicht unter dem Namen ihrer Schnittstelle.</translation>
     </message>
     <message>
         <source>Leave the dial-up service out, without which the history does not react to connections.</source>
@@ -319,6 +323,28 @@
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
         <translation>Der Einwahldienst %1 lässt sich nicht laden: %2. Installieren Sie refdialer neu, oder lassen Sie den Dienst mit --no-dialup-service weg.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::ConnectionRecorder</name>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc and start the program again.</source>
+        <translation>&quot;/proc/sys/kernel/random/boot_id&quot; lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein, und starten Sie das Programm neu.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when the history is opened again.</source>
+        <translation>Ein anderes %1 zeichnet die Verbindungen schon auf (Prozess %2). Sie erscheinen hier, wenn der Verlauf wieder geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written; allow yourself to write there and start the program again.</source>
+        <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 lässt sich nicht schreiben. Erlauben Sie sich dort das Schreiben, und starten Sie das Programm neu.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::LinkMonitor</name>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded any more; start the program again.</source>
+        <translation>Die Netzschnittstellen lassen sich nicht beobachten (%1), daher werden keine Verbindungen mehr aufgezeichnet. Starten Sie das Programm neu.</translation>
     </message>
 </context>
 <context>

@@ -38,12 +38,12 @@ LinkReport goneLink(int index, const std::string &name, std::int64_t uploaded,
 
 AddressReport addressOn(int index)
 {
-    return {index, "an address", true, false};
+    return {index, "an address", true, false, 100};
 }
 
 AddressReport addressGoneFrom(int index)
 {
-    return {index, "an address", false, false};
+    return {index, "an address", false, false, 0};
 }
 
 bool FakeLinks::start()
@@ -58,6 +58,13 @@ void FakeLinks::tell(const LinkNews &news)
         std::visit([this](const auto &report) { return m_table.apply(report); }, news);
     if (change)
         emit linkChanged(*change);
+}
+
+void FakeLinks::catchUp()
+{
+    for (const LinkNews &news : toCome)
+        tell(news);
+    toCome.clear();
 }
 
 void FakeLinks::relist(const std::vector<LinkNews> &news)

@@ -26,6 +26,8 @@ public:
     bool start() override;
     std::vector<refhost::Link> links() const override { return m_table.links(); }
     void requestCounters(int linkIndex) override { requests.push_back(linkIndex); }
+    /// Tells what was to come.
+    void catchUp() override;
 
     void tell(const refhost::LinkNews &news);
     /// All messages were lost; a new listing shows only these.
@@ -33,6 +35,7 @@ public:
 
     std::vector<refhost::LinkNews> atStart; ///< what the first listing shows
     std::vector<int> requests;
+    std::vector<refhost::LinkNews> toCome;
 
 private:
     refhost::LinkTable m_table;

@@ -191,10 +191,8 @@ void TestMainWindow::tellsThePluginOfConnections()
     m_calls.clear();
     m_state.begin(state);
     QCOMPARE(m_calls, QStringList("Notify 1536, 1, 0"));
-    refhost::Connection finished;
-    finished.interfaceName = "wwan0";
-    m_state.end(finished);
-    QCOMPARE(m_calls, QStringList({"Notify 1536, 1, 0", "Notify 1536, 0, 0"}));
+    m_state.end(state.id);
+    QCOMPARE(m_calls, QStringList({"Notify 1536, 1, 0", "Notify 1536, 1, 0", "Notify 1536, 0, 0"}));
 }
 
 /// Opens the settings with their key, does the step there and closes them.
@@ -345,7 +343,7 @@ void TestMainWindow::leavesThePluginAloneAfterItsEnd()
     history->trigger();
     ascending->trigger();
     m_state.begin({});
-    m_state.end({});
+    m_state.end(0);
     m_recording->area()->resize(100, 100);
     m_window->show();
     QCOMPARE(m_calls, QStringList());

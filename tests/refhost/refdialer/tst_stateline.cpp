@@ -24,18 +24,19 @@ private slots:
     void saysThatThereIsNoConnection();
     void showsTheConnectionWhileItLasts();
     void showsEachConnection();
-    void showsWhatIsWrongUntilSomethingIsRecorded();
+    void showsWhatIsWrongUntilThatIsOver();
     void saysWhyNothingIsWatched();
     void speaksTheLanguageOfTheProgram();
     void tellsWhatHappensInOrder();
 
 private:
-    ConnectionState connection(const QString &interfaceName = "wwan0") const;
+    ConnectionState connection(const QString &interfaceName = "wwan0", qint64 id = 1) const;
 };
 
-ConnectionState TestStateLine::connection(const QString &interfaceName) const
+ConnectionState TestStateLine::connection(const QString &interfaceName, qint64 id) const
 {
     ConnectionState state;
+    state.id = id;
     state.profile = "%3<b>" + interfaceName;
     state.interfaceName = interfaceName;
     state.since = QDateTime(QDate(2026, 9, 1), QTime(12, 30), Qt::UTC);
@@ -93,9 +94,7 @@ void TestStateLine::showsTheConnectionWhileItLasts()
     later.uploadedBytes = 2048;
     state.update(later);
     QVERIFY2(line.text().contains("Sent: 2.00 KB"), qPrintable(line.text()));
-    refhost::Connection finished;
-    finished.interfaceName = "wwan0";
-    state.end(finished);
+    state.end(connection().id);
     QCOMPARE(line.text(), QString("Not connected"));
 }
 
@@ -104,15 +103,15 @@ void TestStateLine::showsEachConnection()
     LineState state;
     const StateLine line({"connections.db", false}, state);
     state.setWatched(true);
-    state.begin(connection("wwan0"));
-    state.begin(connection("ppp0"));
+    state.begin(connection("wwan0", 1));
+    state.begin(connection("ppp0", 2));
     const QStringList lines = line.text().split('\n');
     QCOMPARE(lines.size(), 2);
-    QVERIFY(lines.at(0).startsWith("%3<b>ppp0, "));
-    QVERIFY(lines.at(1).startsWith("%3<b>wwan0, "));
+    QVERIFY(lines.at(0).startsWith("%3<b>wwan0, "));
+    QVERIFY(lines.at(1).startsWith("%3<b>ppp0, "));
 }
 
-void TestStateLine::showsWhatIsWrongUntilSomethingIsRecorded()
+void TestStateLine::showsWhatIsWrongUntilThatIsOver()
 {
     LineState state;
     const StateLine line({"connections.db", false}, state);
@@ -120,10 +119,9 @@ void TestStateLine::showsWhatIsWrongUntilSomethingIsRecorded()
     state.begin(connection());
     state.setProblem("The disk is full.");
     state.update(connection());
-    QVERIFY2(line.text().endsWith("\nThe disk is full."), qPrintable(line.text()));
-    refhost::Connection finished;
-    finished.interfaceName = "wwan0";
-    state.end(finished);
+    state.end(connection().id);
+    QCOMPARE(line.text(), QString("Not connected\nThe disk is full."));
+    state.setProblem(QString());
     QCOMPARE(line.text(), QString("Not connected"));
 }
 
@@ -159,9 +157,7 @@ void TestStateLine::tellsWhatHappensInOrder()
     state.update(connection());
     QCOMPARE(connected.size(), 1);
     QCOMPARE(state.connections().size(), 1);
-    refhost::Connection finished;
-    finished.interfaceName = "wwan0";
-    state.end(finished);
+    state.end(connection().id);
     QVERIFY(isGoneFromTheList);
 }
 
