@@ -8,6 +8,7 @@
 #include "NetInfoRecordLogic.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -256,6 +257,22 @@ bool AccumulateDlg::createValues()
     return areAllPresent(
         {m_pFormLayout, m_pDownloadedValue, m_pUploadedValue, m_pTransferTimeValue}, 438);
 }
+
+namespace
+{
+
+/// The instance lives as long as the module, so it ends when a host unloads the
+/// library. At the end of the process it stays: widgets need their application.
+struct EndWithModule {
+    ~EndWithModule()
+    {
+        if (QCoreApplication::instance())
+            AccumulateDlg::Destroy();
+    }
+};
+const EndWithModule endWithModule;
+
+} // namespace
 
 AccumulateDlg *AccumulateDlg::Instance()
 {
