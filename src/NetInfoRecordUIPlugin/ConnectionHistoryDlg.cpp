@@ -87,6 +87,32 @@ ConnectionRecord *linkedRecord(const QTableWidgetItem &item)
         static_cast<quintptr>(item.data(Qt::UserRole).toULongLong()));
 }
 
+/// Keeps a table's menus while a question is open, even if a host destroys the
+/// table meanwhile: the question may have come out of a menu's own handling of a
+/// click, which goes on with the menu afterwards.
+class MenuKeeper
+{
+public:
+    explicit MenuKeeper(const QTableWidget *table)
+        : m_connection(QObject::connect(table, &QObject::destroyed, letMenusOutlive))
+    {
+    }
+    ~MenuKeeper() { QObject::disconnect(m_connection); }
+    Q_DISABLE_COPY(MenuKeeper)
+
+private:
+    static void letMenusOutlive(const QObject *table)
+    {
+        const auto menus = table->findChildren<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
+        for (QMenu *menu : menus) {
+            menu->setParent(nullptr, menu->windowFlags());
+            menu->deleteLater();
+        }
+    }
+
+    QMetaObject::Connection m_connection;
+};
+
 } // namespace
 
 GridDelegateLayout::~GridDelegateLayout() = default;
@@ -128,6 +154,9 @@ ConnectionHistoryDlg::ConnectionHistoryDlg()
     // Styles ask for more than a row has; without this the view would round the
     // row height up.
     m_pConnectionTblTreeWidget->verticalHeader()->setMinimumSectionSize(rowHeight);
+    // An event may fill the table before Init: rows without columns would take no
+    // cells, and nothing would lead to the records that they show.
+    m_pConnectionTblTreeWidget->setColumnCount(columnCount);
 
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 125, now);
     m_pRecordLogic = NetInfoRecordLogic::Instance();
@@ -450,6 +479,7 @@ bool ConnectionHistoryDlg::isConfirmed(const QString &textId)
 {
     const QString title = tr(QLatin1String("IDS_PROMPT_CAPTION"));
     const QString text = tr(textId);
+    const MenuKeeper keeper(m_pConnectionTblTreeWidget);
     return CommonUtils::ShowMessage(QMessageBox::Question, m_pContainerWidget, title, text,
                                     QLatin1String("IDS_OK"), QLatin1String("IDS_CANCEL"),
                                     QLatin1String(""), true, Qt::WindowCloseButtonHint, nullptr,

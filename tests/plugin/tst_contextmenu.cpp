@@ -35,6 +35,8 @@ private Q_SLOTS:
     void ignoresItsKeysWhileItIsClosed();
     void buildsAFreshMenuEachTime();
     void survivesTheEndWhileItIsOpen();
+    void outlivesTheTableDuringTheQuestionOfItsEntry_data();
+    void outlivesTheTableDuringTheQuestionOfItsEntry();
     void logsItsOperations();
 
 private:
@@ -194,6 +196,35 @@ void tst_ContextMenu::survivesTheEndWhileItIsOpen()
 {
     QVERIFY(request(cell(1), [this](QMenu *) { m_plugin->end(); }));
     QVERIFY(!m_plugin->table());
+}
+
+void tst_ContextMenu::outlivesTheTableDuringTheQuestionOfItsEntry_data()
+{
+    QTest::addColumn<bool>("isAreaFirst");
+    QTest::newRow("the host ends the plug-in") << false;
+    QTest::newRow("the host destroys its area") << true;
+}
+
+void tst_ContextMenu::outlivesTheTableDuringTheQuestionOfItsEntry()
+{
+    QFETCH(bool, isAreaFirst);
+    QPointer<QMenu> asking;
+    bool hasOutlived = false;
+    Host::instance().answer = [&](const scripted::MessageBox &) {
+        if (isAreaFirst)
+            m_plugin->destroyArea();
+        else
+            m_plugin->end();
+        hasOutlived = asking; // its handling of the click is not done yet
+        return 1024;
+    };
+    QVERIFY(request(cell(1), [&](QMenu *menu) {
+        asking = menu;
+        QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                          menu->actionGeometry(menu->actions().last()).center());
+    }));
+    QVERIFY(hasOutlived);
+    QTRY_VERIFY(!asking);
 }
 
 void tst_ContextMenu::logsItsOperations()

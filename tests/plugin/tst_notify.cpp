@@ -40,6 +40,7 @@ private Q_SLOTS:
     void ignoresStatusWithoutTheService();
     void callsTheHostInOrder();
     void listsTheFinishedConnection();
+    void listsItBeforeInitToo();
     void emptiesTheTableWhenTheReloadFails();
     void returnsZeroForEveryEvent_data();
     void returnsZeroForEveryEvent();
@@ -209,6 +210,20 @@ void tst_Notify::listsTheFinishedConnection()
         status(0);
     }
     QCOMPARE(m_plugin->table()->rowCount(), 6);
+}
+
+void tst_Notify::listsItBeforeInitToo()
+{
+    m_plugin.reset();
+    m_plugin = std::make_unique<LoadedPlugin>();
+    QRect rect(0, 0, 760, 400);
+    m_plugin->ui()->ShowWindow(m_plugin->area(), rect);
+    Host::instance().records.append(scripted::record("new", "1", "2", "1", "0", "0"));
+    status(1);
+    status(0);
+    QCOMPARE(m_plugin->table()->rowCount(), 1);
+    QVERIFY(m_plugin->table()->item(0, 0)); // without it nothing would free the record
+    QCOMPARE(m_plugin->table()->item(0, 0)->text(), QStringLiteral("new"));
 }
 
 void tst_Notify::emptiesTheTableWhenTheReloadFails()
