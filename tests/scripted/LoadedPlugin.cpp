@@ -3,10 +3,11 @@
 
 #include <QApplication>
 
-LoadedPlugin::LoadedPlugin()
+LoadedPlugin::LoadedPlugin(QLibrary::LoadHints hints)
     : m_loader(fileName())
     , m_area(new QWidget)
 {
+    m_loader.setLoadHints(hints);
     if (!m_loader.load())
         qFatal("%s", qPrintable(m_loader.errorString()));
     m_loader.instance();

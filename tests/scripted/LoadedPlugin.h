@@ -4,6 +4,7 @@
 #include "INotify.h"
 #include "IUIPlugin.h"
 
+#include <QLibrary>
 #include <QPluginLoader>
 #include <QPointer>
 #include <QTableWidget>
@@ -14,7 +15,9 @@
 class LoadedPlugin
 {
 public:
-    LoadedPlugin();
+    /// The toolkit keeps the library in memory after its end unless it is told
+    /// otherwise; without a hint it really goes.
+    explicit LoadedPlugin(QLibrary::LoadHints hints = QLibrary::PreventUnloadHint);
     ~LoadedPlugin();
 
     static QString fileName();

@@ -58,6 +58,8 @@ public:
 
     QVector<_KORA_ST_CONNRECORD> records;
     int getAllStatus = 0;
+    /// Told of every array that is handed out with success.
+    std::function<void()> handedOut;
     /// Overrides the count that goes with a null array.
     bool handsOutNullArray = false;
     int nullArrayCount = 0;

@@ -18,6 +18,8 @@ int KORA_Statistics_GetAllConnRecord(_KORA_ST_CONNRECORD **records, int *count)
     *count = static_cast<int>(host.records.size());
     std::copy(host.records.cbegin(), host.records.cend(), *records);
     ++host.openArrays;
+    if (host.getAllStatus == 0 && host.handedOut)
+        host.handedOut();
     return host.getAllStatus;
 }
 

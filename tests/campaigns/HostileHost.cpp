@@ -1,0 +1,434 @@
+// SPDX-License-Identifier: MIT
+#include "HostileHost.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLoggingCategory>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <vector>
+
+using scripted::Host;
+
+namespace
+{
+
+constexpr int deepest = 2;
+constexpr int longestTrace = 60;
+constexpr int mostRecords = 30;
+
+QString settingName()
+{
+    return QStringLiteral("WhetherShowNotesbox");
+}
+
+} // namespace
+
+HostileHost::HostileHost(std::uint64_t seed)
+    : m_random(seed)
+{
+    Host &host = Host::instance();
+    host.reset();
+    host.container = &m_container;
+    host.settings.insert({QStringLiteral("NetInfoRecordUIPlugin"), settingName()},
+                         QStringLiteral("true"));
+    host.answer = [this](const scripted::MessageBox &box) { return answer(box); };
+    host.removeStatus = [this](int index) {
+        const int status = m_sdk.remove(index);
+        publishRecords();
+        return status;
+    };
+    host.handedOut = [this] { m_sdk.handOut(); };
+    load();
+}
+
+HostileHost::~HostileHost()
+{
+    m_plugin.reset();
+    delete m_area;
+    delete m_mainWindow;
+    Host::instance().reset();
+    QLoggingCategory::setFilterRules(QString());
+}
+
+const std::vector<HostileHost::Action> &HostileHost::actions()
+{
+    static const std::vector<Action> all = {
+        {"load the library anew", 1, &HostileHost::loadAnew},
+        {"replace the root object", 1, &HostileHost::replaceRoot},
+        {"start over", 8, &HostileHost::startOver},
+        {"Init", 6, &HostileHost::init},
+        {"ShowWindow", 8, &HostileHost::showWindow},
+        {"DoModal", 1, &HostileHost::doModal},
+        {"FitSize", 4, &HostileHost::fitSize},
+        {"Hide", 2, &HostileHost::hide},
+        {"ChangeLang", 2, &HostileHost::changeLanguage},
+        {"event 1024", 3, &HostileHost::applyTexts},
+        {"event 2384", 1, &HostileHost::suppressSummaries},
+        {"event 1536", 14, &HostileHost::notifyStatus},
+        {"an unknown event", 1, &HostileHost::notifyUnknown},
+        {"OnDestroy", 1, &HostileHost::end},
+        {"OnDestroy twice", 1, &HostileHost::endTwice},
+        {"destroy the area", 1, &HostileHost::destroyArea},
+        {"destroy the main window", 1, &HostileHost::destroyMainWindow},
+        {"destroy the container", 1, &HostileHost::destroyContainer},
+        {"sort the rows", 3, &HostileHost::sortRows},
+        {"hide a row", 2, &HostileHost::hideRow},
+        {"handle events", 4, &HostileHost::handleEvents},
+        {"paint", 1, &HostileHost::paint},
+        {"select", 20, &HostileHost::select},
+        {"delete what is selected", 12, &HostileHost::deleteSelected},
+        {"delete all", 3, &HostileHost::deleteAll},
+        {"press Delete", 4, &HostileHost::pressDelete},
+        {"open the menu", 12, &HostileHost::openMenu},
+        {"click the summary away", 3, &HostileHost::clickSummary},
+        {"close the summary", 1, &HostileHost::closeSummary},
+        {"ask for the statistics", 1, &HostileHost::clickStatistics},
+        {"record a connection", 20, &HostileHost::recordConnection},
+        {"remove a record elsewhere", 3, &HostileHost::removeElsewhere},
+        {"change the answers", 6, &HostileHost::changeAnswers},
+        {"change the windows", 3, &HostileHost::changeWindows},
+    };
+    return all;
+}
+
+const HostileHost::Action &HostileHost::anyAction()
+{
+    int sum = 0;
+    for (const Action &action : actions())
+        sum += action.weight;
+    int rest = m_random.below(sum);
+    const Action *chosen = actions().data();
+    while (rest >= chosen->weight)
+        rest -= (chosen++)->weight;
+    return *chosen;
+}
+
+void HostileHost::step()
+{
+    Host::instance().calls.clear();
+    Host::instance().translated.clear();
+    Host::instance().messageBoxes.clear();
+    run(anyAction());
+}
+
+void HostileHost::run(const Action &action)
+{
+    ++m_steps;
+    m_trace.append(QString(2 * m_depth, QLatin1Char(' ')) + QLatin1String(action.name));
+    if (m_trace.size() > longestTrace)
+        m_trace.removeFirst();
+    (this->*action.run)();
+    compare();
+}
+
+/// Goes on while the plug-in waits for an answer.
+void HostileHost::runSomeWithin()
+{
+    if (m_depth == deepest)
+        return;
+    ++m_depth;
+    for (int rest = m_random.below(4); rest > 0 && m_complaint.isEmpty(); --rest)
+        run(anyAction());
+    --m_depth;
+}
+
+void HostileHost::load()
+{
+    m_plugin = std::make_unique<LoadedPlugin>(QLibrary::LoadHints());
+    m_expected.loadLibrary();
+    m_lastRect = QRect();
+}
+
+void HostileHost::loadAnew()
+{
+    if (m_depth > 0 || !m_random.once(4))
+        return; // code that still runs cannot be unloaded
+    m_expected.end();
+    m_plugin.reset();
+    load();
+}
+
+void HostileHost::replaceRoot()
+{
+    delete m_plugin->root();
+    m_plugin->root();
+    m_expected.replaceRoot();
+    m_lastRect = QRect();
+}
+
+/// Without a table there is little that a step can do.
+void HostileHost::startOver()
+{
+    if (m_expected.hasTable())
+        return;
+    end();
+    replaceRoot();
+    changeWindows();
+    init();
+    showWindow();
+}
+
+void HostileHost::init()
+{
+    m_expected.init();
+    m_plugin->ui()->Init();
+}
+
+QRect HostileHost::anyRect()
+{
+    const QRect rects[] = {QRect(),
+                           QRect(0, 0, 0, 0),
+                           QRect(10, 20, 500, 300),
+                           QRect(0, 0, 760, 400),
+                           QRect(QPoint(50, 50), QPoint(-20, -30)),
+                           QRect(-100, -200, 90, 1),
+                           QRect(3, 3, 1, 700)};
+    return m_random.oneOf(rects);
+}
+
+void HostileHost::noteParent(QWidget *parent)
+{
+    if (!m_expected.hasTable())
+        return;
+    QWidget *const container = table()->parentWidget();
+    expect("the container's parent", container->parentWidget(), parent);
+    // A smaller one grows to what the layout needs.
+    if (parent && m_lastRect.width() >= 500 && m_lastRect.height() >= 300)
+        expect("the container's place", container->geometry(), m_lastRect);
+}
+
+void HostileHost::showWindow()
+{
+    QWidget *const parents[] = {nullptr, m_mainWindow, m_area, m_area, m_area};
+    QWidget *const parent = m_random.oneOf(parents);
+    QRect rect = anyRect();
+    if (m_expected.hasWindow())
+        m_lastRect = rect;
+    expect("ShowWindow", m_plugin->ui()->ShowWindow(parent, rect), true);
+    noteParent(parent);
+}
+
+void HostileHost::doModal()
+{
+    expect("DoModal", m_plugin->ui()->DoModal(), 0);
+    noteParent(nullptr);
+}
+
+void HostileHost::fitSize()
+{
+    QRect rect = anyRect();
+    if (m_expected.hasWindow())
+        m_lastRect = rect;
+    m_plugin->ui()->FitSize(rect);
+    if (m_expected.hasTable())
+        noteParent(table()->parentWidget()->parentWidget());
+}
+
+void HostileHost::hide()
+{
+    m_plugin->ui()->Hide();
+    if (m_expected.hasTable())
+        expect("the container is hidden", table()->parentWidget()->isHidden(), true);
+}
+
+void HostileHost::changeLanguage()
+{
+    const bool isEmpty = m_random.once(3);
+    const QString language = isEmpty ? QString() : QStringLiteral("de");
+    expect("ChangeLang", m_plugin->ui()->ChangeLang(language), !isEmpty);
+    Host::instance().textPrefix = QString::number(m_random.below(100)) + QLatin1Char(':');
+    m_expected.answers.textPrefix = Host::instance().textPrefix;
+}
+
+void HostileHost::applyTexts()
+{
+    m_expected.applyTexts();
+    m_plugin->notify()->Notify(1024, 0, 0);
+}
+
+void HostileHost::suppressSummaries()
+{
+    m_expected.suppressSummaries();
+    m_plugin->notify()->Notify(2384, 0, 0);
+    // It lasts as long as the root object; without a new one now and then the
+    // rest of the campaign would see no reload.
+    if (m_random.once(2))
+        replaceRoot();
+}
+
+void HostileHost::notifyStatus()
+{
+    const unsigned int statuses[] = {0, 0, 0, 1, 1, 1, 2, 0xffffffffU};
+    const unsigned int status = m_random.oneOf(statuses);
+    const bool hadSummary = m_expected.hasSummary();
+    m_expected.connectionStatus(status);
+    m_summaries += m_expected.hasSummary() && !hadSummary ? 1 : 0;
+    expect("Notify", m_plugin->notify()->Notify(1536, status, 7), 0U);
+}
+
+void HostileHost::notifyUnknown()
+{
+    const unsigned int events[] = {0, 1, 1025, 1537, 2383, 0xffffffffU};
+    expect("Notify", m_plugin->notify()->Notify(m_random.oneOf(events), 1, 1), 0U);
+}
+
+void HostileHost::end()
+{
+    m_expected.end();
+    static_cast<IDestroyEvent *>(m_plugin->ui())->OnDestroy();
+    // What comes next finds no window, until the host asks for a new root.
+    if (m_random.once(2))
+        replaceRoot();
+}
+
+void HostileHost::endTwice()
+{
+    static_cast<IDestroyEvent *>(m_plugin->ui())->OnDestroy();
+    end();
+}
+
+void HostileHost::destroy(QPointer<QWidget> &widget)
+{
+    const bool holdsContainer = widget && m_expected.hasTable() && widget->isAncestorOf(table());
+    const bool holdsSummary = widget && summary() && summary()->parentWidget() == widget;
+    if (holdsContainer)
+        m_expected.destroyTable();
+    if (holdsSummary)
+        m_expected.closeSummary();
+    delete widget;
+}
+
+void HostileHost::destroyArea()
+{
+    destroy(m_area);
+}
+
+void HostileHost::destroyMainWindow()
+{
+    destroy(m_mainWindow);
+}
+
+void HostileHost::destroyContainer()
+{
+    QPointer<QWidget> container = m_expected.hasTable() ? table()->parentWidget() : nullptr;
+    destroy(container);
+}
+
+void HostileHost::sortRows()
+{
+    if (m_expected.hasTable())
+        table()->sortItems(m_random.below(6),
+                           m_random.once(2) ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+void HostileHost::hideRow()
+{
+    if (m_expected.hasTable() && table()->rowCount() > 0)
+        table()->setRowHidden(m_random.below(table()->rowCount()), m_random.once(2));
+}
+
+void HostileHost::handleEvents()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void HostileHost::paint()
+{
+    if (m_expected.hasTable())
+        table()->window()->grab();
+}
+
+int HostileHost::answer(const scripted::MessageBox &box)
+{
+    ++m_questions;
+    const bool isAboutAll = box.text.endsWith(QLatin1String("IDS_STR_CLEARALL"));
+    const ExpectedHistory::Question question = m_expected.ask(selectedKeys());
+    runSomeWithin();
+    if (m_random.once(4)) {
+        const int refusals[] = {0, -1, 1, 0x00400000};
+        return m_random.oneOf(refusals);
+    }
+    if (isAboutAll)
+        m_expected.confirmDeleteAll(question);
+    else
+        m_expected.confirmDelete(question);
+    return 1024;
+}
+
+void HostileHost::recordConnection()
+{
+    if (m_sdk.keys.size() >= mostRecords)
+        return;
+    const int key = ++m_lastKey;
+    const QByteArray start = QByteArray::number(m_random.below(2000000000));
+    const QByteArray amounts[] = {"0", "1024", "99999999999", "-1", "no number", "1e300", ""};
+    _KORA_ST_CONNRECORD record =
+        scripted::record(QString::number(key), start, start, m_random.oneOf(amounts),
+                         m_random.oneOf(amounts), m_random.oneOf(amounts));
+    if (m_random.once(8)) // an extra text without its terminator
+        std::fill(std::begin(record.szExtraText2), std::end(record.szExtraText2), '\xfe');
+    m_records.insert(key, record);
+    m_sdk.keys.append(key);
+    if (m_random.once(12))
+        m_sdk.stuck.insert(key);
+    m_expected.sdk.keys = m_sdk.keys;
+    m_expected.sdk.stuck = m_sdk.stuck;
+    publishRecords();
+}
+
+void HostileHost::removeElsewhere()
+{
+    if (m_sdk.keys.isEmpty())
+        return;
+    m_sdk.keys.removeAt(m_random.below(static_cast<int>(m_sdk.keys.size())));
+    m_expected.sdk.keys = m_sdk.keys;
+    publishRecords();
+}
+
+void HostileHost::publishRecords()
+{
+    QVector<_KORA_ST_CONNRECORD> records;
+    for (int key : m_sdk.keys)
+        records.append(m_records.value(key));
+    Host::instance().records = records;
+}
+
+void HostileHost::changeAnswers()
+{
+    Host &host = Host::instance();
+    ExpectedHistory::Answers &answers = m_expected.answers;
+    answers.canList = !m_random.once(6);
+    host.getAllStatus = answers.canList ? 0 : 5;
+    answers.handsOutArray = !m_random.once(6);
+    host.handsOutNullArray = !answers.handsOutArray;
+    host.nullArrayCount = m_random.between(-2, 3);
+    answers.hasLastRecord = !m_random.once(3);
+    host.getLastStatus = answers.hasLastRecord ? 0 : 8;
+    answers.wantsSummary = !m_random.once(3);
+    host.settings.insert({QStringLiteral("NetInfoRecordUIPlugin"), settingName()},
+                         answers.wantsSummary ? QStringLiteral("TRUE") : QStringLiteral("1"));
+    host.container = m_random.once(12) ? nullptr : &m_container;
+    m_container.hasPlugin = !m_random.once(12);
+    m_container.service.givesService = !m_random.once(12);
+    answers.hasDialupService =
+        host.container && m_container.hasPlugin && m_container.service.givesService;
+    QLoggingCategory::setFilterRules(m_random.once(8) ? QStringLiteral("default.debug=true")
+                                                      : QStringLiteral("default.debug=false"));
+}
+
+void HostileHost::changeWindows()
+{
+    if (!m_area)
+        m_area = new QWidget;
+    if (!m_mainWindow)
+        m_mainWindow = new QWidget;
+    m_area->resize(760, 400);
+    m_area->setVisible(!m_random.once(4));
+    m_mainWindow->setVisible(m_random.once(2));
+    Host::instance().mainWindow = m_random.once(4) ? nullptr : m_mainWindow.data();
+}

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Campaign.h"
+#include "DialupContainer.h"
+#include "ExpectedHistory.h"
+#include "LoadedPlugin.h"
+#include "ScriptedHost.h"
+
+#include <QDebug>
+#include <QHash>
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class QMenu;
+
+/// A host without manners: it does to the loaded plug-in whatever a host can do,
+/// in any order, and does it from inside the plug-in's questions and menus too.
+/// After every step it compares what is there with what should be.
+class HostileHost
+{
+public:
+    explicit HostileHost(std::uint64_t seed);
+    ~HostileHost();
+    HostileHost(const HostileHost &) = delete;
+    HostileHost &operator=(const HostileHost &) = delete;
+
+    void step();
+    /// What differs from what should be; empty while nothing does.
+    QString complaint() const { return m_complaint; }
+    /// The last steps, the innermost last.
+    QStringList trace() const { return m_trace; }
+
+    int steps() const { return m_steps; }
+    int questions() const { return m_questions; }
+    int menus() const { return m_menus; }
+    int summaries() const { return m_summaries; }
+
+private:
+    struct Action {
+        const char *name;
+        int weight;
+        void (HostileHost::*run)();
+    };
+    static const std::vector<Action> &actions();
+    const Action &anyAction();
+    void run(const Action &action);
+    void runSomeWithin();
+
+    // What the host asks of the plug-in.
+    void load();
+    void loadAnew();
+    void replaceRoot();
+    void startOver();
+    void init();
+    void showWindow();
+    void doModal();
+    void fitSize();
+    void hide();
+    void changeLanguage();
+    void applyTexts();
+    void suppressSummaries();
+    void notifyStatus();
+    void notifyUnknown();
+    void end();
+    void endTwice();
+
+    // What the host does to its own windows, and to the plug-in's.
+    void destroyArea();
+    void destroyMainWindow();
+    void destroyContainer();
+    void sortRows();
+    void hideRow();
+    void handleEvents();
+    void paint();
+
+    // What the user does.
+    void select();
+    void deleteSelected();
+    void deleteAll();
+    void pressDelete();
+    void openMenu();
+    void whileMenuIsOpen();
+    void pressInMenu(QMenu &menu);
+    void clickSummary();
+    void closeSummary();
+    void clickStatistics();
+
+    // What happens meanwhile, and how things stand from now on.
+    void recordConnection();
+    void removeElsewhere();
+    void changeAnswers();
+    void changeWindows();
+
+    int answer(const scripted::MessageBox &box);
+    void noteParent(QWidget *parent);
+    void destroy(QPointer<QWidget> &widget);
+    void invokeSlot(const char *slot);
+    void publishRecords();
+    QRect anyRect();
+
+    void compare();
+    template <typename Value>
+    void expect(const char *what, const Value &is, const Value &shouldBe);
+    QTableWidget *table() const;
+    QWidget *summary() const;
+    QVector<int> rowsOnScreen() const;
+    QVector<int> selectedKeys() const;
+
+    campaign::Random m_random;
+    scripted::DialupContainer m_container;
+    ExpectedHistory m_expected;
+    NumberedSdk m_sdk;
+    QHash<int, _KORA_ST_CONNRECORD> m_records;
+    int m_lastKey = 0;
+    std::unique_ptr<LoadedPlugin> m_plugin;
+    QPointer<QWidget> m_area;
+    QPointer<QWidget> m_mainWindow;
+    QRect m_lastRect;
+    int m_depth = 0;
+    int m_steps = 0;
+    int m_questions = 0;
+    int m_menus = 0;
+    int m_summaries = 0;
+    QString m_complaint;
+    QStringList m_trace;
+};
+
+template <typename Value>
+void HostileHost::expect(const char *what, const Value &is, const Value &shouldBe)
+{
+    if (is == shouldBe || !m_complaint.isEmpty())
+        return;
+    QDebug(&m_complaint) << "Step" << m_steps << what << "is" << is << "and should be" << shouldBe;
+}
