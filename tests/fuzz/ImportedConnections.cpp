@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "ImportedConnections.h"
+
+#include "CsvFormat.h"
+#include "CsvReader.h"
+#include "Fuzz.h"
+#include "LineReader.h"
+
+#include <QBuffer>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <tuple>
+
+using refhost::Connection;
+using refhost::StatisticsStore;
+
+namespace
+{
+
+auto valuesOf(const Connection &connection)
+{
+    return std::tie(connection.startUtc, connection.profile, connection.endUtc,
+                    connection.connectedSeconds, connection.uploadedBytes,
+                    connection.downloadedBytes, connection.ending, connection.interfaceName);
+}
+
+void sortByValue(std::vector<Connection> &connections)
+{
+    std::sort(connections.begin(), connections.end(),
+              [](const Connection &a, const Connection &b) { return valuesOf(a) < valuesOf(b); });
+}
+
+bool areSame(const std::vector<Connection> &a, const std::vector<Connection> &b)
+{
+    return std::equal(
+        a.begin(), a.end(), b.begin(), b.end(),
+        [](const Connection &x, const Connection &y) { return valuesOf(x) == valuesOf(y); });
+}
+
+std::vector<Connection> throughCsv(const std::vector<Connection> &connections)
+{
+    QByteArray text = refhost::toCsv(connections);
+    QBuffer device(&text);
+    device.open(QIODevice::ReadOnly);
+    refhost::LineReader lines(device);
+    try {
+        return refhost::connectionsFromCsv(lines, [](std::int64_t) {});
+    } catch (const refhost::CsvError &error) {
+        fuzz::require(false, error.reason.c_str());
+        return {};
+    }
+}
+
+/// A store that is emptied after each use: making one costs more than using it.
+StatisticsStore &emptyStore()
+{
+    static const QTemporaryDir folder(QStringLiteral("/dev/shm/fuzz-XXXXXX"));
+    static auto store = StatisticsStore::openOrCreate(
+        folder.filePath(QStringLiteral("connections.db")).toStdString());
+    fuzz::require(static_cast<bool>(store), "there is a store");
+    return store.value();
+}
+
+std::vector<Connection> throughStore(const std::vector<Connection> &connections)
+{
+    StatisticsStore &store = emptyStore();
+    const auto added = store.addMissing(connections);
+    fuzz::require(static_cast<bool>(added), "the store takes what the importer accepts");
+    const auto listed = store.list();
+    fuzz::require(static_cast<bool>(listed), "the store lists what it has");
+    std::vector<std::int64_t> keys;
+    for (const Connection &each : listed.value())
+        keys.push_back(each.key);
+    fuzz::require(static_cast<bool>(store.remove(keys)), "the store removes what it has");
+    return listed.value();
+}
+
+} // namespace
+
+void fuzz::requireLossless(const std::vector<Connection> &connections)
+{
+    if (connections.empty())
+        return;
+    require(areSame(throughCsv(connections), connections), "CSV keeps every value");
+    std::vector<Connection> stored = throughStore(connections);
+    std::vector<Connection> given = connections;
+    sortByValue(stored);
+    sortByValue(given);
+    require(areSame(stored, given), "the store keeps every value");
+}

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "StatisticsStore.h"
+
+#include <vector>
+
+namespace fuzz
+{
+
+/// Whether these connections, which an importer has accepted, come back from the
+/// store and from a CSV file as what they are.
+void requireLossless(const std::vector<refhost::Connection> &connections);
+
+} // namespace fuzz

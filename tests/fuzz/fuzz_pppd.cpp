@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// System logs of arbitrary bytes through the importer of pppd's messages.
+#include "Fuzz.h"
+#include "ImportedConnections.h"
+#include "LineReader.h"
+#include "PppdConnections.h"
+#include "PppdLog.h"
+
+#include <QBuffer>
+
+using namespace refhost;
+
+int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
+{
+    qputenv("TZ", "Europe/Berlin");
+    return 0;
+}
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    QByteArray contents(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    QBuffer device(&contents);
+    device.open(QIODevice::ReadOnly);
+    LineReader lines(device, longestLogLine);
+    const PppdLog log = readPppdLog(lines, [](std::int64_t) {});
+    constexpr std::int64_t now = 1700000000;
+    const YearResolver years(log.end.value_or(CalendarTime{1970, 1, 1, 0, 0, 0, 0}), now);
+    PppdConnections importer(years, std::string());
+    importer.takeAll(log.events);
+    fuzz::requireLossless(importer.connections());
+    return 0;
+}
