@@ -47,7 +47,7 @@ build() {
     mkdir -p build
     say "Building build/$preset ..."
     if ! { { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
-        cmake --build "build/$preset"; } >"$log" 2>&1; then
+        cmake --build --preset "$preset"; } >"$log" 2>&1; then
         tail -n 60 "$log" >&2
         say "Building build/$preset failed; the whole output is in $log."
         exit 1

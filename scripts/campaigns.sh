@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# scripts/campaigns.sh [--seed=N] [CAMPAIGN...]: the long runs against bad luck and
+# bad manners, in full; all of them if none is named:
+#   host     1,000,000 steps of a hostile host, and the same with sanitizers
+#   kills    1,000 writers of a store killed
+#   fuzz     each fuzz target for half an hour, two at a time
+#   abi      the binary interface, and a host of the other compiler
+# NETINFORECORD_COUNT sets another number of steps or kills, FUZZ_SECONDS another
+# time. ./test runs a short form of each.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source scripts/setup.sh
+
+case "${1-}" in
+--seed=*)
+    export NETINFORECORD_SEED=${1#--seed=}
+    shift
+    ;;
+esac
+campaigns=("$@")
+[ ${#campaigns[@]} -gt 0 ] || campaigns=(host kills fuzz abi)
+
+# run PRESET TESTS [COUNT]: builds a preset and runs the tests that match.
+run() {
+    build "$1"
+    NETINFORECORD_COUNT=${NETINFORECORD_COUNT:-${3-}} \
+        ctest --preset "$1" --verbose --timeout 14400 --tests-regex "$2" |
+        grep -E 'PASS|FAIL|QINFO|tests passed|Test +#'
+}
+
+# Each target writes what it finds to build/fuzz/tests/found, its own log beside.
+fuzz() {
+    build fuzz
+    export QT_QPA_PLATFORM=offscreen FUZZ_SECONDS=${FUZZ_SECONDS:-1800}
+    printf '%s\n' 'sdkrecord 2176' 'csv 2048' 'store 302' 'pppd 8192' |
+        xargs -P 2 -L 1 bash -c '
+            found=build/fuzz/tests/found/$0 corpus=(tests/fuzz/corpus/"$0")
+            [ "$0" != pppd ] || corpus+=(tests/refhost/connrecord/data)
+            build/fuzz/tests/fuzz_"$0" -max_total_time="$FUZZ_SECONDS" -max_len="$1" \
+                -timeout=10 -rss_limit_mb=4096 -artifact_prefix="$found-" "$found" "${corpus[@]}" \
+                >"$found.log" 2>&1 || { tail -n 40 "$found.log" >&2; exit 255; }
+            printf "%s: %s\n" "$0" "$(grep -a "^Done" "$found.log")"'
+}
+
+for campaign in "${campaigns[@]}"; do
+    say "== $campaign =="
+    case "$campaign" in
+    host)
+        run ci tst_hostilehost 1000000
+        run asan tst_hostilehost 200000
+        ;;
+    kills) run ci tst_storekills 1000 ;;
+    fuzz) fuzz ;;
+    abi) run ci '^(tst_slots|tst_exports|tst_interface|minimal_host_.*|sdk_exports)$' ;;
+    *)
+        say "There is no campaign \"$campaign\"; there are host, kills, fuzz and abi."
+        exit 2
+        ;;
+    esac
+done
+say "All of it held: ${campaigns[*]}"
