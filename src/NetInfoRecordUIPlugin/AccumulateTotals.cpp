@@ -3,6 +3,7 @@
 
 #include "KoraStatistics.h"
 #include "SdkText.h"
+#include "TimeText.h"
 
 #include <QDate>
 #include <QLocale>
@@ -11,6 +12,8 @@
 
 namespace
 {
+
+constexpr int monthLength = 6; // of "yyyyMM"
 
 QString monthKey(const QDate &day)
 {
@@ -37,7 +40,7 @@ void AccumulateTotals::Totals::add(const Totals &other)
 
 void AccumulateTotals::add(const _KORA_ST_CONNRECORD &record)
 {
-    const QString month = monthKey(SdkText::localTime(record.szStartTime).date());
+    const QString month = TimeText::of(SdkText::seconds(record.szStartTime)).left(monthLength);
     const Totals totals = totalsOf(record);
     m_ofAllProfiles[month].add(totals);
     m_byProfile[SdkText::bounded(record.szProfileName)][month].add(totals);
@@ -46,16 +49,19 @@ void AccumulateTotals::add(const _KORA_ST_CONNRECORD &record)
 AccumulateTotals::Totals AccumulateTotals::totalsOf(const _KORA_ST_CONNRECORD &record)
 {
     Totals totals;
-    totals.uploaded = bytesOf(SdkText::bounded(record.szUploadBytes));
-    totals.downloaded = bytesOf(SdkText::bounded(record.szDownloadBytes));
-    totals.seconds = SdkText::bounded(record.szDuration).toInt();
+    totals.uploaded = bytesOf(record.szUploadBytes);
+    totals.downloaded = bytesOf(record.szDownloadBytes);
+    totals.seconds = SdkText::integer(record.szDuration);
     return totals;
 }
 
 /// Whole numbers exactly; other texts as the history reads them, cut to bytes,
 /// and what is no number or past all counters as 0.
-AccumulateTotals::Bytes AccumulateTotals::bytesOf(const QString &text)
+AccumulateTotals::Bytes AccumulateTotals::bytesOf(const char (&field)[64])
 {
+    if (const auto plain = SdkText::plainNumber(field))
+        return *plain;
+    const QString text = SdkText::bounded(field);
     bool isWhole = false;
     const qlonglong whole = text.toLongLong(&isWhole);
     if (isWhole)

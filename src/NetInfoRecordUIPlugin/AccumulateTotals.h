@@ -43,7 +43,7 @@ private:
     using TotalsByMonth = QMap<QString, Totals>; // key "yyyyMM"
 
     static Totals totalsOf(const _KORA_ST_CONNRECORD &record);
-    static Bytes bytesOf(const QString &text);
+    static Bytes bytesOf(const char (&field)[64]);
     static QString megabytes(Bytes bytes);
     static AccumulateDialogRecord row(const QString &name, const QString &month,
                                       const TotalsByMonth &totals, const QDate &today);

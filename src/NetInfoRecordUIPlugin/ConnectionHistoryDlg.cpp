@@ -9,9 +9,9 @@
 #include "ExtendDialog.h"
 #include "Log.h"
 #include "NetInfoRecordLogic.h"
+#include "TimeText.h"
 
 #include <QAction>
-#include <QDateTime>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -51,21 +51,15 @@ constexpr Column columns[columnCount] = {
     {"IDS_LIST_CONNECTEDTIME", 110}, {"IDS_LIST_UPLOADED", 110},  {"IDS_LIST_DOWNLOADED", 110},
 };
 
-QDateTime parsedTime(const QString &text)
-{
-    static const QString format = QLatin1String("yyyyMMddhhmmss");
-    return QDateTime::fromString(text, format);
-}
-
 QVariant cellData(const ConnectionRecord &record, int column)
 {
     switch (column) {
     case 0:
         return record.m_strProfileName;
     case 1:
-        return parsedTime(record.m_strStartTime);
+        return TimeText::parsed(record.m_strStartTime);
     case 2:
-        return parsedTime(record.m_strEndTime);
+        return TimeText::parsed(record.m_strEndTime);
     case 3:
         return record.m_strConnectedTime;
     case 4:
@@ -80,6 +74,47 @@ QVariant recordLink(const ConnectionRecord *record)
 {
     return QVariant::fromValue<qulonglong>(reinterpret_cast<quintptr>(record));
 }
+
+/// A cell as every one begins. Copies share what they have in common with it,
+/// which costs far less than to set each role of each cell.
+const QTableWidgetItem &commonCell()
+{
+    static const QTableWidgetItem cell = [] {
+        QTableWidgetItem item;
+        item.setData(Qt::TextAlignmentRole, int(Qt::AlignLeft | Qt::AlignBottom));
+        item.setData(Qt::UserRole, 0);
+        item.setData(Qt::DisplayRole, QVariant()); // keeps a place for the cell's own
+        // Replaces the alignment above; both assignments and their order are meant.
+        item.setData(Qt::TextAlignmentRole, int(Qt::AlignLeft));
+        item.setFlags(item.flags() & ~Qt::ItemIsEditable);
+        return item;
+    }();
+    return cell;
+}
+
+/// While it lives, a table's views hear nothing; then, of one change of it all.
+/// Each cell on its own costs more to announce than to put there.
+class ChangedAsOne
+{
+public:
+    explicit ChangedAsOne(QTableWidget &table)
+        : m_model(*table.model())
+        , m_blocker(m_model)
+    {
+    }
+    ~ChangedAsOne()
+    {
+        m_blocker.unblock();
+        const QModelIndex last = m_model.index(m_model.rowCount() - 1, m_model.columnCount() - 1);
+        if (last.isValid())
+            Q_EMIT m_model.dataChanged(m_model.index(0, 0), last);
+    }
+    Q_DISABLE_COPY(ChangedAsOne)
+
+private:
+    QAbstractItemModel &m_model;
+    QSignalBlocker m_blocker;
+};
 
 ConnectionRecord *linkedRecord(const QTableWidgetItem &item)
 {
@@ -157,6 +192,9 @@ ConnectionHistoryDlg::ConnectionHistoryDlg()
     // An event may fill the table before Init: rows without columns would take no
     // cells, and nothing would lead to the records that they show.
     m_pConnectionTblTreeWidget->setColumnCount(columnCount);
+    // Each row's height is set again as it is filled. That costs a walk over all
+    // rows, unless the row has this height already.
+    m_pConnectionTblTreeWidget->verticalHeader()->setDefaultSectionSize(rowHeight);
 
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 125, now);
     m_pRecordLogic = NetInfoRecordLogic::Instance();
@@ -359,6 +397,7 @@ void ConnectionHistoryDlg::populateTable()
     const QHash<int, ConnectionRecord *> records = m_pRecordLogic->m_records;
     m_pConnectionTblTreeWidget->setRowCount(static_cast<int>(records.size()));
     m_pConnectionTblTreeWidget->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    const ChangedAsOne change(*m_pConnectionTblTreeWidget);
     // The rows follow the map's own order; sorting is deliberately left out.
     int row = 0;
     for (ConnectionRecord *record : records) {
@@ -378,17 +417,12 @@ void ConnectionHistoryDlg::PopulateTableRowOfConnectionRecord(ConnectionRecord *
         return;
     m_pConnectionTblTreeWidget->setRowHeight(row, rowHeight);
     for (int column = 0; column < columnCount; ++column) {
-        auto *item = new (std::nothrow) QTableWidgetItem;
+        auto *item = new (std::nothrow) QTableWidgetItem(commonCell());
         if (Log::isMissing(item, sourcePath, __func__, __LINE__))
             return;
-        item->setData(Qt::TextAlignmentRole, int(Qt::AlignLeft | Qt::AlignBottom));
-        item->setData(Qt::UserRole, 0);
         item->setData(Qt::DisplayRole, cellData(*record, column));
         if (column == 0)
             item->setData(Qt::UserRole, recordLink(record));
-        // Replaces the alignment above; both assignments and their order are meant.
-        item->setData(Qt::TextAlignmentRole, int(Qt::AlignLeft));
-        item->setFlags(item->flags() & ~Qt::ItemIsEditable);
         m_pConnectionTblTreeWidget->setItem(row, column, item);
     }
     Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);

@@ -7,9 +7,9 @@
 #include "KoraStatistics.h"
 #include "Log.h"
 #include "SdkText.h"
-
-#include <QDateTime>
-#include <QLocale>
+#include "ShortText.h"
+#include "TimeText.h"
+#include "VolumeText.h"
 
 #include <algorithm>
 
@@ -20,25 +20,17 @@ namespace
 
 const char sourcePath[] = "../../src/NetInfoRecordUIPlugin/NetInfoRecordLogic";
 
-/// Local time "yyyyMMddhhmmss". The C locale keeps the digits ASCII in every
-/// language: the text is parsed again later.
-QString timeText(const QDateTime &time)
+double kilobytes(double bytes)
 {
-    static const QString format = QLatin1String("yyyyMMddhhmmss");
-    return QLocale::c().toString(time, format);
-}
-
-double kilobytesOf(const QString &bytes)
-{
-    return bytes.toDouble() * 0.0009765625;
+    return bytes * 0.0009765625;
 }
 
 /// Negative values get the leading zero too ("0-5"); that is meant.
-void appendTwoDigits(QString &text, qint64 value)
+void addTwoDigits(ShortText &text, qint64 value)
 {
     if (value <= 9)
-        text += QLatin1Char('0');
-    text += QString::number(value);
+        text.add('0');
+    text.add(value);
 }
 
 } // namespace
@@ -131,13 +123,13 @@ void NetInfoRecordLogic::populateSDKtoUIStructure(int id, const _KORA_ST_CONNREC
 void NetInfoRecordLogic::convertFields(const _KORA_ST_CONNRECORD &from, ConnectionRecord &to)
 {
     to.m_strProfileName = SdkText::bounded(from.szProfileName);
-    to.m_strDownloaded = TransformUnits(kilobytesOf(SdkText::bounded(from.szDownloadBytes)));
-    to.m_strEndTime = timeText(SdkText::localTime(from.szEndTime));
+    to.m_strDownloaded = TransformUnits(kilobytes(SdkText::real(from.szDownloadBytes)));
+    to.m_strEndTime = TimeText::of(SdkText::seconds(from.szEndTime));
     to.m_strExtraText2 = SdkText::bounded(from.szExtraText2);
-    to.m_strStartTime = timeText(SdkText::localTime(from.szStartTime));
+    to.m_strStartTime = TimeText::of(SdkText::seconds(from.szStartTime));
     to.m_strExtraText1 = SdkText::bounded(from.szExtraText1);
-    to.m_strUploaded = TransformUnits(kilobytesOf(SdkText::bounded(from.szUploadBytes)));
-    convertTimeToString(SdkText::bounded(from.szDuration).toInt(), to.m_strConnectedTime);
+    to.m_strUploaded = TransformUnits(kilobytes(SdkText::real(from.szUploadBytes)));
+    convertTimeToString(SdkText::integer(from.szDuration), to.m_strConnectedTime);
 }
 
 bool NetInfoRecordLogic::DeleteRecord(int id)
@@ -183,13 +175,14 @@ void NetInfoRecordLogic::forgetRecords()
 void NetInfoRecordLogic::convertTimeToString(qint64 seconds, QString &out)
 {
     Log::line("%s: %s: %s: Entered", now, sourcePath, __func__);
-    out.clear();
     const qint64 rest = seconds % 3600;
-    appendTwoDigits(out, seconds / 3600);
-    out += QLatin1Char(':');
-    appendTwoDigits(out, rest / 60);
-    out += QLatin1Char(':');
-    appendTwoDigits(out, rest % 60);
+    ShortText text;
+    addTwoDigits(text, seconds / 3600);
+    text.add(':');
+    addTwoDigits(text, rest / 60);
+    text.add(':');
+    addTwoDigits(text, rest % 60);
+    out = text.toString();
     Log::line("%s: %s: %s %d: Exit", now, sourcePath, __func__, 457);
 }
 
@@ -204,5 +197,5 @@ QString NetInfoRecordLogic::TransformUnits(double kilobytes)
         kilobytes *= 9.5367431640625e-07;
         unit = " GB";
     }
-    return QString::asprintf("%.2f", kilobytes) + QLatin1String(unit);
+    return VolumeText::of(kilobytes, unit);
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "DialupContainer.h"
 #include "LoadedPlugin.h"
 #include "LogCapture.h"
 #include "ScriptedHost.h"
@@ -8,6 +9,7 @@
 #include <QHeaderView>
 #include <QRegularExpression>
 #include <QSet>
+#include <QSignalSpy>
 #include <QTest>
 
 using scripted::Host;
@@ -42,6 +44,7 @@ private Q_SLOTS:
     void makesEveryRow14PixelsHigh_data();
     void makesEveryRow14PixelsHigh();
     void changesNothingElseOfTheRowHeader();
+    void tellsItsViewsOnceOfAWholeReload();
     void doesNotSort();
     void logsEachRow();
 };
@@ -160,10 +163,27 @@ void tst_HistoryTable::changesNothingElseOfTheRowHeader()
     const QTableWidget plain;
     const QHeaderView *header = plugin.table()->verticalHeader();
     QCOMPARE(header->minimumSectionSize(), 14);
-    QCOMPARE(header->defaultSectionSize(), plain.verticalHeader()->defaultSectionSize());
+    QCOMPARE(header->defaultSectionSize(), 14);
     QCOMPARE(header->maximumSectionSize(), plain.verticalHeader()->maximumSectionSize());
     QCOMPARE(header->sectionResizeMode(0), plain.verticalHeader()->sectionResizeMode(0));
     QCOMPARE(header->stretchLastSection(), plain.verticalHeader()->stretchLastSection());
+}
+
+void tst_HistoryTable::tellsItsViewsOnceOfAWholeReload()
+{
+    scripted::DialupContainer container;
+    Host::instance().container = &container;
+    Host::instance().records = numberedRecords(3);
+    LoadedPlugin plugin;
+    plugin.show();
+    QSignalSpy changes(plugin.table()->model(), &QAbstractItemModel::dataChanged);
+    plugin.notify()->Notify(1536, 1, 0);
+    plugin.notify()->Notify(1536, 0, 0);
+    QCOMPARE(changes.count(), 1);
+    const auto first = changes.at(0).at(0).toModelIndex();
+    const auto last = changes.at(0).at(1).toModelIndex();
+    QCOMPARE(first, plugin.table()->model()->index(0, 0));
+    QCOMPARE(last, plugin.table()->model()->index(2, 5));
 }
 
 void tst_HistoryTable::doesNotSort()

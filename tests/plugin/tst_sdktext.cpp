@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "SdkText.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+struct Field {
+    char text[32] = {};
+};
+
+Field fieldOf(const QByteArray &text)
+{
+    Field field;
+    std::copy_n(text.constData(), std::min<int>(32, static_cast<int>(text.size())), field.text);
+    return field;
+}
+
+bool isReadAlike(const QByteArray &text)
+{
+    const Field field = fieldOf(text);
+    const QString asText = SdkText::bounded(field.text);
+    const double actual = SdkText::real(field.text);
+    const double expected = asText.toDouble();
+    const bool isSameReal = actual == expected || (std::isnan(actual) && std::isnan(expected));
+    if (SdkText::integer(field.text) == asText.toInt() && isSameReal &&
+        std::signbit(actual) == std::signbit(expected))
+        return true;
+    qWarning("'%s' gave %d and %g", text.constData(), SdkText::integer(field.text), actual);
+    return false;
+}
+
+} // namespace
+
+class tst_SdkText : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsNumbersLikeTheToolkit_data();
+    void readsNumbersLikeTheToolkit();
+    void readsRandomTextsLikeTheToolkit();
+};
+
+void tst_SdkText::readsNumbersLikeTheToolkit_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const char *const texts[] = {"",
+                                 "0",
+                                 "00000000000000000000000000000007",
+                                 "1267795800",
+                                 "2147483647",
+                                 "2147483648",
+                                 "4294967296",
+                                 "-1",
+                                 "+7",
+                                 " 7",
+                                 "7 ",
+                                 "7x",
+                                 "x",
+                                 "1.5",
+                                 "1e3",
+                                 "-0",
+                                 "inf",
+                                 "nan",
+                                 "0x10",
+                                 "1,000",
+                                 "999999999999999",
+                                 "0009",
+                                 "\xb2",
+                                 "1000000000000000",
+                                 "9007199254740993",
+                                 "99999999999999999999999999999999"};
+    for (const char *text : texts)
+        QTest::newRow(*text ? text : "an empty text") << QByteArray(text);
+}
+
+void tst_SdkText::readsNumbersLikeTheToolkit()
+{
+    QFETCH(QByteArray, text);
+    QVERIFY(isReadAlike(text));
+}
+
+void tst_SdkText::readsRandomTextsLikeTheToolkit()
+{
+    const QByteArray characters = "01234567890123456789 +-.eExinf,\xb2";
+    QRandomGenerator random(20101125);
+    for (int i = 0; i < 50000; ++i) {
+        QByteArray text;
+        // Mostly digits, now and then another character.
+        for (int length = random.bounded(18); length > 0; --length)
+            text += characters.at(random.bounded(random.bounded(8) ? 10 : int(characters.size())));
+        QVERIFY(isReadAlike(text));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_SdkText)
+#include "tst_sdktext.moc"
