@@ -11,6 +11,7 @@ run_packages=(fonts-dejavu-core)
 test_packages=(
     qtbase5-dev qttools5-dev qttools5-dev-tools
     clang libclang-rt-dev clang-format clang-tidy
+    libbenchmark-dev
     sqlite3 man-db desktop-file-utils appstream iproute2
 )
 

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "BareTable.h"
+#include "Benchmarks.h"
+#include "ConnectionHistoryDlg.h"
+#include "HistoryWindow.h"
+#include "NetInfoRecordLogic.h"
+
+#include <QApplication>
+#include <QItemSelection>
+
+namespace
+{
+
+/// Which rows are deleted, ascending.
+struct Deletion {
+    int tableRows;
+    QVector<int> rows;
+};
+
+/// `count` rows of a table, evenly spread.
+Deletion scattered(int tableRows, int count)
+{
+    Deletion deletion{tableRows, {}};
+    for (int i = 0; i < count; ++i)
+        deletion.rows.append(static_cast<int>(qint64(tableRows) * i / count));
+    return deletion;
+}
+
+/// `count` rows one below the other, in the middle of a table.
+Deletion block(int tableRows, int count)
+{
+    Deletion deletion{tableRows, {}};
+    for (int i = 0; i < count; ++i)
+        deletion.rows.append((tableRows - count) / 2 + i);
+    return deletion;
+}
+
+/// As by mouse and keyboard: rows one below the other are one range.
+void select(QTableWidget &table, const QVector<int> &rows)
+{
+    QItemSelection selection;
+    int first = 0;
+    for (int i = 0; i < rows.size(); ++i) {
+        const bool goesOn = i + 1 < rows.size() && rows.at(i + 1) == rows.at(i) + 1;
+        if (goesOn)
+            continue;
+        selection.append(QItemSelectionRange(table.model()->index(rows.at(first), 0),
+                                             table.model()->index(rows.at(i), 5)));
+        first = i + 1;
+    }
+    table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void deleteFromPlugin(benchmark::State &state, const Deletion &deletion)
+{
+    for ([[maybe_unused]] auto iteration : state) {
+        HistoryWindow window(deletion.tableRows);
+        window.init();
+        window.show();
+        select(*window.table(), deletion.rows);
+        QApplication::processEvents();
+        measure(state, [] { ConnectionHistoryDlg::Instance()->onDelete(); });
+    }
+}
+
+void deleteFromBare(benchmark::State &state, const Deletion &deletion)
+{
+    for ([[maybe_unused]] auto iteration : state) {
+        HistoryWindow window(deletion.tableRows);
+        window.init();
+        BareTable table;
+        table.fill(NetInfoRecordLogic::Instance()->m_records);
+        table.show();
+        measure(state, [&] { table.removeRows(deletion.rows); });
+    }
+}
+
+void registerDeletion(const std::string &name, const Deletion &deletion)
+{
+    const std::string rows = "/" + std::to_string(deletion.rows.size());
+    registerOnce("deletion/" + name + "/plug-in" + rows,
+                 [deletion](benchmark::State &state) { deleteFromPlugin(state, deletion); });
+    registerOnce("deletion/" + name + "/bare" + rows,
+                 [deletion](benchmark::State &state) { deleteFromBare(state, deletion); });
+}
+
+} // namespace
+
+void registerDeletionBenchmarks(const Sizes &sizes)
+{
+    registerDeletion("scattered", scattered(sizes.deletionRows, sizes.scatteredRows));
+    for (const int rows : sizes.blockRows)
+        registerDeletion("block", block(sizes.deletionRows, rows));
+    const int all = sizes.blockRows.back();
+    registerDeletion("all", block(all, all));
+}

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "BareTable.h"
+#include "Benchmarks.h"
+#include "ConnectionHistoryDlg.h"
+#include "HistoryWindow.h"
+#include "MemorySdk.h"
+#include "NetInfoRecordLogic.h"
+
+#include <malloc.h>
+
+namespace
+{
+
+std::size_t memoryInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+/// The record store filled with samples, without a table that shows them.
+class ConvertedRecords
+{
+public:
+    explicit ConvertedRecords(int count)
+    {
+        MemorySdk::setRecords(MemorySdk::samples(count));
+        NetInfoRecordLogic::Instance()->GetAllConnectedRecords();
+        MemorySdk::setRecords({});
+        all = NetInfoRecordLogic::Instance()->m_records;
+    }
+    ~ConvertedRecords()
+    {
+        qDeleteAll(all);
+        NetInfoRecordLogic::Destroy();
+    }
+    Q_DISABLE_COPY(ConvertedRecords)
+
+    QHash<int, ConnectionRecord *> all;
+};
+
+/// Times `fill`, and notes how much memory each row has taken.
+template <typename Fill>
+void measureFill(benchmark::State &state, int rows, Fill fill)
+{
+    const std::size_t before = memoryInUse();
+    measure(state, fill);
+    state.counters["bytes_per_row"] = static_cast<double>(memoryInUse() - before) / rows;
+}
+
+void fillPlugin(benchmark::State &state, int rows)
+{
+    const ConvertedRecords records(rows);
+    ConnectionHistoryDlg *window = ConnectionHistoryDlg::Instance();
+    window->uiSetText();
+    for ([[maybe_unused]] auto iteration : state) {
+        NetInfoRecordLogic::Instance()->m_records = records.all;
+        measureFill(state, rows, [&] { window->populateTable(); });
+        NetInfoRecordLogic::Instance()->forgetRecords();
+        window->populateTable();
+    }
+    ConnectionHistoryDlg::Destroy();
+}
+
+void fillBare(benchmark::State &state, int rows)
+{
+    const ConvertedRecords records(rows);
+    BareTable table;
+    for ([[maybe_unused]] auto iteration : state) {
+        measureFill(state, rows, [&] { table.fill(records.all); });
+        table.clear();
+    }
+}
+
+void init(benchmark::State &state, int rows)
+{
+    for ([[maybe_unused]] auto iteration : state) {
+        HistoryWindow window(rows);
+        measure(state, [&] { window.init(); });
+    }
+}
+
+void reload(benchmark::State &state, int rows)
+{
+    HistoryWindow window(rows);
+    window.init();
+    window.show();
+    for ([[maybe_unused]] auto iteration : state)
+        measure(state, [&] { window.reload(); });
+}
+
+void registerRows(const std::string &name, void (*work)(benchmark::State &, int), int rows)
+{
+    // Small tables are filled several times: one fill is soon over.
+    const int iterations = rows < 10000 ? 10 : 1;
+    registerOnce(name + "/" + std::to_string(rows), [work, rows](benchmark::State &state) {
+        work(state, rows);
+    })->Iterations(iterations);
+}
+
+} // namespace
+
+void registerHistoryBenchmarks(const Sizes &sizes)
+{
+    for (const int rows : sizes.historyRows) {
+        registerRows("fill/plug-in", fillPlugin, rows);
+        registerRows("fill/bare", fillBare, rows);
+        registerRows("init", init, rows);
+        registerRows("reload", reload, rows);
+    }
+    registerRows("fill/plug-in", fillPlugin, sizes.hugeHistoryRows);
+}
