@@ -2,11 +2,12 @@
 # SPDX-License-Identifier: MIT
 # scripts/campaigns.sh [--seed=N] [CAMPAIGN...]: the long runs against bad luck and
 # bad manners, in full; all of them if none is named:
-#   host     1,000,000 steps of a hostile host, and the same with sanitizers
-#   kills    1,000 writers of a store killed
-#   fuzz     each fuzz target for half an hour, two at a time
-#   abi      the binary interface, and a host of the other compiler
-# NETINFORECORD_COUNT sets another number of steps or kills, FUZZ_SECONDS another
+#   host        1,000,000 steps of a hostile host, and the same with sanitizers
+#   kills       1,000 writers of a store killed
+#   reconnects  1,000 connections of a real interface in a network of its own
+#   fuzz        each fuzz target for half an hour, two at a time
+#   abi         the binary interface, and a host of the other compiler
+# NETINFORECORD_COUNT sets another number of steps, kills or connections, FUZZ_SECONDS another
 # time. ./test runs a short form of each.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -19,7 +20,7 @@ case "${1-}" in
     ;;
 esac
 campaigns=("$@")
-[ ${#campaigns[@]} -gt 0 ] || campaigns=(host kills fuzz abi)
+[ ${#campaigns[@]} -gt 0 ] || campaigns=(host kills reconnects fuzz abi)
 
 # run PRESET TESTS [COUNT]: builds a preset and runs the tests that match.
 run() {
@@ -47,14 +48,15 @@ for campaign in "${campaigns[@]}"; do
     say "== $campaign =="
     case "$campaign" in
     host)
-        run ci tst_hostilehost 1000000
-        run asan tst_hostilehost 200000
+        run qt5 tst_hostilehost 1000000
+        run ci tst_hostilehost 200000
         ;;
-    kills) run ci tst_storekills 1000 ;;
+    kills) run qt5 tst_storekills 1000 ;;
+    reconnects) run qt5 tst_networkrecording 1000 ;;
     fuzz) fuzz ;;
     abi) run ci '^(tst_slots|tst_exports|tst_interface|minimal_host_.*|sdk_exports)$' ;;
     *)
-        say "There is no campaign \"$campaign\"; there are host, kills, fuzz and abi."
+        say "There is no campaign \"$campaign\"; there are host, kills, reconnects, fuzz and abi."
         exit 2
         ;;
     esac

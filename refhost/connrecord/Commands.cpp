@@ -10,6 +10,8 @@
 #include "Store.h"
 #include "Utf8Text.h"
 
+#include <QJsonObject>
+
 #include <cstdint>
 #include <limits>
 

@@ -15,6 +15,8 @@
 #include "Utf8Text.h"
 #include "YearResolver.h"
 
+#include <QJsonObject>
+
 #include <unistd.h>
 
 #include <algorithm>

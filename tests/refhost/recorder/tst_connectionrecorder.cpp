@@ -34,6 +34,7 @@ OpenConnection rowOf(const std::string &bootId, int linkIndex)
     row.interfaceIndex = linkIndex;
     row.interfaceName = "wwan0";
     row.profile = "internet";
+    row.linkMark = "0/100"; // as FakeLinks make it
     row.startUtc = 1699999000;
     row.startBootMilliseconds = 4000000;
     row.baseUploaded = 10;
@@ -75,14 +76,20 @@ private slots:
     void aConnectionIsARowFromTheMomentItBegins();
     void bringsTheRowUpToDate();
     void leavesTheRowOpenWhenTheProgramEnds();
+    void takesWhatHasHappenedWhenTheProgramEnds();
+    void writesTheRowAnewWhenTheFileIsReplaced();
     void resumesARowOfTheSameLink();
+    void aLinkThatWasConnectedAnewIsAnotherConnection_data();
+    void aLinkThatWasConnectedAnewIsAnotherConnection();
     void aResumedLinkThatWasResetIsMarked();
     void closesARowAtItsLastUpdate_data();
     void closesARowAtItsLastUpdate();
     void leavesARowOfAConnectedLinkThatIsNotWatched();
 
     void keepsWhatItCannotWriteAndTriesAgain();
+    void saysWhenItCanWriteAgain();
     void saysWhyItCannotStart();
+    void leavesTheRecordingToTheFirstRecorder();
 
     void aConnectionBearsItsInterfacesNameOrTheGivenOne();
     void saysNothingFromWithinACall();
@@ -345,6 +352,54 @@ void ConnectionRecorderTest::leavesTheRowOpenWhenTheProgramEnds()
     QVERIFY(recordsIn(m_path).isEmpty());
 }
 
+void ConnectionRecorderTest::takesWhatHasHappenedWhenTheProgramEnds()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    connectLink(4, "wwan1", 0, 0);
+    m_links->toCome = {downLink(3, "wwan0", 70, 80), runningLink(4, "wwan1", 5, 6)};
+    m_recorder.reset();
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 70 down 80 normal"));
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+    QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{5});
+}
+
+void ConnectionRecorderTest::writesTheRowAnewWhenTheFileIsReplaced()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    const SQLite::Database other(m_path.toStdString(), SQLite::OPEN_READWRITE);
+    other.tryExec("DELETE FROM open_connection");
+    m_links->tell(runningLink(3, "wwan0", 70, 80));
+    QTRY_COMPARE_WITH_TIMEOUT(openRowsIn(m_path).size(), std::size_t{1}, checkpointTimeout);
+    m_links->tell(downLink(3, "wwan0", 71, 82));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 71 down 82 normal"));
+}
+
+void ConnectionRecorderTest::aLinkThatWasConnectedAnewIsAnotherConnection_data()
+{
+    QTest::addColumn<int>("carrierLosses");
+    QTest::addColumn<int>("addressCreatedAt");
+    QTest::newRow("its line had been lost") << 1 << 100;
+    QTest::newRow("its address is a new one") << 0 << 101;
+}
+
+void ConnectionRecorderTest::aLinkThatWasConnectedAnewIsAnotherConnection()
+{
+    QFETCH(int, carrierLosses);
+    QFETCH(int, addressCreatedAt);
+    addRow(rowOf(refhost::currentBootId(), 3));
+    refhost::LinkReport link = runningLink(3, "wwan0", 1010, 2020);
+    link.carrierLosses = std::uint32_t(carrierLosses);
+    refhost::AddressReport address = addressOn(3);
+    address.createdAt = std::uint32_t(addressCreatedAt);
+    m_atStart = {link, address};
+    QVERIFY(start());
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 100 down 200 recovered"));
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+    QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{0});
+}
+
 void ConnectionRecorderTest::resumesARowOfTheSameLink()
 {
     addRow(rowOf(refhost::currentBootId(), 3));
@@ -433,6 +488,35 @@ void ConnectionRecorderTest::keepsWhatItCannotWriteAndTriesAgain()
     QCOMPARE(recordsIn(m_path),
              QStringList({"wwan0 up 5 down 6 normal", "wwan0 up 2 down 1 normal"}));
     QVERIFY(openRowsIn(m_path).empty());
+}
+
+void ConnectionRecorderTest::saysWhenItCanWriteAgain()
+{
+    QVERIFY(start());
+    QSignalSpy successes(m_recorder.get(), &ConnectionRecorder::succeeded);
+    connectLink(3, "wwan0", 0, 0);
+    SQLite::Database other(m_path.toStdString(), SQLite::OPEN_READWRITE);
+    std::optional<SQLite::Transaction> lock(std::in_place, other,
+                                            SQLite::TransactionBehavior::IMMEDIATE);
+    m_links->tell(downLink(3, "wwan0", 5, 6));
+    QTRY_COMPARE(m_failures->size(), 1);
+    QVERIFY(successes.isEmpty());
+    lock.reset();
+    QTRY_COMPARE_WITH_TIMEOUT(successes.size(), 1, checkpointTimeout);
+}
+
+void ConnectionRecorderTest::leavesTheRecordingToTheFirstRecorder()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    const std::unique_ptr<ConnectionRecorder> first = std::move(m_recorder);
+    FakeLinks *const links = m_links;
+    QVERIFY(!start());
+    QTRY_COMPARE(m_failures->size(), 1);
+    QVERIFY(m_failures->first().first().toString().contains(
+        QString::number(QCoreApplication::applicationPid())));
+    links->tell(downLink(3, "wwan0", 5, 6));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5 down 6 normal"));
 }
 
 void ConnectionRecorderTest::saysWhyItCannotStart()

@@ -58,6 +58,8 @@ private slots:
     void aListedConnectionBeginsNow();
     void aListedPppConnectionBeginsWithTheLink();
     void aLinkMadeWhileMessagesWereLostBeginsAtNothing();
+    void aListedConnectionBeginsNowThoughTheListingWasRepeated();
+    void theMarkOfAConnectionChangesWithLineAndAddresses();
 
     void aListingFindsALinkThatIsGone();
     void aListingFindsAnAddressThatIsGone();
@@ -181,6 +183,29 @@ void LinkTableTest::aLinkMadeWhileMessagesWereLostBeginsAtNothing()
     tell(address(true));
     m_table.endListing();
     QCOMPARE(base(), std::int64_t{0});
+}
+
+void LinkTableTest::aListedConnectionBeginsNowThoughTheListingWasRepeated()
+{
+    m_table.beginListing();
+    m_table.beginListing();
+    tell(running(500));
+    tell(address(true));
+    m_table.endListing();
+    QCOMPARE(base(), std::int64_t{500});
+}
+
+void LinkTableTest::theMarkOfAConnectionChangesWithLineAndAddresses()
+{
+    LinkReport link = running(0);
+    tell(link);
+    const std::string mark = tell(address(true)).link.connectionMark();
+    AddressReport later = {3, "another", true, false, 7};
+    QCOMPARE(tell(later).link.connectionMark(), mark);
+    QVERIFY(tell(address(false)).link.connectionMark() != mark);
+    tell(address(true));
+    link.carrierLosses = 1;
+    QVERIFY(tell(link).link.connectionMark() != mark);
 }
 
 void LinkTableTest::aListingFindsALinkThatIsGone()

@@ -214,10 +214,10 @@ QString NetworkRecordingTest::reconnect(QRandomGenerator &random)
     return m_line->goDown() ? left : QString();
 }
 
-/// NETINFORECORD_RECONNECTS and NETINFORECORD_SEED make it longer, or another one.
+/// NETINFORECORD_COUNT and NETINFORECORD_SEED make it longer, or another one.
 void NetworkRecordingTest::manyReconnectsLoseNothingAndInventNothing()
 {
-    const int sessions = numberFromEnvironment("NETINFORECORD_RECONNECTS", 60);
+    const int sessions = numberFromEnvironment("NETINFORECORD_COUNT", 60);
     const int seed = numberFromEnvironment("NETINFORECORD_SEED", 1);
     qInfo("%d sessions, seed %d", sessions, seed);
     QRandomGenerator random(static_cast<quint32>(seed));

@@ -34,6 +34,7 @@ private slots:
     void cleanup();
 
     void theNextStartGoesOnWithALinkThatIsStillConnected();
+    void theNextStartEndsTheRecordOfALinkThatWasConnectedAnew();
     void theNextStartClosesTheRecordOfALinkThatIsGone();
     void theNextStartClosesTheRecordOfALinkThatWasReplaced();
 
@@ -120,6 +121,17 @@ void RecordingCrashTest::theNextStartGoesOnWithALinkThatIsStillConnected()
                                           .arg(checkpointedBytes() + VethPair::bytesOf(2, 30))
                                           .arg(VethPair::bytesOf(3, 60))}));
     QVERIFY(openRowsIn(m_path).empty());
+}
+
+void RecordingCrashTest::theNextStartEndsTheRecordOfALinkThatWasConnectedAnew()
+{
+    QVERIFY(m_line->goDown());
+    QVERIFY(m_line->goUp());
+    ConnectionRecorder recorder(m_path);
+    QVERIFY(recorder.start());
+    QCOMPARE(recordsIn(m_path), QStringList({m_earlierRecord, recoveredRecord()}));
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+    QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{0});
 }
 
 void RecordingCrashTest::theNextStartClosesTheRecordOfALinkThatIsGone()
