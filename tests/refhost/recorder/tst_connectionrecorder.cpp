@@ -368,7 +368,7 @@ void ConnectionRecorderTest::writesTheRowAnewWhenTheFileIsReplaced()
 {
     QVERIFY(start());
     connectLink(3, "wwan0", 0, 0);
-    const SQLite::Database other(m_path.toStdString(), SQLite::OPEN_READWRITE);
+    SQLite::Database other(m_path.toStdString(), SQLite::OPEN_READWRITE);
     other.tryExec("DELETE FROM open_connection");
     m_links->tell(runningLink(3, "wwan0", 70, 80));
     QTRY_COMPARE_WITH_TIMEOUT(openRowsIn(m_path).size(), std::size_t{1}, checkpointTimeout);
