@@ -3,6 +3,7 @@
 #include "JsonText.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QTest>
 
 #include <limits>

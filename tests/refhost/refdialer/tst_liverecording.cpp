@@ -82,8 +82,9 @@ void TestLiveRecording::cleanup()
 /// In the order of the program: the plug-in reads what the recording has settled.
 bool TestLiveRecording::start(const QStringList &interfaceNames)
 {
-    m_recording = std::make_unique<refhost::Recording>(
-        QString::fromStdString(m_history->storePath()), interfaceNames, m_history->state());
+    m_recording =
+        std::make_unique<refhost::Recording>(QString::fromStdString(m_history->storePath()),
+                                             interfaceNames, QString(), m_history->state());
     m_recording->start();
     return m_history->open();
 }
@@ -183,8 +184,9 @@ void TestLiveRecording::recordsANamedInterface()
 void TestLiveRecording::saysWhyItCannotRecord()
 {
     QVERIFY(QDir().mkpath(QString::fromStdString(m_history->storePath())));
-    m_recording = std::make_unique<refhost::Recording>(
-        QString::fromStdString(m_history->storePath()), QStringList(), m_history->state());
+    m_recording =
+        std::make_unique<refhost::Recording>(QString::fromStdString(m_history->storePath()),
+                                             QStringList(), QString(), m_history->state());
     m_recording->start();
     QVERIFY(!m_history->state().isWatched());
     QTRY_VERIFY(
