@@ -94,9 +94,9 @@ void ConnrecordTest::listsAStoreThatDoesNotExistAsEmpty_data()
     QTest::newRow("list") << QStringList{"list"}
                           << QByteArray("KEY  PROFILE  START  END  CONNECTED  UPLOADED  "
                                         "DOWNLOADED  ENDING  INTERFACE\n");
-    QTest::newRow("list as JSON") << QStringList{"list", "--json"} << QByteArray("[\n]\n");
+    QTest::newRow("list as JSON") << QStringList{"list", "--json"} << QByteArray("[]\n");
     QTest::newRow("export") << QStringList{"export"} << csvOf(0);
-    QTest::newRow("export as JSON") << QStringList{"export", "--json"} << QByteArray("[\n]\n");
+    QTest::newRow("export as JSON") << QStringList{"export", "--json"} << QByteArray("[]\n");
 }
 
 void ConnrecordTest::listsAStoreThatDoesNotExistAsEmpty()

@@ -183,7 +183,7 @@ void ConnrecordTotalsTest::tellsTheSumOfNothing_data()
                                 << QByteArray("PROFILE  CONNECTIONS  CONNECTED  UPLOADED  "
                                               "DOWNLOADED\n");
     QTest::newRow("by month as JSON")
-        << QStringList{"--by", "month", "--json"} << QByteArray("[\n]\n");
+        << QStringList{"--by", "month", "--json"} << QByteArray("[]\n");
 }
 
 void ConnrecordTotalsTest::tellsTheSumOfNothing()

@@ -189,7 +189,7 @@ void TestTranslations::areCompleteAndUpToDate()
     QVERIFY(QFile::copy(translationFile(language), copy));
     QStringList sources{"translations/Identifiers.h"};
     if (language != "en")
-        sources += {"libcore", "refdialer"};
+        sources += {"libcore", "recorder", "refdialer"};
     QProcess lupdate;
     lupdate.setWorkingDirectory(PROJECT_SOURCES "/refhost");
     lupdate.start(LUPDATE, sources + QStringList({"-silent", "-ts", copy}));
