@@ -4,13 +4,10 @@
 #include "CalendarTime.h"
 #include "ConnectionText.h"
 #include "CsvFormat.h"
-#include "JsonText.h"
 #include "OptionValue.h"
 #include "Output.h"
 #include "Store.h"
 #include "Utf8Text.h"
-
-#include <QJsonObject>
 
 #include <cstdint>
 #include <limits>
@@ -75,22 +72,18 @@ void addConnection(const CommonRequest &common, const AddRequest &request)
     const Connection connection = connectionFrom(request);
     auto store = valueOrFailure(StatisticsStore::openOrCreate(common.storePath));
     const qint64 key = valueOrFailure(store.add(connection));
-    writeStandardOutput(common.json ? jsonText(QJsonObject{{QStringLiteral("key"), key}})
-                                    : QByteArray::number(key) + '\n');
+    writeStandardOutput(common.json ? jsonText({{"key", key}}) : QByteArray::number(key) + '\n');
 }
 
 void removeConnections(const CommonRequest &common, const std::vector<std::string> &keys)
 {
     std::vector<std::int64_t> numbers;
-    QJsonArray removed;
-    for (const std::string &key : keys) {
+    for (const std::string &key : keys)
         numbers.push_back(optionNumber("KEY", key, largestCount));
-        removed.append(static_cast<qint64>(numbers.back()));
-    }
     auto store = valueOrFailure(StatisticsStore::openForReading(common.storePath));
     valueOrFailure(store.remove(numbers));
     if (common.json)
-        writeStandardOutput(jsonText(QJsonObject{{QStringLiteral("removed"), removed}}));
+        writeStandardOutput(jsonText({{"removed", numbers}}));
 }
 
 void exportConnections(const CommonRequest &common, const std::optional<std::string> &outputPath)

@@ -5,7 +5,6 @@
 #include "TextTable.h"
 #include "Utf8Text.h"
 
-#include <QJsonObject>
 #include <QLocale>
 
 namespace refhost
@@ -16,17 +15,17 @@ namespace
 
 constexpr int mostCharactersInCell = 60;
 
-QJsonObject toJson(const Connection &connection)
+Json toJson(const Connection &connection)
 {
-    return {{QStringLiteral("key"), static_cast<qint64>(connection.key)},
-            {QStringLiteral("profile"), fromUtf8(connection.profile)},
-            {QStringLiteral("start"), utcText(connection.startUtc)},
-            {QStringLiteral("end"), utcText(connection.endUtc)},
-            {QStringLiteral("connected_seconds"), static_cast<qint64>(connection.connectedSeconds)},
-            {QStringLiteral("uploaded_bytes"), static_cast<qint64>(connection.uploadedBytes)},
-            {QStringLiteral("downloaded_bytes"), static_cast<qint64>(connection.downloadedBytes)},
-            {QStringLiteral("ending"), fromUtf8(connection.ending)},
-            {QStringLiteral("interface"), fromUtf8(connection.interfaceName)}};
+    return {{"key", connection.key},
+            {"profile", connection.profile},
+            {"start", utcText(connection.startUtc).toStdString()},
+            {"end", utcText(connection.endUtc).toStdString()},
+            {"connected_seconds", connection.connectedSeconds},
+            {"uploaded_bytes", connection.uploadedBytes},
+            {"downloaded_bytes", connection.downloadedBytes},
+            {"ending", connection.ending},
+            {"interface", connection.interfaceName}};
 }
 
 } // namespace
@@ -62,11 +61,11 @@ QByteArray toTable(const std::vector<Connection> &connections)
     return table.text().toUtf8();
 }
 
-QJsonArray toJson(const std::vector<Connection> &connections)
+Json toJson(const std::vector<Connection> &connections)
 {
-    QJsonArray array;
+    Json array = Json::array();
     for (const Connection &connection : connections)
-        array.append(toJson(connection));
+        array.push_back(toJson(connection));
     return array;
 }
 

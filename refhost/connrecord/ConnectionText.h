@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "JsonText.h"
 #include "StatisticsStore.h"
 
 #include <QByteArray>
-#include <QJsonArray>
 #include <QString>
 
 #include <cstdint>
@@ -23,6 +23,6 @@ QString volumeText(std::int64_t bytes);
 QByteArray toTable(const std::vector<Connection> &connections);
 
 /// The connections for programs: exact integers, times as ISO 8601 in UTC.
-QJsonArray toJson(const std::vector<Connection> &connections);
+Json toJson(const std::vector<Connection> &connections);
 
 } // namespace refhost

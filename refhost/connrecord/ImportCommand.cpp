@@ -15,8 +15,6 @@
 #include "Utf8Text.h"
 #include "YearResolver.h"
 
-#include <QJsonObject>
-
 #include <unistd.h>
 
 #include <algorithm>
@@ -119,21 +117,17 @@ std::string reportText(const Contents &contents, std::size_t added)
     return text;
 }
 
-QJsonObject reportJson(const Contents &contents, std::size_t added)
+Json reportJson(const Contents &contents, std::size_t added)
 {
-    const auto read = static_cast<qint64>(contents.connections.size());
-    const auto addedCount = static_cast<qint64>(added);
-    QJsonArray unusable;
+    const std::size_t read = contents.connections.size();
+    Json unusable = Json::array();
     for (const Unusable &entry : contents.unusable)
-        unusable.append(
-            QJsonObject{{QStringLiteral("reason"), QString::fromStdString(entry.reason)},
-                        {QStringLiteral("count"), static_cast<qint64>(entry.count)},
-                        {QStringLiteral("first_line"), static_cast<qint64>(entry.firstLine)},
-                        {QStringLiteral("first_text"), fromUtf8(entry.firstText)}});
-    return {{QStringLiteral("read"), read},
-            {QStringLiteral("added"), addedCount},
-            {QStringLiteral("already_there"), read - addedCount},
-            {QStringLiteral("unusable"), unusable}};
+        unusable.push_back({{"reason", entry.reason},
+                            {"count", entry.count},
+                            {"first_line", entry.firstLine},
+                            {"first_text", entry.firstText}});
+    return {
+        {"read", read}, {"added", added}, {"already_there", read - added}, {"unusable", unusable}};
 }
 
 } // namespace

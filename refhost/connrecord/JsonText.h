@@ -2,13 +2,24 @@
 #pragma once
 
 #include <QByteArray>
-#include <QJsonValue>
+
+#include <nlohmann/json.hpp>
 
 namespace refhost
 {
 
-/// An array's or object's text, indented, ended by a line feed. Its numbers are
-/// integers and written exactly, which not every version of the toolkit does.
-QByteArray jsonText(const QJsonValue &value);
+/// A document for programs. The toolkit's own one would not do: under Qt 5 it
+/// turns large integers into doubles.
+using Json = nlohmann::json;
+
+/// The document's text, indented, ended by a line feed; what is not UTF-8 in it
+/// becomes U+FFFD.
+inline QByteArray jsonText(const Json &json)
+{
+    constexpr int indent = 4;
+    return QByteArray::fromStdString(
+               json.dump(indent, ' ', false, Json::error_handler_t::replace)) +
+           '\n';
+}
 
 } // namespace refhost

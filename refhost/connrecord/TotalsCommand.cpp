@@ -2,7 +2,6 @@
 #include "TotalsCommand.h"
 
 #include "ConnectionText.h"
-#include "JsonText.h"
 #include "LocalDays.h"
 #include "OptionValue.h"
 #include "Output.h"

@@ -6,8 +6,6 @@
 #include "TextTable.h"
 #include "Utf8Text.h"
 
-#include <QJsonObject>
-
 namespace refhost
 {
 
@@ -54,17 +52,16 @@ std::vector<QString> row(const Totals &totals, const TotalsGroups &groups)
     return cells;
 }
 
-QJsonObject toJson(const Totals &totals, const TotalsGroups &groups)
+Json toJson(const Totals &totals, const TotalsGroups &groups)
 {
-    QJsonObject object = {
-        {QStringLiteral("connections"), static_cast<qint64>(totals.connections)},
-        {QStringLiteral("connected_seconds"), static_cast<qint64>(totals.connectedSeconds)},
-        {QStringLiteral("uploaded_bytes"), static_cast<qint64>(totals.uploadedBytes)},
-        {QStringLiteral("downloaded_bytes"), static_cast<qint64>(totals.downloadedBytes)}};
+    Json object = {{"connections", totals.connections},
+                   {"connected_seconds", totals.connectedSeconds},
+                   {"uploaded_bytes", totals.uploadedBytes},
+                   {"downloaded_bytes", totals.downloadedBytes}};
     if (groups.byProfile)
-        object.insert(QStringLiteral("profile"), fromUtf8(totals.profile));
+        object["profile"] = totals.profile;
     if (groups.byMonth)
-        object.insert(QStringLiteral("month"), monthText(totals.period));
+        object["month"] = monthText(totals.period).toStdString();
     return object;
 }
 
@@ -83,11 +80,11 @@ QByteArray toTable(const std::vector<Totals> &totals, const TotalsGroups &groups
     return table.text().toUtf8();
 }
 
-QJsonArray toJson(const std::vector<Totals> &totals, const TotalsGroups &groups)
+Json toJson(const std::vector<Totals> &totals, const TotalsGroups &groups)
 {
-    QJsonArray array;
+    Json array = Json::array();
     for (const Totals &each : totals)
-        array.append(toJson(each, groups));
+        array.push_back(toJson(each, groups));
     return array;
 }
 

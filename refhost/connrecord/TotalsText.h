@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "JsonText.h"
 #include "StatisticsStore.h"
 
 #include <QByteArray>
 #include <QDate>
-#include <QJsonArray>
 
 #include <vector>
 
@@ -26,6 +26,6 @@ int periodOfMonth(const QDate &day);
 QByteArray toTable(const std::vector<Totals> &totals, const TotalsGroups &groups);
 
 /// The totals for programs: exact integers, months as yyyy-MM.
-QJsonArray toJson(const std::vector<Totals> &totals, const TotalsGroups &groups);
+Json toJson(const std::vector<Totals> &totals, const TotalsGroups &groups);
 
 } // namespace refhost

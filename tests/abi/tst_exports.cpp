@@ -71,7 +71,7 @@ void tst_Exports::asksTheHostForTheContractsSymbolsOnly()
 #endif
     // A host has these to give, and no more.
     const QRegularExpression hosts(
-        QStringLiteral("Change|CommonUtils|ExtendDialog|Startup|KORA_Statistics"));
+        QStringLiteral("\\b(Change|CommonUtils|ExtendDialog|Startup)::|\\bKORA_Statistics"));
     QStringList names;
     for (const QString &line :
          output(NM, {"-D", "-C", "--undefined-only", LoadedPlugin::fileName()}).filter(hosts))

@@ -2,6 +2,7 @@
 #include "ConnectionText.h"
 #include "JsonText.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>

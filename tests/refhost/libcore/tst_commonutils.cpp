@@ -169,7 +169,8 @@ void TestCommonUtils::keepsADialogOnTheScreen()
     QDialog dialog;
     dialog.setFixedSize(300, 220);
     CommonUtils::MoveCentre(&dialog);
-    QVERIFY(screenArea().contains(dialog.frameGeometry()));
+    // Qt 5 moves a window that it has not shown yet by one pixel of a frame.
+    QVERIFY(screenArea().adjusted(0, 0, 1, 1).contains(dialog.frameGeometry()));
 }
 
 void TestCommonUtils::centresADialogThatHasNoSizeYet()

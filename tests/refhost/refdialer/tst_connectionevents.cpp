@@ -126,7 +126,7 @@ void TestConnectionEvents::replaceTheSummaryThatIsStillOpen()
     begin();
     end(connection("fourth", 3));
     QVERIFY(QTest::qWaitForWindowActive(summary()));
-    QTest::keyClick(summary()->windowHandle(), Qt::Key_Return);
+    QTest::keyPress(summary()->windowHandle(), Qt::Key_Return);
     QTRY_VERIFY(!summary());
     QCOMPARE(m_history->table().rowCount(), 4);
 }
