@@ -8,7 +8,7 @@ build=$1
 
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
-without_licence=$(git ls-files '*.h' '*.cpp' '*.txt' '*.cmake' '*.sh' run test .ci/run |
+without_licence=$(git ls-files '*.h' '*.cpp' '*CMakeLists.txt' '*.cmake' '*.sh' run test .ci/run |
     xargs grep -L 'SPDX-License-Identifier: MIT' || true)
 if [ -n "$without_licence" ]; then
     printf 'No SPDX line in: %s\n' "$without_licence" >&2

@@ -302,6 +302,6 @@ void LinkMessageTest::readsNothingOutsideACutMessage()
     }
 }
 
-QTEST_APPLESS_MAIN(LinkMessageTest)
+QTEST_GUILESS_MAIN(LinkMessageTest)
 
 #include "tst_linkmessage.moc"

@@ -244,6 +244,6 @@ void LinkTableTest::aListingLeavesWhatItMentions()
     QVERIFY(m_table.links().front().isConnected());
 }
 
-QTEST_APPLESS_MAIN(LinkTableTest)
+QTEST_GUILESS_MAIN(LinkTableTest)
 
 #include "tst_linktable.moc"

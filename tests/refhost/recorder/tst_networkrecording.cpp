@@ -120,7 +120,7 @@ private:
 void NetworkRecordingTest::initTestCase()
 {
     if (!m_obstacle.isEmpty())
-        QSKIP(qPrintable(m_obstacle));
+        QSKIP(qPrintable(m_obstacle), "");
 }
 
 void NetworkRecordingTest::init()
@@ -258,7 +258,7 @@ void NetworkRecordingTest::anInterfaceDeletedAtOnceTakesNoByteWithIt()
     {
         const TunDevice device;
         if (!device.isMade())
-            QSKIP("an interface cannot be made through /dev/net/tun");
+            QSKIP("an interface cannot be made through /dev/net/tun", "");
         QVERIFY(device.goUp());
         QTRY_COMPARE(m_connections->size(), 1);
         QVERIFY(device.upload(40, 1000));
@@ -275,7 +275,7 @@ void NetworkRecordingTest::anInterfaceMadeAnewUnderTheSameNameIsAnotherConnectio
     for (int i = 1; i <= 5; ++i) {
         const TunDevice device;
         if (!device.isMade())
-            QSKIP("an interface cannot be made through /dev/net/tun");
+            QSKIP("an interface cannot be made through /dev/net/tun", "");
         QVERIFY(device.goUp());
         QVERIFY(device.upload(i, 100));
         QVERIFY(device.download(i, 200));

@@ -65,7 +65,7 @@ QString recoveredRecord()
 void RecordingCrashTest::initTestCase()
 {
     if (!m_obstacle.isEmpty())
-        QSKIP(qPrintable(m_obstacle));
+        QSKIP(qPrintable(m_obstacle), "");
 }
 
 /// Leaves a record of an earlier day and the row of a killed recorder.

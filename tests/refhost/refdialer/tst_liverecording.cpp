@@ -64,7 +64,7 @@ QString volume(qint64 bytes)
 void TestLiveRecording::initTestCase()
 {
     if (!m_obstacle.isEmpty())
-        QSKIP(qPrintable(m_obstacle));
+        QSKIP(qPrintable(m_obstacle), "");
 }
 
 void TestLiveRecording::init()
