@@ -78,6 +78,7 @@ void addConnection(const CommonRequest &common, const AddRequest &request)
 void removeConnections(const CommonRequest &common, const std::vector<std::string> &keys)
 {
     std::vector<std::int64_t> numbers;
+    numbers.reserve(keys.size());
     for (const std::string &key : keys)
         numbers.push_back(optionNumber("KEY", key, largestCount));
     auto store = valueOrFailure(StatisticsStore::openForReading(common.storePath));

@@ -70,6 +70,7 @@ void sortBy(const Keys &keys, Qt::SortOrder direction, Order &order)
 void sortByAmount(const std::vector<Connection> &rows, const HistoryOrder &by, Order &order)
 {
     std::vector<std::int64_t> amounts;
+    amounts.reserve(rows.size());
     for (const Connection &row : rows)
         amounts.push_back(amount(row, by.column));
     sortBy(amounts, by.direction, order);
@@ -81,6 +82,7 @@ void sortByProfile(const std::vector<Connection> &rows, Qt::SortOrder direction,
     QCollator collator(locale);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     std::vector<QCollatorSortKey> keys;
+    keys.reserve(rows.size());
     for (const Connection &row : rows)
         keys.push_back(collator.sortKey(QString::fromStdString(row.profile)));
     sortBy(keys, direction, order);
@@ -89,6 +91,7 @@ void sortByProfile(const std::vector<Connection> &rows, Qt::SortOrder direction,
 std::vector<Connection> connectionsIn(const QTableWidget &table, TrueValues &values)
 {
     std::vector<Connection> rows;
+    rows.reserve(std::size_t(table.rowCount()));
     for (int row = 0; row < table.rowCount(); ++row)
         rows.push_back(values.take(historyRow(table, row)));
     return rows;

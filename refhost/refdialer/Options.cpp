@@ -113,7 +113,7 @@ QString CommandLine::value(const QCommandLineOption &option) const
 
 QStringList CommandLine::values(const QCommandLineOption &option) const
 {
-    const QStringList texts = m_parser.values(option);
+    QStringList texts = m_parser.values(option);
     if (texts.contains(QString()))
         refuse(tr("The option --%1 needs a value.").arg(option.names().first()));
     return texts;
