@@ -25,7 +25,8 @@ campaigns=("$@")
 # run PRESET TESTS [COUNT]: builds a preset and runs the tests that match.
 run() {
     build "$1"
-    NETINFORECORD_COUNT=${NETINFORECORD_COUNT:-${3-}} \
+    # QtTest would end a test after five minutes.
+    QTEST_FUNCTION_TIMEOUT=14400000 NETINFORECORD_COUNT=${NETINFORECORD_COUNT:-${3-}} \
         ctest --preset "$1" --verbose --timeout 14400 --tests-regex "$2" |
         grep -E 'PASS|FAIL|QINFO|tests passed|Test +#'
 }

@@ -29,6 +29,7 @@
 #include <array>
 #include <memory>
 #include <new>
+#include <utility>
 
 using Log::now;
 
@@ -124,27 +125,35 @@ ConnectionRecord *linkedRecord(const QTableWidgetItem &item)
 
 /// Keeps a table's menus while a question is open, even if a host destroys the
 /// table meanwhile: the question may have come out of a menu's own handling of a
-/// click, which goes on with the menu afterwards.
+/// click, which goes on with the menu afterwards. Of questions within questions
+/// the outermost one keeps them, having been there first.
 class MenuKeeper
 {
 public:
     explicit MenuKeeper(const QTableWidget *table)
-        : m_connection(QObject::connect(table, &QObject::destroyed, letMenusOutlive))
+        : m_connection(QObject::connect(table, &QObject::destroyed,
+                                        [this](const QObject *dying) { keepMenusOf(dying); }))
     {
     }
-    ~MenuKeeper() { QObject::disconnect(m_connection); }
+    ~MenuKeeper()
+    {
+        QObject::disconnect(m_connection);
+        // Not at once, and not while the question is open: the event loop of
+        // another menu would delete them too early.
+        for (QMenu *menu : std::as_const(m_menus))
+            menu->deleteLater();
+    }
     Q_DISABLE_COPY(MenuKeeper)
 
 private:
-    static void letMenusOutlive(const QObject *table)
+    void keepMenusOf(const QObject *table)
     {
-        const auto menus = table->findChildren<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
-        for (QMenu *menu : menus) {
+        m_menus = table->findChildren<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
+        for (QMenu *menu : std::as_const(m_menus))
             menu->setParent(nullptr, menu->windowFlags());
-            menu->deleteLater();
-        }
     }
 
+    QList<QMenu *> m_menus;
     QMetaObject::Connection m_connection;
 };
 
