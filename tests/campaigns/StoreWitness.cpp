@@ -25,12 +25,14 @@ auto valuesOf(const Connection &connection)
                     connection.downloadedBytes, connection.ending, connection.interfaceName);
 }
 
+/// Nobody else may have access for a moment. Less than the mode is what a umask
+/// leaves to a file whose maker was killed before it could give it the rest.
 QString modeComplaint(const QString &path, unsigned int mode)
 {
     struct stat status = {};
-    if (stat(qPrintable(path), &status) != 0 || (status.st_mode & 07777U) == mode)
+    if (stat(qPrintable(path), &status) != 0 || (status.st_mode & 07777U & ~mode) == 0)
         return {};
-    return QStringLiteral("%1 has the mode 0%2, not 0%3")
+    return QStringLiteral("%1 has the mode 0%2, more than 0%3")
         .arg(path, QString::number(status.st_mode & 07777U, 8), QString::number(mode, 8));
 }
 
