@@ -40,18 +40,13 @@ void RecordBook::save(LiveConnection &connection, const Moment &now)
     // An unfinished row of the same link would be taken for this connection's.
     if (isBehind())
         return;
-    if (connection.row().key == 0) {
-        const auto key = begin(connection, now);
-        if (!key)
-            return fail(key.error());
-    } else {
-        auto key = m_store.checkpoint(connection.row());
-        // Somebody has put another file in the store's place.
-        if (!key && key.error().kind == StoreError::Kind::NoSuchRecord)
-            key = begin(connection, now);
-        if (!key)
-            return fail(key.error());
-    }
+    auto key =
+        connection.row().key == 0 ? begin(connection, now) : m_store.checkpoint(connection.row());
+    // Somebody has put another file in the store's place.
+    if (!key && key.error().kind == StoreError::Kind::NoSuchRecord)
+        key = begin(connection, now);
+    if (!key)
+        return fail(key.error());
     succeed();
 }
 
