@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QPluginLoader>
 
 namespace refhost
 {
@@ -12,6 +13,11 @@ QString pluginFile(const QString &name)
     return QDir::cleanPath(
         QCoreApplication::applicationDirPath() +
         QStringLiteral("/" NETINFORECORD_LIBDIR_FROM_BINDIR "/lib%1.so").arg(name));
+}
+
+QJsonObject ownMetadata(const QPluginLoader &loader)
+{
+    return loader.metaData().value(QStringLiteral("MetaData")).toObject();
 }
 
 } // namespace refhost

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonObject>
 #include <QString>
+
+class QPluginLoader;
 
 namespace refhost
 {
 
 /// The path of a plug-in that came with this program, by its library's name.
 QString pluginFile(const QString &name);
+
+/// What a plug-in says of itself in its metadata.
+QJsonObject ownMetadata(const QPluginLoader &loader);
 
 } // namespace refhost

@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QJsonObject>
 #include <QPluginLoader>
 #include <QRect>
 #include <QWidget>
@@ -22,12 +21,6 @@ namespace
 
 constexpr unsigned int textsChanged = 1024;
 constexpr unsigned int connectionChanged = 1536;
-
-bool saysItHasStatistics(const QPluginLoader &loader)
-{
-    const QJsonObject own = loader.metaData().value(QStringLiteral("MetaData")).toObject();
-    return own.value(QStringLiteral("Statistics")).toBool();
-}
 
 /// The plug-in's history window, which is known by the name of its class alone;
 /// null once the plug-in has ended.
@@ -65,7 +58,7 @@ std::unique_ptr<PluginHandle> PluginHandle::load(const QString &file)
         fail(tr("The plug-in %1 does not offer the interfaces %2 and %3.")
                  .arg(file, QStringLiteral(IUIPlugin_iid), QStringLiteral(INotify_iid)));
     }
-    handle->m_hasStatistics = saysItHasStatistics(loader);
+    handle->m_hasStatistics = ownMetadata(loader).value(QStringLiteral("Statistics")).toBool();
     return handle;
 }
 

@@ -4,8 +4,6 @@
 #include "Failure.h"
 #include "PluginFile.h"
 
-#include <QJsonObject>
-
 namespace refhost
 {
 
@@ -32,8 +30,7 @@ ServicePlugin::~ServicePlugin()
 
 QString ServicePlugin::classId() const
 {
-    const QJsonObject metadata = m_loader.metaData().value(QStringLiteral("MetaData")).toObject();
-    return metadata.value(QStringLiteral("ClassId")).toString();
+    return ownMetadata(m_loader).value(QStringLiteral("ClassId")).toString();
 }
 
 } // namespace refhost
