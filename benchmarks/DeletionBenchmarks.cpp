@@ -51,6 +51,13 @@ void select(QTableWidget &table, const QVector<int> &rows)
     table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
+/// Makes the allocator merge at once what was freed. It would else do so at some
+/// later allocation, inside the one measurement and after the other.
+void settleHeap()
+{
+    benchmark::DoNotOptimize(QByteArray(100000, Qt::Uninitialized));
+}
+
 void deleteFromPlugin(benchmark::State &state, const Deletion &deletion)
 {
     for ([[maybe_unused]] auto iteration : state) {
@@ -59,7 +66,10 @@ void deleteFromPlugin(benchmark::State &state, const Deletion &deletion)
         window.show();
         select(*window.table(), deletion.rows);
         QApplication::processEvents();
-        measure(state, [] { ConnectionHistoryDlg::Instance()->onDelete(); });
+        measure(state, [] {
+            ConnectionHistoryDlg::Instance()->onDelete();
+            settleHeap();
+        });
     }
 }
 
@@ -71,7 +81,10 @@ void deleteFromBare(benchmark::State &state, const Deletion &deletion)
         BareTable table;
         table.fill(NetInfoRecordLogic::Instance()->m_records);
         table.show();
-        measure(state, [&] { table.removeRows(deletion.rows); });
+        measure(state, [&] {
+            table.removeRows(deletion.rows);
+            settleHeap();
+        });
     }
 }
 

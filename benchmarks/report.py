@@ -6,17 +6,16 @@
 
 Each RUN.json is what benchmarks --benchmark_out=RUN.json has written. The table
 goes to the standard output as Markdown, one column for each run; of repeated
-measurements it takes the medians.
+measurements it takes the least, which other programs have disturbed least.
 """
 
 import json
-import statistics
 import sys
 from collections import defaultdict
 
 
 class Run:
-    """The medians of one run, by the benchmark's name."""
+    """The least values of one run, by the benchmark's name."""
 
     def __init__(self, path):
         with open(path, encoding="utf-8") as file:
@@ -29,7 +28,7 @@ class Run:
                 self._entries[name].append(entry)
 
     def value(self, name, key="real_time"):
-        return statistics.median(entry[key] for entry in self._entries[name])
+        return min(entry[key] for entry in self._entries[name])
 
     def ratio(self, name, base, key="real_time"):
         return self.value(name, key) / self.value(base, key)

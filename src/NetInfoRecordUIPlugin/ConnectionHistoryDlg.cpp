@@ -16,17 +16,18 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QItemSelection>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
-#include <QSet>
 #include <QShortcut>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <memory>
 #include <new>
 #include <utility>
@@ -535,8 +536,8 @@ void ConnectionHistoryDlg::onDelete()
     if (Log::isMissing(m_pConnectionTblTreeWidget, sourcePath, __func__, __LINE__) ||
         Log::isMissing(m_pRecordLogic, sourcePath, __func__, __LINE__))
         return;
-    const Cells cells = selectedCells();
-    if (cells.size() / columnCount == 0)
+    const Selection selection = selectedCells();
+    if (selection.count / columnCount == 0)
         return;
 
     const QPointer<ConnectionHistoryDlg> self = this;
@@ -545,52 +546,69 @@ void ConnectionHistoryDlg::onDelete()
     // While the question was open, the host may have ended the window or filled
     // the table with other records than the user was asked about.
     const bool isStillSame = self && m_pConnectionTblTreeWidget && changes == m_nTableChanges;
-    if (isWanted && isStillSame && !removeCells(cells))
+    if (isWanted && isStillSame && !removeCells(selection.firstCells))
         return;
     Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
 }
 
-ConnectionHistoryDlg::Cells ConnectionHistoryDlg::selectedCells() const
+ConnectionHistoryDlg::Selection ConnectionHistoryDlg::selectedCells() const
 {
-    Cells cells;
-    const QModelIndexList indexes = m_pConnectionTblTreeWidget->selectionModel()->selectedIndexes();
-    for (const QModelIndex &index : indexes) {
+    Selection selection;
+    const QItemSelection ranges = m_pConnectionTblTreeWidget->selectionModel()->selection();
+    for (const QItemSelectionRange &range : ranges) {
         // What the host has hidden is not what the user has chosen.
-        if (!m_pConnectionTblTreeWidget->isRowHidden(index.row()) &&
-            !m_pConnectionTblTreeWidget->isColumnHidden(index.column()))
-            cells.append(m_pConnectionTblTreeWidget->item(index.row(), index.column()));
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            if (!m_pConnectionTblTreeWidget->isRowHidden(row))
+                selection.addRow(*m_pConnectionTblTreeWidget, row, range);
+        }
     }
-    return cells;
+    return selection;
+}
+
+void ConnectionHistoryDlg::Selection::addRow(const QTableWidget &table, int row,
+                                             const QItemSelectionRange &range)
+{
+    const Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    for (int column = range.left(); column <= range.right(); ++column) {
+        const QTableWidgetItem *cell = table.item(row, column);
+        if (table.isColumnHidden(column) || (cell && (cell->flags() & selectable) != selectable))
+            continue;
+        ++count;
+        if (!cell || column == 0)
+            firstCells.append(cell);
+    }
 }
 
 /// Removes the rows of these cells and their records; false, before anything is
 /// removed, at a missing cell.
 bool ConnectionHistoryDlg::removeCells(const Cells &cells)
 {
-    QSet<const QTableWidgetItem *> linkedCells;
+    Cells linkedCells;
     QVector<int> recordIds;
     for (const QTableWidgetItem *cell : cells) {
         if (Log::isMissing(cell, sourcePath, "onDelete", __LINE__))
             return false;
         if (const ConnectionRecord *record = linkedRecord(*cell)) {
             recordIds.append(record->m_nRecordId);
-            linkedCells.insert(cell);
+            linkedCells.append(cell);
         }
     }
+    std::sort(linkedCells.begin(), linkedCells.end(), std::less<>());
     std::sort(recordIds.begin(), recordIds.end());
     removeRows(linkedCells);
     removeRecords(recordIds);
     return true;
 }
 
-void ConnectionHistoryDlg::removeRows(const QSet<const QTableWidgetItem *> &linkedCells)
+void ConnectionHistoryDlg::removeRows(const Cells &sortedCells)
 {
     ++m_nTableChanges;
     // Thousands of selected ranges would each be mended at every removal.
     m_pConnectionTblTreeWidget->clearSelection();
     // The highest row goes first, so that the lower ones keep their place.
     for (int row = m_pConnectionTblTreeWidget->rowCount() - 1; row >= 0; --row) {
-        if (linkedCells.contains(m_pConnectionTblTreeWidget->item(row, 0)))
+        const QTableWidgetItem *cell = m_pConnectionTblTreeWidget->item(row, 0);
+        if (std::binary_search(sortedCells.cbegin(), sortedCells.cend(), cell, std::less<>()))
             m_pConnectionTblTreeWidget->removeRow(row);
     }
 }

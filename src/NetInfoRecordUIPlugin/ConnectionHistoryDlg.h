@@ -3,7 +3,6 @@
 
 #include <QItemDelegate>
 #include <QPointer>
-#include <QSet>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -12,6 +11,7 @@ class ExtendDialog;
 class NetInfoRecordLogic;
 class QAction;
 class QGroupBox;
+class QItemSelectionRange;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -85,6 +85,15 @@ private:
     using Cells = QVector<const QTableWidgetItem *>;
     struct SummaryLayouts;
 
+    /// What is selected: how many cells, and those that lead to a record, with a
+    /// null pointer for each place that has no cell.
+    struct Selection {
+        void addRow(const QTableWidget &table, int row, const QItemSelectionRange &range);
+
+        int count = 0;
+        Cells firstCells;
+    };
+
     ConnectionHistoryDlg();
     ~ConnectionHistoryDlg() override;
 
@@ -95,9 +104,9 @@ private:
     void deleteHeaderItemsAndDelegate();
 
     bool isConfirmed(const QString &textId);
-    Cells selectedCells() const;
+    Selection selectedCells() const;
     bool removeCells(const Cells &cells);
-    void removeRows(const QSet<const QTableWidgetItem *> &linkedCells);
+    void removeRows(const Cells &sortedCells);
     void removeRecords(const QVector<int> &sortedIds);
 
     void deleteSummary();

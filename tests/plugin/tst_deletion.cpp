@@ -27,6 +27,7 @@ private Q_SLOTS:
     void changesNothingWhenDeclined();
     void deletesTheSelectedRows();
     void keepsSelectedRowsThatAreHidden();
+    void keepsRowsThatCannotBeSelected();
     void removesTheHigherRowFirst();
     void removesTheHigherIdentifierFirst();
     void removesTheRowEvenWhereTheSdkKeepsIt();
@@ -206,6 +207,18 @@ void tst_Deletion::keepsSelectedRowsThatAreHidden()
     m_plugin->table()->selectAll();
     trigger("onDelete");
     QCOMPARE(profiles(), QStringList{hidden});
+    QCOMPARE(removals().size(), 4);
+}
+
+void tst_Deletion::keepsRowsThatCannotBeSelected()
+{
+    start(5);
+    const QString kept = profiles().at(3);
+    for (int column = 0; column < 6; ++column)
+        m_plugin->table()->item(3, column)->setFlags(Qt::ItemIsEnabled);
+    m_plugin->table()->selectAll();
+    trigger("onDelete");
+    QCOMPARE(profiles(), QStringList{kept});
     QCOMPARE(removals().size(), 4);
 }
 
