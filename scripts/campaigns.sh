@@ -3,7 +3,7 @@
 # scripts/campaigns.sh [--seed=N] [CAMPAIGN...]: the long runs against bad luck and
 # bad manners, in full; all of them if none is named:
 #   host        1,000,000 steps of a hostile host, and the same with sanitizers
-#   kills       1,000 writers of a store killed
+#   kills       1,000 writers of a store and 1,000 recorders killed
 #   reconnects  1,000 connections of a real interface in a network of its own
 #   fuzz        each fuzz target for half an hour, two at a time
 #   abi         the binary interface, and a host of the other compiler
@@ -52,7 +52,7 @@ for campaign in "${campaigns[@]}"; do
         run qt5 tst_hostilehost 1000000
         run ci tst_hostilehost 200000
         ;;
-    kills) run qt5 tst_storekills 1000 ;;
+    kills) run qt5 'tst_(store|recorder)kills' 1000 ;;
     reconnects) run qt5 tst_networkrecording 1000 ;;
     fuzz) fuzz ;;
     abi) run ci '^(tst_slots|tst_exports|tst_interface|minimal_host_.*|sdk_exports)$' ;;

@@ -16,7 +16,9 @@ namespace
 {
 
 constexpr std::chrono::seconds tickInterval(1);
-constexpr int ticksPerCheckpoint = 5;
+// The store is to be at most five seconds behind: a tick, the kernel's answer and
+// the writing take their time too.
+constexpr int ticksPerCheckpoint = 4;
 
 bool isMobile(const std::string &interfaceName)
 {

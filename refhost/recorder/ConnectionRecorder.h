@@ -41,7 +41,7 @@ struct ConnectionState {
 /// Records the connections of mobile interfaces (ppp*, wwan*) and of those that
 /// are named, to the byte: an interface is connected while it is up, running and
 /// has an address (see Link::isConnected). Its record lies in the store from the
-/// first moment, is brought up to date every five seconds and gets the kernel's
+/// first moment, is never more than five seconds behind and gets the kernel's
 /// final counters at the end. Connections that an earlier process left open are
 /// gone on with if their link is still connected, else closed at their last
 /// update and marked "recovered".

@@ -72,6 +72,8 @@ void AccumulateAgreementTest::agreesToTheByte_data()
     QTest::addColumn<int>("firstYear");
     QTest::newRow("Europe/Berlin") << QByteArray("Europe/Berlin") << 2023;
     QTest::newRow("America/St_Johns") << QByteArray("America/St_Johns") << 2008;
+    QTest::newRow("14 hours ahead of UTC") << QByteArray("Pacific/Kiritimati") << 2023;
+    QTest::newRow("12 hours behind UTC") << QByteArray("Etc/GMT+12") << 2023;
 }
 
 void AccumulateAgreementTest::agreesToTheByte()

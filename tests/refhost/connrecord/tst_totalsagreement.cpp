@@ -75,6 +75,8 @@ void TotalsAgreementTest::agreesWithAQuery_data()
     addRows("Europe/Berlin", 2023);
     // Here, clocks were set back a minute after a month had begun.
     addRows("America/St_Johns", 2008);
+    addRows("Pacific/Kiritimati", 2023); // 14 hours ahead of UTC
+    addRows("Etc/GMT+12", 2023);         // 12 hours behind it
 }
 
 void TotalsAgreementTest::agreesWithAQuery()

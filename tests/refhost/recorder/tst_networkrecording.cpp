@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Campaign.h"
 #include "ConnectionRecorder.h"
 #include "NetworkNamespace.h"
 #include "RecordText.h"
@@ -6,7 +7,6 @@
 #include "VethPair.h"
 
 #include <QCoreApplication>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -22,9 +22,9 @@ namespace
 
 /// Datagrams sent in one direction.
 struct Volume {
-    explicit Volume(QRandomGenerator &random)
-        : count(random.bounded(12))
-        , size(random.bounded(1, 1400))
+    explicit Volume(campaign::Random &random)
+        : count(random.below(12))
+        , size(random.between(1, 1399))
     {
     }
 
@@ -59,11 +59,6 @@ QString useLine(const Line &line, const char *name, const Volume &up, const Volu
     return isUsed ? record(name, Line::bytesOf(up.count, up.size),
                            Line::bytesOf(down.count, down.size))
                   : QString();
-}
-
-int numberFromEnvironment(const char *name, int otherwise)
-{
-    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
 }
 
 } // namespace
@@ -104,7 +99,7 @@ private slots:
 private:
     /// A session of random volumes on a line that lives on, or on one that is
     /// deleted at its end; the record that it is to leave, or nothing on failure.
-    QString reconnect(QRandomGenerator &random);
+    QString reconnect(campaign::Random &random);
     bool startRecorder(const QStringList &interfaceNames = {});
 
     const QString m_obstacle;
@@ -201,11 +196,11 @@ void NetworkRecordingTest::tenShortSessionsLoseNothingAndInventNothing()
     QCOMPARE(recordsIn(m_path), expected);
 }
 
-QString NetworkRecordingTest::reconnect(QRandomGenerator &random)
+QString NetworkRecordingTest::reconnect(campaign::Random &random)
 {
     const Volume up(random);
     const Volume down(random);
-    if (random.bounded(2) == 0) {
+    if (random.once(2)) {
         const TunDevice device;
         if (device.isMade())
             return useLine(device, "ppp0", up, down);
@@ -214,13 +209,10 @@ QString NetworkRecordingTest::reconnect(QRandomGenerator &random)
     return m_line->goDown() ? left : QString();
 }
 
-/// NETINFORECORD_COUNT and NETINFORECORD_SEED make it longer, or another one.
 void NetworkRecordingTest::manyReconnectsLoseNothingAndInventNothing()
 {
-    const int sessions = numberFromEnvironment("NETINFORECORD_COUNT", 60);
-    const int seed = numberFromEnvironment("NETINFORECORD_SEED", 1);
-    qInfo("%d sessions, seed %d", sessions, seed);
-    QRandomGenerator random(static_cast<quint32>(seed));
+    const int sessions = campaign::count(60);
+    campaign::Random random(campaign::seed(1));
     QStringList expected;
     while (expected.size() < sessions) {
         expected << reconnect(random);
