@@ -20,6 +20,7 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
+#include <memory>
 #include <new>
 
 using Log::now;
@@ -177,11 +178,11 @@ AccumulateDlg::~AccumulateDlg() = default;
 void AccumulateDlg::init()
 {
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 370, buildTime);
-    auto *vertical = new (std::nothrow) QVBoxLayout;
-    if (!createSelection(vertical) || !createStatistics(vertical) || !createButton(vertical) ||
-        !createValues())
+    std::unique_ptr<QVBoxLayout> vertical(new (std::nothrow) QVBoxLayout);
+    if (!createSelection(vertical.get()) || !createStatistics(vertical.get()) ||
+        !createButton(vertical.get()) || !createValues())
         return;
-    m_pMainWidget->setLayout(vertical);
+    m_pMainWidget->setLayout(vertical.release());
     Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 445, buildTime);
 }
 
@@ -203,11 +204,11 @@ bool AccumulateDlg::createSelection(QVBoxLayout *vertical)
     m_pSelectMonthLbl = new (std::nothrow) QLabel;
     m_pProfileSelectionComboBox = new (std::nothrow) QComboBox(m_pMainWidget);
     m_pMonthSelectionComboBox = new (std::nothrow) QComboBox(m_pMainWidget);
-    auto *profileRow = new (std::nothrow) QHBoxLayout;
-    auto *monthRow = new (std::nothrow) QHBoxLayout;
+    std::unique_ptr<QHBoxLayout> profileRow(new (std::nothrow) QHBoxLayout);
+    std::unique_ptr<QHBoxLayout> monthRow(new (std::nothrow) QHBoxLayout);
     if (!areAllPresent({m_pMainWidget, m_pSelectProfileLbl, m_pSelectMonthLbl,
                         m_pProfileSelectionComboBox, m_pMonthSelectionComboBox, vertical,
-                        profileRow, monthRow},
+                        profileRow.get(), monthRow.get()},
                        382))
         return false;
     m_pProfileSelectionComboBox->setFixedWidth(185);
@@ -215,7 +216,7 @@ bool AccumulateDlg::createSelection(QVBoxLayout *vertical)
     profileRow->addWidget(m_pProfileSelectionComboBox);
     monthRow->addWidget(m_pSelectMonthLbl);
     monthRow->addWidget(m_pMonthSelectionComboBox);
-    for (QHBoxLayout *row : {profileRow, monthRow}) {
+    for (QHBoxLayout *row : {profileRow.release(), monthRow.release()}) {
         row->setContentsMargins(25, 0, 25, 0);
         vertical->addLayout(row);
     }
@@ -239,12 +240,12 @@ bool AccumulateDlg::createStatistics(QVBoxLayout *vertical)
 bool AccumulateDlg::createButton(QVBoxLayout *vertical)
 {
     m_pPushButton = new (std::nothrow) QPushButton;
-    auto *row = new (std::nothrow) QHBoxLayout;
-    if (!areAllPresent({m_pPushButton, row}, 426))
+    std::unique_ptr<QHBoxLayout> row(new (std::nothrow) QHBoxLayout);
+    if (!areAllPresent({m_pPushButton, row.get()}, 426))
         return false;
     // A stretch, not an alignment: it lets the button take the row's width.
     row->addWidget(m_pPushButton, 132);
-    vertical->addLayout(row);
+    vertical->addLayout(row.release());
     return true;
 }
 

@@ -19,6 +19,7 @@
 #include <QItemSelection>
 #include <QLabel>
 #include <QMenu>
+#include <QMetaMethod>
 #include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
@@ -30,6 +31,7 @@
 #include <functional>
 #include <memory>
 #include <new>
+#include <optional>
 #include <utility>
 
 using Log::now;
@@ -94,19 +96,36 @@ const QTableWidgetItem &commonCell()
     return cell;
 }
 
+/// Asks a table who listens to its cells, which the toolkit lets only a class
+/// derived from it do.
+class CellListeners : public QTableWidget
+{
+public:
+    static bool arePresent(const QTableWidget &table)
+    {
+        const auto isConnected = &CellListeners::isSignalConnected;
+        return (table.*isConnected)(QMetaMethod::fromSignal(&QTableWidget::cellChanged)) ||
+               (table.*isConnected)(QMetaMethod::fromSignal(&QTableWidget::itemChanged));
+    }
+};
+
 /// While it lives, a table's views hear nothing; then, of one change of it all.
-/// Each cell on its own costs more to announce than to put there.
+/// Each cell on its own costs more to announce than to put there, so that is done
+/// only where somebody listens to the table's own signals about single cells.
 class ChangedAsOne
 {
 public:
     explicit ChangedAsOne(QTableWidget &table)
         : m_model(*table.model())
-        , m_blocker(m_model)
     {
+        if (!CellListeners::arePresent(table))
+            m_blocker.emplace(m_model);
     }
     ~ChangedAsOne()
     {
-        m_blocker.unblock();
+        if (!m_blocker)
+            return;
+        m_blocker->unblock();
         const QModelIndex last = m_model.index(m_model.rowCount() - 1, m_model.columnCount() - 1);
         if (last.isValid())
             Q_EMIT m_model.dataChanged(m_model.index(0, 0), last);
@@ -115,7 +134,7 @@ public:
 
 private:
     QAbstractItemModel &m_model;
-    QSignalBlocker m_blocker;
+    std::optional<QSignalBlocker> m_blocker;
 };
 
 ConnectionRecord *linkedRecord(const QTableWidgetItem &item)
@@ -345,8 +364,8 @@ bool ConnectionHistoryDlg::buildLayout()
     if (m_pContainerWidget->layout())
         return true; // built by an earlier Init
 
-    auto *vertical = new (std::nothrow) QVBoxLayout;
-    if (Log::isMissing(vertical, sourcePath, function, 452) ||
+    std::unique_ptr<QVBoxLayout> vertical(new (std::nothrow) QVBoxLayout);
+    if (Log::isMissing(vertical.get(), sourcePath, function, 452) ||
         Log::isMissing(m_pTableDeleteShortcut, sourcePath, function, 453) ||
         Log::isMissing(m_pNoteLabel, sourcePath, function, 454))
         return false;
@@ -359,7 +378,7 @@ bool ConnectionHistoryDlg::buildLayout()
     m_pNoteLabel->setFixedHeight(35);
     horizontal->addWidget(m_pNoteLabel, 1);
     vertical->addLayout(horizontal);
-    m_pContainerWidget->setLayout(vertical);
+    m_pContainerWidget->setLayout(vertical.release());
     return true;
 }
 
@@ -441,28 +460,46 @@ void ConnectionHistoryDlg::PopulateTableRowOfConnectionRecord(ConnectionRecord *
 void ConnectionHistoryDlg::ReleaseTable()
 {
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    if (Log::isMissing(m_pConnectionTblTreeWidget, sourcePath, __func__, __LINE__)) {
-        releaseRecordsWithoutRows();
-        return;
-    }
-    if (Log::isMissing(m_pRecordLogic, sourcePath, __func__, __LINE__))
-        return;
-    for (int row = 0; row < m_pConnectionTblTreeWidget->rowCount(); ++row) {
-        const QTableWidgetItem *item = m_pConnectionTblTreeWidget->item(row, 0);
-        if (Log::isMissing(item, sourcePath, __func__, __LINE__))
-            return;
-        delete linkedRecord(*item);
-    }
-    Log::line("End File: %s %s: %d: %s:", sourcePath, __func__, __LINE__, now);
+    Records records;
+    const bool isComplete = collectLinkedRecords(records);
+    releaseRecordsWithoutRows(records);
+    qDeleteAll(records);
+    if (isComplete)
+        Log::line("End File: %s %s: %d: %s:", sourcePath, __func__, __LINE__, now);
 }
 
-/// Once a host has destroyed the table, only the map leads to the records.
-void ConnectionHistoryDlg::releaseRecordsWithoutRows()
+/// The records that the rows refer to, up to the first cell that is missing; false
+/// if something is.
+bool ConnectionHistoryDlg::collectLinkedRecords(Records &records) const
 {
-    if (!m_pRecordLogic)
+    const char function[] = "ReleaseTable";
+    if (Log::isMissing(m_pConnectionTblTreeWidget, sourcePath, function, __LINE__) ||
+        Log::isMissing(m_pRecordLogic, sourcePath, function, __LINE__))
+        return false;
+    records.reserve(m_pConnectionTblTreeWidget->rowCount());
+    for (int row = 0; row < m_pConnectionTblTreeWidget->rowCount(); ++row) {
+        const QTableWidgetItem *item = m_pConnectionTblTreeWidget->item(row, 0);
+        if (Log::isMissing(item, sourcePath, function, __LINE__))
+            return false;
+        if (ConnectionRecord *record = linkedRecord(*item))
+            records.append(record);
+    }
+    return true;
+}
+
+/// Once a host has destroyed the table or rows of it, only the map leads to their
+/// records.
+void ConnectionHistoryDlg::releaseRecordsWithoutRows(const Records &recordsOfRows)
+{
+    if (!m_pRecordLogic || recordsOfRows.size() >= m_pRecordLogic->m_records.size())
         return;
-    qDeleteAll(m_pRecordLogic->m_records);
-    m_pRecordLogic->m_records.clear();
+    QHash<int, ConnectionRecord *> &records = m_pRecordLogic->m_records;
+    for (const ConnectionRecord *record : recordsOfRows) {
+        if (records.value(record->m_nRecordId) == record)
+            records.remove(record->m_nRecordId);
+    }
+    qDeleteAll(records);
+    records.clear();
 }
 
 void ConnectionHistoryDlg::createTableRightClickAction()
@@ -581,36 +618,53 @@ void ConnectionHistoryDlg::Selection::addRow(const QTableWidget &table, int row,
 
 /// Removes the rows of these cells and their records; false, before anything is
 /// removed, at a missing cell.
-bool ConnectionHistoryDlg::removeCells(const Cells &cells)
+bool ConnectionHistoryDlg::removeCells(Cells cells)
 {
-    Cells linkedCells;
-    QVector<int> recordIds;
     for (const QTableWidgetItem *cell : cells) {
         if (Log::isMissing(cell, sourcePath, "onDelete", __LINE__))
             return false;
+    }
+    std::sort(cells.begin(), cells.end(), std::less<>());
+    QVector<int> rows;
+    QVector<int> recordIds;
+    // Of the cells only those are looked into that the table still has: a host may
+    // have removed some while the question was open.
+    for (int row = 0; row < m_pConnectionTblTreeWidget->rowCount(); ++row) {
+        const QTableWidgetItem *cell = m_pConnectionTblTreeWidget->item(row, 0);
+        if (!std::binary_search(cells.cbegin(), cells.cend(), cell, std::less<>()))
+            continue;
         if (const ConnectionRecord *record = linkedRecord(*cell)) {
+            rows.append(row);
             recordIds.append(record->m_nRecordId);
-            linkedCells.append(cell);
         }
     }
-    std::sort(linkedCells.begin(), linkedCells.end(), std::less<>());
     std::sort(recordIds.begin(), recordIds.end());
-    removeRows(linkedCells);
+    removeRows(rows);
     removeRecords(recordIds);
     return true;
 }
 
-void ConnectionHistoryDlg::removeRows(const Cells &sortedCells)
+void ConnectionHistoryDlg::removeRows(const QVector<int> &ascendingRows)
 {
+    if (ascendingRows.isEmpty())
+        return;
     ++m_nTableChanges;
     // Thousands of selected ranges would each be mended at every removal.
-    m_pConnectionTblTreeWidget->clearSelection();
+    if (selectedArea() == static_cast<qint64>(ascendingRows.size()) * columnCount)
+        m_pConnectionTblTreeWidget->clearSelection();
     // The highest row goes first, so that the lower ones keep their place.
-    for (int row = m_pConnectionTblTreeWidget->rowCount() - 1; row >= 0; --row) {
-        const QTableWidgetItem *cell = m_pConnectionTblTreeWidget->item(row, 0);
-        if (std::binary_search(sortedCells.cbegin(), sortedCells.cend(), cell, std::less<>()))
-            m_pConnectionTblTreeWidget->removeRow(row);
-    }
+    for (auto row = ascendingRows.crbegin(); row != ascendingRows.crend(); ++row)
+        m_pConnectionTblTreeWidget->removeRow(*row);
+}
+
+/// How many cells are selected, those that the host has hidden too.
+qint64 ConnectionHistoryDlg::selectedArea() const
+{
+    qint64 area = 0;
+    const QItemSelection ranges = m_pConnectionTblTreeWidget->selectionModel()->selection();
+    for (const QItemSelectionRange &range : ranges)
+        area += static_cast<qint64>(range.height()) * range.width();
+    return area;
 }
 
 void ConnectionHistoryDlg::removeRecords(const QVector<int> &sortedIds)
@@ -678,7 +732,8 @@ bool ConnectionHistoryDlg::createSummary(QWidget *parent, SummaryLayouts &layout
     if (Log::isMissing(m_pLastRecordDlg, sourcePath, function, 943))
         return false;
     m_pLastRecordWidget = new (std::nothrow) QWidget(m_pLastRecordDlg);
-    m_pLastRecordDlg->AddMainWidget(m_pLastRecordWidget);
+    if (m_pLastRecordWidget)
+        m_pLastRecordDlg->AddMainWidget(m_pLastRecordWidget);
     m_pLastRecordDlg->setWindowTitle(tr(QLatin1String("IDS_TITLE_SINGLE")));
     m_pLastRecordDlg->setFixedSize(382, 217);
 
@@ -694,7 +749,7 @@ bool ConnectionHistoryDlg::createSummary(QWidget *parent, SummaryLayouts &layout
     layouts.form = new (std::nothrow) QFormLayout;
     layouts.horizontal = new (std::nothrow) QHBoxLayout;
 
-    const QObject *const created[] = {
+    QObject *const created[] = {
         layouts.vertical,        m_pLastRecordGrp,      m_pLastRecordOkBtn,
         m_pLastRecordWidget,     m_pDownloadedValueLbl, m_pUploadedValueLbl,
         m_pTransferTimeValueLbl, m_pDownloadedLbl,      m_pUploadedLbl,
@@ -702,8 +757,14 @@ bool ConnectionHistoryDlg::createSummary(QWidget *parent, SummaryLayouts &layout
     };
     int line = 964; // of the first check; the others follow line by line
     for (const QObject *object : created) {
-        if (Log::isMissing(object, sourcePath, function, line++))
-            return false;
+        if (!Log::isMissing(object, sourcePath, function, line++))
+            continue;
+        // The frame and its main widget stay; the rest has no place in them yet.
+        for (QObject *part : created) {
+            if (part != m_pLastRecordWidget)
+                delete part;
+        }
+        return false;
     }
     return true;
 }

@@ -83,6 +83,7 @@ public Q_SLOTS:
 
 private:
     using Cells = QVector<const QTableWidgetItem *>;
+    using Records = QVector<ConnectionRecord *>;
     struct SummaryLayouts;
 
     /// What is selected: how many cells, and those that lead to a record, with a
@@ -100,13 +101,15 @@ private:
     bool buildLayout();
     void setTableBehaviour();
     void discardRows();
-    void releaseRecordsWithoutRows();
+    bool collectLinkedRecords(Records &records) const;
+    void releaseRecordsWithoutRows(const Records &recordsOfRows);
     void deleteHeaderItemsAndDelegate();
 
     bool isConfirmed(const QString &textId);
     Selection selectedCells() const;
-    bool removeCells(const Cells &cells);
-    void removeRows(const Cells &sortedCells);
+    bool removeCells(Cells cells);
+    void removeRows(const QVector<int> &ascendingRows);
+    qint64 selectedArea() const;
     void removeRecords(const QVector<int> &sortedIds);
 
     void deleteSummary();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLocale>
 #include <QLoggingCategory>
 #include <QMessageLogger>
 #include <QString>
@@ -47,8 +48,9 @@ void line(const char *format, Arguments... arguments)
 {
     if (!QLoggingCategory::defaultCategory()->isDebugEnabled())
         return;
+    // Of the C locale: some versions of the toolkit would take the user's digits.
     const QByteArray time =
-        QTime::currentTime().toString(QStringLiteral("hh:mm:ss:zzz")).toLatin1();
+        QLocale::c().toString(QTime::currentTime(), QStringLiteral("hh:mm:ss:zzz")).toLatin1();
     QMessageLogger().debug(format, Detail::printable(arguments, time)...);
 }
 #endif

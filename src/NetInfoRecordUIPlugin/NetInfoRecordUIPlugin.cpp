@@ -160,8 +160,14 @@ void NetInfoRecordUIPlugin::onConnectionReceived(unsigned int status)
     s_bWasConnected = false;
     const QString setting =
         CommonUtils::GetSettings(pluginName, QLatin1String("WhetherShowNotesbox"));
-    if (setting.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0)
-        m_pHistoryDlg->ShowDialogOfLastConnectedRecord(CommonUtils::GetMainWindow());
+    QWidget *window = nullptr;
+    const bool isSummaryWanted = setting.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
+    if (isSummaryWanted)
+        window = CommonUtils::GetMainWindow();
+    if (!m_pHistoryDlg)
+        return; // the host has ended the window meanwhile
+    if (isSummaryWanted)
+        m_pHistoryDlg->ShowDialogOfLastConnectedRecord(window);
     reloadHistory();
 }
 

@@ -54,12 +54,15 @@ int integer(const char (&field)[Size])
                                                                 : bounded(field).toInt();
 }
 
-/// Any number; 0 if the text names none.
+/// Any number; 0 if the text names none or one that a double does not hold.
 template <std::size_t Size>
 double real(const char (&field)[Size])
 {
-    const auto number = plainNumber(field);
-    return number ? static_cast<double>(*number) : bounded(field).toDouble();
+    if (const auto number = plainNumber(field))
+        return static_cast<double>(*number);
+    bool isNumber = false;
+    const double number = bounded(field).toDouble(&isNumber);
+    return isNumber ? number : 0.0;
 }
 
 /// A time in seconds since 1970-01-01 UTC. The number is taken as unsigned, so

@@ -47,10 +47,12 @@ void writeNumber(int value, QChar *digits, int length)
         digits[i] = QChar(u'0' + value % 10);
 }
 
-/// Whether `to` is filled; not for a leap second, which the toolkit knows not.
+/// Whether `to` is filled, and by plain arithmetic: not in a zone that counts leap
+/// seconds, once there were some.
 bool breakDown(std::time_t secondsSinceEpoch, std::tm &to)
 {
-    return localtime_r(&secondsSinceEpoch, &to) && to.tm_sec < 60;
+    return localtime_r(&secondsSinceEpoch, &to) &&
+           to.tm_sec == (secondsSinceEpoch + to.tm_gmtoff) % 60;
 }
 
 /// The time that fourteen ASCII digits name; nothing if they name none, or one

@@ -37,6 +37,9 @@ private Q_SLOTS:
     void deletesWithTheDeleteKey();
     void findsTheRowsAgainAfterASort();
     void deletesNothingWhenTheTableWasFilledMeanwhile();
+    void deletesWhatIsLeftOfRowsThatTheHostRemovedMeanwhile();
+    void keepsTheSelectionOfRowsThatStay();
+    void keepsTheSelectionWhereNothingIsDeleted();
     void survivesTheEndDuringTheQuestion_data();
     void survivesTheEndDuringTheQuestion();
     void deletesThousandsOfRows();
@@ -341,6 +344,45 @@ void tst_Deletion::deletesNothingWhenTheTableWasFilledMeanwhile()
     trigger("onDelete");
     QVERIFY(removals().isEmpty());
     QCOMPARE(m_plugin->table()->rowCount(), 5);
+}
+
+void tst_Deletion::deletesWhatIsLeftOfRowsThatTheHostRemovedMeanwhile()
+{
+    start(5);
+    const QString third = profiles().at(3);
+    selectRows({1, 3});
+    Host::instance().answer = [this](const scripted::MessageBox &) {
+        m_plugin->table()->removeRow(1);
+        return 1024;
+    };
+    trigger("onDelete");
+    QCOMPARE(removals(), QStringList{QStringLiteral("RemoveRecord(%1)").arg(third)});
+    QCOMPARE(m_plugin->table()->rowCount(), 3);
+}
+
+void tst_Deletion::keepsTheSelectionOfRowsThatStay()
+{
+    start(5);
+    m_plugin->table()->setRowHidden(3, true);
+    selectRows({1, 3});
+    trigger("onDelete");
+    m_plugin->table()->setRowHidden(2, false); // one row higher now
+    const QModelIndexList selected = m_plugin->table()->selectionModel()->selectedRows();
+    QCOMPARE(int(selected.size()), 1);
+    QCOMPARE(selected.first().row(), 2);
+}
+
+void tst_Deletion::keepsTheSelectionWhereNothingIsDeleted()
+{
+    start(6);
+    m_plugin->table()->setSelectionBehavior(QAbstractItemView::SelectItems);
+    QItemSelection column(m_plugin->table()->model()->index(0, 3),
+                          m_plugin->table()->model()->index(5, 3));
+    m_plugin->table()->selectionModel()->select(column, QItemSelectionModel::ClearAndSelect);
+    trigger("onDelete");
+    QCOMPARE(int(Host::instance().messageBoxes.size()), 1);
+    QVERIFY(removals().isEmpty());
+    QCOMPARE(m_plugin->table()->selectedItems().size(), 6);
 }
 
 void tst_Deletion::survivesTheEndDuringTheQuestion_data()

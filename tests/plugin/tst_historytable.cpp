@@ -45,6 +45,7 @@ private Q_SLOTS:
     void makesEveryRow14PixelsHigh();
     void changesNothingElseOfTheRowHeader();
     void tellsItsViewsOnceOfAWholeReload();
+    void tellsWhoListensToTheTableOfEachCell();
     void doesNotSort();
     void logsEachRow();
 };
@@ -184,6 +185,23 @@ void tst_HistoryTable::tellsItsViewsOnceOfAWholeReload()
     const auto last = changes.at(0).at(1).toModelIndex();
     QCOMPARE(first, plugin.table()->model()->index(0, 0));
     QCOMPARE(last, plugin.table()->model()->index(2, 5));
+}
+
+void tst_HistoryTable::tellsWhoListensToTheTableOfEachCell()
+{
+    scripted::DialupContainer container;
+    Host::instance().container = &container;
+    Host::instance().records = numberedRecords(3);
+    LoadedPlugin plugin;
+    plugin.show();
+    QSignalSpy cells(plugin.table(), &QTableWidget::cellChanged);
+    plugin.notify()->Notify(1536, 1, 0);
+    plugin.notify()->Notify(1536, 0, 0);
+    QSet<int> changed;
+    for (const QVariantList &cell : cells)
+        changed.insert(cell.at(0).toInt() * 6 + cell.at(1).toInt());
+    QCOMPARE(int(changed.size()), 18);
+    QCOMPARE(int(cells.size()), 18);
 }
 
 void tst_HistoryTable::doesNotSort()

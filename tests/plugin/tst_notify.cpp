@@ -46,6 +46,7 @@ private Q_SLOTS:
     void returnsZeroForEveryEvent();
     void logsItsEvents();
     void survivesTheAreaGoingFirst();
+    void survivesTheEndWhileItAsksForTheSetting();
 
 private:
     void status(unsigned int value) { m_plugin->notify()->Notify(1536, value, 0); }
@@ -276,6 +277,15 @@ void tst_Notify::survivesTheAreaGoingFirst()
     status(1);
     status(0);
     QCOMPARE(reloads(), 3); // the leak sanitizer watches what becomes of the records
+}
+
+void tst_Notify::survivesTheEndWhileItAsksForTheSetting()
+{
+    Host::instance().settingAsked = [this] { m_plugin->ui()->OnDestroy(); };
+    status(1);
+    status(0);
+    QCOMPARE(summaries(), 0);
+    QCOMPARE(reloads(), 0);
 }
 
 QTEST_MAIN(tst_Notify)

@@ -44,6 +44,8 @@ QString CommonUtils::GetSettings(QString group, QString key)
 {
     Host &host = Host::instance();
     host.calls.append(QStringLiteral("GetSettings(%1, %2)").arg(group, key));
+    if (host.settingAsked)
+        host.settingAsked();
     return host.settings.value({group, key});
 }
 

@@ -50,6 +50,8 @@ public:
     /// A translation is the prefix followed by the identifier.
     QString textPrefix;
     QHash<QPair<QString, QString>, QString> settings;
+    /// Told of every question for a setting, before it is answered.
+    std::function<void()> settingAsked;
     QPointer<QWidget> mainWindow;
     IPluginContainer *container = nullptr;
     /// Answers a message box; without it the answer is 0 (not confirmed).
