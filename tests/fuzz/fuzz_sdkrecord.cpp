@@ -23,14 +23,14 @@ using scripted::Host;
 namespace
 {
 
-/// The field's number if it is plain digits that 31 bits hold.
+/// The field's number if it is plain digits and at most `largest`.
 template <std::size_t Size>
-std::optional<long long> plainNumber(const char (&field)[Size])
+std::optional<long long> plainNumber(const char (&field)[Size], long long largest = 2147483647)
 {
     const std::string text(field, std::find(field, field + Size, '\0'));
-    const bool isPlain = !text.empty() && text.size() <= 10 &&
+    const bool isPlain = !text.empty() && text.size() <= 15 &&
                          text.find_first_not_of("0123456789") == std::string::npos;
-    if (!isPlain || std::stoll(text) > 2147483647)
+    if (!isPlain || std::stoll(text) > largest)
         return std::nullopt;
     return std::stoll(text);
 }
@@ -79,6 +79,8 @@ QString profileOf(const _KORA_ST_CONNRECORD &record)
     return text;
 }
 
+constexpr long long largestVolume = 999999999999999;
+
 /// What went in as a proper value must come out of the row as the same one.
 void checkRow(QTableWidget &table, int row, const _KORA_ST_CONNRECORD &record)
 {
@@ -91,9 +93,9 @@ void checkRow(QTableWidget &table, int row, const _KORA_ST_CONNRECORD &record)
         fuzz::require(data(2).toDateTime().toSecsSinceEpoch() == *end, "the end is the same");
     if (const auto seconds = plainNumber(record.szDuration))
         fuzz::require(data(3).toString().toStdString() == clockText(*seconds), "the duration too");
-    if (const auto bytes = plainNumber(record.szUploadBytes))
+    if (const auto bytes = plainNumber(record.szUploadBytes, largestVolume))
         fuzz::require(isVolume(data(4).toString().toStdString(), *bytes), "the upload too");
-    if (const auto bytes = plainNumber(record.szDownloadBytes))
+    if (const auto bytes = plainNumber(record.szDownloadBytes, largestVolume))
         fuzz::require(isVolume(data(5).toString().toStdString(), *bytes), "the download too");
 }
 

@@ -6,6 +6,8 @@
 #include "KoraStatistics.h"
 #include "StatisticsStore.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include <unistd.h>
 
 #include <algorithm>
@@ -14,7 +16,10 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <set>
 #include <string>
+#include <tuple>
+#include <vector>
 
 using refhost::Connection;
 using refhost::OpenConnection;
@@ -113,10 +118,71 @@ void requireSentence(const Result<Value> &result)
     fuzz::require(result || !result.error().message.empty(), "an error says what is wrong");
 }
 
-void useStore(StatisticsStore &store)
+std::string schemaOf(const SQLite::Database &database)
+{
+    std::string schema;
+    SQLite::Statement each(database, "SELECT ifnull(sql, '') FROM sqlite_master ORDER BY rowid");
+    while (each.executeStep())
+        schema += each.getColumn(0).getString() + '\n';
+    return schema;
+}
+
+/// Whether the database itself finds nothing wrong with the file, so that what is
+/// written to it must be there afterwards.
+bool isSound(const std::string &path, const std::string &schema)
+{
+    try {
+        const SQLite::Database database(path, SQLite::OPEN_READWRITE);
+        SQLite::Statement check(database, "PRAGMA integrity_check");
+        return check.executeStep() && check.getColumn(0).getString() == "ok" &&
+               schemaOf(database) == schema;
+    } catch (const SQLite::Exception &) {
+        return false;
+    }
+}
+
+using Values = std::tuple<std::string, std::int64_t, std::int64_t, std::int64_t, std::int64_t,
+                          std::int64_t, std::string, std::string>;
+
+Values valuesOf(const Connection &each)
+{
+    return {each.profile,       each.startUtc,        each.endUtc,        each.connectedSeconds,
+            each.uploadedBytes, each.downloadedBytes, each.interfaceName, each.ending};
+}
+
+/// What was listed before, changed by what the store has acknowledged since.
+class ExpectedList
+{
+public:
+    explicit ExpectedList(const std::vector<Connection> &listed)
+    {
+        for (const Connection &each : listed)
+            m_values.insert(valuesOf(each));
+    }
+    void add(const Connection &connection) { m_values.insert(valuesOf(connection)); }
+    void remove(const Connection &connection)
+    {
+        const auto found = m_values.find(valuesOf(connection));
+        fuzz::require(found != m_values.end(), "what is removed was there");
+        m_values.erase(found);
+    }
+    void requireIn(const StatisticsStore &store) const
+    {
+        const auto listed = store.list();
+        fuzz::require(static_cast<bool>(listed), "a sound store is still listed");
+        fuzz::require(ExpectedList(listed.value()).m_values == m_values,
+                      "what was acknowledged is there, and nothing else");
+    }
+
+private:
+    std::multiset<Values> m_values;
+};
+
+void useStore(StatisticsStore &store, bool isSoundStore)
 {
     const auto listed = store.list();
     requireSentence(listed);
+    ExpectedList expected(listed ? listed.value() : std::vector<Connection>());
     requireSentence(store.listOpen());
     requireSentence(store.totals({}, StatisticsStore::Profiles::Apart,
                                  [](std::int64_t) { return std::optional<int>(0); }));
@@ -124,11 +190,24 @@ void useStore(StatisticsStore &store)
     requireSentence(begun);
     if (begun) {
         requireSentence(store.checkpoint(begun.value()));
-        requireSentence(store.finish(begun.value().key, sampleConnection(100)));
+        const auto finished = store.finish(begun.value().key, sampleConnection(100));
+        requireSentence(finished);
+        if (finished)
+            expected.add(sampleConnection(100));
     }
-    requireSentence(store.addMissing({sampleConnection(1), sampleConnection(200)}));
-    if (listed && !listed.value().empty())
-        requireSentence(store.remove({listed.value().front().key}));
+    const auto added = store.add(sampleConnection(200));
+    requireSentence(added);
+    if (added)
+        expected.add(sampleConnection(200));
+    requireSentence(store.addMissing({sampleConnection(200)})); // already there
+    if (listed && !listed.value().empty()) {
+        const auto removed = store.remove({listed.value().front().key});
+        requireSentence(removed);
+        if (removed)
+            expected.remove(listed.value().front());
+    }
+    if (listed && isSoundStore)
+        expected.requireIn(store);
 }
 
 void useFunctions()
@@ -160,6 +239,8 @@ int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static const std::string sample = makeStore();
+    static const std::string schema =
+        schemaOf(SQLite::Database(folder().file("sample.db"), SQLite::OPEN_READWRITE));
     static unsigned long number = 0;
     // A name of its own for each: the functions keep the last file open.
     const std::string path = folder().file(std::to_string(++number % 2).c_str());
@@ -170,9 +251,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 
     setenv("NETINFO_STORE", path.c_str(), 1);
     useFunctions();
+    const bool isSoundStore = isSound(path, schema);
     auto store = StatisticsStore::openOrCreate(path);
     if (store)
-        useStore(store.value());
+        useStore(store.value(), isSoundStore);
     else if (store.error().kind == StoreError::Kind::NotAStore ||
              store.error().kind == StoreError::Kind::NewerStore)
         fuzz::require(contentsOf(path) == contents, "what is no store is left as it is");
