@@ -2,13 +2,16 @@
 # SPDX-License-Identifier: MIT
 # scripts/campaigns.sh [--seed=N] [CAMPAIGN...]: the long runs against bad luck and
 # bad manners, in full; all of them if none is named:
-#   host        1,000,000 steps of a hostile host, and the same with sanitizers
+#   host        1,000,000 steps of a hostile host, and 200,000 with each compiler's
+#               sanitizers, once with the statistics
 #   kills       1,000 writers of a store and 1,000 recorders killed
 #   reconnects  1,000 connections of a real interface in a network of its own
 #   fuzz        each fuzz target for half an hour, two at a time
+#   texts       times, numbers and volumes as the toolkit reads and writes them, in a
+#               million random cases each
 #   abi         the binary interface, and a host of the other compiler
-# NETINFORECORD_COUNT sets another number of steps, kills or connections, FUZZ_SECONDS another
-# time. ./test runs a short form of each.
+# NETINFORECORD_COUNT sets another number of steps, kills, connections or cases,
+# FUZZ_SECONDS another time. ./test runs a short form of each.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/setup.sh
@@ -20,21 +23,26 @@ case "${1-}" in
     ;;
 esac
 campaigns=("$@")
-[ ${#campaigns[@]} -gt 0 ] || campaigns=(host kills reconnects fuzz abi)
+[ ${#campaigns[@]} -gt 0 ] || campaigns=(host kills reconnects texts fuzz abi)
 
-# run PRESET TESTS [COUNT]: builds a preset and runs the tests that match.
+# run PRESET TESTS [COUNT]: builds a preset and runs the tests that match. A test
+# that was skipped has shown nothing.
 run() {
     build "$1"
     # QtTest would end a test after five minutes.
     QTEST_FUNCTION_TIMEOUT=14400000 NETINFORECORD_COUNT=${NETINFORECORD_COUNT:-${3-}} \
         ctest --preset "$1" --verbose --timeout 14400 --tests-regex "$2" |
-        grep -E 'PASS|FAIL|QINFO|tests passed|Test +#'
+        awk '/PASS|FAIL|SKIP|QINFO|tests passed|Test +#/
+             /SKIP   :/ { skipped = 1 }
+             END { exit skipped }'
 }
 
 # Each target writes what it finds to build/fuzz/tests/found, its own log beside.
 fuzz() {
     build fuzz
-    export QT_QPA_PLATFORM=offscreen FUZZ_SECONDS=${FUZZ_SECONDS:-1800}
+    export QT_QPA_PLATFORM=offscreen TZ=Europe/Berlin LC_ALL=C.UTF-8
+    export LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0
+    export FUZZ_SECONDS=${FUZZ_SECONDS:-1800}
     printf '%s\n' 'sdkrecord 2176' 'csv 2048' 'store 302' 'pppd 8192' |
         xargs -P 2 -L 1 bash -c '
             found=build/fuzz/tests/found/$0 corpus=(tests/fuzz/corpus/"$0")
@@ -51,13 +59,19 @@ for campaign in "${campaigns[@]}"; do
     host)
         run qt5 tst_hostilehost 1000000
         run ci tst_hostilehost 200000
+        run clang tst_hostilehost 200000
         ;;
     kills) run qt5 'tst_(store|recorder)kills' 1000 ;;
     reconnects) run qt5 tst_networkrecording 1000 ;;
     fuzz) fuzz ;;
-    abi) run ci '^(tst_slots|tst_exports|tst_interface|minimal_host_.*|sdk_exports)$' ;;
+    texts) run qt5 '^tst_(time|sdk|volume)text$' 1000000 ;;
+    abi)
+        run ci '^(tst_slots|tst_exports|tst_interface|minimal_host_.*|sdk_exports)$'
+        run qt5 '^minimal_host_of_the_other_compiler$'
+        run dev '^minimal_host_of_the_other_compiler$'
+        ;;
     *)
-        say "There is no campaign \"$campaign\"; there are host, kills, reconnects, fuzz and abi."
+        say "There is no campaign \"$campaign\"; there are host, kills, reconnects, texts, fuzz and abi."
         exit 2
         ;;
     esac

@@ -16,6 +16,5 @@ function(netinforecord_test_environment name)
     set(home ${CMAKE_BINARY_DIR}/tests/home/${name})
     file(MAKE_DIRECTORY ${home})
     set_tests_properties(${name} PROPERTIES
-        TIMEOUT 120
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=Europe/Berlin;LC_ALL=C.UTF-8;HOME=${home};XDG_DATA_HOME=${home}/data;XDG_CONFIG_HOME=${home}/config;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
 endfunction()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Campaign.h"
 #include "SdkText.h"
 
 #include <QRandomGenerator>
@@ -95,8 +96,8 @@ void tst_SdkText::readsNumbersLikeTheToolkit()
 void tst_SdkText::readsRandomTextsLikeTheToolkit()
 {
     const QByteArray characters = "01234567890123456789 +-.eExinf,\xb2";
-    QRandomGenerator random(20101125);
-    for (int i = 0; i < 50000; ++i) {
+    QRandomGenerator random(static_cast<quint32>(campaign::seed(20101125)));
+    for (int i = campaign::count(50000); i > 0; --i) {
         QByteArray text;
         // Mostly digits, now and then another character.
         for (int length = random.bounded(18); length > 0; --length)

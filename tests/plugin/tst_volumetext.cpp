@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Campaign.h"
 #include "ShortText.h"
 #include "VolumeText.h"
 
@@ -79,8 +80,8 @@ void tst_VolumeText::writesEverySmallCountLikeTheToolkit()
 
 void tst_VolumeText::writesRandomCountsLikeTheToolkit()
 {
-    QRandomGenerator random(20101123);
-    for (int i = 0; i < 20000; ++i) {
+    QRandomGenerator random(static_cast<quint32>(campaign::seed(20101123)));
+    for (int i = campaign::count(20000); i > 0; --i) {
         const auto bytes = static_cast<double>(random.generate64() >> (11 + i % 53));
         for (const double unit : {1024.0, 1048576.0, 1073741824.0})
             QVERIFY(isWrittenAlike(bytes / unit));
@@ -89,8 +90,8 @@ void tst_VolumeText::writesRandomCountsLikeTheToolkit()
 
 void tst_VolumeText::writesRandomNumbersLikeTheToolkit()
 {
-    QRandomGenerator random(20101124);
-    for (int i = 0; i < 20000; ++i)
+    QRandomGenerator random(static_cast<quint32>(campaign::seed(20101124)));
+    for (int i = campaign::count(20000); i > 0; --i)
         QVERIFY(isWrittenAlike(std::ldexp(random.generateDouble(), i % 60 - 20)));
 }
 

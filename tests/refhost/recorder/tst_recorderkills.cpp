@@ -7,7 +7,6 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
@@ -19,21 +18,34 @@
 #include <optional>
 #include <vector>
 
+using refhost::OpenConnection;
+using refhost::StatisticsStore;
+
 namespace
 {
 
 constexpr int recordersAtOnce = 25;
 /// Longer than it takes until a recorder writes again what has passed.
 constexpr int longestLife = 7000;
+/// About what it takes until a recorder has begun its row.
+constexpr int earlyDeath = 150;
+constexpr qint64 oldestAllowed = 5000;
 
 /// A recorder in a process and a store of its own, killed once.
 class Victim
 {
 public:
+    /// What it is to live, in milliseconds.
     explicit Victim(int life)
         : m_life(life)
     {
     }
+    ~Victim() { kill(); }
+    Victim(const Victim &) = delete;
+    Victim &operator=(const Victim &) = delete;
+
+    bool isToDieEarly() const { return m_life < earlyDeath; }
+    int life() const { return m_life; }
 
     bool start()
     {
@@ -43,28 +55,35 @@ public:
         m_age.start();
         return m_process->waitForStarted();
     }
+    bool isRunning() const { return m_process != nullptr; }
     bool isConnected() const { return m_process->bytesAvailable() > 0; }
+    bool isDue() const { return isRunning() && m_age.elapsed() >= m_life; }
 
-    bool isDue() const { return m_process && m_age.elapsed() >= m_life; }
-    /// Returns for how many milliseconds the store had not been written to.
-    qint64 kill()
+    /// False if it had ended by itself.
+    bool kill()
     {
+        if (!m_process)
+            return true;
         m_process->kill();
-        const QDateTime now = QDateTime::currentDateTime();
         m_process->waitForFinished();
         const bool isKilled = m_process->exitStatus() == QProcess::CrashExit;
         m_process.reset();
-        const QDateTime written = QFileInfo(path() + "-wal").lastModified();
-        return isKilled && written.isValid() ? written.msecsTo(now) : -1;
+        return isKilled;
     }
-    bool isRunning() const { return m_process != nullptr; }
 
     QStringList records() const { return recordsIn(path()); }
-    std::vector<refhost::OpenConnection> openRows() const { return openRowsIn(path()); }
+    /// Nothing while there is no store.
+    std::vector<OpenConnection> openRows() const
+    {
+        const auto store = StatisticsStore::openForReading(path().toStdString());
+        return store ? store.value().listOpen().value() : std::vector<OpenConnection>();
+    }
+    bool hasFile() const { return QFileInfo::exists(path()); }
     QString integrity() const
     {
-        SQLite::Database store(path().toStdString(), SQLite::OPEN_READWRITE);
-        return QString::fromStdString(store.execAndGet("PRAGMA integrity_check").getString());
+        const SQLite::Database store(path().toStdString(), SQLite::OPEN_READWRITE);
+        SQLite::Statement check(store, "PRAGMA integrity_check");
+        return check.executeStep() ? QString::fromStdString(check.getColumn(0)) : QString();
     }
 
 private:
@@ -74,6 +93,35 @@ private:
     const QTemporaryDir m_folder;
     QElapsedTimer m_age;
     std::unique_ptr<QProcess> m_process;
+};
+
+using Victims = std::vector<std::unique_ptr<Victim>>;
+
+/// What has been sent since the line went up, and when.
+class Traffic
+{
+public:
+    Traffic() { m_clock.start(); }
+
+    qint64 now() const { return m_clock.elapsed(); }
+    qint64 bytes() const { return m_sent.empty() ? 0 : m_sent.back().bytes; }
+    void add(qint64 bytes) { m_sent.push_back({now(), this->bytes() + bytes}); }
+    /// For how long, at this time, a row with so many bytes had lacked some.
+    qint64 age(qint64 bytes, qint64 time) const
+    {
+        const auto missing = std::find_if(m_sent.begin(), m_sent.end(),
+                                          [bytes](const Sent &each) { return each.bytes > bytes; });
+        return missing == m_sent.end() ? 0 : std::max<qint64>(time - missing->time, 0);
+    }
+
+private:
+    struct Sent {
+        qint64 time;
+        qint64 bytes; ///< in all
+    };
+
+    QElapsedTimer m_clock;
+    std::vector<Sent> m_sent;
 };
 
 } // namespace
@@ -97,18 +145,19 @@ private slots:
     void theNextRecorderGoesOnToTheByte();
 
 private:
-    using Victims = std::vector<std::unique_ptr<Victim>>;
-
-    static bool startAll(const Victims &victims);
+    static void killWhatDiesEarly(const Victims &victims);
+    static bool startTheOthers(const Victims &victims);
     bool upload(int count, int size);
-    void killAllInTurn(campaign::Random &random, const Victims &victims);
+    void killTheOthersInTurn(campaign::Random &random, const Victims &victims);
+    void killAndMeasure(Victim &victim);
     void checkWhatIsLeft(const Victims &victims) const;
+    void goOn(const Victims &victims);
     void round(campaign::Random &random);
 
     const QString m_obstacle;
     std::optional<VethPair> m_line;
-    qint64 m_uploaded = 0;
-    qint64 m_oldest = 0;
+    std::optional<Traffic> m_traffic;
+    qint64 m_oldest = 0; ///< of all that was left, in milliseconds
 };
 
 void RecorderKillsTest::initTestCase()
@@ -122,74 +171,111 @@ void RecorderKillsTest::cleanup()
     m_line.reset();
 }
 
-bool RecorderKillsTest::startAll(const Victims &victims)
+/// Some before there is a row, a store or a file.
+void RecorderKillsTest::killWhatDiesEarly(const Victims &victims)
 {
-    return std::all_of(victims.begin(), victims.end(),
-                       [](const auto &victim) { return victim->start(); }) &&
-           QTest::qWaitFor(
-               [&victims] {
-                   return std::all_of(victims.begin(), victims.end(),
-                                      [](const auto &victim) { return victim->isConnected(); });
-               },
-               60000);
+    for (const auto &victim : victims) {
+        if (!victim->isToDieEarly())
+            continue;
+        QVERIFY(victim->start());
+        QTest::qWait(victim->life());
+        QVERIFY(victim->kill());
+    }
+}
+
+bool RecorderKillsTest::startTheOthers(const Victims &victims)
+{
+    const auto isConnected = [](const auto &victim) {
+        return !victim->isRunning() || victim->isConnected();
+    };
+    for (const auto &victim : victims) {
+        if (!victim->isToDieEarly() && !victim->start())
+            return false;
+    }
+    return QTest::qWaitFor([&] { return std::all_of(victims.begin(), victims.end(), isConnected); },
+                           60000);
 }
 
 bool RecorderKillsTest::upload(int count, int size)
 {
-    m_uploaded += VethPair::bytesOf(count, size);
+    m_traffic->add(VethPair::bytesOf(count, size));
     return m_line->upload(count, size);
 }
 
 /// Each at the end of its life; bytes go over the line all the time.
-void RecorderKillsTest::killAllInTurn(campaign::Random &random, const Victims &victims)
+void RecorderKillsTest::killTheOthersInTurn(campaign::Random &random, const Victims &victims)
 {
     const auto isRunning = [](const auto &victim) { return victim->isRunning(); };
     while (std::any_of(victims.begin(), victims.end(), isRunning)) {
         QVERIFY(upload(random.between(1, 5), random.between(1, 1400)));
         for (const auto &victim : victims) {
-            if (!victim->isDue())
-                continue;
-            const qint64 age = victim->kill();
-            QVERIFY(age >= 0);
-            m_oldest = std::max(m_oldest, age);
+            if (victim->isDue())
+                killAndMeasure(*victim);
         }
         QTest::qWait(20);
     }
 }
 
+void RecorderKillsTest::killAndMeasure(Victim &victim)
+{
+    const qint64 time = m_traffic->now();
+    QVERIFY(victim.kill());
+    const auto rows = victim.openRows();
+    QCOMPARE(rows.size(), std::size_t{1});
+    m_oldest = std::max(m_oldest, m_traffic->age(rows.front().uploadedBytes, time));
+}
+
 void RecorderKillsTest::checkWhatIsLeft(const Victims &victims) const
 {
     for (const auto &victim : victims) {
+        if (!victim->hasFile())
+            continue;
         QCOMPARE(victim->integrity(), QStringLiteral("ok"));
-        QVERIFY(victim->records().isEmpty());
         const auto rows = victim->openRows();
-        QCOMPARE(rows.size(), std::size_t{1});
-        QVERIFY(rows.front().uploadedBytes <= m_uploaded);
+        QVERIFY(rows.size() <= 1);
+        QVERIFY(rows.empty() || rows.front().uploadedBytes <= m_traffic->bytes());
+    }
+}
+
+/// Another recorder for each store: where there is a row, it goes on with it, else
+/// it begins one.
+void RecorderKillsTest::goOn(const Victims &victims)
+{
+    QVERIFY(upload(3, 300));
+    const qint64 before = m_traffic->bytes();
+    std::vector<qint64> expected;
+    for (const auto &victim : victims) {
+        expected.push_back(VethPair::bytesOf(2, 200) + (victim->openRows().empty() ? 0 : before));
+        QVERIFY(victim->start());
+    }
+    const auto isConnected = [](const auto &victim) { return victim->isConnected(); };
+    QVERIFY(QTest::qWaitFor(
+        [&] { return std::all_of(victims.begin(), victims.end(), isConnected); }, 60000));
+    QVERIFY(upload(2, 200));
+    QVERIFY(m_line->goDown());
+    for (std::size_t i = 0; i < victims.size(); ++i) {
+        const QStringList whole{QStringLiteral("wwan0 up %1 down 0 normal").arg(expected[i])};
+        QTRY_COMPARE_WITH_TIMEOUT(victims[i]->records(), whole, 60000);
+        QVERIFY(victims[i]->openRows().empty());
     }
 }
 
 void RecorderKillsTest::round(campaign::Random &random)
 {
     m_line.emplace();
-    m_uploaded = 0;
-    Victims victims;
-    for (int i = 0; i < recordersAtOnce; ++i)
-        victims.push_back(std::make_unique<Victim>(random.between(0, longestLife)));
     QVERIFY(m_line->goUp());
-    QVERIFY(startAll(victims));
-    killAllInTurn(random, victims);
-    checkWhatIsLeft(victims);
-
-    QVERIFY(upload(3, 300));
-    QVERIFY(startAll(victims));
-    QVERIFY(upload(2, 200));
-    QVERIFY(m_line->goDown());
-    const QStringList whole{QStringLiteral("wwan0 up %1 down 0 normal").arg(m_uploaded)};
-    for (const auto &victim : victims) {
-        QTRY_COMPARE_WITH_TIMEOUT(victim->records(), whole, 60000);
-        QVERIFY(victim->openRows().empty());
-        victim->kill();
+    m_traffic.emplace();
+    Victims victims;
+    for (int i = 0; i < recordersAtOnce; ++i) {
+        const int longest = random.once(4) ? earlyDeath - 1 : longestLife;
+        victims.push_back(std::make_unique<Victim>(random.between(0, longest)));
     }
+    killWhatDiesEarly(victims);
+    QVERIFY(startTheOthers(victims));
+    killTheOthersInTurn(random, victims);
+    checkWhatIsLeft(victims);
+    if (!QTest::currentTestFailed())
+        goOn(victims);
 }
 
 void RecorderKillsTest::theNextRecorderGoesOnToTheByte()
@@ -197,13 +283,13 @@ void RecorderKillsTest::theNextRecorderGoesOnToTheByte()
     const int kills = campaign::count(recordersAtOnce);
     campaign::Random random(campaign::seed(20260722));
     int killed = 0;
-    for (; killed < kills; killed += recordersAtOnce) {
+    for (; killed < kills && !QTest::currentTestFailed(); killed += recordersAtOnce)
         round(random);
-        if (QTest::currentTestFailed())
-            return;
-    }
     qInfo("%d recorders killed, what they left was at most %.1f seconds old", killed,
           static_cast<double>(m_oldest) / 1000);
+    // The short form shares the machine with other tests, so it only tells the age.
+    if (kills > recordersAtOnce)
+        QVERIFY(m_oldest <= oldestAllowed);
 }
 
 int main(int argc, char **argv)
