@@ -74,6 +74,56 @@ std::string add(std::istream &words)
     return store ? answer(store.value().add(connectionAt(second))) : answer(store.error());
 }
 
+/// "begin PATH SECOND" answers with the key for the other two.
+std::string begin(std::istream &words)
+{
+    std::string path;
+    refhost::OpenConnection open;
+    words >> path >> open.startUtc;
+    open.bootId = "boot";
+    auto store = StatisticsStore::openForRecording(path);
+    if (!store)
+        return answer(store.error());
+    const auto begun = store.value().begin(open);
+    return begun ? "ok " + std::to_string(begun.value().key) : answer(begun.error());
+}
+
+/// "checkpoint PATH KEY BYTES": so many have been sent.
+std::string checkpoint(std::istream &words)
+{
+    std::string path;
+    refhost::OpenConnection open;
+    words >> path >> open.key >> open.uploadedBytes;
+    open.bootId = "boot";
+    auto store = StatisticsStore::openForRecording(path);
+    return store ? answer(store.value().checkpoint(open)) : answer(store.error());
+}
+
+std::string finish(std::istream &words)
+{
+    std::string path;
+    std::int64_t key = 0;
+    std::int64_t second = 0;
+    words >> path >> key >> second;
+    auto store = StatisticsStore::openForRecording(path);
+    return store ? answer(store.value().finish(key, connectionAt(second))) : answer(store.error());
+}
+
+/// Of the first connection that is open.
+std::string openBytes(std::istream &words)
+{
+    std::string path;
+    words >> path;
+    const auto store = StatisticsStore::openForReading(path);
+    if (!store)
+        return answer(store.error());
+    const auto open = store.value().listOpen();
+    if (!open)
+        return answer(open.error());
+    return open.value().empty() ? "none"
+                                : "ok " + std::to_string(open.value().front().uploadedBytes);
+}
+
 std::string addMany(std::istream &words)
 {
     std::string path;
@@ -187,11 +237,15 @@ const std::map<std::string, Command> &commands()
         {"add", add},
         {"add-many", addMany},
         {"become-nobody", becomeNobody},
+        {"begin", begin},
+        {"checkpoint", checkpoint},
         {"count", count},
         {"fill-disk", fillDisk},
+        {"finish", finish},
         {"list", list},
         {"lock", lock},
         {"mount-small-disk", mountSmallDisk},
+        {"open-bytes", openBytes},
         {"remount-read-only", remountReadOnly},
         {"remove", remove},
         {"remove-file", removeFile},

@@ -61,6 +61,8 @@ private slots:
     void aReadOnlyDiskIsAnError();
     void aFullDiskLosesNothing();
     void aFullDiskTakesNoNewStore();
+    void anOpenConnectionOutlastsAFullDisk();
+    void aFullDiskKeepsWhatIsToBeRemoved();
     void aLockedStoreIsAnErrorUntilItIsReleased();
     void manyProcessesMakeTheSameStoreAtOnce();
     void twoStoresOfOneProcessShareTheFile();
@@ -195,6 +197,44 @@ void StoreSurroundingsTest::aFullDiskTakesNoNewStore()
     QVERIFY(isFailure(peer.tell("add " + m_path + " 8"), "WriteFailed", {"the disk is full"}));
     QCOMPARE(peer.tell("remove-file " + m_place + "/filler"), QString("ok"));
     QCOMPARE(peer.tell("add " + m_path + " 8"), QString("ok 1"));
+}
+
+void StoreSurroundingsTest::anOpenConnectionOutlastsAFullDisk()
+{
+    StorePeer peer;
+    if (!mountsSmallDisk(peer))
+        return;
+    const QString key = peer.tell("begin " + m_path + " 1000").section(' ', 1);
+    QVERIFY(peer.tell("checkpoint " + m_path + " " + key + " 50").startsWith("ok"));
+    QCOMPARE(peer.tell("fill-disk " + m_place + "/filler"), QString("ok"));
+    QVERIFY(isFailure(peer.tell("checkpoint " + m_path + " " + key + " 60"), "WriteFailed",
+                      {"the disk is full"}));
+    QVERIFY(isFailure(peer.tell("finish " + m_path + " " + key + " 1000"), "WriteFailed",
+                      {"the disk is full"}));
+    QVERIFY(isFailure(peer.tell("begin " + m_path + " 2000"), "WriteFailed", {"the disk is full"}));
+    QCOMPARE(peer.tell("remove-file " + m_place + "/filler"), QString("ok"));
+    QCOMPARE(peer.tell("open-bytes " + m_path), QString("ok 50"));
+    QCOMPARE(peer.tell("count " + m_path), QString("ok 0"));
+    QVERIFY(peer.tell("finish " + m_path + " " + key + " 1000").startsWith("ok"));
+    QCOMPARE(peer.tell("open-bytes " + m_path), QString("none"));
+    QCOMPARE(peer.tell("count " + m_path), QString("ok 1"));
+}
+
+void StoreSurroundingsTest::aFullDiskKeepsWhatIsToBeRemoved()
+{
+    qputenv("NETINFO_STORE", m_path.toUtf8()); // for the new process
+    StorePeer peer;
+    qunsetenv("NETINFO_STORE");
+    if (!mountsSmallDisk(peer))
+        return;
+    QCOMPARE(peer.tell("add " + m_path + " 7"), QString("ok 1"));
+    QCOMPARE(peer.tell("list"), QString("ok 1"));
+    QCOMPARE(peer.tell("fill-disk " + m_place + "/filler"), QString("ok"));
+    QVERIFY(peer.tell("remove 0") != QString("ok 0"));
+    QCOMPARE(peer.tell("remove-file " + m_place + "/filler"), QString("ok"));
+    QCOMPARE(peer.tell("list"), QString("ok 1"));
+    QCOMPARE(peer.tell("remove 0"), QString("ok 0"));
+    QCOMPARE(peer.tell("list"), QString("ok 0"));
 }
 
 void StoreSurroundingsTest::aLockedStoreIsAnErrorUntilItIsReleased()
