@@ -88,22 +88,29 @@ void deleteFromBare(benchmark::State &state, const Deletion &deletion)
     }
 }
 
-void registerDeletion(const std::string &name, const Deletion &deletion)
+void registerDeletion(const std::string &name, const Deletion &deletion,
+                      void (*work)(benchmark::State &, const Deletion &))
 {
-    const std::string rows = "/" + std::to_string(deletion.rows.size());
-    registerOnce("deletion/" + name + "/plug-in" + rows,
-                 [deletion](benchmark::State &state) { deleteFromPlugin(state, deletion); });
-    registerOnce("deletion/" + name + "/bare" + rows,
-                 [deletion](benchmark::State &state) { deleteFromBare(state, deletion); });
+    registerOnce("deletion/" + name + '/' + std::to_string(deletion.rows.size()),
+                 [deletion, work](benchmark::State &state) { work(state, deletion); });
+}
+
+void registerComparison(const std::string &name, const Deletion &deletion)
+{
+    registerDeletion(name + "/plug-in", deletion, deleteFromPlugin);
+    registerDeletion(name + "/bare", deletion, deleteFromBare);
 }
 
 } // namespace
 
 void registerDeletionBenchmarks(const Sizes &sizes)
 {
-    registerDeletion("scattered", scattered(sizes.deletionRows, sizes.scatteredRows));
+    registerComparison("scattered", scattered(sizes.deletionRows, sizes.scatteredRows));
+    // Ten times the ranges of a selection, not only ten times the rows.
+    registerDeletion("scattered/plug-in", scattered(sizes.deletionRows, 10 * sizes.scatteredRows),
+                     deleteFromPlugin);
     for (const int rows : sizes.blockRows)
-        registerDeletion("block", block(sizes.deletionRows, rows));
+        registerComparison("block", block(sizes.deletionRows, rows));
     const int all = sizes.blockRows.back();
-    registerDeletion("all", block(all, all));
+    registerComparison("all", block(all, all));
 }

@@ -140,7 +140,10 @@ void removeOneByOne(benchmark::State &state, int count)
                     qFatal("libsdk did not remove the record at %d.", i);
             }
         });
-        state.counters["syncs"] = static_cast<double>(syncsSoFar() - syncsBefore);
+        const long syncs = syncsSoFar() - syncsBefore;
+        if (syncs >= count)
+            qFatal("libsdk waited %ld times for the disk to remove %d records.", syncs, count);
+        state.counters["syncs"] = static_cast<double>(syncs);
     }
 }
 

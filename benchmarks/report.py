@@ -65,8 +65,9 @@ def lines():
                              ("all", 10000, "all of 10,000 rows")):
         names = [f"deletion/{kind}/{side}/{size}" for side in ("plug-in", "bare")]
         result.append(times(f"delete {work}", bare, names, 1.1))
-    result.append(("delete 10,000 rows, each", "each of 1,000", 1.1,
-                   lambda run: run.growth("deletion/block/plug-in", 10000, 1000)))
+    for kind, work in (("block", "rows one below the other"), ("scattered", "scattered rows")):
+        result.append((f"delete 10,000 {work}, each", "each of 1,000", 1.1,
+                       lambda run, kind=kind: run.growth(f"deletion/{kind}/plug-in", 10000, 1000)))
     result.append(("memory of a row of 100,000", bare, 1.05, lambda run: run.ratio(
         "fill/plug-in/100000", "fill/bare/100000", "bytes_per_row")))
     result.append(times("list 100,000 records of libsdk", "stepping with SQLite",
