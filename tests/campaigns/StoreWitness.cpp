@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWitness.h"
 
+#include "ConnectionValues.h"
 #include "RecordedConnection.h"
 #include "StatisticsStore.h"
 
@@ -11,19 +12,10 @@
 
 #include <sys/stat.h>
 
-#include <tuple>
-
 using namespace refhost;
 
 namespace
 {
-
-auto valuesOf(const Connection &connection)
-{
-    return std::tie(connection.profile, connection.startUtc, connection.endUtc,
-                    connection.connectedSeconds, connection.uploadedBytes,
-                    connection.downloadedBytes, connection.ending, connection.interfaceName);
-}
 
 /// Nobody else may have access for a moment. Less than the mode is what a umask
 /// leaves to a file whose maker was killed before it could give it the rest.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportedConnections.h"
 
+#include "ConnectionValues.h"
 #include "CsvFormat.h"
 #include "CsvReader.h"
 #include "Fuzz.h"
@@ -10,20 +11,12 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <tuple>
 
 using refhost::Connection;
 using refhost::StatisticsStore;
 
 namespace
 {
-
-auto valuesOf(const Connection &connection)
-{
-    return std::tie(connection.startUtc, connection.profile, connection.endUtc,
-                    connection.connectedSeconds, connection.uploadedBytes,
-                    connection.downloadedBytes, connection.ending, connection.interfaceName);
-}
 
 void sortByValue(std::vector<Connection> &connections)
 {

@@ -2,6 +2,7 @@
 // A real store with bytes changed and its end cut, through everything that reads
 // and writes it. The input is a list of edits: two bytes for the size that is
 // left (any larger one leaves it whole), then three bytes for each change.
+#include "ConnectionValues.h"
 #include "Fuzz.h"
 #include "KoraStatistics.h"
 #include "StatisticsStore.h"
@@ -18,7 +19,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <tuple>
 #include <vector>
 
 using refhost::Connection;
@@ -141,15 +141,6 @@ bool isSound(const std::string &path, const std::string &schema)
     }
 }
 
-using Values = std::tuple<std::string, std::int64_t, std::int64_t, std::int64_t, std::int64_t,
-                          std::int64_t, std::string, std::string>;
-
-Values valuesOf(const Connection &each)
-{
-    return {each.profile,       each.startUtc,        each.endUtc,        each.connectedSeconds,
-            each.uploadedBytes, each.downloadedBytes, each.interfaceName, each.ending};
-}
-
 /// What was listed before, changed by what the store has acknowledged since.
 class ExpectedList
 {
@@ -175,7 +166,7 @@ public:
     }
 
 private:
-    std::multiset<Values> m_values;
+    std::multiset<ConnectionValues> m_values;
 };
 
 void useStore(StatisticsStore &store, bool isSoundStore)
