@@ -40,6 +40,7 @@ private Q_SLOTS:
     void deletesWhatIsLeftOfRowsThatTheHostRemovedMeanwhile();
     void keepsTheSelectionOfRowsThatStay();
     void keepsTheSelectionWhereNothingIsDeleted();
+    void deletesNothingWhereACellIsMissing();
     void survivesTheEndDuringTheQuestion_data();
     void survivesTheEndDuringTheQuestion();
     void deletesThousandsOfRows();
@@ -383,6 +384,18 @@ void tst_Deletion::keepsTheSelectionWhereNothingIsDeleted()
     QCOMPARE(int(Host::instance().messageBoxes.size()), 1);
     QVERIFY(removals().isEmpty());
     QCOMPARE(m_plugin->table()->selectedItems().size(), 6);
+}
+
+void tst_Deletion::deletesNothingWhereACellIsMissing()
+{
+    start(3);
+    delete m_plugin->table()->takeItem(1, 3);
+    selectRows({0, 1});
+    LogCapture log;
+    trigger("onDelete");
+    QCOMPARE(int(log.take().filter(QStringLiteral("Arg is NULL")).size()), 1);
+    QVERIFY(removals().isEmpty());
+    QCOMPARE(m_plugin->table()->rowCount(), 3);
 }
 
 void tst_Deletion::survivesTheEndDuringTheQuestion_data()
