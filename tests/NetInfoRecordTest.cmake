@@ -1,4 +1,19 @@
 # SPDX-License-Identifier: MIT
+# Most of what a test takes to compile are the toolkit's headers, so all tests share
+# them compiled once. The toolkit tells each test its own folder, for data files that
+# these tests do not have; what they share must not differ.
+get_target_property(definitions Qt${QT_VERSION_MAJOR}::Test INTERFACE_COMPILE_DEFINITIONS)
+list(FILTER definitions EXCLUDE REGEX QT_TESTCASE_)
+set_target_properties(Qt${QT_VERSION_MAJOR}::Test PROPERTIES
+    INTERFACE_COMPILE_DEFINITIONS "${definitions}")
+file(CONFIGURE OUTPUT test_headers.cpp CONTENT "// Nothing but its precompiled header.\n")
+add_library(test_headers STATIC ${CMAKE_CURRENT_BINARY_DIR}/test_headers.cpp)
+target_link_libraries(test_headers PRIVATE
+    netinforecord_settings Qt${QT_VERSION_MAJOR}::Test Qt${QT_VERSION_MAJOR}::Widgets)
+target_precompile_headers(test_headers PRIVATE
+    <QTest> <QSignalSpy> <QTemporaryDir> <QApplication> <QProcess> <QRegularExpression>
+    <QTableWidget> <algorithm> <functional> <memory> <string> <vector>)
+
 # netinforecord_add_test(NAME LIBRARIES...): one QtTest program, NAME.cpp.
 # Tests run without a display, in one time zone and locale, and never see the
 # user's own settings or history.
@@ -7,7 +22,11 @@ function(netinforecord_add_test name)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     target_link_libraries(${name} PRIVATE
-        netinforecord_settings Qt${QT_VERSION_MAJOR}::Test ${ARGN})
+        netinforecord_settings Qt${QT_VERSION_MAJOR}::Test Qt${QT_VERSION_MAJOR}::Widgets ${ARGN})
+    target_precompile_headers(${name} REUSE_FROM test_headers)
+    # Nearly empty, and sooner compiled than the shared headers are read.
+    set_property(SOURCE ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
+        PROPERTY SKIP_PRECOMPILE_HEADERS ON)
     add_test(NAME ${name} COMMAND ${name})
     netinforecord_test_environment(${name})
 endfunction()

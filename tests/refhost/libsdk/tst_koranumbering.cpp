@@ -7,7 +7,7 @@
 #include "StorePeer.h"
 #include "StoreSamples.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <array>
 #include <limits>

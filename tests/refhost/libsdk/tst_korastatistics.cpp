@@ -5,7 +5,7 @@
 #include "NamedStore.h"
 #include "StoreSamples.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ListNumbering.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <random>

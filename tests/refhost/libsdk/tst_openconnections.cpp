@@ -7,7 +7,7 @@
 #include <SQLiteCpp/Database.h>
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 

@@ -3,7 +3,7 @@
 
 #include <SQLiteCpp/Database.h>
 
-#include <QtTest>
+#include <QTest>
 
 #include <exception>
 

@@ -4,7 +4,7 @@
 #include "StoreSamples.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 

@@ -4,7 +4,7 @@
 #include "NetworkNamespace.h"
 
 #include <QByteArray>
-#include <QtTest>
+#include <QTest>
 
 #include <fcntl.h>
 #include <linux/if_tun.h>

@@ -3,7 +3,7 @@
 
 #include "NetworkNamespace.h"
 
-#include <QtTest>
+#include <QTest>
 
 VethPair::VethPair()
     : m_isMade(ipBatch(QStringLiteral("link add wwan0 type veth peer name far0\n"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LinkMessage.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <libmnl/libmnl.h>
 #include <linux/if_addr.h>

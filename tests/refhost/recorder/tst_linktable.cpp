@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LinkTable.h"
 
-#include <QtTest>
+#include <QTest>
 
 using refhost::AddressReport;
 using refhost::LinkChange;

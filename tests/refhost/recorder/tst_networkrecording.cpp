@@ -7,8 +7,9 @@
 #include "VethPair.h"
 
 #include <QCoreApplication>
+#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 #include <optional>

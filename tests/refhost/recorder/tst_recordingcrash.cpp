@@ -6,8 +6,9 @@
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 #include <optional>
