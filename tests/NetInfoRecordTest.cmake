@@ -14,11 +14,19 @@ target_precompile_headers(test_headers PRIVATE
     <QTest> <QSignalSpy> <QTemporaryDir> <QApplication> <QProcess> <QRegularExpression>
     <QTableWidget> <algorithm> <functional> <memory> <string> <vector>)
 
+if(NETINFORECORD_SANITIZE)
+    add_library(ended_threads OBJECT EndedThreads.cpp)
+    target_link_libraries(ended_threads PRIVATE netinforecord_settings)
+endif()
+
 # netinforecord_add_test(NAME LIBRARIES...): one QtTest program, NAME.cpp.
 # Tests run without a display, in one time zone and locale, and never see the
 # user's own settings or history.
 function(netinforecord_add_test name)
     add_executable(${name} ${name}.cpp)
+    if(NETINFORECORD_SANITIZE)
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:ended_threads>)
+    endif()
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     target_link_libraries(${name} PRIVATE
