@@ -91,14 +91,24 @@ void ConnectionRecorder::catchUpWithLinks()
 
 bool ConnectionRecorder::start()
 {
-    if (!openBook() || !lockStore() || !m_links->start())
+    if (!openBook() || !lockStore() || !m_links->start()) {
+        giveUp();
         return false;
+    }
     m_book->catchUp();
     for (const Link &link : m_links->links())
         handleChange({link, false, false});
     connect(m_links, &LinkSource::linkChanged, this, &ConnectionRecorder::handleChange);
     m_timer.start();
     return true;
+}
+
+/// Who does not record or does not see the links must not settle what is open, for
+/// another recorder may be at it.
+void ConnectionRecorder::giveUp()
+{
+    m_book.reset();
+    m_lock.unlock();
 }
 
 bool ConnectionRecorder::openBook()

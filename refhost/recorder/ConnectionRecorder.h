@@ -108,6 +108,7 @@ private:
     bool isWatched(const std::string &interfaceName) const;
     bool stillLasts(const OpenConnection &row) const;
     bool lockStore();
+    void giveUp();
     void fail(const QString &reason);
     void stop(const QString &reason);
     void catchUpWithLinks();

@@ -27,7 +27,7 @@ public:
     void catchUp() override;
 
 private:
-    enum class Stage { Watching, ListingLinks, ListingAddresses, Failed };
+    enum class Stage { Idle, ListingLinks, ListingAddresses, Watching, Failed };
 
     void receiveAll();
     void handle(const nlmsghdr &message);
@@ -41,7 +41,7 @@ private:
     RouteSocket m_socket;
     QSocketNotifier *m_notifier = nullptr;
     LinkTable m_table;
-    Stage m_stage = Stage::Watching;
+    Stage m_stage = Stage::Idle;
     std::uint32_t m_sequence = 1; ///< of the listing; single requests have 1
     bool m_mustListAgain = false;
 };

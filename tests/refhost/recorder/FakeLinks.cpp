@@ -48,8 +48,9 @@ AddressReport addressGoneFrom(int index)
 
 bool FakeLinks::start()
 {
-    relist(atStart);
-    return true;
+    if (!isBlind)
+        relist(atStart);
+    return !isBlind;
 }
 
 void FakeLinks::tell(const LinkNews &news)

@@ -34,6 +34,7 @@ public:
     void relist(const std::vector<refhost::LinkNews> &news);
 
     std::vector<refhost::LinkNews> atStart; ///< what the first listing shows
+    bool isBlind = false;                   ///< there is no first listing
     std::vector<int> requests;
     std::vector<refhost::LinkNews> toCome;
 

@@ -89,6 +89,7 @@ private slots:
 
     void keepsWhatItCannotWriteAndTriesAgain();
     void saysWhenItCanWriteAgain();
+    void settlesNothingWhileItCannotSeeTheLinks();
     void saysWhyItCannotStart();
     void leavesTheRecordingToTheFirstRecorder();
 
@@ -529,8 +530,25 @@ void ConnectionRecorderTest::leavesTheRecordingToTheFirstRecorder()
     QTRY_COMPARE(m_failures->size(), 1);
     QVERIFY(m_failures->first().first().toString().contains(
         QString::number(QCoreApplication::applicationPid())));
+    m_recorder.reset();
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+    QVERIFY(!ConnectionRecorder(m_path).start());
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
     links->tell(downLink(3, "wwan0", 5, 6));
     QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5 down 6 normal"));
+}
+
+void ConnectionRecorderTest::settlesNothingWhileItCannotSeeTheLinks()
+{
+    addRow(rowOf(refhost::currentBootId(), 3));
+    auto links = std::make_unique<FakeLinks>();
+    links->isBlind = true;
+    auto recorder = std::make_unique<ConnectionRecorder>(m_path, QStringList(), std::move(links),
+                                                         std::make_unique<FakeClock>());
+    QVERIFY(!recorder->start());
+    recorder.reset();
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+    QVERIFY(recordsIn(m_path).isEmpty());
 }
 
 void ConnectionRecorderTest::saysWhyItCannotStart()
