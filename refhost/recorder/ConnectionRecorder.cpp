@@ -4,7 +4,10 @@
 #include "LinkMonitor.h"
 #include "LiveConnection.h"
 #include "RecordBook.h"
+#include "RecorderLock.h"
 #include "SystemClock.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <chrono>
@@ -50,15 +53,12 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     , m_interfaceNames(interfaceNames)
     , m_links(links.release())
     , m_clock(std::move(clock))
-    , m_lock(storePath + QStringLiteral(".recorder"))
     , m_bootId(currentBootId())
     , m_timer(this)
 {
     qRegisterMetaType<refhost::Connection>();
     qRegisterMetaType<refhost::ConnectionState>();
     m_links->setParent(this);
-    // The lock of a process that was killed is free again, however old it is.
-    m_lock.setStaleLockTime(0);
     connect(m_links, &LinkSource::failed, this, &ConnectionRecorder::stop);
     m_timer.setInterval(tickInterval);
     connect(&m_timer, &QTimer::timeout, this, &ConnectionRecorder::tick);
@@ -108,7 +108,7 @@ bool ConnectionRecorder::start()
 void ConnectionRecorder::giveUp()
 {
     m_book.reset();
-    m_lock.unlock();
+    m_lock.reset();
 }
 
 bool ConnectionRecorder::openBook()
@@ -137,24 +137,31 @@ bool ConnectionRecorder::openBook()
     return true;
 }
 
+/// One lock for a store, by whichever of its names it was opened.
 bool ConnectionRecorder::lockStore()
 {
-    if (m_lock.tryLock(0))
-        return true;
-    qint64 process = 0;
-    QString host;
-    QString program;
-    if (m_lock.error() == QLockFile::LockFailedError &&
-        m_lock.getLockInfo(&process, &host, &program))
-        fail(tr("Connections are recorded by another %1 already (process %2), and appear here "
-                "when the history is opened again.")
-                 .arg(program)
-                 .arg(process));
-    else
-        fail(tr("Connections are not recorded, for %1 cannot be written; allow yourself to write "
-                "there and start the program again.")
-                 .arg(m_storePath + QStringLiteral(".recorder")));
-    return false;
+    const QString store = QFileInfo(m_storePath).canonicalFilePath();
+    m_lock = std::make_unique<RecorderLock>(store + QStringLiteral(".recorder"));
+    const auto outcome = m_lock->take();
+    if (outcome == RecorderLock::Outcome::HeldByAnother)
+        fail(recordedByAnother(*m_lock));
+    else if (outcome == RecorderLock::Outcome::Failed)
+        fail(tr("Connections are not recorded, for %1 cannot be written (%2); allow yourself to "
+                "write there and start the program again.")
+                 .arg(m_lock->path(), m_lock->errorString()));
+    return outcome == RecorderLock::Outcome::Taken;
+}
+
+QString ConnectionRecorder::recordedByAnother(const RecorderLock &lock)
+{
+    const auto holder = lock.holder();
+    if (!holder)
+        return tr("Connections are recorded by another program already, and appear here when the "
+                  "history is opened again.");
+    return tr("Connections are recorded by another %1 already (process %2), and appear here when "
+              "the history is opened again.")
+        .arg(holder->program)
+        .arg(holder->process);
 }
 
 void ConnectionRecorder::fail(const QString &reason)

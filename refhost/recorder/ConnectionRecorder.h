@@ -4,7 +4,6 @@
 #include "StatisticsStore.h"
 
 #include <QDateTime>
-#include <QLockFile>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -20,6 +19,7 @@ namespace refhost
 class LinkSource;
 class LiveConnection;
 class RecordBook;
+class RecorderLock;
 class SystemClock;
 struct Link;
 struct LinkChange;
@@ -108,6 +108,7 @@ private:
     bool isWatched(const std::string &interfaceName) const;
     bool stillLasts(const OpenConnection &row) const;
     bool lockStore();
+    static QString recordedByAnother(const RecorderLock &lock);
     void giveUp();
     void fail(const QString &reason);
     void stop(const QString &reason);
@@ -121,7 +122,7 @@ private:
     QString m_profileName;
     LinkSource *const m_links; ///< a child
     const std::unique_ptr<SystemClock> m_clock;
-    QLockFile m_lock;
+    std::unique_ptr<RecorderLock> m_lock;
     std::unique_ptr<RecordBook> m_book;
     std::map<int, LiveConnection> m_live; ///< by the link's index
     std::string m_bootId;

@@ -17,5 +17,6 @@ int main(int argc, char **argv)
     });
     QObject::connect(&recorder, &refhost::ConnectionRecorder::failed, &recorder,
                      [](const QString &reason) { qFatal("%s", qPrintable(reason)); });
-    return recorder.start() ? QCoreApplication::exec() : 1;
+    recorder.start();
+    return QCoreApplication::exec();
 }

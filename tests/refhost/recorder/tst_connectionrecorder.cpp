@@ -89,6 +89,11 @@ private slots:
 
     void keepsWhatItCannotWriteAndTriesAgain();
     void saysWhenItCanWriteAgain();
+    void aStoreIsTheSameByAnyName();
+    void recordsWhateverAKilledRecorderLeftOfItsLock_data();
+    void recordsWhateverAKilledRecorderLeftOfItsLock();
+    void leavesNoLockBehind();
+    void saysWhyItCannotLock();
     void settlesNothingWhileItCannotSeeTheLinks();
     void saysWhyItCannotStart();
     void leavesTheRecordingToTheFirstRecorder();
@@ -536,6 +541,69 @@ void ConnectionRecorderTest::leavesTheRecordingToTheFirstRecorder()
     QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
     links->tell(downLink(3, "wwan0", 5, 6));
     QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5 down 6 normal"));
+}
+
+void ConnectionRecorderTest::aStoreIsTheSameByAnyName()
+{
+    QVERIFY(start());
+    const std::unique_ptr<ConnectionRecorder> first = std::move(m_recorder);
+    const QString link = m_folder->filePath(QStringLiteral("link.db"));
+    QVERIFY(QFile::link(m_path, link));
+    m_path = link;
+    QVERIFY(!start());
+}
+
+void ConnectionRecorderTest::recordsWhateverAKilledRecorderLeftOfItsLock_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const QByteArray process = QByteArray::number(QCoreApplication::applicationPid());
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("half of a number") << process.left(1);
+    QTest::newRow("a number that another process has now") << QByteArray("1\nsystemd\n");
+    QTest::newRow("a number that this process has now")
+        << process + '\n' + QCoreApplication::applicationName().toUtf8() + '\n';
+}
+
+void ConnectionRecorderTest::recordsWhateverAKilledRecorderLeftOfItsLock()
+{
+    QFETCH(QByteArray, text);
+    QFile lock(m_path + ".recorder");
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    QCOMPARE(lock.write(text), text.size());
+    lock.close();
+    QVERIFY(start());
+    const std::unique_ptr<ConnectionRecorder> first = std::move(m_recorder);
+    QVERIFY(!start());
+    QTRY_COMPARE(m_failures->size(), 1);
+    QCOMPARE(m_failures->first().first().toString(),
+             QStringLiteral("Connections are recorded by another %1 already (process %2), and "
+                            "appear here when the history is opened again.")
+                 .arg(QCoreApplication::applicationName())
+                 .arg(QCoreApplication::applicationPid()));
+}
+
+void ConnectionRecorderTest::leavesNoLockBehind()
+{
+    QVERIFY(start());
+    std::unique_ptr<ConnectionRecorder> first = std::move(m_recorder);
+    QVERIFY(!start());
+    m_recorder.reset();
+    QVERIFY(QFile::exists(m_path + ".recorder"));
+    first.reset();
+    QVERIFY(!QFile::exists(m_path + ".recorder"));
+}
+
+void ConnectionRecorderTest::saysWhyItCannotLock()
+{
+    const QString lock = m_path + ".recorder";
+    QVERIFY(QDir().mkdir(lock));
+    QVERIFY(!start());
+    QTRY_COMPARE(m_failures->size(), 1);
+    QCOMPARE(m_failures->first().first().toString(),
+             QStringLiteral("Connections are not recorded, for %1 cannot be written (Is a "
+                            "directory); allow yourself to write there and start the program "
+                            "again.")
+                 .arg(lock));
 }
 
 void ConnectionRecorderTest::settlesNothingWhileItCannotSeeTheLinks()
