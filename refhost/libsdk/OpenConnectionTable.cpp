@@ -16,6 +16,11 @@ constexpr const char *selection =
     " base_uploaded, base_downloaded, uploaded_bytes, downloaded_bytes, updated_utc,"
     " connected_seconds, ending, link_mark FROM open_connection ";
 
+/// Another file in the store's place may have a row of the same key, but not of the
+/// same connection.
+constexpr const char *sameConnection =
+    " WHERE key = ? AND boot_id = ? AND interface_index = ? AND start_boot_ms = ?";
+
 OpenConnection connectionIn(SQLite::Statement &row)
 {
     OpenConnection connection;
@@ -50,6 +55,15 @@ void bindProgress(SQLite::Statement &statement, const OpenConnection &connection
     statement.bind(8, connection.connectedSeconds);
     statement.bind(9, connection.ending);
     statement.bind(10, connection.linkMark);
+}
+
+/// Binds what sameConnection compares, from this parameter on.
+void bindIdentity(SQLite::Statement &statement, int first, const OpenConnection &connection)
+{
+    statement.bind(first, connection.key);
+    statement.bind(first + 1, connection.bootId);
+    statement.bind(first + 2, connection.interfaceIndex);
+    statement.bind(first + 3, connection.startBootMilliseconds);
 }
 
 } // namespace
@@ -102,16 +116,18 @@ bool OpenConnectionTable::update(const OpenConnection &connection)
         m_database, "UPDATE open_connection SET interface_name = ?, profile = ?,"
                     " base_uploaded = ?, base_downloaded = ?, uploaded_bytes = ?,"
                     " downloaded_bytes = ?, updated_utc = ?, connected_seconds = ?, ending = ?,"
-                    " link_mark = ? WHERE key = ?");
+                    " link_mark = ?" +
+                        std::string(sameConnection));
     bindProgress(statement, connection);
-    statement.bind(11, connection.key);
+    bindIdentity(statement, 11, connection);
     return statement.exec() == 1;
 }
 
-bool OpenConnectionTable::remove(std::int64_t key)
+bool OpenConnectionTable::remove(const OpenConnection &connection)
 {
-    SQLite::Statement statement(m_database, "DELETE FROM open_connection WHERE key = ?");
-    statement.bind(1, key);
+    SQLite::Statement statement(m_database,
+                                "DELETE FROM open_connection" + std::string(sameConnection));
+    bindIdentity(statement, 1, connection);
     return statement.exec() == 1;
 }
 

@@ -33,7 +33,7 @@ public:
     /// Writes what can change while a connection lasts; whether there was such a row.
     bool update(const OpenConnection &connection);
     /// Whether there was such a row to remove.
-    bool remove(std::int64_t key);
+    bool remove(const OpenConnection &connection);
 
 private:
     SQLite::Database &m_database;

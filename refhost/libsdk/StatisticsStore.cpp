@@ -263,12 +263,13 @@ Result<std::int64_t> StatisticsStore::checkpoint(const OpenConnection &connectio
     });
 }
 
-Result<std::int64_t> StatisticsStore::finish(std::int64_t openKey, const Connection &connection)
+Result<std::int64_t> StatisticsStore::finish(const OpenConnection &open,
+                                             const Connection &connection)
 {
     return d->attempt([&] {
         check(connection, "the connection");
         return d->database.write([&](ConnectionTable &table) -> std::int64_t {
-            const bool wasOpen = d->database.openConnections().remove(openKey);
+            const bool wasOpen = d->database.openConnections().remove(open);
             if (!wasOpen && table.holds(connection.interfaceName, connection.startUtc))
                 return 0;
             return table.insert(connection);

@@ -121,13 +121,13 @@ public:
     /// then, with its key. It is in no list before it is finished.
     Result<OpenConnection> begin(const OpenConnection &connection);
     /// Brings an open connection up to date: its names, mark, base, totals, last update
-    /// and ending; by its key, which is returned.
+    /// and ending; by its key, which is returned, link and start.
     Result<std::int64_t> checkpoint(const OpenConnection &connection);
-    /// Turns the open connection with this key into the finished one that is
-    /// given, both at once, and returns the finished one's key. If it is open no
+    /// Turns the open connection, known as for checkpoint(), into the finished one that
+    /// is given, both at once, and returns the finished one's key. If it is open no
     /// longer, another process may have finished it: then the connection is added
     /// unless one of the same interface and start is there, which gives 0.
-    Result<std::int64_t> finish(std::int64_t openKey, const Connection &connection);
+    Result<std::int64_t> finish(const OpenConnection &open, const Connection &connection);
     /// The connections that have begun and not been finished, by key.
     Result<std::vector<OpenConnection>> listOpen() const;
 

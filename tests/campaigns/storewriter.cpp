@@ -43,7 +43,7 @@ void recordLive(StatisticsStore &store, std::int64_t number)
         valueOrExit(store.checkpoint(open));
         tell("saved", number, update);
     }
-    valueOrExit(store.finish(open.key, finishedConnection(number)));
+    valueOrExit(store.finish(open, finishedConnection(number)));
     tell("finished", number);
 }
 

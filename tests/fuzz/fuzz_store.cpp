@@ -181,7 +181,7 @@ void useStore(StatisticsStore &store, bool isSoundStore)
     requireSentence(begun);
     if (begun) {
         requireSentence(store.checkpoint(begun.value()));
-        const auto finished = store.finish(begun.value().key, sampleConnection(100));
+        const auto finished = store.finish(begun.value(), sampleConnection(100));
         requireSentence(finished);
         if (finished)
             expected.add(sampleConnection(100));

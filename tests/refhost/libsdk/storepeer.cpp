@@ -102,11 +102,12 @@ std::string checkpoint(std::istream &words)
 std::string finish(std::istream &words)
 {
     std::string path;
-    std::int64_t key = 0;
+    refhost::OpenConnection open;
     std::int64_t second = 0;
-    words >> path >> key >> second;
+    words >> path >> open.key >> second;
+    open.bootId = "boot";
     auto store = StatisticsStore::openForRecording(path);
-    return store ? answer(store.value().finish(key, connectionAt(second))) : answer(store.error());
+    return store ? answer(store.value().finish(open, connectionAt(second))) : answer(store.error());
 }
 
 /// Of the first connection that is open.

@@ -99,6 +99,7 @@ private slots:
     void aLinkHasOneOpenConnectionAtMost();
     void checkpointChangesWhatMayChange();
     void checkpointOfNoOpenConnectionIsAnError();
+    void theSameKeyOfAnotherConnectionMeansNothing();
     void finishingMovesItIntoTheList();
     void finishingWhatAnotherProcessHasFinishedAddsNothing();
     void finishingInAStoreThatHasBeenReplacedAddsIt();
@@ -235,13 +236,26 @@ void OpenConnectionsTest::checkpointOfNoOpenConnectionIsAnError()
                  "program has finished it or the file has been replaced.");
 }
 
+/// As in a copy of an earlier day that was put in the store's place.
+void OpenConnectionsTest::theSameKeyOfAnotherConnectionMeansNothing()
+{
+    StatisticsStore store = open();
+    const OpenConnection other = store.begin(openConnection("an earlier boot", 3)).value();
+    OpenConnection own = openConnection("boot", 3);
+    own.key = other.key;
+    QCOMPARE(outcomeOf(store.checkpoint(own)), QStringLiteral("NoSuchRecord"));
+    QVERIFY(store.finish(own, connection("internet", 1700000000, 1700000060)));
+    QCOMPARE(outcomeOf(store.list()), QStringLiteral("internet"));
+    QCOMPARE(fieldsOf(store.listOpen().value()), fieldsOf({other}));
+}
+
 void OpenConnectionsTest::finishingMovesItIntoTheList()
 {
     StatisticsStore store = open();
     const auto begun = store.begin(openConnection("boot", 3));
     Connection finished = connection("internet", 1700000000, 1700000060);
     finished.uploadedBytes = 17;
-    const auto key = store.finish(begun.value().key, finished);
+    const auto key = store.finish(begun.value(), finished);
     QVERIFY(key);
     QVERIFY(store.listOpen().value().empty());
     const auto list = store.list().value();
@@ -257,9 +271,9 @@ void OpenConnectionsTest::finishingWhatAnotherProcessHasFinishedAddsNothing()
     const auto begun = store.begin(openConnection("boot", 3));
     Connection finished = connection("internet", 1700000000, 1700000060);
     finished.interfaceName = "wwan0";
-    QVERIFY(other.finish(begun.value().key, finished));
+    QVERIFY(other.finish(begun.value(), finished));
     finished.endUtc += 1;
-    QCOMPARE(outcomeOf(store.finish(begun.value().key, finished)), QStringLiteral("0"));
+    QCOMPARE(outcomeOf(store.finish(begun.value(), finished)), QStringLiteral("0"));
     QCOMPARE(outcomeOf(store.list()), QStringLiteral("internet"));
 }
 
@@ -269,7 +283,7 @@ void OpenConnectionsTest::finishingInAStoreThatHasBeenReplacedAddsIt()
     const auto begun = store.begin(openConnection("boot", 3));
     for (const char *const suffix : {"", "-wal", "-shm"})
         QFile::remove(QString::fromStdString(m_path + suffix));
-    QVERIFY(store.finish(begun.value().key, connection("internet", 1700000000, 1700000060)));
+    QVERIFY(store.finish(begun.value(), connection("internet", 1700000000, 1700000060)));
     QCOMPARE(profilesIn(m_path), QStringLiteral("internet"));
 }
 
@@ -279,7 +293,7 @@ void OpenConnectionsTest::finishingWithValuesOutOfRangeLeavesItOpen()
     const auto begun = store.begin(openConnection("boot", 3));
     Connection finished = connection("internet", 1700000000, 1700000060);
     finished.downloadedBytes = -1;
-    QCOMPARE(outcomeOf(store.finish(begun.value().key, finished)), QStringLiteral("BadRecord"));
+    QCOMPARE(outcomeOf(store.finish(begun.value(), finished)), QStringLiteral("BadRecord"));
     QCOMPARE(store.listOpen().value().size(), std::size_t{1});
     QCOMPARE(rowsIn(m_path, "connection"), std::int64_t{0});
 }

@@ -178,7 +178,7 @@ void StoreTotalsTest::leavesOpenConnectionsOut()
     const auto begun = history.begin(open);
     QVERIFY(begun);
     QCOMPARE(linesOf(history.totals({}, Profiles::Apart, onePeriod)), QStringList{"a|0|1|10|1|1"});
-    QVERIFY(history.finish(begun.value().key, volume("a", 100, 1000, 2)));
+    QVERIFY(history.finish(begun.value(), volume("a", 100, 1000, 2)));
     QCOMPARE(linesOf(history.totals({}, Profiles::Apart, onePeriod)),
              QStringList{"a|0|2|20|1001|3"});
 }
