@@ -22,10 +22,21 @@ constexpr std::chrono::seconds tickInterval(1);
 // The store is to be at most five seconds behind: a tick, the kernel's answer and
 // the writing take their time too.
 constexpr int ticksPerCheckpoint = 4;
+/// Between attempts to start.
+constexpr std::chrono::seconds retryInterval(2);
 
 bool isMobile(const std::string &interfaceName)
 {
     return interfaceName.rfind("ppp", 0) == 0 || interfaceName.rfind("wwan", 0) == 0;
+}
+
+const Link *linkOf(const OpenConnection &row, const std::vector<Link> &links)
+{
+    const auto link = std::find_if(links.begin(), links.end(), [&row](const Link &each) {
+        return each.index == row.interfaceIndex && each.isConnected() &&
+               each.connectionMark() == row.linkMark;
+    });
+    return link == links.end() ? nullptr : &*link;
 }
 
 /// Queued, so that a listener that opens a dialog does not hold up or re-enter
@@ -55,6 +66,7 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     , m_clock(std::move(clock))
     , m_bootId(currentBootId())
     , m_timer(this)
+    , m_retryTimer(this)
 {
     qRegisterMetaType<refhost::Connection>();
     qRegisterMetaType<refhost::ConnectionState>();
@@ -62,6 +74,8 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     connect(m_links, &LinkSource::failed, this, &ConnectionRecorder::stop);
     m_timer.setInterval(tickInterval);
     connect(&m_timer, &QTimer::timeout, this, &ConnectionRecorder::tick);
+    m_retryTimer.setInterval(retryInterval);
+    connect(&m_retryTimer, &QTimer::timeout, this, &ConnectionRecorder::tryAgain);
 }
 
 ConnectionRecorder::~ConnectionRecorder()
@@ -71,7 +85,7 @@ ConnectionRecorder::~ConnectionRecorder()
     catchUpWithLinks();
     m_book->catchUp();
     for (auto &entry : m_live)
-        m_book->save(entry.second, now());
+        m_book->save(entry.second);
 }
 
 /// What has ended must not be left open, and what lasts is left as it is now.
@@ -91,10 +105,27 @@ void ConnectionRecorder::catchUpWithLinks()
 
 bool ConnectionRecorder::start()
 {
+    const bool hasStarted = tryToStart();
+    m_isLate = true;
+    if (!hasStarted)
+        m_retryTimer.start();
+    return hasStarted;
+}
+
+void ConnectionRecorder::tryAgain()
+{
+    if (tryToStart())
+        m_retryTimer.stop();
+}
+
+bool ConnectionRecorder::tryToStart()
+{
     if (!openBook() || !lockStore() || !m_links->start()) {
         giveUp();
         return false;
     }
+    removeObstacle();
+    m_linksAtStart = m_links->links();
     m_book->catchUp();
     for (const Link &link : m_links->links())
         handleChange({link, false, false});
@@ -114,17 +145,21 @@ void ConnectionRecorder::giveUp()
 bool ConnectionRecorder::openBook()
 {
     if (m_bootId.empty()) {
-        fail(tr("\"/proc/sys/kernel/random/boot_id\" cannot be read, so connections are not "
-                "recorded; mount /proc and start the program again."));
+        obstruct(tr("\"/proc/sys/kernel/random/boot_id\" cannot be read, so connections are not "
+                    "recorded; mount /proc and start the program again."));
         return false;
     }
     auto store = StatisticsStore::openForRecording(m_storePath.toStdString());
     if (!store) {
-        fail(QString::fromStdString(store.error().message));
+        obstruct(QString::fromStdString(store.error().message));
         return false;
     }
     const auto finished = [this](const Connection &connection, std::int64_t id) {
         later(this, [this, connection, id] { emit disconnected(connection, id); });
+    };
+    const auto recovered = [this](const Connection &connection) {
+        if (m_isLate)
+            later(this, [this, connection] { emit disconnected(connection, 0); });
     };
     const auto succeededToWrite = [this] { later(this, [this] { emit succeeded(); }); };
     const auto failedToWrite = [this](const StoreError &error) {
@@ -133,22 +168,24 @@ bool ConnectionRecorder::openBook()
     m_book = std::make_unique<RecordBook>(
         std::move(store.value()), m_bootId,
         [this](const OpenConnection &row) { return stillLasts(row); },
-        RecordBook::Listener{finished, failedToWrite, succeededToWrite});
+        RecordBook::Listener{finished, recovered, failedToWrite, succeededToWrite});
     return true;
 }
 
 /// One lock for a store, by whichever of its names it was opened.
 bool ConnectionRecorder::lockStore()
 {
-    const QString store = QFileInfo(m_storePath).canonicalFilePath();
-    m_lock = std::make_unique<RecorderLock>(store + QStringLiteral(".recorder"));
+    const QFileInfo store(m_storePath);
+    m_lock = std::make_unique<RecorderLock>(store.exists() ? store.canonicalFilePath()
+                                                           : store.absoluteFilePath());
     const auto outcome = m_lock->take();
     if (outcome == RecorderLock::Outcome::HeldByAnother)
-        fail(recordedByAnother(*m_lock));
+        obstruct(recordedByAnother(*m_lock));
     else if (outcome == RecorderLock::Outcome::Failed)
-        fail(tr("Connections are not recorded, for %1 cannot be written (%2); allow yourself to "
-                "write there and start the program again.")
-                 .arg(m_lock->path(), m_lock->errorString()));
+        obstruct(
+            tr("Connections are not recorded, for %1 cannot be written (%2); allow yourself to "
+               "write there and start the program again.")
+                .arg(m_lock->path(), m_lock->errorString()));
     return outcome == RecorderLock::Outcome::Taken;
 }
 
@@ -169,11 +206,31 @@ void ConnectionRecorder::fail(const QString &reason)
     later(this, [this, reason] { emit failed(reason); });
 }
 
+/// Told once, however often it is met.
+void ConnectionRecorder::obstruct(const QString &reason)
+{
+    if (reason == m_obstacle)
+        return;
+    m_obstacle = reason;
+    fail(reason);
+}
+
+void ConnectionRecorder::removeObstacle()
+{
+    if (m_obstacle.isEmpty())
+        return;
+    m_obstacle.clear();
+    later(this, [this] {
+        emit succeeded();
+        emit started();
+    });
+}
+
 /// Nothing more will be heard of the links; what is known is kept for the next start.
 void ConnectionRecorder::stop(const QString &reason)
 {
     m_timer.stop();
-    fail(reason);
+    obstruct(reason);
 }
 
 void ConnectionRecorder::setProfileName(const QString &name)
@@ -188,7 +245,7 @@ void ConnectionRecorder::handleChange(const LinkChange &change)
     const auto live = m_live.find(change.link.index);
     if (live != m_live.end())
         handleLiveChange(live->second, change);
-    else if (!change.isGone && change.link.isConnected() && isWatched(change.link.name))
+    else if (!change.isGone && change.link.isConnected() && isWatched(change.link))
         begin(change.link, change.link.idleCounters);
 }
 
@@ -213,27 +270,27 @@ void ConnectionRecorder::handleLiveChange(LiveConnection &connection, const Link
 
 void ConnectionRecorder::begin(const Link &link, const LinkCounters &base)
 {
-    const Moment moment = now();
     const auto [live, isNew] = m_live.try_emplace(link.index, ++m_lastId, m_bootId,
-                                                  profileFor(link.name), link, base, moment);
+                                                  profileFor(link.name), link, base, now());
     LiveConnection &connection = live->second;
-    m_book->save(connection, moment);
     // What an earlier process has recorded may bear another profile.
     if (!m_profileName.isEmpty())
         connection.setProfile(m_profileName.toStdString());
+    m_book->save(connection);
     later(this, [this, state = stateOf(connection)] { emit connected(state); });
 }
 
 void ConnectionRecorder::finish(LiveConnection &connection, bool hasFinalCounters)
 {
     m_book->finish(connection, hasFinalCounters);
+    m_resumedLinks.erase(connection.linkIndex());
     m_live.erase(connection.linkIndex());
 }
 
 void ConnectionRecorder::report(LiveConnection &connection)
 {
     if (connection.isCheckpointDue)
-        m_book->save(connection, now());
+        m_book->save(connection);
     connection.isCheckpointDue = false;
     if (connection.isStateDue)
         later(this, [this, state = stateOf(connection)] { emit stateChanged(state); });
@@ -258,24 +315,31 @@ void ConnectionRecorder::tick()
 void ConnectionRecorder::requestCounters()
 {
     for (const Link &link : m_links->links()) {
-        if (m_live.count(link.index) != 0 || (link.isUp && isWatched(link.name)))
+        if (m_live.count(link.index) != 0 || (link.isUp && isWatched(link)))
             m_links->requestCounters(link.index);
     }
 }
 
-bool ConnectionRecorder::isWatched(const std::string &interfaceName) const
+bool ConnectionRecorder::isWatched(const Link &link) const
 {
-    return isMobile(interfaceName) ||
-           m_interfaceNames.contains(QString::fromStdString(interfaceName));
+    return isMobile(link.name) || m_interfaceNames.contains(QString::fromStdString(link.name)) ||
+           m_resumedLinks.count(link.index) != 0;
 }
 
-bool ConnectionRecorder::stillLasts(const OpenConnection &row) const
+/// Asked late if the store was locked in the beginning: what was connected then and
+/// has ended since waits to go on with the row.
+bool ConnectionRecorder::stillLasts(const OpenConnection &row)
 {
-    const auto links = m_links->links();
-    return std::any_of(links.begin(), links.end(), [&row](const Link &link) {
-        return link.index == row.interfaceIndex && link.isConnected() &&
-               link.connectionMark() == row.linkMark;
-    });
+    const Link *const link = linkOf(row, m_linksAtStart);
+    if (!link)
+        return false;
+    if (isWatched(*link))
+        return true;
+    // Renamed meanwhile, or watched only by the process before.
+    if (!linkOf(row, m_links->links()))
+        return false;
+    m_resumedLinks.insert(link->index);
+    return true;
 }
 
 std::string ConnectionRecorder::profileFor(const std::string &interfaceName) const

@@ -11,7 +11,9 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
+#include <vector>
 
 namespace refhost
 {
@@ -52,8 +54,8 @@ struct ConnectionState {
 /// start plus the time connected, which is measured by a clock that never jumps
 /// and counts suspend.
 ///
-/// Of several recorders for one store the first one records; the others cannot
-/// start.
+/// Of several recorders for one store the first one records; when it ends, another
+/// one goes on with what is connected.
 ///
 /// Signals come from the event loop, never from within a call, one after the
 /// other. Everything happens on the thread that the recorder lives in, which may
@@ -77,7 +79,8 @@ public:
 
 public slots:
     /// Opens the store, settles what earlier processes left open, and begins to
-    /// watch; false, with failed(), if that is not possible. To be called once.
+    /// watch; false, with failed(), if that is not possible. Then it is tried again
+    /// every other second until there is started(). To be called once.
     bool start();
 
     /// Names the profile of present and coming connections; with an empty name,
@@ -85,8 +88,11 @@ public slots:
     void setProfileName(const QString &name);
 
 signals:
+    /// It could not start in the beginning, and has now.
+    void started();
     void connected(const refhost::ConnectionState &state);
-    /// The connection is finished in the store already; `id` is its state's.
+    /// The connection is finished in the store already; `id` is its state's, or 0 if
+    /// an earlier process had left it open and start() could not settle that yet.
     void disconnected(const refhost::Connection &connection, qint64 id);
     /// Once a second for each connection that lasts.
     void stateChanged(const refhost::ConnectionState &state);
@@ -97,6 +103,8 @@ signals:
     void succeeded();
 
 private:
+    bool tryToStart();
+    void tryAgain();
     void handleChange(const LinkChange &change);
     void handleLiveChange(LiveConnection &connection, const LinkChange &change);
     void begin(const Link &link, const LinkCounters &base);
@@ -105,12 +113,14 @@ private:
     void tick();
     void requestCounters();
     bool openBook();
-    bool isWatched(const std::string &interfaceName) const;
-    bool stillLasts(const OpenConnection &row) const;
+    bool isWatched(const Link &link) const;
+    bool stillLasts(const OpenConnection &row);
     bool lockStore();
     static QString recordedByAnother(const RecorderLock &lock);
     void giveUp();
     void fail(const QString &reason);
+    void obstruct(const QString &reason);
+    void removeObstacle();
     void stop(const QString &reason);
     void catchUpWithLinks();
     std::string profileFor(const std::string &interfaceName) const;
@@ -125,8 +135,13 @@ private:
     std::unique_ptr<RecorderLock> m_lock;
     std::unique_ptr<RecordBook> m_book;
     std::map<int, LiveConnection> m_live; ///< by the link's index
+    std::vector<Link> m_linksAtStart;
+    std::set<int> m_resumedLinks; ///< watched for the connection that they have
     std::string m_bootId;
+    QString m_obstacle; ///< why it cannot record, as it was told last
+    bool m_isLate = false;
     QTimer m_timer;
+    QTimer m_retryTimer;
     int m_ticks = 0;
     std::int64_t m_lastId = 0;
 };

@@ -2,6 +2,7 @@
 #include "LiveConnection.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace refhost
 {
@@ -32,6 +33,13 @@ bool advanceTotal(std::int64_t counter, std::int64_t &base, std::int64_t &total)
     return false;
 }
 
+void leaveOutOf(std::int64_t &base, std::int64_t &total, std::int64_t counted)
+{
+    const std::int64_t excess = std::max<std::int64_t>(counted - base, 0);
+    base += excess;
+    total -= excess;
+}
+
 std::int64_t perSecond(std::int64_t bytes, std::int64_t milliseconds)
 {
     // Bytes of hours at any speed stay far below the range of the product.
@@ -58,12 +66,14 @@ LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
                                const std::string &profile, const Link &link,
                                const LinkCounters &base, const Moment &now)
     : m_id(id)
+    , m_linkMark(link.connectionMark())
+    , m_countersAtFirst(link.counters)
     , m_rateMilliseconds(now.bootMilliseconds)
 {
     m_row.bootId = bootId;
     m_row.interfaceIndex = link.index;
     m_row.interfaceName = link.name;
-    m_row.linkMark = link.connectionMark();
+    m_row.linkMark = m_linkMark;
     m_row.profile = profile;
     m_row.startUtc = storableSeconds(now.utcSeconds);
     m_row.startBootMilliseconds = now.bootMilliseconds;
@@ -75,15 +85,30 @@ LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
     advance(link.counters, now);
 }
 
-void LiveConnection::adopt(const OpenConnection &stored, const Moment &now)
+void LiveConnection::adopt(const OpenConnection &stored)
 {
-    const std::string name = m_row.interfaceName;
-    const std::string mark = m_row.linkMark;
-    m_row = stored;
-    m_row.interfaceName = name;
-    m_row.linkMark = mark;
+    const OpenConnection own = std::exchange(m_row, stored);
+    m_row.interfaceName = own.interfaceName;
+    m_row.linkMark = m_linkMark;
+    if (m_hasOwnProfile)
+        m_row.profile = own.profile;
     m_rateTotals = {stored.uploadedBytes, stored.downloadedBytes};
-    advance(m_counters, now);
+    advance(m_counters, m_moment);
+}
+
+void LiveConnection::leaveOut(const LinkCounters &counted)
+{
+    if (counted.uploaded > m_countersAtFirst.uploaded ||
+        counted.downloaded > m_countersAtFirst.downloaded || m_row.ending == endedAfterReset)
+        return;
+    leaveOutOf(m_row.baseUploaded, m_row.uploadedBytes, counted.uploaded);
+    leaveOutOf(m_row.baseDownloaded, m_row.downloadedBytes, counted.downloaded);
+}
+
+void LiveConnection::setProfile(const std::string &profile)
+{
+    m_row.profile = profile;
+    m_hasOwnProfile = true;
 }
 
 void LiveConnection::advance(const LinkCounters &counters, const Moment &now)
@@ -101,17 +126,19 @@ void LiveConnection::setLink(const Link &link)
 {
     m_row.interfaceName = link.name;
     const std::string mark = link.connectionMark();
+    if (hasEnded() || !link.isConnected() || mark == m_linkMark)
+        return;
+    m_linkMark = mark;
     // An old mark in the store would make another connection of this one.
-    if (!m_hasEnded && link.isConnected() && mark != m_row.linkMark) {
+    if (m_row.key != 0)
         m_row.linkMark = mark;
-        isCheckpointDue = true;
-    }
+    isCheckpointDue = true;
 }
 
 void LiveConnection::end(const Moment &now)
 {
     updateTimes(now);
-    m_hasEnded = true;
+    m_end = m_moment;
 }
 
 Connection LiveConnection::finished(bool hasFinalCounters) const
@@ -134,12 +161,12 @@ LinkCounters LiveConnection::takeRate(const Moment &now)
 /// end; the start and the time connected do.
 void LiveConnection::updateTimes(const Moment &now)
 {
-    if (m_hasEnded)
-        return;
+    m_moment = m_end.value_or(now);
     m_row.connectedSeconds =
-        storableSeconds((now.bootMilliseconds - m_row.startBootMilliseconds) / 1000);
-    m_row.updatedUtc = storableSeconds(
-        now.utcSeconds < m_row.startUtc ? m_row.startUtc + m_row.connectedSeconds : now.utcSeconds);
+        storableSeconds((m_moment.bootMilliseconds - m_row.startBootMilliseconds) / 1000);
+    m_row.updatedUtc = storableSeconds(m_moment.utcSeconds < m_row.startUtc
+                                           ? m_row.startUtc + m_row.connectedSeconds
+                                           : m_moment.utcSeconds);
 }
 
 Connection recovered(const OpenConnection &row)

@@ -5,6 +5,7 @@
 #include "StatisticsStore.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace refhost
@@ -30,10 +31,13 @@ public:
     const OpenConnection &row() const { return m_row; }
 
     /// Goes on with what the store has of this connection: the same, or what an
-    /// earlier process has recorded of it.
-    void adopt(const OpenConnection &stored, const Moment &now);
+    /// earlier process has recorded of it, except for a profile that was set here.
+    void adopt(const OpenConnection &stored);
+    /// Leaves out what the link's counters showed up to these values, because it is
+    /// in another record, unless they have begun anew since.
+    void leaveOut(const LinkCounters &counted);
 
-    void setProfile(const std::string &profile) { m_row.profile = profile; }
+    void setProfile(const std::string &profile);
     /// Takes over what the link is called and marked with.
     void setLink(const Link &link);
 
@@ -45,7 +49,7 @@ public:
     /// It has ended, at the first of these moments; its final counters may still
     /// be on their way.
     void end(const Moment &now);
-    bool hasEnded() const { return m_hasEnded; }
+    bool hasEnded() const { return m_end.has_value(); }
     /// The finished connection; one without its final counters is "recovered".
     Connection finished(bool hasFinalCounters) const;
 
@@ -60,11 +64,17 @@ private:
     void updateTimes(const Moment &now);
 
     const std::int64_t m_id;
+    /// Until it is in the store, with the mark that the link had in the beginning:
+    /// an earlier process's row has that one.
     OpenConnection m_row;
+    std::string m_linkMark; ///< at present
+    bool m_hasOwnProfile = false;
+    const LinkCounters m_countersAtFirst;
     LinkCounters m_counters;
+    Moment m_moment; ///< of those
     LinkCounters m_rateTotals;
     std::int64_t m_rateMilliseconds = 0;
-    bool m_hasEnded = false;
+    std::optional<Moment> m_end;
 };
 
 /// A connection that an earlier process had left open, as it was last known.

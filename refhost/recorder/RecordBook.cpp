@@ -1,11 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "RecordBook.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace refhost
 {
+
+namespace
+{
+
+/// Of two of the same link: a mark may change while a connection lasts.
+bool areSame(const OpenConnection &a, const OpenConnection &b)
+{
+    return a.linkMark == b.linkMark || a.startBootMilliseconds == b.startBootMilliseconds;
+}
+
+} // namespace
 
 RecordBook::RecordBook(StatisticsStore store, std::string bootId, StillLasts stillLasts,
                        Listener listener)
@@ -21,56 +31,93 @@ void RecordBook::recoverEarlierConnections()
     const auto open = m_store.listOpen();
     if (!open)
         return fail(open.error());
-    m_isRecovered = std::all_of(open.value().begin(), open.value().end(),
-                                [this](const OpenConnection &row) { return recover(row); });
-}
-
-bool RecordBook::recover(const OpenConnection &row)
-{
-    if (row.bootId == m_bootId && m_stillLasts(row))
-        return true;
-    const auto key = m_store.finish(row.key, recovered(row));
-    if (!key)
+    bool isComplete = true;
+    for (const OpenConnection &row : open.value()) {
+        if (row.bootId == m_bootId && m_stillLasts(row))
+            continue;
+        const auto key = close(row);
+        if (key)
+            continue;
         fail(key.error());
-    return static_cast<bool>(key);
+        // What the store does not take at all must not keep the rest from it.
+        if (key.error().kind != StoreError::Kind::BadRecord)
+            return;
+        isComplete = false;
+    }
+    m_isRecovered = true;
+    if (isComplete)
+        succeed();
 }
 
-void RecordBook::save(LiveConnection &connection, const Moment &now)
+Result<std::int64_t> RecordBook::close(const OpenConnection &row)
+{
+    const Connection connection = recovered(row);
+    auto key = m_store.finish(row, connection);
+    if (!key)
+        return key;
+    if (row.bootId == m_bootId)
+        m_recorded[row.interfaceIndex] = {row.baseUploaded + row.uploadedBytes,
+                                          row.baseDownloaded + row.downloadedBytes};
+    m_listener.recovered(connection);
+    return key;
+}
+
+void RecordBook::save(LiveConnection &connection)
 {
     // An unfinished row of the same link would be taken for this connection's.
-    if (isBehind())
+    if (isBehind() || m_isLocked)
         return;
-    auto key =
-        connection.row().key == 0 ? begin(connection, now) : m_store.checkpoint(connection.row());
+    auto key = connection.row().key == 0 ? begin(connection) : m_store.checkpoint(connection.row());
     // Somebody has put another file in the store's place.
     if (!key && key.error().kind == StoreError::Kind::NoSuchRecord)
-        key = begin(connection, now);
+        key = begin(connection);
     if (!key)
         return fail(key.error());
     succeed();
 }
 
-Result<std::int64_t> RecordBook::begin(LiveConnection &connection, const Moment &now)
+Result<std::int64_t> RecordBook::begin(LiveConnection &connection)
 {
-    const auto stored = m_store.begin(connection.row());
+    leaveOutWhatIsRecorded(connection);
+    auto stored = m_store.begin(connection.row());
+    if (stored && !areSame(stored.value(), connection.row()))
+        stored = beginApart(connection, stored.value());
     if (!stored)
         return stored.error();
-    connection.adopt(stored.value(), now);
+    connection.adopt(stored.value());
     return stored.value().key;
+}
+
+/// An earlier process has left another connection of the same link open.
+Result<OpenConnection> RecordBook::beginApart(LiveConnection &connection,
+                                              const OpenConnection &other)
+{
+    const auto key = close(other);
+    if (!key)
+        return key.error();
+    leaveOutWhatIsRecorded(connection);
+    return m_store.begin(connection.row());
+}
+
+void RecordBook::leaveOutWhatIsRecorded(LiveConnection &connection) const
+{
+    const auto recorded = m_recorded.find(connection.linkIndex());
+    if (recorded != m_recorded.end())
+        connection.leaveOut(recorded->second);
 }
 
 void RecordBook::finish(const LiveConnection &connection, bool hasFinalCounters)
 {
     // A store that is locked is not waited for again with each connection.
-    const bool wasBehind = isBehind();
-    m_unwritten.push_back(
-        {connection.id(), connection.row().key, connection.finished(hasFinalCounters)});
-    if (!wasBehind)
+    const bool mustWait = isBehind() || m_isLocked;
+    m_unwritten.push_back({connection, hasFinalCounters});
+    if (!mustWait)
         catchUp();
 }
 
 void RecordBook::catchUp()
 {
+    m_isLocked = false;
     if (!m_isRecovered)
         recoverEarlierConnections();
     if (m_isRecovered)
@@ -80,16 +127,27 @@ void RecordBook::catchUp()
 void RecordBook::writeFinished()
 {
     while (!m_unwritten.empty()) {
-        const auto &[id, openKey, connection] = m_unwritten.front();
-        // One whose beginning could not be written has no row to be finished.
-        const auto key =
-            openKey == 0 ? m_store.add(connection) : m_store.finish(openKey, connection);
+        Unwritten &finished = m_unwritten.front();
+        const auto key = write(finished);
         if (!key)
             return fail(key.error());
         succeed();
-        m_listener.finished(connection, id);
+        m_listener.finished(finished.connection.finished(finished.hasFinalCounters),
+                            finished.connection.id());
         m_unwritten.pop_front();
     }
+}
+
+/// One whose beginning could not be written may go on with an earlier process's row.
+Result<std::int64_t> RecordBook::write(Unwritten &finished)
+{
+    if (finished.connection.row().key == 0) {
+        const auto key = begin(finished.connection);
+        if (!key)
+            return key;
+    }
+    return m_store.finish(finished.connection.row(),
+                          finished.connection.finished(finished.hasFinalCounters));
 }
 
 void RecordBook::succeed()
@@ -102,6 +160,7 @@ void RecordBook::succeed()
 
 void RecordBook::fail(const StoreError &error)
 {
+    m_isLocked |= error.kind == StoreError::Kind::Locked;
     if (error.message == m_lastFailure)
         return;
     m_lastFailure = error.message;

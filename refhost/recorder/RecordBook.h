@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
 #include <string>
 
 namespace refhost
@@ -20,8 +21,9 @@ public:
     struct Listener {
         /// It is in the store now; with its LiveConnection::id.
         std::function<void(const Connection &, std::int64_t id)> finished;
-        std::function<void(const StoreError &)> failed; ///< once for each new reason
-        std::function<void()> succeeded;                ///< the first time after that
+        std::function<void(const Connection &)> recovered; ///< the same, of an earlier process
+        std::function<void(const StoreError &)> failed;    ///< once for each new reason
+        std::function<void()> succeeded;                   ///< the first time after that
     };
     /// Whether the connection that an earlier process has left open, in this run of
     /// the system, still lasts.
@@ -30,29 +32,31 @@ public:
     RecordBook(StatisticsStore store, std::string bootId, StillLasts stillLasts, Listener listener);
 
     /// Brings the store up to date with the connection. The first time, it goes
-    /// on with what the store has of the same one already.
-    void save(LiveConnection &connection, const Moment &now);
+    /// on with what the store has of the same one already. A store that is locked is
+    /// waited for once until the next catchUp().
+    void save(LiveConnection &connection);
     void finish(const LiveConnection &connection, bool hasFinalCounters);
 
     /// Whether there is something that catchUp() has to write before anything else
     /// is written, which is so in the beginning.
     bool isBehind() const { return !m_isRecovered || !m_unwritten.empty(); }
-    /// Finishes what earlier processes left open on links that are gone or not
-    /// connected, as recovered at its last update; then tries again what could
-    /// not be written.
+    /// Finishes what earlier processes left open and does not last, as recovered at
+    /// its last update; then tries again what could not be written.
     void catchUp();
 
 private:
     struct Unwritten {
-        std::int64_t id;
-        std::int64_t openKey;
-        Connection connection;
+        LiveConnection connection;
+        bool hasFinalCounters;
     };
 
-    Result<std::int64_t> begin(LiveConnection &connection, const Moment &now);
+    Result<std::int64_t> begin(LiveConnection &connection);
+    Result<OpenConnection> beginApart(LiveConnection &connection, const OpenConnection &other);
+    void leaveOutWhatIsRecorded(LiveConnection &connection) const;
     void recoverEarlierConnections();
-    bool recover(const OpenConnection &row);
+    Result<std::int64_t> close(const OpenConnection &row);
     void writeFinished();
+    Result<std::int64_t> write(Unwritten &finished);
     void fail(const StoreError &error);
     void succeed();
 
@@ -63,6 +67,10 @@ private:
     std::deque<Unwritten> m_unwritten;
     std::string m_lastFailure;
     bool m_isRecovered = false;
+    bool m_isLocked = false; ///< as far as is known
+    /// What the counters of links showed when their recovered connections were
+    /// updated last, by index, in this run of the system.
+    std::map<std::int64_t, LinkCounters> m_recorded;
 };
 
 } // namespace refhost

@@ -10,12 +10,14 @@
 
 #include <cerrno>
 #include <system_error>
+#include <tuple>
 
 namespace refhost
 {
 
-RecorderLock::RecorderLock(const QString &path)
-    : m_path(path)
+RecorderLock::RecorderLock(const QString &storePath)
+    : m_storePath(storePath)
+    , m_path(storePath + QStringLiteral(".recorder"))
 {
 }
 
@@ -30,8 +32,10 @@ RecorderLock::Outcome RecorderLock::take()
     // Its former holder has removed the file between opening and locking it.
     while (outcome == Outcome::Taken && !isInPlace())
         outcome = takeFile();
-    if (outcome == Outcome::Taken)
+    if (outcome == Outcome::Taken) {
+        giveToOwnerOfStore();
         introduceHolder();
+    }
     return outcome;
 }
 
@@ -39,8 +43,9 @@ void RecorderLock::free()
 {
     if (!m_file.isOpen())
         return;
-    // While the lock still holds, so that it is not somebody else's file.
-    QFile::remove(m_path);
+    // While the lock still holds, so that nobody else has it meanwhile.
+    if (isInPlace())
+        QFile::remove(m_path);
     m_file.close();
 }
 
@@ -60,11 +65,22 @@ RecorderLock::Outcome RecorderLock::takeFile()
 
 bool RecorderLock::open()
 {
-    const QByteArray path = QFile::encodeName(m_path);
-    const int descriptor =
-        ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    const int descriptor = openDescriptor();
     return descriptor >= 0 && m_file.open(descriptor, QIODevice::ReadWrite | QIODevice::Unbuffered,
                                           QFileDevice::AutoCloseHandle);
+}
+
+int RecorderLock::openDescriptor() const
+{
+    const QByteArray path = QFile::encodeName(m_path);
+    const auto attempt = [&path] {
+        return ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    };
+    const int descriptor = attempt();
+    // A umask can keep even the owner out of what a killed recorder left.
+    if (descriptor < 0 && errno == EACCES && chmod(path.constData(), S_IRUSR | S_IWUSR) == 0)
+        return attempt();
+    return descriptor;
 }
 
 bool RecorderLock::isInPlace() const
@@ -74,6 +90,14 @@ bool RecorderLock::isInPlace() const
     return fstat(m_file.handle(), &locked) == 0 &&
            stat(QFile::encodeName(m_path).constData(), &inPlace) == 0 &&
            locked.st_dev == inPlace.st_dev && locked.st_ino == inPlace.st_ino;
+}
+
+/// What the superuser leaves has to be of use to the owner of the store.
+void RecorderLock::giveToOwnerOfStore()
+{
+    struct stat store = {};
+    if (geteuid() == 0 && stat(QFile::encodeName(m_storePath).constData(), &store) == 0)
+        std::ignore = fchown(m_file.handle(), store.st_uid, store.st_gid);
 }
 
 /// For the others' messages only: a full disk does not keep anybody from recording.

@@ -15,8 +15,9 @@ namespace refhost
 class RecorderLock
 {
 public:
-    /// Of the lock that this file stands for; nothing is taken yet.
-    explicit RecorderLock(const QString &path);
+    /// Of this store, whose path has to be the one that all recorders know it by;
+    /// nothing is taken yet.
+    explicit RecorderLock(const QString &storePath);
     /// Frees the lock.
     ~RecorderLock();
     RecorderLock(const RecorderLock &) = delete;
@@ -39,11 +40,14 @@ public:
 private:
     Outcome takeFile();
     bool open();
+    int openDescriptor() const;
     bool isInPlace() const;
+    void giveToOwnerOfStore();
     void introduceHolder();
     std::optional<Holder> readHolder();
     Outcome fail();
 
+    const QString m_storePath;
     const QString m_path;
     QFile m_file;
     std::optional<Holder> m_holder;

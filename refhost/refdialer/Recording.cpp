@@ -19,6 +19,8 @@ Recording::Recording(const QString &storePath, const QStringList &interfaceNames
     QObject::connect(m_recorder, &ConnectionRecorder::failed, &m_state, &LineState::setProblem);
     QObject::connect(m_recorder, &ConnectionRecorder::succeeded, &m_state,
                      [&state] { state.setProblem(QString()); });
+    QObject::connect(m_recorder, &ConnectionRecorder::started, &m_state,
+                     [&state] { state.setWatched(true); });
     m_recorder->setProfileName(profile);
     m_recorder->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::finished, m_recorder, &QObject::deleteLater);

@@ -26,7 +26,7 @@ public:
     ~Recording();
 
     /// Returns when connections that an earlier run left open are settled in the
-    /// store. Whether recording is possible is told to the state.
+    /// store. Whether recording is possible is told to the state, also later.
     void start();
 
 private:

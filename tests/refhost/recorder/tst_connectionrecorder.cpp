@@ -47,6 +47,22 @@ OpenConnection rowOf(const std::string &bootId, int linkIndex)
     return row;
 }
 
+/// Keeps all others from writing into a store.
+class StoreLock
+{
+public:
+    explicit StoreLock(const QString &path)
+        : m_store(path.toStdString(), SQLite::OPEN_READWRITE)
+        , m_transaction(std::in_place, m_store, SQLite::TransactionBehavior::IMMEDIATE)
+    {
+    }
+    void release() { m_transaction.reset(); }
+
+private:
+    SQLite::Database m_store;
+    std::optional<SQLite::Transaction> m_transaction;
+};
+
 } // namespace
 
 class ConnectionRecorderTest : public QObject
@@ -85,7 +101,12 @@ private slots:
     void aResumedLinkThatWasResetIsMarked();
     void closesARowAtItsLastUpdate_data();
     void closesARowAtItsLastUpdate();
-    void leavesARowOfAConnectedLinkThatIsNotWatched();
+    void goesOnWithARowOfALinkThatIsNotWatched();
+    void countsNothingTwiceOfALinkThatOutlivedItsRecorder();
+    void goesOnWithARowThatItCouldNotWriteInTime_data();
+    void goesOnWithARowThatItCouldNotWriteInTime();
+    void tellsOfARowThatItCouldNotCloseInTime();
+    void recordsBesideARowThatTheStoreDoesNotTake();
 
     void keepsWhatItCannotWriteAndTriesAgain();
     void saysWhenItCanWriteAgain();
@@ -97,6 +118,8 @@ private slots:
     void settlesNothingWhileItCannotSeeTheLinks();
     void saysWhyItCannotStart();
     void leavesTheRecordingToTheFirstRecorder();
+    void takesOverWhenTheFirstRecorderEnds();
+    void startsWhenItCan();
 
     void aConnectionBearsItsInterfacesNameOrTheGivenOne();
     void saysNothingFromWithinACall();
@@ -473,16 +496,101 @@ void ConnectionRecorderTest::closesARowAtItsLastUpdate()
     QCOMPARE(onlyRecord().profile, std::string("internet"));
     // What is connected now is a connection of its own.
     QCOMPARE(openRowsIn(m_path).size(), std::size_t{isConnectedNow});
+    // Who asks for the history after start() finds it there.
+    QCoreApplication::processEvents();
+    QVERIFY(m_disconnections->isEmpty());
 }
 
-void ConnectionRecorderTest::leavesARowOfAConnectedLinkThatIsNotWatched()
+/// The process before may have been told of it, or the link had another name then.
+void ConnectionRecorderTest::goesOnWithARowOfALinkThatIsNotWatched()
 {
-    OpenConnection row = rowOf(refhost::currentBootId(), 3);
-    row.interfaceName = "usb0";
-    addRow(row);
+    addRow(rowOf(refhost::currentBootId(), 3));
     m_atStart = {runningLink(3, "usb0", 1010, 2020), addressOn(3)};
     QVERIFY(start());
-    QVERIFY(recordsIn(m_path).isEmpty());
+    QTRY_COMPARE(m_connections->size(), 1);
+    m_links->tell(downLink(3, "usb0", 1011, 2022));
+    QCOMPARE(recordsIn(m_path), QStringList("usb0 up 1001 down 2002 normal"));
+    m_links->tell(runningLink(3, "usb0", 1011, 2022));
+    QVERIFY(openRowsIn(m_path).empty());
+}
+
+void ConnectionRecorderTest::countsNothingTwiceOfALinkThatOutlivedItsRecorder()
+{
+    OpenConnection row = rowOf(refhost::currentBootId(), 3);
+    row.interfaceName = "ppp0";
+    row.baseUploaded = 0;
+    row.baseDownloaded = 0;
+    addRow(row);
+    refhost::AddressReport address = addressOn(3);
+    address.createdAt = 101;
+    m_atStart = {runningLink(3, "ppp0", 150, 260), address};
+    QVERIFY(start());
+    m_links->tell(downLink(3, "ppp0", 151, 262));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"ppp0 up 100 down 200 recovered", "ppp0 up 51 down 62 normal"}));
+}
+
+void ConnectionRecorderTest::goesOnWithARowThatItCouldNotWriteInTime_data()
+{
+    QTest::addColumn<bool>("isAnotherToBeClosed");
+    QTest::newRow("when all else is settled") << false;
+    QTest::newRow("while another row cannot be closed") << true;
+}
+
+void ConnectionRecorderTest::goesOnWithARowThatItCouldNotWriteInTime()
+{
+    QFETCH(bool, isAnotherToBeClosed);
+    QStringList expected;
+    if (isAnotherToBeClosed) {
+        addRow(rowOf(refhost::currentBootId(), 9));
+        expected = QStringList("wwan0 up 100 down 200 recovered");
+    }
+    addRow(rowOf(refhost::currentBootId(), 3));
+    StoreLock lock(m_path);
+    m_atStart = {runningLink(3, "wwan0", 1010, 2020), addressOn(3)};
+    QVERIFY(start());
+    m_recorder->setProfileName(QStringLiteral("another"));
+    m_links->tell(downLink(3, "wwan0", 1020, 2040));
+    refhost::LinkReport again = runningLink(3, "wwan0", 1020, 2040);
+    again.carrierLosses = 1;
+    m_links->tell(again);
+    lock.release();
+    expected << QStringLiteral("wwan0 up 1010 down 2020 normal");
+    QTRY_COMPARE_WITH_TIMEOUT(recordsIn(m_path), expected, checkpointTimeout);
+    m_links->tell(downLink(3, "wwan0", 1025, 2046));
+    expected << QStringLiteral("wwan0 up 5 down 6 normal");
+    QCOMPARE(recordsIn(m_path), expected);
+    QCOMPARE(m_disconnections->last().first().value<Connection>().profile, std::string("another"));
+    QVERIFY(openRowsIn(m_path).empty());
+}
+
+void ConnectionRecorderTest::tellsOfARowThatItCouldNotCloseInTime()
+{
+    addRow(rowOf(refhost::currentBootId(), 3));
+    StoreLock lock(m_path);
+    QVERIFY(start());
+    QSignalSpy successes(m_recorder.get(), &ConnectionRecorder::succeeded);
+    QTRY_COMPARE(m_failures->size(), 1);
+    lock.release();
+    QTRY_COMPARE_WITH_TIMEOUT(m_disconnections->size(), 1, checkpointTimeout);
+    QCOMPARE(m_disconnections->first().at(0).value<Connection>().uploadedBytes, std::int64_t{100});
+    QCOMPARE(m_disconnections->first().at(1).toLongLong(), 0);
+    QTRY_COMPARE(successes.size(), 1);
+}
+
+void ConnectionRecorderTest::recordsBesideARowThatTheStoreDoesNotTake()
+{
+    addRow(rowOf("another", 3));
+    addRow(rowOf("another", 4));
+    SQLite::Database(m_path.toStdString(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE open_connection SET updated_utc = 99999999999 WHERE interface_index = 3");
+    QVERIFY(start());
+    QTRY_COMPARE(m_failures->size(), 1);
+    QVERIFY(m_failures->first().first().toString().contains("99999999999"));
+    connectLink(5, "wwan1", 0, 0);
+    m_links->tell(downLink(5, "wwan1", 1, 2));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"wwan0 up 100 down 200 recovered", "wwan1 up 1 down 2 normal"}));
     QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
 }
 
@@ -490,9 +598,7 @@ void ConnectionRecorderTest::keepsWhatItCannotWriteAndTriesAgain()
 {
     QVERIFY(start());
     connectLink(3, "wwan0", 0, 0);
-    SQLite::Database other(m_path.toStdString(), SQLite::OPEN_READWRITE);
-    std::optional<SQLite::Transaction> lock(std::in_place, other,
-                                            SQLite::TransactionBehavior::IMMEDIATE);
+    StoreLock lock(m_path);
     m_links->tell(downLink(3, "wwan0", 5, 6));
     // The next connection of the same link must not be taken for the former one.
     m_links->tell(runningLink(3, "wwan0", 5, 6));
@@ -502,7 +608,7 @@ void ConnectionRecorderTest::keepsWhatItCannotWriteAndTriesAgain()
                             "5 seconds; close that program or try again later.")
                  .arg(m_path));
     QVERIFY(m_disconnections->isEmpty());
-    lock.reset();
+    lock.release();
     m_links->tell(downLink(3, "wwan0", 7, 7));
     QTRY_COMPARE_WITH_TIMEOUT(m_disconnections->size(), 2, checkpointTimeout);
     QCOMPARE(recordsIn(m_path),
@@ -515,13 +621,11 @@ void ConnectionRecorderTest::saysWhenItCanWriteAgain()
     QVERIFY(start());
     QSignalSpy successes(m_recorder.get(), &ConnectionRecorder::succeeded);
     connectLink(3, "wwan0", 0, 0);
-    SQLite::Database other(m_path.toStdString(), SQLite::OPEN_READWRITE);
-    std::optional<SQLite::Transaction> lock(std::in_place, other,
-                                            SQLite::TransactionBehavior::IMMEDIATE);
+    StoreLock lock(m_path);
     m_links->tell(downLink(3, "wwan0", 5, 6));
     QTRY_COMPARE(m_failures->size(), 1);
     QVERIFY(successes.isEmpty());
-    lock.reset();
+    lock.release();
     QTRY_COMPARE_WITH_TIMEOUT(successes.size(), 1, checkpointTimeout);
 }
 
@@ -604,6 +708,38 @@ void ConnectionRecorderTest::saysWhyItCannotLock()
                             "directory); allow yourself to write there and start the program "
                             "again.")
                  .arg(lock));
+}
+
+void ConnectionRecorderTest::takesOverWhenTheFirstRecorderEnds()
+{
+    m_atStart = {runningLink(3, "wwan0", 1010, 2020), addressOn(3)};
+    QVERIFY(start());
+    std::unique_ptr<ConnectionRecorder> first = std::move(m_recorder);
+    m_links->tell(runningLink(3, "wwan0", 1015, 2026));
+    m_atStart = {runningLink(3, "wwan0", 1020, 2030), addressOn(3)};
+    QVERIFY(!start());
+    QSignalSpy starts(m_recorder.get(), &ConnectionRecorder::started);
+    QSignalSpy successes(m_recorder.get(), &ConnectionRecorder::succeeded);
+    QTest::qWait(2500); // tried again meanwhile
+    QCOMPARE(m_failures->size(), 1);
+    QVERIFY(starts.isEmpty());
+    first.reset();
+    QTRY_COMPARE(starts.size(), 1);
+    QCOMPARE(successes.size(), 1);
+    QTRY_COMPARE(m_connections->size(), 1);
+    QCOMPARE(m_connections->first().first().value<ConnectionState>().uploadedBytes, 10);
+    m_links->tell(downLink(3, "wwan0", 1021, 2032));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 11 down 12 normal"));
+}
+
+void ConnectionRecorderTest::startsWhenItCan()
+{
+    QVERIFY(QDir().mkdir(m_path));
+    m_atStart = {runningLink(3, "wwan0", 0, 0), addressOn(3)};
+    QVERIFY(!start());
+    QVERIFY(QDir().rmdir(m_path));
+    QTRY_COMPARE(m_connections->size(), 1);
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
 }
 
 void ConnectionRecorderTest::settlesNothingWhileItCannotSeeTheLinks()
