@@ -64,7 +64,6 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     , m_interfaceNames(interfaceNames)
     , m_links(links.release())
     , m_clock(std::move(clock))
-    , m_bootId(currentBootId())
     , m_timer(this)
     , m_retryTimer(this)
 {
@@ -144,9 +143,10 @@ void ConnectionRecorder::giveUp()
 
 bool ConnectionRecorder::openBook()
 {
+    m_bootId = currentBootId();
     if (m_bootId.empty()) {
         obstruct(tr("\"/proc/sys/kernel/random/boot_id\" cannot be read, so connections are not "
-                    "recorded; mount /proc and start the program again."));
+                    "recorded; mount /proc."));
         return false;
     }
     auto store = StatisticsStore::openForRecording(m_storePath.toStdString());
@@ -184,7 +184,7 @@ bool ConnectionRecorder::lockStore()
     else if (outcome == RecorderLock::Outcome::Failed)
         obstruct(
             tr("Connections are not recorded, for %1 cannot be written (%2); allow yourself to "
-               "write there and start the program again.")
+               "write there.")
                 .arg(m_lock->path(), m_lock->errorString()));
     return outcome == RecorderLock::Outcome::Taken;
 }
@@ -264,7 +264,7 @@ void ConnectionRecorder::handleLiveChange(LiveConnection &connection, const Link
     finish(connection, change.hasFreshCounters);
     // What came back before the final counters of the former connection did
     // begins where those end.
-    if (isStillConnected)
+    if (isStillConnected && isWatched(change.link))
         begin(change.link, change.link.counters);
 }
 

@@ -99,7 +99,8 @@ signals:
     /// One sentence for the user. What could not be written is kept and tried
     /// again; each reason is told once.
     void failed(const QString &reason);
-    /// What could not be written is in the store now.
+    /// What could not be written is in the store now, or it records what it could not
+    /// record at all.
     void succeeded();
 
 private:

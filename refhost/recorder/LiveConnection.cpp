@@ -22,6 +22,23 @@ std::int64_t storableSeconds(std::int64_t seconds)
     return std::clamp(seconds, std::int64_t{0}, maximumSeconds);
 }
 
+/// More than any counter shows, and far from where sums of them overflow.
+constexpr std::int64_t maximumCount = std::int64_t{1} << 61;
+
+/// A row as a recorder writes it; what a damaged file has in its place comes into
+/// the range that the store takes, so that it ends as a record.
+OpenConnection withinRange(OpenConnection row)
+{
+    for (std::int64_t *const seconds : {&row.startUtc, &row.updatedUtc, &row.connectedSeconds})
+        *seconds = storableSeconds(*seconds);
+    for (std::int64_t *const count :
+         {&row.startBootMilliseconds, &row.uploadedBytes, &row.downloadedBytes})
+        *count = std::clamp(*count, std::int64_t{0}, maximumCount);
+    for (std::int64_t *const base : {&row.baseUploaded, &row.baseDownloaded})
+        *base = std::clamp(*base, -maximumCount, maximumCount);
+    return row;
+}
+
 /// Brings a total up to date; false if the counter has gone backwards.
 bool advanceTotal(std::int64_t counter, std::int64_t &base, std::int64_t &total)
 {
@@ -33,11 +50,20 @@ bool advanceTotal(std::int64_t counter, std::int64_t &base, std::int64_t &total)
     return false;
 }
 
-void leaveOutOf(std::int64_t &base, std::int64_t &total, std::int64_t counted)
+void leaveOutOf(std::int64_t &base, std::int64_t &total, std::int64_t &totalAtFirst,
+                std::int64_t counted)
 {
     const std::int64_t excess = std::max<std::int64_t>(counted - base, 0);
     base += excess;
     total -= excess;
+    totalAtFirst -= excess;
+}
+
+/// Lets a total grow without regard to how the counter came to its value.
+void growTotal(std::int64_t growth, std::int64_t counter, std::int64_t &base, std::int64_t &total)
+{
+    total += growth;
+    base = counter - total;
 }
 
 std::int64_t perSecond(std::int64_t bytes, std::int64_t milliseconds)
@@ -83,17 +109,33 @@ LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
     m_row.baseDownloaded = std::min(base.downloaded, link.counters.downloaded);
     m_row.ending = endedNormally;
     advance(link.counters, now);
+    m_totalsAtFirst = {m_row.uploadedBytes, m_row.downloadedBytes};
 }
 
 void LiveConnection::adopt(const OpenConnection &stored)
 {
-    const OpenConnection own = std::exchange(m_row, stored);
+    if (stored.startBootMilliseconds == m_row.startBootMilliseconds) {
+        m_row.key = stored.key;
+        m_row.linkMark = m_linkMark;
+        return;
+    }
+    const OpenConnection own = std::exchange(m_row, withinRange(stored));
     m_row.interfaceName = own.interfaceName;
     m_row.linkMark = m_linkMark;
     if (m_hasOwnProfile)
         m_row.profile = own.profile;
-    m_rateTotals = {stored.uploadedBytes, stored.downloadedBytes};
-    advance(m_counters, m_moment);
+    // From the earlier process to this one's first look, and from there to now: the
+    // counters may have been reset in both times.
+    advanceTotals(m_countersAtFirst);
+    growTotal(own.uploadedBytes - m_totalsAtFirst.uploaded, m_counters.uploaded, m_row.baseUploaded,
+              m_row.uploadedBytes);
+    growTotal(own.downloadedBytes - m_totalsAtFirst.downloaded, m_counters.downloaded,
+              m_row.baseDownloaded, m_row.downloadedBytes);
+    if (own.ending == endedAfterReset)
+        m_row.ending = own.ending;
+    m_rateTotals.uploaded += m_row.uploadedBytes - own.uploadedBytes;
+    m_rateTotals.downloaded += m_row.downloadedBytes - own.downloadedBytes;
+    updateTimes(m_moment);
 }
 
 void LiveConnection::leaveOut(const LinkCounters &counted)
@@ -101,8 +143,9 @@ void LiveConnection::leaveOut(const LinkCounters &counted)
     if (counted.uploaded > m_countersAtFirst.uploaded ||
         counted.downloaded > m_countersAtFirst.downloaded || m_row.ending == endedAfterReset)
         return;
-    leaveOutOf(m_row.baseUploaded, m_row.uploadedBytes, counted.uploaded);
-    leaveOutOf(m_row.baseDownloaded, m_row.downloadedBytes, counted.downloaded);
+    leaveOutOf(m_row.baseUploaded, m_row.uploadedBytes, m_totalsAtFirst.uploaded, counted.uploaded);
+    leaveOutOf(m_row.baseDownloaded, m_row.downloadedBytes, m_totalsAtFirst.downloaded,
+               counted.downloaded);
 }
 
 void LiveConnection::setProfile(const std::string &profile)
@@ -114,12 +157,17 @@ void LiveConnection::setProfile(const std::string &profile)
 void LiveConnection::advance(const LinkCounters &counters, const Moment &now)
 {
     m_counters = counters;
+    advanceTotals(counters);
+    updateTimes(now);
+}
+
+void LiveConnection::advanceTotals(const LinkCounters &counters)
+{
     const bool hasGoneUp = advanceTotal(counters.uploaded, m_row.baseUploaded, m_row.uploadedBytes);
     const bool hasGoneDown =
         advanceTotal(counters.downloaded, m_row.baseDownloaded, m_row.downloadedBytes);
     if (!hasGoneUp || !hasGoneDown)
         m_row.ending = endedAfterReset;
-    updateTimes(now);
 }
 
 void LiveConnection::setLink(const Link &link)
@@ -143,7 +191,7 @@ void LiveConnection::end(const Moment &now)
 
 Connection LiveConnection::finished(bool hasFinalCounters) const
 {
-    return hasFinalCounters ? finishedFrom(m_row, m_row.ending) : recovered(m_row);
+    return finishedFrom(m_row, hasFinalCounters ? m_row.ending : endedByRecovery);
 }
 
 LinkCounters LiveConnection::takeRate(const Moment &now)
@@ -171,7 +219,13 @@ void LiveConnection::updateTimes(const Moment &now)
 
 Connection recovered(const OpenConnection &row)
 {
-    return finishedFrom(row, endedByRecovery);
+    return finishedFrom(withinRange(row), endedByRecovery);
+}
+
+LinkCounters countersAtLastUpdate(const OpenConnection &row)
+{
+    const OpenConnection sound = withinRange(row);
+    return {sound.baseUploaded + sound.uploadedBytes, sound.baseDownloaded + sound.downloadedBytes};
 }
 
 } // namespace refhost

@@ -30,8 +30,9 @@ public:
     int linkIndex() const { return static_cast<int>(m_row.interfaceIndex); }
     const OpenConnection &row() const { return m_row; }
 
-    /// Goes on with what the store has of this connection: the same, or what an
-    /// earlier process has recorded of it, except for a profile that was set here.
+    /// It is in the store under this row's key now; if an earlier process has begun
+    /// it, it goes on with that one's start, totals and, unless one was set here,
+    /// profile.
     void adopt(const OpenConnection &stored);
     /// Leaves out what the link's counters showed up to these values, because it is
     /// in another record, unless they have begun anew since.
@@ -62,6 +63,7 @@ public:
 
 private:
     void updateTimes(const Moment &now);
+    void advanceTotals(const LinkCounters &counters);
 
     const std::int64_t m_id;
     /// Until it is in the store, with the mark that the link had in the beginning:
@@ -70,6 +72,7 @@ private:
     std::string m_linkMark; ///< at present
     bool m_hasOwnProfile = false;
     const LinkCounters m_countersAtFirst;
+    LinkCounters m_totalsAtFirst;
     LinkCounters m_counters;
     Moment m_moment; ///< of those
     LinkCounters m_rateTotals;
@@ -79,5 +82,8 @@ private:
 
 /// A connection that an earlier process had left open, as it was last known.
 Connection recovered(const OpenConnection &row);
+
+/// What its link's counters showed then.
+LinkCounters countersAtLastUpdate(const OpenConnection &row);
 
 } // namespace refhost

@@ -31,9 +31,14 @@ void RecordBook::recoverEarlierConnections()
     const auto open = m_store.listOpen();
     if (!open)
         return fail(open.error());
+    // All are asked about before the first attempt to close one, which can take long.
+    for (const OpenConnection &row : open.value()) {
+        if (row.bootId == m_bootId && m_lasting.count(row.key) == 0 && m_stillLasts(row))
+            m_lasting.insert(row.key);
+    }
     bool isComplete = true;
     for (const OpenConnection &row : open.value()) {
-        if (row.bootId == m_bootId && m_stillLasts(row))
+        if (m_lasting.count(row.key) != 0)
             continue;
         const auto key = close(row);
         if (key)
@@ -56,8 +61,7 @@ Result<std::int64_t> RecordBook::close(const OpenConnection &row)
     if (!key)
         return key;
     if (row.bootId == m_bootId)
-        m_recorded[row.interfaceIndex] = {row.baseUploaded + row.uploadedBytes,
-                                          row.baseDownloaded + row.downloadedBytes};
+        m_recorded[row.interfaceIndex] = countersAtLastUpdate(row);
     m_listener.recovered(connection);
     return key;
 }
@@ -84,8 +88,10 @@ Result<std::int64_t> RecordBook::begin(LiveConnection &connection)
         stored = beginApart(connection, stored.value());
     if (!stored)
         return stored.error();
+    const bool isOwn =
+        stored.value().startBootMilliseconds == connection.row().startBootMilliseconds;
     connection.adopt(stored.value());
-    return stored.value().key;
+    return isOwn ? stored.value().key : m_store.checkpoint(connection.row());
 }
 
 /// An earlier process has left another connection of the same link open.
@@ -129,9 +135,13 @@ void RecordBook::writeFinished()
     while (!m_unwritten.empty()) {
         Unwritten &finished = m_unwritten.front();
         const auto key = write(finished);
-        if (!key)
-            return fail(key.error());
-        succeed();
+        // One that the store does not take at all keeps the rest waiting no longer.
+        if (key)
+            succeed();
+        else
+            fail(key.error());
+        if (!key && key.error().kind != StoreError::Kind::BadRecord)
+            return;
         m_listener.finished(finished.connection.finished(finished.hasFinalCounters),
                             finished.connection.id());
         m_unwritten.pop_front();
@@ -142,7 +152,7 @@ void RecordBook::writeFinished()
 Result<std::int64_t> RecordBook::write(Unwritten &finished)
 {
     if (finished.connection.row().key == 0) {
-        const auto key = begin(finished.connection);
+        auto key = begin(finished.connection);
         if (!key)
             return key;
     }

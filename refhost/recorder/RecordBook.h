@@ -8,6 +8,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 
 namespace refhost
@@ -66,6 +67,7 @@ private:
     Listener m_listener;
     std::deque<Unwritten> m_unwritten;
     std::string m_lastFailure;
+    std::set<std::int64_t> m_lasting; ///< keys of rows to be gone on with
     bool m_isRecovered = false;
     bool m_isLocked = false; ///< as far as is known
     /// What the counters of links showed when their recovered connections were

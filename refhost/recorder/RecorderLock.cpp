@@ -6,18 +6,15 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <system_error>
-#include <tuple>
 
 namespace refhost
 {
 
 RecorderLock::RecorderLock(const QString &storePath)
-    : m_storePath(storePath)
-    , m_path(storePath + QStringLiteral(".recorder"))
+    : m_path(storePath + QStringLiteral(".recorder"))
 {
 }
 
@@ -32,10 +29,8 @@ RecorderLock::Outcome RecorderLock::take()
     // Its former holder has removed the file between opening and locking it.
     while (outcome == Outcome::Taken && !isInPlace())
         outcome = takeFile();
-    if (outcome == Outcome::Taken) {
-        giveToOwnerOfStore();
+    if (outcome == Outcome::Taken)
         introduceHolder();
-    }
     return outcome;
 }
 
@@ -73,13 +68,18 @@ bool RecorderLock::open()
 int RecorderLock::openDescriptor() const
 {
     const QByteArray path = QFile::encodeName(m_path);
+    // A link could lead the superuser to any file.
     const auto attempt = [&path] {
-        return ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        return ::open(path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC,
+                      S_IRUSR | S_IWUSR);
     };
-    const int descriptor = attempt();
+    int descriptor = attempt();
+    const int reason = errno;
     // A umask can keep even the owner out of what a killed recorder left.
-    if (descriptor < 0 && errno == EACCES && chmod(path.constData(), S_IRUSR | S_IWUSR) == 0)
-        return attempt();
+    if (descriptor < 0 && reason == EACCES && chmod(path.constData(), S_IRUSR | S_IWUSR) == 0)
+        descriptor = attempt();
+    else
+        errno = reason;
     return descriptor;
 }
 
@@ -88,16 +88,8 @@ bool RecorderLock::isInPlace() const
     struct stat locked = {};
     struct stat inPlace = {};
     return fstat(m_file.handle(), &locked) == 0 &&
-           stat(QFile::encodeName(m_path).constData(), &inPlace) == 0 &&
+           lstat(QFile::encodeName(m_path).constData(), &inPlace) == 0 &&
            locked.st_dev == inPlace.st_dev && locked.st_ino == inPlace.st_ino;
-}
-
-/// What the superuser leaves has to be of use to the owner of the store.
-void RecorderLock::giveToOwnerOfStore()
-{
-    struct stat store = {};
-    if (geteuid() == 0 && stat(QFile::encodeName(m_storePath).constData(), &store) == 0)
-        std::ignore = fchown(m_file.handle(), store.st_uid, store.st_gid);
 }
 
 /// For the others' messages only: a full disk does not keep anybody from recording.

@@ -42,12 +42,10 @@ private:
     bool open();
     int openDescriptor() const;
     bool isInPlace() const;
-    void giveToOwnerOfStore();
     void introduceHolder();
     std::optional<Holder> readHolder();
     Outcome fail();
 
-    const QString m_storePath;
     const QString m_path;
     QFile m_file;
     std::optional<Holder> m_holder;

@@ -328,8 +328,8 @@
 <context>
     <name>refhost::ConnectionRecorder</name>
     <message>
-        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc and start the program again.</source>
-        <translation>&quot;/proc/sys/kernel/random/boot_id&quot; lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein, und starten Sie das Programm neu.</translation>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>&quot;/proc/sys/kernel/random/boot_id&quot; lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein.</translation>
     </message>
     <message>
         <source>Connections are recorded by another program already, and appear here when the history is opened again.</source>
@@ -340,8 +340,8 @@
         <translation>Ein anderes %1 zeichnet die Verbindungen schon auf (Prozess %2). Sie erscheinen hier, wenn der Verlauf wieder geöffnet wird.</translation>
     </message>
     <message>
-        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there and start the program again.</source>
-        <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 lässt sich nicht schreiben (%2). Erlauben Sie sich dort das Schreiben, und starten Sie das Programm neu.</translation>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 lässt sich nicht schreiben (%2). Erlauben Sie sich dort das Schreiben.</translation>
     </message>
 </context>
 <context>

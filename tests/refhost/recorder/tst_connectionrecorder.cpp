@@ -107,6 +107,10 @@ private slots:
     void goesOnWithARowThatItCouldNotWriteInTime();
     void tellsOfARowThatItCouldNotCloseInTime();
     void recordsBesideARowThatTheStoreDoesNotTake();
+    void bringsARowIntoTheRangeOfTheStore_data();
+    void bringsARowIntoTheRangeOfTheStore();
+    void bringsARowUpToDateAtOnce();
+    void addsUpWhatALateRowMissed();
 
     void keepsWhatItCannotWriteAndTriesAgain();
     void saysWhenItCanWriteAgain();
@@ -130,11 +134,13 @@ private:
     void connectLink(int index, const std::string &name, std::int64_t uploaded,
                      std::int64_t downloaded);
     void addRow(const OpenConnection &row);
+    void changeRow(int interfaceIndex, const QString &change);
     Connection onlyRecord();
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
     std::vector<refhost::LinkNews> m_atStart;
+    FakeClock m_clockAtStart;
     FakeLinks *m_links = nullptr; ///< the recorder's
     FakeClock *m_clock = nullptr; ///< the recorder's
     std::unique_ptr<ConnectionRecorder> m_recorder;
@@ -148,6 +154,7 @@ void ConnectionRecorderTest::init()
     m_folder = std::make_unique<QTemporaryDir>();
     m_path = m_folder->filePath("connections.db");
     m_atStart.clear();
+    m_clockAtStart = FakeClock();
 }
 
 void ConnectionRecorderTest::cleanup()
@@ -159,7 +166,7 @@ void ConnectionRecorderTest::cleanup()
 bool ConnectionRecorderTest::start(const QStringList &interfaceNames)
 {
     auto links = std::make_unique<FakeLinks>();
-    auto clock = std::make_unique<FakeClock>();
+    auto clock = std::make_unique<FakeClock>(m_clockAtStart);
     m_links = links.get();
     m_clock = clock.get();
     m_links->atStart = m_atStart;
@@ -185,6 +192,16 @@ void ConnectionRecorderTest::addRow(const OpenConnection &row)
     auto store = StatisticsStore::openOrCreate(m_path.toStdString());
     QVERIFY(store);
     QVERIFY(store.value().begin(row));
+}
+
+/// As a damaged disk might.
+void ConnectionRecorderTest::changeRow(int interfaceIndex, const QString &change)
+{
+    const QString update =
+        QStringLiteral("UPDATE open_connection SET %1 WHERE interface_index = %2")
+            .arg(change)
+            .arg(interfaceIndex);
+    SQLite::Database(m_path.toStdString(), SQLite::OPEN_READWRITE).exec(update.toStdString());
 }
 
 Connection ConnectionRecorderTest::onlyRecord()
@@ -560,6 +577,7 @@ void ConnectionRecorderTest::goesOnWithARowThatItCouldNotWriteInTime()
     m_links->tell(downLink(3, "wwan0", 1025, 2046));
     expected << QStringLiteral("wwan0 up 5 down 6 normal");
     QCOMPARE(recordsIn(m_path), expected);
+    QTRY_VERIFY(m_disconnections->size() >= 2);
     QCOMPARE(m_disconnections->last().first().value<Connection>().profile, std::string("another"));
     QVERIFY(openRowsIn(m_path).empty());
 }
@@ -582,16 +600,72 @@ void ConnectionRecorderTest::recordsBesideARowThatTheStoreDoesNotTake()
 {
     addRow(rowOf("another", 3));
     addRow(rowOf("another", 4));
-    SQLite::Database(m_path.toStdString(), SQLite::OPEN_READWRITE)
-        .exec("UPDATE open_connection SET updated_utc = 99999999999 WHERE interface_index = 3");
+    changeRow(3, "interface_name = 'a name of more than thirty-one bytes'");
     QVERIFY(start());
     QTRY_COMPARE(m_failures->size(), 1);
-    QVERIFY(m_failures->first().first().toString().contains("99999999999"));
+    QVERIFY(m_failures->first().first().toString().contains("thirty-one"));
     connectLink(5, "wwan1", 0, 0);
     m_links->tell(downLink(5, "wwan1", 1, 2));
     QCOMPARE(recordsIn(m_path),
              QStringList({"wwan0 up 100 down 200 recovered", "wwan1 up 1 down 2 normal"}));
     QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+}
+
+void ConnectionRecorderTest::bringsARowIntoTheRangeOfTheStore_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<int>("carrierLosses");
+    QTest::addColumn<QStringList>("records");
+    const QString lowest = QStringLiteral("-9223372036854775808");
+    QTest::newRow("of a connection that lasts")
+        << "start_utc = 99999999999, connected_seconds = " + lowest << 0
+        << QStringList("wwan0 up 1001 down 2002 normal");
+    QTest::newRow("of a former connection")
+        << QStringLiteral("updated_utc = 99999999999, uploaded_bytes = -1") << 1
+        << QStringList({"wwan0 up 0 down 200 recovered", "wwan0 up 1 down 2 normal"});
+    QTest::newRow("counters out of range")
+        << "base_uploaded = " + lowest + ", start_boot_ms = " + lowest << 1
+        << QStringList({"wwan0 up 100 down 200 recovered", "wwan0 up 1 down 2 normal"});
+}
+
+void ConnectionRecorderTest::bringsARowIntoTheRangeOfTheStore()
+{
+    QFETCH(QString, change);
+    QFETCH(int, carrierLosses);
+    addRow(rowOf(refhost::currentBootId(), 3));
+    changeRow(3, change);
+    refhost::LinkReport link = runningLink(3, "wwan0", 1010, 2020);
+    link.carrierLosses = std::uint32_t(carrierLosses);
+    m_atStart = {link, addressOn(3)};
+    QVERIFY(start());
+    m_links->tell(downLink(3, "wwan0", 1011, 2022));
+    QTEST(recordsIn(m_path), "records");
+    QVERIFY(openRowsIn(m_path).empty());
+}
+
+/// What a row is behind by is in the store before anything else can happen.
+void ConnectionRecorderTest::bringsARowUpToDateAtOnce()
+{
+    addRow(rowOf(refhost::currentBootId(), 3));
+    m_atStart = {runningLink(3, "wwan0", 1010, 2020), addressOn(3)};
+    QVERIFY(start());
+    QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{1000});
+}
+
+/// Before this process looks, and while it cannot write.
+void ConnectionRecorderTest::addsUpWhatALateRowMissed()
+{
+    addRow(rowOf(refhost::currentBootId(), 3));
+    StoreLock lock(m_path);
+    m_atStart = {runningLink(3, "wwan0", 50, 2020), addressOn(3)};
+    QVERIFY(start());
+    m_links->tell(runningLink(3, "wwan0", 55, 2030));
+    m_links->tell(runningLink(3, "wwan0", 55, 7));
+    lock.release();
+    m_links->tell(downLink(3, "wwan0", 56, 8));
+    // 100 before the first reset, 5 and 1 after it; 2010 before the second, 1 after it.
+    QTRY_COMPARE_WITH_TIMEOUT(
+        recordsIn(m_path), QStringList("wwan0 up 106 down 2011 counter reset"), checkpointTimeout);
 }
 
 void ConnectionRecorderTest::keepsWhatItCannotWriteAndTriesAgain()
@@ -705,8 +779,7 @@ void ConnectionRecorderTest::saysWhyItCannotLock()
     QTRY_COMPARE(m_failures->size(), 1);
     QCOMPARE(m_failures->first().first().toString(),
              QStringLiteral("Connections are not recorded, for %1 cannot be written (Is a "
-                            "directory); allow yourself to write there and start the program "
-                            "again.")
+                            "directory); allow yourself to write there.")
                  .arg(lock));
 }
 
@@ -717,6 +790,7 @@ void ConnectionRecorderTest::takesOverWhenTheFirstRecorderEnds()
     std::unique_ptr<ConnectionRecorder> first = std::move(m_recorder);
     m_links->tell(runningLink(3, "wwan0", 1015, 2026));
     m_atStart = {runningLink(3, "wwan0", 1020, 2030), addressOn(3)};
+    m_clockAtStart.pass(3000);
     QVERIFY(!start());
     QSignalSpy starts(m_recorder.get(), &ConnectionRecorder::started);
     QSignalSpy successes(m_recorder.get(), &ConnectionRecorder::succeeded);

@@ -53,7 +53,8 @@ private slots:
     void isPrivate();
     void takesAFileThatItsOwnerMayNotOpen();
     void leavesAnothersFileAlone();
-    void belongsToTheOwnerOfTheStore();
+    void followsNoLink();
+    void saysWhyItCannotBeTaken();
 
 private:
     bool own(const QString &path) const;
@@ -126,14 +127,29 @@ void RecorderLockTest::leavesAnothersFileAlone()
     QCOMPARE(first.take(), Outcome::HeldByAnother);
 }
 
-void RecorderLockTest::belongsToTheOwnerOfTheStore()
+/// Whoever may write beside a store must not have the superuser write elsewhere.
+void RecorderLockTest::followsNoLink()
 {
-    if (geteuid() != 0)
-        QSKIP("only root can make files for others");
-    QVERIFY(own(m_store));
+    const QString target = m_folder->filePath(QStringLiteral("target"));
+    QFile file(target);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write("text"), qint64{4});
+    file.close();
+    QVERIFY(QFile::link(target, m_file));
     RecorderLock lock(m_store);
-    QCOMPARE(lock.take(), Outcome::Taken);
-    QCOMPARE(QFileInfo(m_file).ownerId(), nobody);
+    QCOMPARE(lock.take(), Outcome::Failed);
+    QCOMPARE(file.size(), qint64{4});
+}
+
+void RecorderLockTest::saysWhyItCannotBeTaken()
+{
+    QVERIFY(own(m_folder->path()));
+    QVERIFY(
+        QFile::setPermissions(m_folder->path(), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+    const AsNobody user;
+    RecorderLock lock(m_store);
+    QCOMPARE(lock.take(), Outcome::Failed);
+    QCOMPARE(lock.errorString(), QStringLiteral("Permission denied"));
 }
 
 QTEST_GUILESS_MAIN(RecorderLockTest)
