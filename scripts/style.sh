@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# scripts/style.sh BUILD: checks the format of every source file, and what
-# clang-tidy finds in those that the build in folder BUILD compiles.
+# Checks the format of every source file, and what clang-tidy finds in those of the
+# product and the example.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-build=$1
+build=build/style
 
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
@@ -14,6 +14,8 @@ if [ -n "$without_licence" ]; then
     printf 'No SPDX line in: %s\n' "$without_licence" >&2
     exit 1
 fi
+
+cmake --preset style >/dev/null
 
 # A file that has not changed since it was last found clean is not asked again.
 clean=$build/tidy
@@ -28,5 +30,7 @@ check() {
     clang-tidy --quiet -p "$build" "$file" 2>/dev/null && touch "$stamp"
 }
 export -f check
+# The longest first, so that no processor waits for it at the end.
 git ls-files 'src/*.cpp' 'refhost/*.cpp' 'examples/*.cpp' |
+    xargs ls -S |
     xargs -P "$(nproc)" -I{} bash -c 'check "$@"' check {} "$build"

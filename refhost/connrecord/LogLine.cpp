@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 12> months = {"Jan", "Feb", "Mar", "Apr",
                                                      "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
 /// Host, facility and a word or two beside them stand in front of the process.
-constexpr int mostWordsBeforeMessage = 8;
+constexpr int mostWordsBeforeProcess = 8;
 
 /// The place of the name that stands here, counted from 1; 0 if none does.
 template <std::size_t count>
@@ -112,7 +112,7 @@ LogLine parseLogLine(std::string_view text)
     line.time = takeTime(scanner);
     scanner.takeSpaces();
     line.message = scanner.rest();
-    for (int i = 0; i < mostWordsBeforeMessage && !scanner.isAtEnd(); ++i) {
+    for (int i = 0; i < mostWordsBeforeProcess && !scanner.isAtEnd(); ++i) {
         const bool isProcess = readProcess(scanner.takeWord(), line);
         scanner.takeSpaces();
         if (isProcess) {

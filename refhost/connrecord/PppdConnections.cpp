@@ -15,7 +15,7 @@ constexpr const char *neverEnds = "a connection does not end in the log";
 constexpr const char *noByteCounts = "a connect time has no byte counts";
 constexpr const char *noConnectTime = "byte counts have no connect time";
 constexpr const char *unreadableTime = "the time stamp cannot be read";
-constexpr const char *outOfRange = "a number or time is out of range";
+constexpr const char *outOfRangeReason = "a number or time is out of range";
 
 constexpr const char *unknownInterface = "ppp";
 constexpr std::size_t longestInterface = 31;
@@ -147,7 +147,7 @@ void PppdConnections::store(const Dial &dial, const PppdEvent &byteCounts)
     if (isStorable(connection))
         m_connections.push_back(connection);
     else
-        count(outOfRange,
+        count(outOfRangeReason,
               connection.uploadedBytes < 0 || connection.downloadedBytes < 0 ? byteCounts : end);
 }
 

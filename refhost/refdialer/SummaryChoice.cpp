@@ -11,13 +11,13 @@ namespace
 {
 
 // The plug-in's own names.
-const char *const settingsGroup = "NetInfoRecordUIPlugin";
+const char *const pluginGroup = "NetInfoRecordUIPlugin";
 const char *const summaryKey = "WhetherShowNotesbox";
 const char *const wanted = "true";
 
 QString storedChoice()
 {
-    return CommonUtils::GetSettings(settingsGroup, summaryKey);
+    return CommonUtils::GetSettings(pluginGroup, summaryKey);
 }
 
 } // namespace
@@ -29,7 +29,7 @@ bool isSummaryWanted()
 
 bool storeSummaryChoice(bool isWanted)
 {
-    return storeSetting(settingsGroup, summaryKey, isWanted ? wanted : "false");
+    return storeSetting(pluginGroup, summaryKey, isWanted ? wanted : "false");
 }
 
 void offerSummary()
