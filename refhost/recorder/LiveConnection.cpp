@@ -112,12 +112,12 @@ LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
     m_totalsAtFirst = {m_row.uploadedBytes, m_row.downloadedBytes};
 }
 
-void LiveConnection::adopt(const OpenConnection &stored)
+bool LiveConnection::adopt(const OpenConnection &stored)
 {
     if (stored.startBootMilliseconds == m_row.startBootMilliseconds) {
         m_row.key = stored.key;
         m_row.linkMark = m_linkMark;
-        return;
+        return false;
     }
     const OpenConnection own = std::exchange(m_row, withinRange(stored));
     m_row.interfaceName = own.interfaceName;
@@ -136,6 +136,7 @@ void LiveConnection::adopt(const OpenConnection &stored)
     m_rateTotals.uploaded += m_row.uploadedBytes - own.uploadedBytes;
     m_rateTotals.downloaded += m_row.downloadedBytes - own.downloadedBytes;
     updateTimes(m_moment);
+    return true;
 }
 
 void LiveConnection::leaveOut(const LinkCounters &counted)

@@ -32,8 +32,8 @@ public:
 
     /// It is in the store under this row's key now; if an earlier process has begun
     /// it, it goes on with that one's start, totals and, unless one was set here,
-    /// profile.
-    void adopt(const OpenConnection &stored);
+    /// profile. Whether that is so: then the row lacks what has happened since.
+    bool adopt(const OpenConnection &stored);
     /// Leaves out what the link's counters showed up to these values, because it is
     /// in another record, unless they have begun anew since.
     void leaveOut(const LinkCounters &counted);

@@ -88,10 +88,9 @@ Result<std::int64_t> RecordBook::begin(LiveConnection &connection)
         stored = beginApart(connection, stored.value());
     if (!stored)
         return stored.error();
-    const bool isOwn =
-        stored.value().startBootMilliseconds == connection.row().startBootMilliseconds;
-    connection.adopt(stored.value());
-    return isOwn ? stored.value().key : m_store.checkpoint(connection.row());
+    if (connection.adopt(stored.value()))
+        return m_store.checkpoint(connection.row());
+    return stored.value().key;
 }
 
 /// An earlier process has left another connection of the same link open.
