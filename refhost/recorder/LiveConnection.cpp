@@ -31,8 +31,7 @@ OpenConnection withinRange(OpenConnection row)
 {
     for (std::int64_t *const seconds : {&row.startUtc, &row.updatedUtc, &row.connectedSeconds})
         *seconds = storableSeconds(*seconds);
-    for (std::int64_t *const count :
-         {&row.startBootMilliseconds, &row.uploadedBytes, &row.downloadedBytes})
+    for (std::int64_t *const count : {&row.uploadedBytes, &row.downloadedBytes})
         *count = std::clamp(*count, std::int64_t{0}, maximumCount);
     for (std::int64_t *const base : {&row.baseUploaded, &row.baseDownloaded})
         *base = std::clamp(*base, -maximumCount, maximumCount);
@@ -211,8 +210,11 @@ LinkCounters LiveConnection::takeRate(const Moment &now)
 void LiveConnection::updateTimes(const Moment &now)
 {
     m_moment = m_end.value_or(now);
-    m_row.connectedSeconds =
-        storableSeconds((m_moment.bootMilliseconds - m_row.startBootMilliseconds) / 1000);
+    // The start of a row gone on with is what the store knows it by, so it stays as it
+    // is even out of range.
+    const std::int64_t start =
+        std::clamp(m_row.startBootMilliseconds, std::int64_t{0}, m_moment.bootMilliseconds);
+    m_row.connectedSeconds = storableSeconds((m_moment.bootMilliseconds - start) / 1000);
     m_row.updatedUtc = storableSeconds(m_moment.utcSeconds < m_row.startUtc
                                            ? m_row.startUtc + m_row.connectedSeconds
                                            : m_moment.utcSeconds);

@@ -620,6 +620,8 @@ void ConnectionRecorderTest::bringsARowIntoTheRangeOfTheStore_data()
     QTest::newRow("of a connection that lasts")
         << "start_utc = 99999999999, connected_seconds = " + lowest << 0
         << QStringList("wwan0 up 1001 down 2002 normal");
+    QTest::newRow("the start of a connection that lasts")
+        << "start_boot_ms = " + lowest << 0 << QStringList("wwan0 up 1001 down 2002 normal");
     QTest::newRow("of a former connection")
         << QStringLiteral("updated_utc = 99999999999, uploaded_bytes = -1") << 1
         << QStringList({"wwan0 up 0 down 200 recovered", "wwan0 up 1 down 2 normal"});
