@@ -2,6 +2,7 @@
 #include "CalendarTime.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 
 namespace refhost
 {
@@ -59,10 +60,14 @@ bool takeZone(TextScanner &scanner, CalendarTime &time)
     return time.utcOffset.has_value();
 }
 
-QDateTime onWallClock(const CalendarTime &time, Qt::TimeSpec zone)
+QDate dateOf(const CalendarTime &time)
 {
-    return QDateTime(QDate(time.year, time.month, time.day),
-                     QTime(time.hour, time.minute, time.second), zone);
+    return QDate(time.year, time.month, time.day);
+}
+
+QTime timeOfDay(const CalendarTime &time)
+{
+    return QTime(time.hour, time.minute, time.second);
 }
 
 bool isSameOnWallClock(std::int64_t utc, std::int64_t otherUtc)
@@ -125,10 +130,11 @@ std::optional<std::int64_t> utcFromIso(std::string_view text)
 UtcSpan utcSpan(const CalendarTime &time)
 {
     if (time.utcOffset) {
-        const std::int64_t utc = onWallClock(time, Qt::UTC).toSecsSinceEpoch() - *time.utcOffset;
+        const QDateTime wallClock(dateOf(time), timeOfDay(time), QTimeZone::utc());
+        const std::int64_t utc = wallClock.toSecsSinceEpoch() - *time.utcOffset;
         return {utc, utc};
     }
-    const std::int64_t utc = onWallClock(time, Qt::LocalTime).toSecsSinceEpoch();
+    const std::int64_t utc = QDateTime(dateOf(time), timeOfDay(time)).toSecsSinceEpoch();
     if (isSameOnWallClock(utc, utc - secondsPerHour))
         return {utc - secondsPerHour, utc};
     if (isSameOnWallClock(utc, utc + secondsPerHour))
@@ -138,7 +144,7 @@ UtcSpan utcSpan(const CalendarTime &time)
 
 QString utcText(std::int64_t utc)
 {
-    return QDateTime::fromSecsSinceEpoch(utc, Qt::UTC).toString(Qt::ISODate);
+    return QDateTime::fromSecsSinceEpoch(utc).toUTC().toString(Qt::ISODate);
 }
 
 QString localText(std::int64_t utc)

@@ -2,6 +2,7 @@
 #include "LocalDays.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 
 namespace refhost
 {
@@ -14,7 +15,7 @@ constexpr int mostDaysFromUtc = 1;
 
 std::int64_t utcMidnight(const QDate &day)
 {
-    return QDateTime(day, QTime(0, 0), Qt::UTC).toSecsSinceEpoch();
+    return QDateTime(day, QTime(0, 0), QTimeZone::utc()).toSecsSinceEpoch();
 }
 
 } // namespace

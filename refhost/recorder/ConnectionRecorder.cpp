@@ -355,7 +355,7 @@ ConnectionState ConnectionRecorder::stateOf(LiveConnection &connection) const
     state.id = connection.id();
     state.profile = QString::fromStdString(row.profile);
     state.interfaceName = QString::fromStdString(row.interfaceName);
-    state.since = QDateTime::fromSecsSinceEpoch(row.startUtc, Qt::UTC);
+    state.since = QDateTime::fromSecsSinceEpoch(row.startUtc).toUTC();
     state.uploadedBytes = row.uploadedBytes;
     state.downloadedBytes = row.downloadedBytes;
     state.uploadRate = rate.uploaded;

@@ -216,7 +216,7 @@ void tst_TimeText::parsesEachSecondAroundClockChangesLikeTheToolkit()
         useZone(zone);
         for (const qint64 transition : transitions(31536000, endOf2037)) {
             const int offset = QDateTime::fromSecsSinceEpoch(transition).offsetFromUtc();
-            const QDateTime change = QDateTime::fromSecsSinceEpoch(transition + offset, Qt::UTC);
+            const QDateTime change = QDateTime::fromSecsSinceEpoch(transition + offset).toUTC();
             for (int minutes = -120; minutes <= 120; minutes += 30) {
                 for (int seconds = -1; seconds <= 1; ++seconds)
                     QVERIFY(isParsedAlike(change.addSecs(60 * minutes + seconds).toString(format)));

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeZone>
 
 using refhost::ConnectionState;
 using refhost::LineState;
@@ -39,7 +40,7 @@ ConnectionState TestStateLine::connection(const QString &interfaceName, qint64 i
     state.id = id;
     state.profile = "%3<b>" + interfaceName;
     state.interfaceName = interfaceName;
-    state.since = QDateTime(QDate(2026, 9, 1), QTime(12, 30), Qt::UTC);
+    state.since = QDateTime(QDate(2026, 9, 1), QTime(12, 30), QTimeZone::utc());
     state.uploadedBytes = 1536;
     state.uploadRate = 100;
     state.downloadedBytes = 3LL << 30;
