@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ConnectionTable.h"
 
+#include "ConnectionMerge.h"
+
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
 
@@ -8,7 +10,6 @@
 
 #include <algorithm>
 #include <string>
-#include <tuple>
 #include <unordered_map>
 
 namespace refhost
@@ -62,14 +63,6 @@ private:
     sqlite3_stmt *m_statement = nullptr;
 };
 
-/// What makes two connections the same one; the key does not.
-auto contents(const Connection &connection)
-{
-    return std::tie(connection.profile, connection.startUtc, connection.endUtc,
-                    connection.connectedSeconds, connection.uploadedBytes,
-                    connection.downloadedBytes, connection.ending, connection.interfaceName);
-}
-
 struct ContentsHash {
     std::size_t operator()(const Connection *connection) const
     {
@@ -84,7 +77,7 @@ struct ContentsHash {
 struct ContentsEqual {
     bool operator()(const Connection *left, const Connection *right) const
     {
-        return contents(*left) == contents(*right);
+        return hasSameContents(*left, *right);
     }
 };
 
@@ -98,6 +91,27 @@ Tally tallyOf(const std::vector<Connection> &connections)
     for (const Connection &connection : connections)
         ++tally[&connection];
     return tally;
+}
+
+/// Those rows that may be one of the given connections: one pass over the time
+/// in which they ended.
+std::vector<Connection> storedCandidates(SQLite::Database &database,
+                                         const std::vector<Connection> &given,
+                                         const ConnectionMerge &merge)
+{
+    const auto [first, last] = std::minmax_element(
+        given.begin(), given.end(),
+        [](const Connection &left, const Connection &right) { return left.endUtc < right.endUtc; });
+    RowQuery query(database, "WHERE end_utc BETWEEN ? AND ?");
+    query.bind(1, first->endUtc);
+    query.bind(2, last->endUtc);
+    std::vector<Connection> candidates;
+    while (query.next()) {
+        Connection stored = query.row().toConnection();
+        if (merge.concerns(stored))
+            candidates.push_back(std::move(stored));
+    }
+    return candidates;
 }
 
 /// Takes away what the table has already: one pass over the time that the
@@ -119,6 +133,19 @@ void subtractStored(SQLite::Database &database, const std::vector<Connection> &c
         if (found != tally.end() && found->second > 0)
             --found->second;
     }
+}
+
+/// To the first eight parameters, in the order of the table's columns.
+void bindContents(SQLite::Statement &statement, const Connection &connection)
+{
+    statement.bind(1, connection.profile);
+    statement.bind(2, connection.startUtc);
+    statement.bind(3, connection.endUtc);
+    statement.bind(4, connection.connectedSeconds);
+    statement.bind(5, connection.uploadedBytes);
+    statement.bind(6, connection.downloadedBytes);
+    statement.bind(7, connection.ending);
+    statement.bind(8, connection.interfaceName);
 }
 
 } // namespace
@@ -191,16 +218,20 @@ std::int64_t ConnectionTable::insert(const Connection &connection)
         m_insertion, "INSERT INTO connection (profile, start_utc, end_utc, connected_seconds,"
                      " uploaded_bytes, downloaded_bytes, ending, interface_name)"
                      " VALUES (?, ?, ?, ?, ?, ?, ?, ?)");
-    statement.bind(1, connection.profile);
-    statement.bind(2, connection.startUtc);
-    statement.bind(3, connection.endUtc);
-    statement.bind(4, connection.connectedSeconds);
-    statement.bind(5, connection.uploadedBytes);
-    statement.bind(6, connection.downloadedBytes);
-    statement.bind(7, connection.ending);
-    statement.bind(8, connection.interfaceName);
+    bindContents(statement, connection);
     statement.exec();
     return m_database.getLastInsertRowid();
+}
+
+void ConnectionTable::update(const Connection &connection)
+{
+    SQLite::Statement &statement = prepared(
+        m_update, "UPDATE connection SET profile = ?, start_utc = ?, end_utc = ?,"
+                  " connected_seconds = ?, uploaded_bytes = ?, downloaded_bytes = ?, ending = ?,"
+                  " interface_name = ? WHERE key = ?");
+    bindContents(statement, connection);
+    statement.bind(9, connection.key);
+    statement.exec();
 }
 
 bool ConnectionTable::holds(const std::string &interfaceName, std::int64_t startUtc)
@@ -232,6 +263,31 @@ std::size_t ConnectionTable::insertMissing(const std::vector<Connection> &connec
             progress(i + 1);
     }
     return inserted;
+}
+
+StatisticsStore::Merged ConnectionTable::merge(const std::vector<Connection> &connections,
+                                               const StatisticsStore::Completion &complete,
+                                               const StatisticsStore::Progress &progress)
+{
+    StatisticsStore::Merged merged;
+    if (connections.empty())
+        return merged;
+    const ConnectionMerge merge(connections);
+    const auto stored = storedCandidates(m_database, connections, merge);
+    const auto pairs = merge.pairsAmong(stored);
+    for (std::size_t i = 0; i < connections.size(); ++i) {
+        if (!pairs[i]) {
+            insert(connections[i]);
+            ++merged.added;
+        } else if (Connection known = *pairs[i];
+                   !hasSameContents(known, connections[i]) && complete(known, i)) {
+            update(known);
+            ++merged.completed;
+        }
+        if (progress)
+            progress(i + 1);
+    }
+    return merged;
 }
 
 bool ConnectionTable::remove(std::int64_t key)

@@ -74,14 +74,20 @@ public:
     /// StatisticsStore::addMissing.
     std::size_t insertMissing(const std::vector<Connection> &connections,
                               const StatisticsStore::Progress &progress);
+    /// Inserts and completes what a log tells; see StatisticsStore::merge.
+    StatisticsStore::Merged merge(const std::vector<Connection> &connections,
+                                  const StatisticsStore::Completion &complete,
+                                  const StatisticsStore::Progress &progress);
     /// Whether there was such a row to remove.
     bool remove(std::int64_t key);
 
 private:
+    void update(const Connection &connection);
     SQLite::Statement &prepared(std::optional<SQLite::Statement> &statement, const char *sql);
 
     SQLite::Database &m_database;
     std::optional<SQLite::Statement> m_insertion;
+    std::optional<SQLite::Statement> m_update;
     std::optional<SQLite::Statement> m_removal;
 };
 

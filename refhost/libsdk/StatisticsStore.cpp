@@ -218,6 +218,17 @@ Result<std::size_t> StatisticsStore::addMissing(const std::vector<Connection> &c
     });
 }
 
+Result<StatisticsStore::Merged> StatisticsStore::merge(const std::vector<Connection> &connections,
+                                                       const Completion &complete,
+                                                       const Progress &progress)
+{
+    return d->attempt([&] {
+        checkAll(connections);
+        return d->database.write(
+            [&](ConnectionTable &table) { return table.merge(connections, complete, progress); });
+    });
+}
+
 Result<std::size_t> StatisticsStore::remove(const std::vector<std::int64_t> &keys)
 {
     return d->attempt([&]() -> std::size_t {

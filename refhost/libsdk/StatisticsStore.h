@@ -112,6 +112,23 @@ public:
     Result<std::size_t> addMissing(const std::vector<Connection> &connections,
                                    const Progress &progress = {});
 
+    /// What merge() has changed.
+    struct Merged {
+        std::size_t added = 0;
+        std::size_t completed = 0;
+    };
+    /// Takes over into `stored` what the given connection of that index knows more
+    /// about the same one; whether that was anything.
+    using Completion = std::function<bool(Connection &stored, std::size_t index)>;
+    /// Stores connections that were read from a log, all or none. A log may have lost
+    /// the beginning of a connection or not name its profile, so here those are the same
+    /// whose end, connected time and both byte counts are, unless both know their
+    /// interface and it is another one. As in addMissing(), their number counts.
+    /// `complete` is asked for each that is there with other contents; it leaves the
+    /// key, and what makes the two the same, as it is.
+    Result<Merged> merge(const std::vector<Connection> &connections, const Completion &complete,
+                         const Progress &progress = {});
+
     /// Removes the connections with these keys, all or none.
     Result<std::size_t> remove(const std::vector<std::int64_t> &keys);
 
