@@ -6,11 +6,13 @@ namespace refhost
 
 /// What the four functions of KoraStatistics.h answer. Every call that answers
 /// anything but KoraOk writes the reason, one line beginning "refhost.sdk: ",
-/// to standard error.
+/// to standard error. They may be called from any thread, one call at a time is
+/// worked off; indices mean places in the list handed out last, to whichever thread.
 enum KoraStatus : int {
     KoraOk = 0,
     KoraBadArgument = 1,  ///< a null pointer where a place for the answer is needed
-    KoraNoSuchRecord = 2, ///< no list yet, an index past it, nothing left there, an empty history
+    KoraNoSuchRecord = 2, ///< no list yet, an index past it, a record removed already,
+                          ///< an empty history
     KoraCannotOpen = 3,   ///< no permission, no folder, read-only disk, no memory
     KoraNotAStore = 4,    ///< the file is something else; it was left untouched
     KoraNewerStore = 5,   ///< written by a newer version; it was left untouched

@@ -9,8 +9,8 @@ namespace refhost
 {
 
 /// What the indices of the list last handed out mean. An index is a place in
-/// that list, so removals do not shift it; the place of a record that is gone
-/// stands for the first one after it that is still there.
+/// that list, so removals do not shift it; the place of a record that is known to
+/// be gone stands for the first one after it that is not.
 class ListNumbering
 {
 public:

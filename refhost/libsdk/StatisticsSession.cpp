@@ -79,6 +79,7 @@ Listing listingOf(ConnectionTable &table)
 
 Result<RecordList> StatisticsSession::allRecords()
 {
+    const std::lock_guard<std::mutex> oneAtATime(m_mutex);
     const std::string path = StatisticsStore::defaultPath();
     return attempt(path, [&] {
         StoreDatabase &store = database(path);
@@ -93,21 +94,31 @@ Result<RecordList> StatisticsSession::allRecords()
 
 Result<std::int64_t> StatisticsSession::removeRecord(int index)
 {
+    const std::lock_guard<std::mutex> oneAtATime(m_mutex);
     const std::string path = StatisticsStore::defaultPath();
     return attempt(path, [&] {
         StoreDatabase &store = database(path);
-        checkIndex(path, index);
-        return store.write([&](ConnectionTable &table) {
+        const std::size_t place = placeOf(path, index);
+        const std::int64_t key = m_numbering->keyAt(place);
+        const bool wasThere = store.write([&](ConnectionTable &table) {
             if (!(store.file() == m_listedFile))
                 throw noSuchRecord(path, "is not the one whose list was handed out; nothing was "
                                          "removed, fetch the list again.");
-            return removeFirstFrom(static_cast<std::size_t>(index), table);
+            return table.remove(key);
         });
+        // Not before: the removal stands only when it is committed.
+        m_numbering->markGone(place);
+        if (!wasThere)
+            throw noSuchRecord(path, "has lost the record at the index " + std::to_string(index) +
+                                         " to another program, which has removed it; nothing was "
+                                         "removed, fetch the list again.");
+        return key;
     });
 }
 
 Result<_KORA_ST_CONNRECORD> StatisticsSession::lastRecord()
 {
+    const std::lock_guard<std::mutex> oneAtATime(m_mutex);
     const std::string path = StatisticsStore::defaultPath();
     return attempt(path, [&] {
         _KORA_ST_CONNRECORD record = {};
@@ -130,7 +141,7 @@ StoreDatabase &StatisticsSession::database(const std::string &path)
     return *m_database;
 }
 
-void StatisticsSession::checkIndex(const std::string &path, int index) const
+std::size_t StatisticsSession::placeOf(const std::string &path, int index)
 {
     if (!m_numbering)
         throw noSuchRecord(path, "has not been listed yet, so the index " + std::to_string(index) +
@@ -140,22 +151,11 @@ void StatisticsSession::checkIndex(const std::string &path, int index) const
                                      std::to_string(m_numbering->size()) +
                                      " records, in which there is no index " +
                                      std::to_string(index) + "; fetch the list again.");
-}
-
-std::int64_t StatisticsSession::removeFirstFrom(std::size_t place, ConnectionTable &table)
-{
-    for (;;) {
-        place = m_numbering->firstFrom(place);
-        if (place == m_numbering->size())
-            throw noSuchRecord(m_path, "has no record left at this index of the list or after it; "
-                                       "fetch the list again.");
-        const std::int64_t key = m_numbering->keyAt(place);
-        // Not marked yet: the removal stands only when it is committed. The next
-        // call that meets this place finds the record gone and marks it then.
-        if (table.remove(key))
-            return key;
-        m_numbering->markGone(place);
-    }
+    const std::size_t place = m_numbering->firstFrom(static_cast<std::size_t>(index));
+    if (place == m_numbering->size())
+        throw noSuchRecord(path, "has no record left at this index of the list or after it; "
+                                 "fetch the list again.");
+    return place;
 }
 
 } // namespace refhost

@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 #include <optional>
 
 namespace refhost
@@ -24,22 +25,25 @@ struct RecordList {
 };
 
 /// What the four functions of KoraStatistics.h keep between their calls: the
-/// store at the path in force, and the numbering of the list last handed out.
+/// store at the path in force, and the numbering of the list last handed out, which
+/// all threads share. Calls may come from any thread and are worked off one by one.
 class StatisticsSession
 {
 public:
     /// All records in the list's order; their places are the indices that
     /// removeRecord understands from then on.
     Result<RecordList> allRecords();
-    /// Removes the record that `index` means and returns its key.
+    /// Removes the record that `index` means and returns its key. One that another
+    /// process has removed is an error once and then counts as removed here.
     Result<std::int64_t> removeRecord(int index);
     Result<_KORA_ST_CONNRECORD> lastRecord();
 
 private:
     StoreDatabase &database(const std::string &path);
-    void checkIndex(const std::string &path, int index) const;
-    std::int64_t removeFirstFrom(std::size_t place, ConnectionTable &table);
+    /// The place in the list last handed out whose record `index` means now.
+    std::size_t placeOf(const std::string &path, int index);
 
+    std::mutex m_mutex;
     std::unique_ptr<StoreDatabase> m_database;
     std::string m_path;
     std::optional<ListNumbering> m_numbering;

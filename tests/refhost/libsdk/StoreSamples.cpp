@@ -109,3 +109,8 @@ void runSql(const std::string &path, const std::string &sql)
 {
     SQLite::Database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE).exec(sql);
 }
+
+int versionOf(const std::string &path)
+{
+    return SQLite::Database(path).execAndGet("PRAGMA user_version").getInt();
+}

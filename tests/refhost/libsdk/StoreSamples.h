@@ -34,3 +34,6 @@ void writeFile(const QString &path, const QByteArray &contents);
 
 /// Runs SQL on a database of its own making, as another program would.
 void runSql(const std::string &path, const std::string &sql);
+
+/// The version that the store's file says it has.
+int versionOf(const std::string &path);

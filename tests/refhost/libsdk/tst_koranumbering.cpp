@@ -39,7 +39,10 @@ private slots:
     void whatTheListDoesNotHaveCannotBeRemoved();
     void nothingCanBeRemovedBeforeAList();
     void twoProcessesRemoveAtOnce();
-    void aRecordRemovedElsewhereCountsAsGone();
+    void aRecordRemovedElsewhereFailsOnceAndSparesItsNeighbour();
+    void aRecordRemovedElsewhereBehindOneRemovedHereFailsToo();
+    void removingTheFirstPlaceEmptiesAListThatAnotherProcessHasThinned();
+    void aRemovalThatFailedIsNotCounted();
     void theStoreItselfLeavesTheNumberingAlone();
     void aFailedListLeavesTheNumberingAlone();
     void aListOfAnotherStoreRemovesNothing();
@@ -115,33 +118,75 @@ void KoraNumberingTest::nothingCanBeRemovedBeforeAList()
 void KoraNumberingTest::twoProcessesRemoveAtOnce()
 {
     constexpr int removals = 40;
-    storeWith(m_store->path(), numberedConnections(2 * removals + 5));
+    storeWith(m_store->path(), numberedConnections(removals + 5));
     std::array<StorePeer, 2> peers;
     for (StorePeer &peer : peers)
-        QCOMPARE(peer.tell("list"), QString("ok %1").arg(2 * removals + 5));
+        QCOMPARE(peer.tell("list"), QString("ok %1").arg(removals + 5));
+    int removed = 0;
     for (int i = 0; i < removals; ++i) {
         for (StorePeer &peer : peers)
             peer.send("remove 0");
         for (StorePeer &peer : peers)
-            QCOMPARE(peer.answer(), QString("ok 0"));
+            removed += peer.answer() == "ok 0" ? 1 : 0;
     }
-    // Each removal took one record, and none was taken twice.
-    QCOMPARE(profilesIn(m_store->path()), QString("80 81 82 83 84"));
+    // Each record was taken once, and none that neither of them had come to.
+    QCOMPARE(removed, removals);
+    QCOMPARE(profilesIn(m_store->path()), QString("40 41 42 43 44"));
 }
 
-void KoraNumberingTest::aRecordRemovedElsewhereCountsAsGone()
+void KoraNumberingTest::aRecordRemovedElsewhereFailsOnceAndSparesItsNeighbour()
 {
     storeWith(m_store->path(), numberedConnections(4));
     handOut();
     StorePeer peer;
     QCOMPARE(peer.tell("list"), QString("ok 4"));
     QCOMPARE(peer.tell("remove 1"), QString("ok 0"));
-    QCOMPARE(peer.tell("remove 2"), QString("ok 0"));
-    QCOMPARE(removeAt(1), int(refhost::KoraOk));
-    QCOMPARE(profilesIn(m_store->path()), QString("0"));
     QCOMPARE(removeAt(1), int(refhost::KoraNoSuchRecord));
+    QCOMPARE(profilesIn(m_store->path()), QString("0 2 3"));
+    // From now on it counts as removed here.
+    QCOMPARE(removeAt(1), int(refhost::KoraOk));
+    QCOMPARE(profilesIn(m_store->path()), QString("0 3"));
+}
+
+void KoraNumberingTest::aRecordRemovedElsewhereBehindOneRemovedHereFailsToo()
+{
+    storeWith(m_store->path(), numberedConnections(4));
+    handOut();
     QCOMPARE(removeAt(0), int(refhost::KoraOk));
+    StorePeer peer;
+    QCOMPARE(peer.tell("list"), QString("ok 3"));
+    QCOMPARE(peer.tell("remove 0"), QString("ok 0"));
+    QCOMPARE(removeAt(0), int(refhost::KoraNoSuchRecord));
+    QCOMPARE(profilesIn(m_store->path()), QString("2 3"));
+    QCOMPARE(removeAt(0), int(refhost::KoraOk));
+    QCOMPARE(profilesIn(m_store->path()), QString("3"));
+}
+
+void KoraNumberingTest::removingTheFirstPlaceEmptiesAListThatAnotherProcessHasThinned()
+{
+    storeWith(m_store->path(), numberedConnections(6));
+    handOut();
+    StorePeer peer;
+    QCOMPARE(peer.tell("list"), QString("ok 6"));
+    for (const char *const elsewhere : {"remove 0", "remove 3", "remove 5"})
+        QCOMPARE(peer.tell(elsewhere), QString("ok 0"));
+    int removed = 0;
+    for (int i = 0; i < 6; ++i)
+        removed += removeAt(0) == refhost::KoraOk ? 1 : 0;
+    QCOMPARE(removed, 3);
     QCOMPARE(profilesIn(m_store->path()), QString());
+}
+
+void KoraNumberingTest::aRemovalThatFailedIsNotCounted()
+{
+    storeWith(m_store->path(), numberedConnections(3));
+    handOut();
+    const std::string version = std::to_string(versionOf(m_store->path()));
+    runSql(m_store->path(), "PRAGMA user_version = 99");
+    QCOMPARE(removeAt(1), int(refhost::KoraNewerStore));
+    runSql(m_store->path(), "PRAGMA user_version = " + version);
+    QCOMPARE(removeAt(1), int(refhost::KoraOk));
+    QCOMPARE(profilesIn(m_store->path()), QString("0 2"));
 }
 
 void KoraNumberingTest::theStoreItselfLeavesTheNumberingAlone()

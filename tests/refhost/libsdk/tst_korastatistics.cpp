@@ -5,11 +5,15 @@
 #include "NamedStore.h"
 #include "StoreSamples.h"
 
+#include <QProcess>
 #include <QTest>
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <limits>
+#include <thread>
+#include <vector>
 
 using refhost::Connection;
 
@@ -53,6 +57,8 @@ private slots:
 
     void refusesNullPointers();
     void releasesNull();
+    void takesCallsFromManyThreads();
+    void servesAHostInC();
 
 private:
     /// The only record of a store with this connection alone.
@@ -237,6 +243,42 @@ void KoraStatisticsTest::refusesNullPointers()
 void KoraStatisticsTest::releasesNull()
 {
     QCOMPARE(KORA_Statistics_ReleaseConnRecord(nullptr), int(refhost::KoraOk));
+}
+
+void KoraStatisticsTest::takesCallsFromManyThreads()
+{
+    constexpr int threadCount = 4;
+    constexpr int rounds = 200;
+    constexpr int recordCount = threadCount * rounds;
+    auto filled = storeWith(m_store->path(), {});
+    QVERIFY(filled.addMissing(numberedConnections(recordCount + 1)));
+    QCOMPARE(handOut().records.size(), std::size_t(recordCount + 1));
+    std::atomic<int> failures = 0;
+    const auto work = [&failures] {
+        for (int i = 0; i < rounds; ++i) {
+            _KORA_ST_CONNRECORD last = {};
+            failures += KORA_Statistics_GetLastConnRecord(&last) == refhost::KoraOk ? 0 : 1;
+            failures += KORA_Statistics_ConnRecord_RemoveRecord(0) == refhost::KoraOk ? 0 : 1;
+            failures += handOut().status == refhost::KoraOk ? 0 : 1;
+        }
+    };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < threadCount; ++i)
+        threads.emplace_back(work);
+    for (std::thread &each : threads)
+        each.join();
+    QCOMPARE(failures.load(), 0);
+    QCOMPARE(profilesIn(m_store->path()), QString::number(recordCount));
+}
+
+void KoraStatisticsTest::servesAHostInC()
+{
+    storeWith(m_store->path(), {connection("a", 10, 12), connection("b", 20, 25)});
+    QProcess host;
+    host.start(KORA_IN_C, QStringList());
+    QVERIFY(host.waitForFinished());
+    QCOMPARE(host.exitCode(), 0);
+    QCOMPARE(host.readAllStandardOutput(), QByteArray("10 12\n20 25\n"));
 }
 
 QTEST_GUILESS_MAIN(KoraStatisticsTest)
