@@ -118,6 +118,12 @@ void StoreDatabase::openForWriting()
     m_isChecked = true;
 }
 
+/// A newer program may have upgraded the store since it was opened here.
+void StoreDatabase::checkVersion()
+{
+    checkSchemaVersion(m_path, m_database->execAndGet("PRAGMA user_version").getInt());
+}
+
 StoreFailure StoreDatabase::failure(Access access, const SQLite::Exception &exception)
 {
     const int code = exception.getErrorCode();

@@ -54,6 +54,7 @@ public:
             return ifNotThere;
         return translated(Access::Reading, [&] {
             SQLite::Transaction transaction(*m_database);
+            checkVersion();
             Value value = operation(*m_table);
             transaction.commit();
             return value;
@@ -68,6 +69,7 @@ public:
         openForWriting();
         return translated(Access::Writing, [&] {
             SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
+            checkVersion();
             auto value = operation(*m_table);
             transaction.commit();
             return value;
@@ -88,6 +90,7 @@ private:
     StoreFailure failure(Access access, const SQLite::Exception &exception);
     int systemErrorBehind(int code) const;
     void checkLogAfterReplacement() const;
+    void checkVersion();
     void connect();
     void close();
     void openForWriting();

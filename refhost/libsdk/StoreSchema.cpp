@@ -37,11 +37,11 @@ void checkVersion(const std::string &path, std::int32_t version, std::size_t new
     if (version < 1)
         throw damaged(path, "it says that its version is " + std::to_string(version));
     if (static_cast<std::size_t>(version) > newest)
-        throw StoreFailure(Kind::NewerStore,
-                           historyAt(path) + " has version " + std::to_string(version) +
-                               ", but this program knows only versions up to " +
-                               std::to_string(newest) +
-                               "; it was left as it is, update this program to read it.");
+        throw StoreFailure(
+            Kind::NewerStore,
+            historyAt(path) + " has version " + std::to_string(version) +
+                ", but this program knows only versions up to " + std::to_string(newest) +
+                "; it was left as it is, update and restart this program to use it.");
 }
 
 /// How many of the steps have been taken; to be asked within a transaction.

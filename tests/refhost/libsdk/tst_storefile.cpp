@@ -17,6 +17,7 @@
 
 #include <functional>
 
+using refhost::Connection;
 using refhost::StatisticsStore;
 
 namespace
@@ -129,6 +130,7 @@ private slots:
     void refusesAndKeepsUntouched();
     void refusesToWriteToAFileDamagedElsewhere();
     void keepsWhatACrashLeftInTheLog();
+    void isLeftAloneOnceANewerProgramHasUpgradedIt();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -375,6 +377,28 @@ void StoreFileTest::keepsWhatACrashLeftInTheLog()
         QVERIFY(QFile::copy(m_path + "-wal", copy + "-wal"));
     }
     QCOMPARE(profilesIn(copy.toStdString()), QString("0 1 2"));
+}
+
+void StoreFileTest::isLeftAloneOnceANewerProgramHasUpgradedIt()
+{
+    StatisticsStore store = storeWith(m_path.toStdString(), numberedConnections(3));
+    const auto open = store.begin({});
+    QVERIFY(open);
+    const std::string version = std::to_string(versionOf(m_path.toStdString()));
+    runSql(m_path.toStdString(), "PRAGMA user_version = 1000");
+    const Connection given = connection("p", 1, 2);
+    QCOMPARE(outcomeOf(store.add(given)), QString("NewerStore"));
+    QCOMPARE(outcomeOf(store.addMissing({given})), QString("NewerStore"));
+    QCOMPARE(outcomeOf(store.remove({1})), QString("NewerStore"));
+    QCOMPARE(outcomeOf(store.checkpoint(open.value())), QString("NewerStore"));
+    QCOMPARE(outcomeOf(store.finish(open.value(), given)), QString("NewerStore"));
+    QCOMPARE(outcomeOf(store.list()), QString("NewerStore"));
+    refhost::OpenConnection another;
+    another.bootId = "another";
+    QVERIFY(!store.begin(another));
+    runSql(m_path.toStdString(), "PRAGMA user_version = " + version);
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("0 1 2"));
+    QCOMPARE(store.listOpen().value().size(), std::size_t(1));
 }
 
 QTEST_GUILESS_MAIN(StoreFileTest)

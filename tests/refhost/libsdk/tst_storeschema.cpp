@@ -106,7 +106,8 @@ void StoreSchemaTest::refusesANewerDatabase()
     upgradeSchema("file", m_database, followedBy("INSERT INTO fruit VALUES ('pear')"));
     QCOMPARE(errorOf([&] { upgradeSchema("file", m_database, oneStep); }),
              QString("The connection history \"file\" has version 2, but this program knows only "
-                     "versions up to 1; it was left as it is, update this program to read it."));
+                     "versions up to 1; it was left as it is, update and restart this program to "
+                     "use it."));
     QCOMPARE(versionOf(m_database), 2);
 }
 
