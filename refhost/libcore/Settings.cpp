@@ -2,6 +2,7 @@
 #include "Settings.h"
 
 #include "Host.h"
+#include "PrivateFile.h"
 
 namespace refhost
 {
@@ -15,6 +16,7 @@ Settings::Settings(const QString &group)
 bool storeSetting(const QString &group, const QString &key, const QString &value)
 {
     Settings settings(group);
+    preparePrivateFile(settings.fileName());
     settings.setValue(key, value);
     settings.sync();
     return settings.status() == QSettings::NoError;

@@ -10,6 +10,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <sys/stat.h>
+
 #include <memory>
 
 class TestCommonUtils : public QObject
@@ -25,6 +27,10 @@ private slots:
     void readsASettingWrittenByHand();
     void readsAnUnsetSettingAsEmpty();
     void saysWhenASettingCannotBeStored();
+    void keepsSettingsToTheirOwner_data();
+    void keepsSettingsToTheirOwner();
+    void closesAnOpenSettingsFolder();
+    void leavesAFolderAloneThatIsLinked();
 
     void knowsNoMainWindowAtFirst();
     void answersWithTheMainWindow();
@@ -56,6 +62,13 @@ bool isCentred(const QWidget &widget, const QRect &over)
 QRect screenArea()
 {
     return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+int modeOf(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 ? int(status.st_mode & 0777U)
+                                                                   : -1;
 }
 
 } // namespace
@@ -105,6 +118,48 @@ void TestCommonUtils::saysWhenASettingCannotBeStored()
     QFile obstacle(m_folder->filePath("refdialer"));
     QVERIFY(obstacle.open(QFile::WriteOnly));
     QVERIFY(!refhost::storeSetting("SomePlugin", "Key", "value"));
+}
+
+void TestCommonUtils::keepsSettingsToTheirOwner_data()
+{
+    QTest::addColumn<int>("mask");
+    QTest::newRow("a umask that takes nothing") << 0;
+    QTest::newRow("the usual umask") << 022;
+    QTest::newRow("a umask that takes everything") << 0777;
+}
+
+void TestCommonUtils::keepsSettingsToTheirOwner()
+{
+    QFETCH(int, mask);
+    const QString base = m_folder->filePath("config");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, base);
+    const mode_t before = umask(static_cast<mode_t>(mask));
+    const bool isStored = refhost::storeSetting("SomePlugin", "Key", "value") &&
+                          refhost::storeSetting("SomePlugin", "OtherKey", "other");
+    umask(before);
+    QVERIFY(isStored);
+    QCOMPARE(modeOf(base), 0700);
+    QCOMPARE(modeOf(base + "/refdialer"), 0700);
+    QCOMPARE(modeOf(base + "/refdialer/refdialer.conf"), 0600);
+}
+
+void TestCommonUtils::closesAnOpenSettingsFolder()
+{
+    const QByteArray folder = QFile::encodeName(m_folder->filePath("refdialer"));
+    QCOMPARE(mkdir(folder.constData(), 0755), 0);
+    QVERIFY(refhost::storeSetting("SomePlugin", "Key", "value"));
+    QCOMPARE(modeOf(m_folder->filePath("refdialer")), 0700);
+}
+
+void TestCommonUtils::leavesAFolderAloneThatIsLinked()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir("elsewhere"));
+    const QByteArray target = QFile::encodeName(m_folder->filePath("elsewhere"));
+    QCOMPARE(chmod(target.constData(), 0750), 0);
+    QVERIFY(QFile::link(m_folder->filePath("elsewhere"), m_folder->filePath("refdialer")));
+    QVERIFY(refhost::storeSetting("SomePlugin", "Key", "value"));
+    QCOMPARE(modeOf(m_folder->filePath("elsewhere")), 0750);
+    QVERIFY(QFile::exists(m_folder->filePath("elsewhere/refdialer.conf")));
 }
 
 void TestCommonUtils::knowsNoMainWindowAtFirst()
