@@ -186,6 +186,10 @@ bool ConnectionRecorder::lockStore()
             tr("Connections are not recorded, for %1 cannot be written (%2); allow yourself to "
                "write there.")
                 .arg(m_lock->path(), m_lock->errorString()));
+    else if (outcome == RecorderLock::Outcome::Refused)
+        obstruct(tr("Connections are not recorded, for %1 is in the way of the lock (%2); move it "
+                    "away.")
+                     .arg(m_lock->path(), m_lock->errorString()));
     return outcome == RecorderLock::Outcome::Taken;
 }
 

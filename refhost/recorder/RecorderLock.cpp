@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecorderLock.h"
 
-#include <QCoreApplication>
+#include "LockFile.h"
 
-#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 
@@ -25,13 +24,12 @@ RecorderLock::~RecorderLock()
 
 RecorderLock::Outcome RecorderLock::take()
 {
-    Outcome outcome = takeFile();
-    // Its former holder has removed the file between opening and locking it.
-    while (outcome == Outcome::Taken && !isInPlace())
-        outcome = takeFile();
+    std::optional<Outcome> outcome;
+    while (!outcome)
+        outcome = tryFile();
     if (outcome == Outcome::Taken)
         introduceHolder();
-    return outcome;
+    return *outcome;
 }
 
 void RecorderLock::free()
@@ -44,52 +42,75 @@ void RecorderLock::free()
     m_file.close();
 }
 
-RecorderLock::Outcome RecorderLock::takeFile()
+std::optional<RecorderLock::Outcome> RecorderLock::tryFile()
 {
     m_file.close();
-    if (!open())
-        return fail();
-    if (flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0)
-        return Outcome::Taken;
-    if (errno != EWOULDBLOCK)
-        return fail();
-    m_holder = readHolder();
-    m_file.close();
-    return Outcome::HeldByAnother;
+    const bool isOpen = open();
+    const int reason = errno;
+    const auto status = isOpen ? statusOf(m_file.handle()) : statusAt(fileName());
+    if (!status)
+        return fail(reason);
+    if (!S_ISREG(status->st_mode))
+        return refuse(tr("it is not a file"));
+    if (status->st_nlink > 1)
+        return refuse(tr("it is a hard link to another file"));
+    if (isOpen && isOwn(*status))
+        return lock();
+    return isOpen || reason == EACCES ? replace(*status) : fail(reason);
 }
 
 bool RecorderLock::open()
 {
-    const int descriptor = openDescriptor();
+    const int descriptor = openLockFile(fileName());
     return descriptor >= 0 && m_file.open(descriptor, QIODevice::ReadWrite | QIODevice::Unbuffered,
                                           QFileDevice::AutoCloseHandle);
 }
 
-int RecorderLock::openDescriptor() const
+/// Nothing if its former holder has removed the file between opening and locking it.
+std::optional<RecorderLock::Outcome> RecorderLock::lock()
 {
-    const QByteArray path = QFile::encodeName(m_path);
-    // A link could lead the superuser to any file.
-    const auto attempt = [&path] {
-        return ::open(path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC,
-                      S_IRUSR | S_IWUSR);
-    };
-    int descriptor = attempt();
-    const int reason = errno;
-    // A umask can keep even the owner out of what a killed recorder left.
-    if (descriptor < 0 && reason == EACCES && chmod(path.constData(), S_IRUSR | S_IWUSR) == 0)
-        descriptor = attempt();
-    else
-        errno = reason;
-    return descriptor;
+    // A umask can keep even the owner out of a new file.
+    if (fchmod(m_file.handle(), S_IRUSR | S_IWUSR) != 0)
+        return fail(errno);
+    if (flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0)
+        return isInPlace() ? std::make_optional(Outcome::Taken) : std::nullopt;
+    if (errno != EWOULDBLOCK)
+        return fail(errno);
+    return leaveToHolder();
+}
+
+/// What cannot be locked safely, another user's file or one that its owner may not
+/// open, would keep everybody from recording for ever. Nothing if it is gone.
+std::optional<RecorderLock::Outcome> RecorderLock::replace(const struct stat &status)
+{
+    switch (removeUnlocked(fileName(), status)) {
+    case Removal::Done:
+        return std::nullopt;
+    case Removal::Busy:
+        return leaveToHolder();
+    case Removal::NotOwnFolder:
+        break;
+    }
+    return isOwn(status) ? fail(EACCES) : refuse(tr("it belongs to another user"));
+}
+
+RecorderLock::Outcome RecorderLock::leaveToHolder()
+{
+    m_holder = m_file.isOpen() ? readHolder() : std::nullopt;
+    m_file.close();
+    return Outcome::HeldByAnother;
 }
 
 bool RecorderLock::isInPlace() const
 {
-    struct stat locked = {};
-    struct stat inPlace = {};
-    return fstat(m_file.handle(), &locked) == 0 &&
-           lstat(QFile::encodeName(m_path).constData(), &inPlace) == 0 &&
-           locked.st_dev == inPlace.st_dev && locked.st_ino == inPlace.st_ino;
+    const auto locked = statusOf(m_file.handle());
+    const auto inPlace = statusAt(fileName());
+    return locked && inPlace && isSameFile(*locked, *inPlace);
+}
+
+std::string RecorderLock::fileName() const
+{
+    return QFile::encodeName(m_path).toStdString();
 }
 
 /// For the others' messages only: a full disk does not keep anybody from recording.
@@ -109,11 +130,18 @@ std::optional<RecorderLock::Holder> RecorderLock::readHolder()
     return Holder{program, process};
 }
 
-RecorderLock::Outcome RecorderLock::fail()
+RecorderLock::Outcome RecorderLock::fail(int systemError)
 {
-    m_error = QString::fromStdString(std::generic_category().message(errno));
+    m_error = QString::fromStdString(std::generic_category().message(systemError));
     m_file.close();
     return Outcome::Failed;
+}
+
+RecorderLock::Outcome RecorderLock::refuse(const QString &reason)
+{
+    m_error = reason;
+    m_file.close();
+    return Outcome::Refused;
 }
 
 } // namespace refhost

@@ -343,6 +343,25 @@
         <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
         <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 lässt sich nicht schreiben (%2). Erlauben Sie sich dort das Schreiben.</translation>
     </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 steht der Sperre im Weg (%2). Verschieben Sie es an einen anderen Ort.</translation>
+    </message>
+</context>
+<context>
+    <name>refhost::RecorderLock</name>
+    <message>
+        <source>it is not a file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>ein harter Verweis auf eine andere Datei</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>die Datei gehört jemand anderem</translation>
+    </message>
 </context>
 <context>
     <name>refhost::LinkMonitor</name>

@@ -780,8 +780,8 @@ void ConnectionRecorderTest::saysWhyItCannotLock()
     QVERIFY(!start());
     QTRY_COMPARE(m_failures->size(), 1);
     QCOMPARE(m_failures->first().first().toString(),
-             QStringLiteral("Connections are not recorded, for %1 cannot be written (Is a "
-                            "directory); allow yourself to write there.")
+             QStringLiteral("Connections are not recorded, for %1 is in the way of the lock (it "
+                            "is not a file); move it away.")
                  .arg(lock));
 }
 

@@ -5,9 +5,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <functional>
 #include <memory>
 
 using refhost::RecorderLock;
@@ -39,7 +42,25 @@ private:
     const bool m_isNobody;
 };
 
+bool write(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
+
+QByteArray textIn(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+const QByteArray introduction("123\nrefdialer\n");
+
+using Obstruct = std::function<bool(const QByteArray &path, const QByteArray &other)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Obstruct)
 
 class RecorderLockTest : public QObject
 {
@@ -50,14 +71,22 @@ private slots:
     void cleanup();
 
     void excludesOthersWhileItIsHeld();
+    void isPrivate_data();
     void isPrivate();
     void takesAFileThatItsOwnerMayNotOpen();
     void leavesAnothersFileAlone();
-    void followsNoLink();
+    void leavesAloneWhatIsNoLockFile_data();
+    void leavesAloneWhatIsNoLockFile();
+    void replacesAnotherUsersFileThatNobodyHolds();
+    void leavesAnotherUsersLock();
+    void leavesAnotherUsersFileInTheirFolder();
+    void leavesAFileThatAnotherProcessReplaces();
+    void theSuperuserLeavesAUsersFile();
     void saysWhyItCannotBeTaken();
 
 private:
     bool own(const QString &path) const;
+    bool leaveSuperusersFile() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_store;
@@ -83,6 +112,14 @@ bool RecorderLockTest::own(const QString &path) const
     return geteuid() != 0 || chown(QFile::encodeName(path).constData(), nobody, nobody) == 0;
 }
 
+/// What a recorder that was started with the superuser's rights and killed leaves
+/// behind, and its user may not open.
+bool RecorderLockTest::leaveSuperusersFile() const
+{
+    return write(m_file, introduction) &&
+           QFile::setPermissions(m_file, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
 void RecorderLockTest::excludesOthersWhileItIsHeld()
 {
     RecorderLock first(m_store);
@@ -95,14 +132,24 @@ void RecorderLockTest::excludesOthersWhileItIsHeld()
     QCOMPARE(second.take(), Outcome::Taken);
 }
 
+void RecorderLockTest::isPrivate_data()
+{
+    QTest::addColumn<int>("mask");
+    QTest::newRow("a umask that takes nothing") << 0;
+    QTest::newRow("a umask that takes everything") << 0777;
+}
+
 void RecorderLockTest::isPrivate()
 {
-    const mode_t before = umask(0);
+    QFETCH(int, mask);
+    const mode_t before = umask(static_cast<mode_t>(mask));
     RecorderLock lock(m_store);
-    QCOMPARE(lock.take(), Outcome::Taken);
+    const Outcome outcome = lock.take();
     umask(before);
-    QCOMPARE(QFileInfo(m_file).permissions() & QFileDevice::Permissions(0x77), // group and others
-             QFileDevice::Permissions());
+    QCOMPARE(outcome, Outcome::Taken);
+    struct stat status = {};
+    QCOMPARE(stat(QFile::encodeName(m_file).constData(), &status), 0);
+    QCOMPARE(int(status.st_mode & 0777U), 0600);
 }
 
 void RecorderLockTest::takesAFileThatItsOwnerMayNotOpen()
@@ -127,18 +174,120 @@ void RecorderLockTest::leavesAnothersFileAlone()
     QCOMPARE(first.take(), Outcome::HeldByAnother);
 }
 
-/// Whoever may write beside a store must not have the superuser write elsewhere.
-void RecorderLockTest::followsNoLink()
+void RecorderLockTest::leavesAloneWhatIsNoLockFile_data()
 {
-    const QString target = m_folder->filePath(QStringLiteral("target"));
-    QFile file(target);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write("text"), qint64{4});
-    file.close();
-    QVERIFY(QFile::link(target, m_file));
+    QTest::addColumn<Obstruct>("obstruct");
+    // Whoever may write beside a store must not have the superuser write elsewhere.
+    QTest::newRow("a symbolic link") << Obstruct([](const QByteArray &path, const QByteArray &to) {
+        return symlink(to.constData(), path.constData()) == 0;
+    });
+    QTest::newRow("a hard link") << Obstruct([](const QByteArray &path, const QByteArray &to) {
+        return link(to.constData(), path.constData()) == 0;
+    });
+    QTest::newRow("a pipe") << Obstruct([](const QByteArray &path, const QByteArray &) {
+        return mkfifo(path.constData(), 0600) == 0;
+    });
+    QTest::newRow("a folder") << Obstruct([](const QByteArray &path, const QByteArray &) {
+        return mkdir(path.constData(), 0700) == 0;
+    });
+}
+
+void RecorderLockTest::leavesAloneWhatIsNoLockFile()
+{
+    QFETCH(Obstruct, obstruct);
+    const QString other = m_folder->filePath(QStringLiteral("other"));
+    QVERIFY(write(other, "text"));
+    QVERIFY(QFile::setPermissions(other, QFileDevice::ReadOwner));
+    const auto permissions = QFileInfo(other).permissions();
+    QVERIFY(obstruct(QFile::encodeName(m_file), QFile::encodeName(other)));
+    {
+        RecorderLock lock(m_store);
+        QCOMPARE(lock.take(), Outcome::Refused);
+        QVERIFY(!lock.errorString().isEmpty());
+    }
+    QCOMPARE(textIn(other), QByteArray("text"));
+    QCOMPARE(QFileInfo(other).permissions(), permissions);
+    struct stat status = {};
+    QCOMPARE(lstat(QFile::encodeName(m_file).constData(), &status), 0);
+}
+
+void RecorderLockTest::replacesAnotherUsersFileThatNobodyHolds()
+{
+    if (geteuid() != 0)
+        QSKIP("only the superuser can make another user's file", "");
+    QVERIFY(leaveSuperusersFile());
+    QVERIFY(own(m_folder->path()));
+    const AsNobody user;
     RecorderLock lock(m_store);
-    QCOMPARE(lock.take(), Outcome::Failed);
-    QCOMPARE(file.size(), qint64{4});
+    QCOMPARE(lock.take(), Outcome::Taken);
+    QCOMPARE(QFileInfo(m_file).ownerId(), nobody);
+    RecorderLock second(m_store);
+    QCOMPARE(second.take(), Outcome::HeldByAnother);
+}
+
+void RecorderLockTest::leavesAnotherUsersLock()
+{
+    if (geteuid() != 0)
+        QSKIP("only the superuser can make another user's file", "");
+    RecorderLock first(m_store);
+    QCOMPARE(first.take(), Outcome::Taken);
+    const QByteArray text = textIn(m_file);
+    QVERIFY(own(m_folder->path()));
+    {
+        const AsNobody user;
+        RecorderLock second(m_store);
+        QCOMPARE(second.take(), Outcome::HeldByAnother);
+        QVERIFY(!second.holder());
+    }
+    QCOMPARE(textIn(m_file), text);
+    QCOMPARE(QFileInfo(m_file).ownerId(), 0U);
+}
+
+void RecorderLockTest::leavesAnotherUsersFileInTheirFolder()
+{
+    if (geteuid() != 0)
+        QSKIP("only the superuser can make another user's file", "");
+    QVERIFY(leaveSuperusersFile());
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFileDevice::Permissions(0x7777)));
+    {
+        const AsNobody user;
+        RecorderLock lock(m_store);
+        QCOMPARE(lock.take(), Outcome::Refused);
+    }
+    QCOMPARE(textIn(m_file), introduction);
+}
+
+void RecorderLockTest::leavesAFileThatAnotherProcessReplaces()
+{
+    if (geteuid() != 0)
+        QSKIP("only the superuser can make another user's file", "");
+    QVERIFY(leaveSuperusersFile());
+    QVERIFY(own(m_folder->path()));
+    // As that one does while it is at it.
+    const int folder = open(QFile::encodeName(m_folder->path()).constData(), O_RDONLY | O_CLOEXEC);
+    QCOMPARE(flock(folder, LOCK_EX), 0);
+    {
+        const AsNobody user;
+        RecorderLock lock(m_store);
+        QCOMPARE(lock.take(), Outcome::HeldByAnother);
+        QCOMPARE(QFileInfo(m_file).ownerId(), 0U);
+        close(folder);
+        QCOMPARE(lock.take(), Outcome::Taken);
+    }
+}
+
+void RecorderLockTest::theSuperuserLeavesAUsersFile()
+{
+    if (geteuid() != 0)
+        QSKIP("only the superuser can open another user's file", "");
+    QVERIFY(write(m_file, "some text"));
+    QVERIFY(own(m_folder->path()) && own(m_file));
+    {
+        RecorderLock lock(m_store);
+        QCOMPARE(lock.take(), Outcome::Refused);
+    }
+    QCOMPARE(textIn(m_file), QByteArray("some text"));
+    QCOMPARE(QFileInfo(m_file).ownerId(), nobody);
 }
 
 void RecorderLockTest::saysWhyItCannotBeTaken()
