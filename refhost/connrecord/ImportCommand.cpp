@@ -7,6 +7,7 @@
 #include "InputFile.h"
 #include "JsonText.h"
 #include "LineReader.h"
+#include "LogCompletion.h"
 #include "Output.h"
 #include "PppdConnections.h"
 #include "PppdLog.h"
@@ -32,6 +33,7 @@ constexpr std::int64_t connectionsPerStep = 20000;
 /// What a file holds.
 struct Contents {
     std::vector<Connection> connections;
+    std::vector<ProfileSource> profileSources; ///< of each connection; of a log alone
     std::vector<Unusable> unusable;
 };
 
@@ -81,7 +83,7 @@ Contents readPppd(InputFile &file, const std::string &profile, const ReadProgres
                              file.modifiedUtc());
     PppdConnections connections(years, profile);
     connections.takeAll(log.events);
-    return {connections.connections(), connections.unusable()};
+    return {connections.connections(), connections.profileSources(), connections.unusable()};
 }
 
 Contents read(const ImportRequest &request, QIODevice *terminal)
@@ -93,23 +95,37 @@ Contents read(const ImportRequest &request, QIODevice *terminal)
                                                         : readPppd(file, request.profile, progress);
 }
 
-/// How many of the connections were not in the store before.
-std::size_t store(const std::string &storePath, const std::vector<Connection> &connections,
-                  QIODevice *terminal)
+StatisticsStore::Merged addLogged(StatisticsStore &store, const Contents &contents,
+                                  const StatisticsStore::Progress &progress)
 {
-    ProgressLine line(terminal, "Storing", connectionsPerStep,
-                      static_cast<std::int64_t>(connections.size()));
-    auto store = valueOrFailure(StatisticsStore::openOrCreate(storePath));
-    return valueOrFailure(store.addMissing(
-        connections, [&line](std::size_t done) { line.update(static_cast<std::int64_t>(done)); }));
+    const auto complete = [&contents](Connection &stored, std::size_t index) {
+        return completeFromLog(stored, contents.connections[index], contents.profileSources[index]);
+    };
+    return valueOrFailure(store.merge(contents.connections, complete, progress));
 }
 
-std::string reportText(const Contents &contents, std::size_t added)
+StatisticsStore::Merged store(const std::string &storePath, const Contents &contents,
+                              ImportRequest::Format format, QIODevice *terminal)
+{
+    ProgressLine line(terminal, "Storing", connectionsPerStep,
+                      static_cast<std::int64_t>(contents.connections.size()));
+    const auto progress = [&line](std::size_t done) {
+        line.update(static_cast<std::int64_t>(done));
+    };
+    auto store = valueOrFailure(StatisticsStore::openOrCreate(storePath));
+    if (format == ImportRequest::Format::Pppd)
+        return addLogged(store, contents, progress);
+    return {valueOrFailure(store.addMissing(contents.connections, progress)), 0};
+}
+
+std::string reportText(const Contents &contents, const StatisticsStore::Merged &merged)
 {
     const std::size_t read = contents.connections.size();
     std::string text = "Connections read: " + std::to_string(read) +
-                       "\nAdded: " + std::to_string(added) +
-                       "\nAlready there: " + std::to_string(read - added) + '\n';
+                       "\nAdded: " + std::to_string(merged.added) +
+                       "\nAlready there: " + std::to_string(read - merged.added) + '\n';
+    if (merged.completed > 0)
+        text += "Of these, completed: " + std::to_string(merged.completed) + '\n';
     for (const Unusable &unusable : contents.unusable)
         text += "Not used, " + unusable.reason + ": " + std::to_string(unusable.count) +
                 "; first in line " + std::to_string(unusable.firstLine) + ": " +
@@ -117,7 +133,7 @@ std::string reportText(const Contents &contents, std::size_t added)
     return text;
 }
 
-Json reportJson(const Contents &contents, std::size_t added)
+Json reportJson(const Contents &contents, const StatisticsStore::Merged &merged)
 {
     const std::size_t read = contents.connections.size();
     Json unusable = Json::array();
@@ -126,8 +142,11 @@ Json reportJson(const Contents &contents, std::size_t added)
                             {"count", entry.count},
                             {"first_line", entry.firstLine},
                             {"first_text", entry.firstText}});
-    return {
-        {"read", read}, {"added", added}, {"already_there", read - added}, {"unusable", unusable}};
+    return {{"read", read},
+            {"added", merged.added},
+            {"already_there", read - merged.added},
+            {"completed", merged.completed},
+            {"unusable", unusable}};
 }
 
 } // namespace
@@ -142,9 +161,10 @@ void importConnections(const CommonRequest &common, const ImportRequest &request
         standardError.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
     QIODevice *const terminal = isTerminal ? &standardError : nullptr;
     const Contents contents = read(request, terminal);
-    const std::size_t added = store(common.storePath, contents.connections, terminal);
-    writeStandardOutput(common.json ? jsonText(reportJson(contents, added))
-                                    : QByteArray::fromStdString(reportText(contents, added)));
+    const StatisticsStore::Merged merged =
+        store(common.storePath, contents, request.format, terminal);
+    writeStandardOutput(common.json ? jsonText(reportJson(contents, merged))
+                                    : QByteArray::fromStdString(reportText(contents, merged)));
 }
 
 } // namespace refhost

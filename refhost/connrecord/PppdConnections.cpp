@@ -17,7 +17,6 @@ constexpr const char *noConnectTime = "byte counts have no connect time";
 constexpr const char *unreadableTime = "the time stamp cannot be read";
 constexpr const char *outOfRangeReason = "a number or time is out of range";
 
-constexpr const char *unknownInterface = "ppp";
 constexpr std::size_t longestInterface = 31;
 
 bool isStorable(std::int64_t time)
@@ -137,18 +136,20 @@ void PppdConnections::store(const Dial &dial, const PppdEvent &byteCounts)
 {
     const PppdEvent &end = *dial.connectTime;
     Connection connection;
-    connection.profile = profileOf(dial, end.pid);
     connection.endUtc = m_years.utc(*end.time);
     connection.connectedSeconds = end.message.seconds;
     connection.startUtc = startOf(dial, connection.endUtc);
     connection.uploadedBytes = byteCounts.message.sent;
     connection.downloadedBytes = byteCounts.message.received;
     connection.interfaceName = dial.connect ? dial.connect->message.text : std::string();
-    if (isStorable(connection))
-        m_connections.push_back(connection);
-    else
+    const ProfileSource source = nameProfile(connection, end.pid);
+    if (!isStorable(connection)) {
         count(outOfRangeReason,
               connection.uploadedBytes < 0 || connection.downloadedBytes < 0 ? byteCounts : end);
+        return;
+    }
+    m_connections.push_back(std::move(connection));
+    m_profileSources.push_back(source);
 }
 
 std::int64_t PppdConnections::startOf(const Dial &dial, std::int64_t endUtc) const
@@ -162,14 +163,16 @@ std::int64_t PppdConnections::startOf(const Dial &dial, std::int64_t endUtc) con
     return endUtc - dial.connectTime->message.seconds;
 }
 
-std::string PppdConnections::profileOf(const Dial &dial, std::int64_t pid) const
+ProfileSource PppdConnections::nameProfile(Connection &connection, std::int64_t pid) const
 {
-    std::string apn = m_apns.apnOf(pid);
-    if (!apn.empty())
-        return apn;
-    if (!m_fallbackProfile.empty())
-        return m_fallbackProfile;
-    return dial.connect ? dial.connect->message.text : unknownInterface;
+    connection.profile = m_apns.apnOf(pid);
+    if (!connection.profile.empty())
+        return ProfileSource::Log;
+    connection.profile = m_fallbackProfile;
+    if (!connection.profile.empty())
+        return ProfileSource::Option;
+    connection.profile = placeholderProfile(connection.interfaceName);
+    return ProfileSource::Placeholder;
 }
 
 void PppdConnections::count(const char *reason, const PppdEvent &event)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ApnTracker.h"
+#include "LogCompletion.h"
 #include "PppdLog.h"
 #include "StatisticsStore.h"
 #include "YearResolver.h"
@@ -36,6 +37,8 @@ public:
 
     /// In the order in which they ended.
     const std::vector<Connection> &connections() const { return m_connections; }
+    /// Where each of connections() has its profile from.
+    const std::vector<ProfileSource> &profileSources() const { return m_profileSources; }
     /// One entry for each reason that applies.
     const std::vector<Unusable> &unusable() const { return m_unusable; }
 
@@ -55,7 +58,7 @@ private:
     void abandon(Dial &dial);
     void store(const Dial &dial, const PppdEvent &byteCounts);
     std::int64_t startOf(const Dial &dial, std::int64_t endUtc) const;
-    std::string profileOf(const Dial &dial, std::int64_t pid) const;
+    ProfileSource nameProfile(Connection &connection, std::int64_t pid) const;
     void count(const char *reason, const PppdEvent &event);
 
     const YearResolver &m_years;
@@ -63,6 +66,7 @@ private:
     ApnTracker m_apns;
     std::unordered_map<std::int64_t, Dial> m_dials;
     std::vector<Connection> m_connections;
+    std::vector<ProfileSource> m_profileSources;
     std::vector<Unusable> m_unusable;
 };
 

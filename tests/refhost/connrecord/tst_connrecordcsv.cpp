@@ -108,9 +108,11 @@ void ConnrecordCsvTest::addsOnlyWhatIsMissing()
 {
     import(csvOf(2));
     const ConnrecordRun result = import(csvOf(5), {"--json"});
-    QCOMPARE(
-        result.json().object(),
-        (QJsonObject{{"read", 5}, {"added", 3}, {"already_there", 2}, {"unusable", QJsonArray()}}));
+    QCOMPARE(result.json().object(), (QJsonObject{{"read", 5},
+                                                  {"added", 3},
+                                                  {"already_there", 2},
+                                                  {"completed", 0},
+                                                  {"unusable", QJsonArray()}}));
 }
 
 void ConnrecordCsvTest::readsStandardInput()

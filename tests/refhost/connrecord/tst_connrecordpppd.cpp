@@ -20,6 +20,9 @@ private slots:
     void importsALog_data();
     void importsALog();
     void givesTheProfileThatTheLogDoesNotShow();
+    void countsAConnectionOnceWhateverItsProfile();
+    void completesWhatARotatedLogHadLost();
+    void keepsTwoModemsOfOneSecondApart();
     void saysWhatItCannotUse();
     void saysWhatItCannotUseAsJson();
     void readsStandardInput();
@@ -104,10 +107,11 @@ void ConnrecordPppdTest::importsALog()
 
     const QJsonObject first = import(log, {"--json"}).json().object();
     QCOMPARE(exported(), readFile(dataFile(name + ".csv")));
-    QCOMPARE(
-        first,
-        (QJsonObject{
-            {"read", count}, {"added", count}, {"already_there", 0}, {"unusable", QJsonArray()}}));
+    QCOMPARE(first, (QJsonObject{{"read", count},
+                                 {"added", count},
+                                 {"already_there", 0},
+                                 {"completed", 0},
+                                 {"unusable", QJsonArray()}}));
 
     const ConnrecordRun second = import(log);
     QCOMPARE(second.exitCode, 0);
@@ -121,6 +125,45 @@ void ConnrecordPppdTest::givesTheProfileThatTheLogDoesNotShow()
     const QString log = logFile("no-process.log", "2025-09-10T00:00:00");
     QCOMPARE(import(log, {"--profile", "Zürich, Büro"}).exitCode, 0);
     QVERIFY2(exported().contains("\n\"Zürich, Büro\",2025-09-08T"), exported());
+}
+
+void ConnrecordPppdTest::countsAConnectionOnceWhateverItsProfile()
+{
+    const QString log = logFile("no-process.log", "2025-09-10T00:00:00");
+    QCOMPARE(import(log, {"--profile", "one"}).exitCode, 0);
+    const QByteArray before = exported();
+    QCOMPARE(import(log, {"--profile", "other"}).output,
+             QByteArray("Connections read: 2\nAdded: 0\nAlready there: 2\n"));
+    QCOMPARE(exported(), before);
+}
+
+void ConnrecordPppdTest::completesWhatARotatedLogHadLost()
+{
+    const QByteArray whole = readFile(dataFile("weekday-year.log"));
+    const QByteArray cut = whole.mid(whole.indexOf("Sat Jun 17 17:29:17"));
+    QCOMPARE(import("-", {"--profile", "given"}, cut).exitCode, 0);
+    QVERIFY2(exported().contains("given,2023-06-17T15:20:17Z,2023-06-17T15:29:17Z,540,55,66,"),
+             exported());
+    QCOMPARE(
+        import("-", {"--profile", "given"}, whole).output,
+        QByteArray("Connections read: 2\nAdded: 0\nAlready there: 2\nOf these, completed: 2\n"));
+    QCOMPARE(exported(), readFile(dataFile("weekday-year.csv")));
+    QCOMPARE(import("-", {"--json"}, cut).json().object().value("completed").toInt(), 0);
+    QCOMPARE(exported(), readFile(dataFile("weekday-year.csv")));
+}
+
+void ConnrecordPppdTest::keepsTwoModemsOfOneSecondApart()
+{
+    QByteArray log;
+    for (const char *const line : {"10:00:00 gw pppd[1]: Connect: ppp0 <--> /dev/a",
+                                   "10:00:00 gw pppd[2]: Connect: ppp1 <--> /dev/b",
+                                   "10:01:00 gw pppd[1]: Connect time 1.0 minutes.",
+                                   "10:01:00 gw pppd[2]: Connect time 1.0 minutes.",
+                                   "10:01:00 gw pppd[1]: Sent 0 bytes, received 0 bytes.",
+                                   "10:01:00 gw pppd[2]: Sent 0 bytes, received 0 bytes."})
+        log += QByteArray("2024-05-31T") + line + '\n';
+    for (const int added : {2, 0})
+        QCOMPARE(import("-", {"--json"}, log).json().object().value("added").toInt(), added);
 }
 
 void ConnrecordPppdTest::saysWhatItCannotUse()
