@@ -8,7 +8,6 @@
 #include "NetInfoRecordLogic.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -259,21 +258,12 @@ bool AccumulateDlg::createValues()
         {m_pFormLayout, m_pDownloadedValue, m_pUploadedValue, m_pTransferTimeValue}, 438);
 }
 
-namespace
-{
-
-/// The instance lives as long as the module, so it ends when a host unloads the
-/// library. At the end of the process it stays: widgets need their application.
-struct EndWithModule {
-    ~EndWithModule()
-    {
-        if (QCoreApplication::instance())
-            AccumulateDlg::Destroy();
-    }
+/// The instance lives as long as the module: a host that unloads the library gets the
+/// memory back. Without a word, since at the end of a process Qt's log is gone by then.
+struct AccumulateDlg::FreedWithModule {
+    ~FreedWithModule() { delete m_pAccumulateDlgInst; }
 };
-const EndWithModule endWithModule;
-
-} // namespace
+const AccumulateDlg::FreedWithModule AccumulateDlg::m_freedWithModule;
 
 AccumulateDlg *AccumulateDlg::Instance()
 {

@@ -60,6 +60,7 @@ private:
         QString year;
         QString month;
     };
+    struct FreedWithModule;
 
     AccumulateDlg();
     ~AccumulateDlg() override;
@@ -92,6 +93,7 @@ private:
     void showFigures(const Figures &figures);
 
     static AccumulateDlg *m_pAccumulateDlgInst;
+    static const FreedWithModule m_freedWithModule;
     /// The clock that the months are counted from; tests set their own.
     static QDateTime (*m_pCurrentDateTime)();
 

@@ -79,20 +79,16 @@ QVariant recordLink(const ConnectionRecord *record)
     return QVariant::fromValue<qulonglong>(reinterpret_cast<quintptr>(record));
 }
 
-/// A cell as every one begins. Copies share what they have in common with it,
-/// which costs far less than to set each role of each cell.
-const QTableWidgetItem &commonCell()
+/// A cell as every one begins.
+QTableWidgetItem commonCell()
 {
-    static const QTableWidgetItem cell = [] {
-        QTableWidgetItem item;
-        item.setData(Qt::TextAlignmentRole, int(Qt::AlignLeft | Qt::AlignBottom));
-        item.setData(Qt::UserRole, 0);
-        item.setData(Qt::DisplayRole, QVariant()); // keeps a place for the cell's own
-        // Replaces the alignment above; both assignments and their order are meant.
-        item.setData(Qt::TextAlignmentRole, int(Qt::AlignLeft));
-        item.setFlags(item.flags() & ~Qt::ItemIsEditable);
-        return item;
-    }();
+    QTableWidgetItem cell;
+    cell.setData(Qt::TextAlignmentRole, int(Qt::AlignLeft | Qt::AlignBottom));
+    cell.setData(Qt::UserRole, 0);
+    cell.setData(Qt::DisplayRole, QVariant()); // keeps a place for the cell's own
+    // Replaces the alignment above; both assignments and their order are meant.
+    cell.setData(Qt::TextAlignmentRole, int(Qt::AlignLeft));
+    cell.setFlags(cell.flags() & ~Qt::ItemIsEditable);
     return cell;
 }
 
@@ -214,6 +210,7 @@ ConnectionHistoryDlg::ConnectionHistoryDlg()
     , m_pGridDelegate(new GridDelegateLayout)
     , m_pTableDeleteShortcut(new QShortcut(m_pConnectionTblTreeWidget))
     , m_pNoteLabel(new QLabel)
+    , m_commonCell(commonCell())
 {
     // Styles ask for more than a row has; without this the view would round the
     // row height up.
@@ -446,7 +443,7 @@ void ConnectionHistoryDlg::PopulateTableRowOfConnectionRecord(ConnectionRecord *
         return;
     m_pConnectionTblTreeWidget->setRowHeight(row, rowHeight);
     for (int column = 0; column < columnCount; ++column) {
-        auto *item = new (std::nothrow) QTableWidgetItem(commonCell());
+        auto *item = new (std::nothrow) QTableWidgetItem(m_commonCell);
         if (Log::isMissing(item, sourcePath, __func__, __LINE__))
             return;
         item->setData(Qt::DisplayRole, cellData(*record, column));

@@ -46,7 +46,9 @@ void line(const char *, Arguments...)
 template <typename... Arguments>
 void line(const char *format, Arguments... arguments)
 {
-    if (!QLoggingCategory::defaultCategory()->isDebugEnabled())
+    // A host may end the plug-in when Qt has ended its log already.
+    const QLoggingCategory *const category = QLoggingCategory::defaultCategory();
+    if (!category || !category->isDebugEnabled())
         return;
     // Of the C locale: some versions of the toolkit would take the user's digits.
     const QByteArray time =

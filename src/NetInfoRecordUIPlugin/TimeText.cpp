@@ -21,10 +21,9 @@ constexpr std::time_t endOfAgreement = 2145916800; // of 2037, in UTC
 constexpr std::time_t hour = 3600;
 constexpr std::time_t day = 24 * hour;
 
-const QString &format()
+QString format()
 {
-    static const QString text = QLatin1String("yyyyMMddhhmmss");
-    return text;
+    return QStringLiteral("yyyyMMddhhmmss");
 }
 
 bool isAsciiDigit(QChar character)
