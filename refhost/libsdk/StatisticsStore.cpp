@@ -154,6 +154,13 @@ public:
         return refhost::attempt(database.path(), operation);
     }
 
+    /// To be called within a write.
+    void keepSeen(const OpenConnection &connection)
+    {
+        if (const auto link = seenLinkOf(connection))
+            database.seenLinks().replace(*link);
+    }
+
     StoreDatabase database;
 };
 
@@ -257,6 +264,7 @@ Result<OpenConnection> StatisticsStore::begin(const OpenConnection &connection)
                 return *std::move(earlier);
             OpenConnection stored = connection;
             stored.key = table.insert(connection);
+            d->keepSeen(connection);
             return stored;
         });
     });
@@ -269,6 +277,7 @@ Result<std::int64_t> StatisticsStore::checkpoint(const OpenConnection &connectio
         return d->database.write([&](ConnectionTable &) {
             if (!d->database.openConnections().update(connection))
                 throw noSuchOpenConnection(d->database.path(), connection.key);
+            d->keepSeen(connection);
             return connection.key;
         });
     });
@@ -283,6 +292,7 @@ Result<std::int64_t> StatisticsStore::finish(const OpenConnection &open,
             const bool wasOpen = d->database.openConnections().remove(open);
             if (!wasOpen && table.holds(connection.interfaceName, connection.startUtc))
                 return 0;
+            d->keepSeen(open);
             return table.insert(connection);
         });
     });
@@ -294,6 +304,31 @@ Result<std::vector<OpenConnection>> StatisticsStore::listOpen() const
         return d->database.read(std::vector<OpenConnection>(), [&](ConnectionTable &) {
             return d->database.openConnections().all();
         });
+    });
+}
+
+Result<std::size_t> StatisticsStore::see(const std::vector<SeenLink> &links,
+                                         const std::vector<Connection> &unwatched)
+{
+    return d->attempt([&] {
+        checkAll(unwatched);
+        return d->database.write([&](ConnectionTable &table) {
+            for (const Connection &each : unwatched)
+                table.insert(each);
+            for (const SeenLink &link : links) {
+                d->database.seenLinks().replace(link);
+                d->database.seenLinks().removeOthersOfTheName(link);
+            }
+            return unwatched.size();
+        });
+    });
+}
+
+Result<std::vector<SeenLink>> StatisticsStore::listSeen() const
+{
+    return d->attempt([&] {
+        return d->database.read(std::vector<SeenLink>(),
+                                [&](ConnectionTable &) { return d->database.seenLinks().all(); });
     });
 }
 

@@ -56,6 +56,17 @@ struct OpenConnection {
     std::string ending = "normal"; ///< what it is to end with, unless something happens
 };
 
+/// What a link's counters showed when a recorder saw them last. A number of an
+/// interface means something in one run of the system only, its name in all of them.
+struct SeenLink {
+    std::string bootId;
+    std::int64_t interfaceIndex = 0;
+    std::string interfaceName;
+    std::int64_t uploaded = 0;
+    std::int64_t downloaded = 0;
+    std::int64_t seenUtc = 0; ///< in the range of Connection's times
+};
+
 /// Times from one second up to another one, which is outside, in seconds since
 /// 1970-01-01 00:00 UTC; all times unless set.
 struct TimeRange {
@@ -147,6 +158,15 @@ public:
     Result<std::int64_t> finish(const OpenConnection &open, const Connection &connection);
     /// The connections that have begun and not been finished, by key.
     Result<std::vector<OpenConnection>> listOpen() const;
+
+    /// Each of begin(), checkpoint() and finish() keeps what the connection's link showed
+    /// at that update too. This keeps it of other links, forgets links of the same names
+    /// that are not there any more, and adds the connections that nobody has watched,
+    /// all or nothing; returns how many those were.
+    Result<std::size_t> see(const std::vector<SeenLink> &links,
+                            const std::vector<Connection> &unwatched = {});
+    /// What is known of links by earlier calls.
+    Result<std::vector<SeenLink>> listSeen() const;
 
     /// Whether totals tell profiles apart, upper and lower case included.
     enum class Profiles { Together, Apart };

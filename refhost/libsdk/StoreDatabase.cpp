@@ -80,6 +80,7 @@ void StoreDatabase::connect()
                                                           : "PRAGMA synchronous = NORMAL");
         m_table = std::make_unique<ConnectionTable>(*m_database);
         m_openConnections = std::make_unique<OpenConnectionTable>(*m_database);
+        m_seenLinks = std::make_unique<SeenLinkTable>(*m_database);
         m_file = fileAt(m_path);
     } catch (const SQLite::Exception &exception) {
         const StoreFailure reason = failure(Access::Opening, exception);
@@ -95,6 +96,7 @@ void StoreDatabase::close()
 {
     m_table.reset();
     m_openConnections.reset();
+    m_seenLinks.reset();
     m_database.reset();
     m_file.reset();
     m_isChecked = false;

@@ -3,6 +3,7 @@
 
 #include "ConnectionTable.h"
 #include "OpenConnectionTable.h"
+#include "SeenLinkTable.h"
 #include "StoreFailure.h"
 #include "StoreFile.h"
 
@@ -44,6 +45,8 @@ public:
     /// The connections that are not finished yet; to be used by the operations
     /// given to read() and write(), in whose transaction it then works.
     OpenConnectionTable &openConnections() { return *m_openConnections; }
+    /// The same for the counters that were seen last.
+    SeenLinkTable &seenLinks() { return *m_seenLinks; }
 
     /// Calls `operation` with the table in one read transaction; without a file
     /// the answer is `ifNotThere`.
@@ -102,6 +105,7 @@ private:
     std::unique_ptr<SQLite::Database> m_database;
     std::unique_ptr<ConnectionTable> m_table;
     std::unique_ptr<OpenConnectionTable> m_openConnections;
+    std::unique_ptr<SeenLinkTable> m_seenLinks;
     std::optional<FileIdentity> m_file;
     bool m_isChecked = false;
 };

@@ -107,6 +107,20 @@ const SchemaSteps &storeSchema()
             UNIQUE (boot_id, interface_index)
         ) STRICT;
         )",
+        R"(
+        CREATE TABLE seen_link (
+            boot_id TEXT NOT NULL,
+            interface_index INTEGER NOT NULL,
+            interface_name TEXT NOT NULL,
+            uploaded INTEGER NOT NULL,
+            downloaded INTEGER NOT NULL,
+            seen_utc INTEGER NOT NULL,
+            PRIMARY KEY (boot_id, interface_index)
+        ) STRICT;
+        CREATE TABLE taken_over (
+            id TEXT PRIMARY KEY NOT NULL
+        ) STRICT;
+        )",
     };
     return steps;
 }

@@ -39,6 +39,12 @@ const Link *linkOf(const OpenConnection &row, const std::vector<Link> &links)
     return link == links.end() ? nullptr : &*link;
 }
 
+bool showTheSame(const SeenLink &a, const SeenLink &b)
+{
+    return a.interfaceIndex == b.interfaceIndex && a.interfaceName == b.interfaceName &&
+           a.uploaded == b.uploaded && a.downloaded == b.downloaded;
+}
+
 /// Queued, so that a listener that opens a dialog does not hold up or re-enter
 /// what is being recorded.
 template <typename Emission>
@@ -85,6 +91,7 @@ ConnectionRecorder::~ConnectionRecorder()
     m_book->catchUp();
     for (auto &entry : m_live)
         m_book->save(entry.second);
+    m_book->see(idleLinks());
 }
 
 /// What has ended must not be left open, and what lasts is left as it is now.
@@ -125,7 +132,7 @@ bool ConnectionRecorder::tryToStart()
     }
     removeObstacle();
     m_linksAtStart = m_links->links();
-    m_book->catchUp();
+    m_book->settle(firstSights());
     for (const Link &link : m_links->links())
         handleChange({link, false, false});
     connect(m_links, &LinkSource::linkChanged, this, &ConnectionRecorder::handleChange);
@@ -305,8 +312,10 @@ void ConnectionRecorder::tick()
 {
     m_ticks = (m_ticks + 1) % ticksPerCheckpoint;
     const bool isCheckpoint = m_ticks == 0;
-    if (isCheckpoint)
+    if (isCheckpoint) {
         m_book->catchUp();
+        keepIdleCounters();
+    }
     for (auto &entry : m_live) {
         entry.second.isStateDue = true;
         entry.second.isCheckpointDue |= isCheckpoint;
@@ -322,6 +331,50 @@ void ConnectionRecorder::requestCounters()
         if (m_live.count(link.index) != 0 || (link.isUp && isWatched(link)))
             m_links->requestCounters(link.index);
     }
+}
+
+std::vector<FirstSight> ConnectionRecorder::firstSights() const
+{
+    const Moment moment = now();
+    const std::int64_t bootUtc = moment.utcSeconds - moment.bootMilliseconds / 1000;
+    std::vector<FirstSight> sights;
+    for (const Link &link : m_linksAtStart) {
+        if (isWatched(link))
+            sights.push_back({seen(link), link.isConnected() ? link.idleCounters : link.counters,
+                              bootUtc, profileFor(link.name)});
+    }
+    return sights;
+}
+
+SeenLink ConnectionRecorder::seen(const Link &link) const
+{
+    return {m_bootId,
+            link.index,
+            link.name,
+            link.counters.uploaded,
+            link.counters.downloaded,
+            storableSeconds(m_clock->utcSeconds())};
+}
+
+std::vector<SeenLink> ConnectionRecorder::idleLinks() const
+{
+    std::vector<SeenLink> idle;
+    for (const Link &link : m_links->links()) {
+        if (m_live.count(link.index) == 0 && isWatched(link))
+            idle.push_back(seen(link));
+    }
+    return idle;
+}
+
+/// What a link moves without a connection must not be taken later for what it moved
+/// while nothing recorded.
+void ConnectionRecorder::keepIdleCounters()
+{
+    std::vector<SeenLink> idle = idleLinks();
+    const bool isKept =
+        std::equal(idle.begin(), idle.end(), m_keptIdle.begin(), m_keptIdle.end(), showTheSame);
+    if (!isKept && m_book->see(idle))
+        m_keptIdle = std::move(idle);
 }
 
 bool ConnectionRecorder::isWatched(const Link &link) const

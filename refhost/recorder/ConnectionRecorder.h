@@ -25,6 +25,7 @@ class RecorderLock;
 class SystemClock;
 struct Link;
 struct LinkChange;
+struct FirstSight;
 struct LinkCounters;
 struct Moment;
 
@@ -113,6 +114,10 @@ private:
     void report(LiveConnection &connection);
     void tick();
     void requestCounters();
+    std::vector<FirstSight> firstSights() const;
+    SeenLink seen(const Link &link) const;
+    std::vector<SeenLink> idleLinks() const;
+    void keepIdleCounters();
     bool openBook();
     bool isWatched(const Link &link) const;
     bool stillLasts(const OpenConnection &row);
@@ -137,7 +142,8 @@ private:
     std::unique_ptr<RecordBook> m_book;
     std::map<int, LiveConnection> m_live; ///< by the link's index
     std::vector<Link> m_linksAtStart;
-    std::set<int> m_resumedLinks; ///< watched for the connection that they have
+    std::set<int> m_resumedLinks;     ///< watched for the connection that they have
+    std::vector<SeenLink> m_keptIdle; ///< what the store knows of links without one
     std::string m_bootId;
     QString m_obstacle; ///< why it cannot record, as it was told last
     bool m_isLate = false;

@@ -14,13 +14,7 @@ constexpr const char *endedNormally = "normal";
 constexpr const char *endedByRecovery = "recovered";
 constexpr const char *endedAfterReset = "counter reset";
 
-/// The range of times that the store takes; a clock may have been set beyond it.
 constexpr std::int64_t maximumSeconds = 2147483647;
-
-std::int64_t storableSeconds(std::int64_t seconds)
-{
-    return std::clamp(seconds, std::int64_t{0}, maximumSeconds);
-}
 
 /// More than any counter shows, and far from where sums of them overflow.
 constexpr std::int64_t maximumCount = std::int64_t{1} << 61;
@@ -49,13 +43,10 @@ bool advanceTotal(std::int64_t counter, std::int64_t &base, std::int64_t &total)
     return false;
 }
 
-void leaveOutOf(std::int64_t &base, std::int64_t &total, std::int64_t &totalAtFirst,
-                std::int64_t counted)
+/// How much of what a connection counted at first the counter had shown up to `counted`.
+std::int64_t excess(std::int64_t counted, std::int64_t counterAtFirst, std::int64_t totalAtFirst)
 {
-    const std::int64_t excess = std::max<std::int64_t>(counted - base, 0);
-    base += excess;
-    total -= excess;
-    totalAtFirst -= excess;
+    return std::clamp(counted - (counterAtFirst - totalAtFirst), std::int64_t{0}, totalAtFirst);
 }
 
 /// Lets a total grow without regard to how the counter came to its value.
@@ -86,6 +77,11 @@ Connection finishedFrom(const OpenConnection &row, const std::string &ending)
 }
 
 } // namespace
+
+std::int64_t storableSeconds(std::int64_t seconds)
+{
+    return std::clamp(seconds, std::int64_t{0}, maximumSeconds);
+}
 
 LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
                                const std::string &profile, const Link &link,
@@ -141,11 +137,28 @@ bool LiveConnection::adopt(const OpenConnection &stored)
 void LiveConnection::leaveOut(const LinkCounters &counted)
 {
     if (counted.uploaded > m_countersAtFirst.uploaded ||
-        counted.downloaded > m_countersAtFirst.downloaded || m_row.ending == endedAfterReset)
+        counted.downloaded > m_countersAtFirst.downloaded)
         return;
-    leaveOutOf(m_row.baseUploaded, m_row.uploadedBytes, m_totalsAtFirst.uploaded, counted.uploaded);
-    leaveOutOf(m_row.baseDownloaded, m_row.downloadedBytes, m_totalsAtFirst.downloaded,
-               counted.downloaded);
+    leaveOutUploaded(
+        excess(counted.uploaded, m_countersAtFirst.uploaded, m_totalsAtFirst.uploaded));
+    leaveOutDownloaded(
+        excess(counted.downloaded, m_countersAtFirst.downloaded, m_totalsAtFirst.downloaded));
+}
+
+void LiveConnection::leaveOutUploaded(std::int64_t bytes)
+{
+    m_row.baseUploaded += bytes;
+    m_row.uploadedBytes -= bytes;
+    m_totalsAtFirst.uploaded -= bytes;
+    m_rateTotals.uploaded -= bytes;
+}
+
+void LiveConnection::leaveOutDownloaded(std::int64_t bytes)
+{
+    m_row.baseDownloaded += bytes;
+    m_row.downloadedBytes -= bytes;
+    m_totalsAtFirst.downloaded -= bytes;
+    m_rateTotals.downloaded -= bytes;
 }
 
 void LiveConnection::setProfile(const std::string &profile)

@@ -17,6 +17,9 @@ struct Moment {
     std::int64_t bootMilliseconds = 0;
 };
 
+/// The nearest time that the store takes; a clock may have been set beyond it.
+std::int64_t storableSeconds(std::int64_t seconds);
+
 /// A connection while it lasts: what its link's counters and the clocks make of it.
 class LiveConnection
 {
@@ -35,7 +38,7 @@ public:
     /// profile. Whether that is so: then the row lacks what has happened since.
     bool adopt(const OpenConnection &stored);
     /// Leaves out what the link's counters showed up to these values, because it is
-    /// in another record, unless they have begun anew since.
+    /// in another record, unless they had begun anew before this one began.
     void leaveOut(const LinkCounters &counted);
 
     void setProfile(const std::string &profile);
@@ -64,6 +67,8 @@ public:
 private:
     void updateTimes(const Moment &now);
     void advanceTotals(const LinkCounters &counters);
+    void leaveOutUploaded(std::int64_t bytes);
+    void leaveOutDownloaded(std::int64_t bytes);
 
     const std::int64_t m_id;
     /// Until it is in the store, with the mark that the link had in the beginning:

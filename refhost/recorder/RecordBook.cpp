@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecordBook.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace refhost
@@ -26,6 +27,12 @@ RecordBook::RecordBook(StatisticsStore store, std::string bootId, StillLasts sti
 {
 }
 
+void RecordBook::settle(std::vector<FirstSight> sights)
+{
+    m_firstSights = std::move(sights);
+    catchUp();
+}
+
 void RecordBook::recoverEarlierConnections()
 {
     const auto open = m_store.listOpen();
@@ -34,7 +41,7 @@ void RecordBook::recoverEarlierConnections()
     // All are asked about before the first attempt to close one, which can take long.
     for (const OpenConnection &row : open.value()) {
         if (row.bootId == m_bootId && m_lasting.count(row.key) == 0 && m_stillLasts(row))
-            m_lasting.insert(row.key);
+            m_lasting.emplace(row.key, row);
     }
     bool isComplete = true;
     for (const OpenConnection &row : open.value()) {
@@ -52,6 +59,55 @@ void RecordBook::recoverEarlierConnections()
     m_isRecovered = true;
     if (isComplete)
         succeed();
+}
+
+/// Then its connection resumes where the counters were seen last.
+bool RecordBook::isLasting(const SeenLink &link) const
+{
+    return std::any_of(m_lasting.begin(), m_lasting.end(), [&link](const auto &entry) {
+        return entry.second.interfaceIndex == link.interfaceIndex;
+    });
+}
+
+/// All at once: who is interrupted finds everything as it was.
+void RecordBook::recordUnwatchedTraffic()
+{
+    const auto seenBefore = m_store.listSeen();
+    if (!seenBefore)
+        return fail(seenBefore.error());
+    std::vector<SeenLink> links;
+    std::vector<Connection> unwatched;
+    std::map<std::int64_t, LinkCounters> recorded;
+    for (const FirstSight &sight : m_firstSights) {
+        if (isLasting(sight.link))
+            continue;
+        const FirstSightVerdict verdict = judge(sight, seenBefore.value());
+        links.push_back(verdict.settled);
+        if (verdict.unwatched)
+            unwatched.push_back(*verdict.unwatched);
+        if (verdict.wasSeenInThisRun)
+            recorded[sight.link.interfaceIndex] = {sight.link.uploaded, sight.link.downloaded};
+    }
+    const auto outcome = m_store.see(links, unwatched);
+    if (!outcome)
+        return fail(outcome.error());
+    m_firstSights.clear();
+    recorded.merge(m_recorded);
+    m_recorded = std::move(recorded);
+    for (const Connection &record : unwatched)
+        m_listener.recovered(record);
+}
+
+bool RecordBook::see(const std::vector<SeenLink> &links)
+{
+    if (links.empty() || isBehind() || m_isLocked)
+        return false;
+    const auto outcome = m_store.see(links);
+    if (outcome)
+        succeed();
+    else
+        fail(outcome.error());
+    return bool(outcome);
 }
 
 Result<std::int64_t> RecordBook::close(const OpenConnection &row)
@@ -125,7 +181,9 @@ void RecordBook::catchUp()
     m_isLocked = false;
     if (!m_isRecovered)
         recoverEarlierConnections();
-    if (m_isRecovered)
+    if (m_isRecovered && !m_firstSights.empty())
+        recordUnwatchedTraffic();
+    if (isSettled())
         writeFinished();
 }
 

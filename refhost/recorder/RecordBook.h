@@ -3,13 +3,14 @@
 
 #include "LiveConnection.h"
 #include "StatisticsStore.h"
+#include "UnwatchedTraffic.h"
 
 #include <cstdint>
 #include <deque>
 #include <functional>
 #include <map>
-#include <set>
 #include <string>
+#include <vector>
 
 namespace refhost
 {
@@ -32,17 +33,24 @@ public:
 
     RecordBook(StatisticsStore store, std::string bootId, StillLasts stillLasts, Listener listener);
 
+    /// Settles what earlier processes left, with these links as they are found now.
+    void settle(std::vector<FirstSight> sights);
+
     /// Brings the store up to date with the connection. The first time, it goes
     /// on with what the store has of the same one already. A store that is locked is
     /// waited for once until the next catchUp().
     void save(LiveConnection &connection);
     void finish(const LiveConnection &connection, bool hasFinalCounters);
+    /// Keeps what links show that have no connection, unless there is something to be
+    /// written first. Whether it is in the store.
+    bool see(const std::vector<SeenLink> &links);
 
     /// Whether there is something that catchUp() has to write before anything else
     /// is written, which is so in the beginning.
-    bool isBehind() const { return !m_isRecovered || !m_unwritten.empty(); }
+    bool isBehind() const { return !isSettled() || !m_unwritten.empty(); }
     /// Finishes what earlier processes left open and does not last, as recovered at
-    /// its last update; then tries again what could not be written.
+    /// its last update, and records what links have moved since nobody watched them;
+    /// then tries again what could not be written.
     void catchUp();
 
 private:
@@ -54,7 +62,10 @@ private:
     Result<std::int64_t> begin(LiveConnection &connection);
     Result<OpenConnection> beginApart(LiveConnection &connection, const OpenConnection &other);
     void leaveOutWhatIsRecorded(LiveConnection &connection) const;
+    bool isSettled() const { return m_isRecovered && m_firstSights.empty(); }
+    bool isLasting(const SeenLink &link) const;
     void recoverEarlierConnections();
+    void recordUnwatchedTraffic();
     Result<std::int64_t> close(const OpenConnection &row);
     void writeFinished();
     Result<std::int64_t> write(Unwritten &finished);
@@ -67,11 +78,12 @@ private:
     Listener m_listener;
     std::deque<Unwritten> m_unwritten;
     std::string m_lastFailure;
-    std::set<std::int64_t> m_lasting; ///< keys of rows to be gone on with
+    std::map<std::int64_t, OpenConnection> m_lasting; ///< rows to be resumed, by key
+    std::vector<FirstSight> m_firstSights;            ///< that nothing has been made of yet
     bool m_isRecovered = false;
     bool m_isLocked = false; ///< as far as is known
-    /// What the counters of links showed when their recovered connections were
-    /// updated last, by index, in this run of the system.
+    /// Up to what their counters show, links' traffic before their present connections
+    /// is in records, by index, in this run of the system.
     std::map<std::int64_t, LinkCounters> m_recorded;
 };
 

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <limits>
 #include <memory>
 
 using refhost::Connection;
@@ -98,6 +99,7 @@ private slots:
     void numberingSkipsIt();
     void aLinkHasOneOpenConnectionAtMost();
     void checkpointChangesWhatMayChange();
+    void keepsWhatTheLinkShowed();
     void checkpointOfNoOpenConnectionIsAnError();
     void theSameKeyOfAnotherConnectionMeansNothing();
     void finishingMovesItIntoTheList();
@@ -123,7 +125,7 @@ void OpenConnectionsTest::upgradesAStoreOfTheFirstVersion()
     QCOMPARE(list.value().size(), std::size_t{1});
     QCOMPARE(list.value().front().key, std::int64_t{7});
     QCOMPARE(list.value().front().profile, std::string("old"));
-    QCOMPARE(SQLite::Database(m_path).execAndGet("PRAGMA user_version").getInt(), 2);
+    QCOMPARE(SQLite::Database(m_path).execAndGet("PRAGMA user_version").getInt(), 3);
 }
 
 void OpenConnectionsTest::leavesAStoreOfTheFirstVersionAsItIsWhenTheUpgradeFails()
@@ -220,6 +222,27 @@ void OpenConnectionsTest::checkpointChangesWhatMayChange()
     begun.ending = "counter reset";
     QCOMPARE(outcomeOf(store.checkpoint(begun)), QString::number(begun.key));
     QCOMPARE(fieldsOf(store.listOpen().value()), fieldsOf({begun, other}));
+}
+
+/// With each change of a connection, and with its end.
+void OpenConnectionsTest::keepsWhatTheLinkShowed()
+{
+    StatisticsStore store = open();
+    const auto shown = [&store] {
+        const auto seen = store.listSeen().value();
+        return seen.size() == 1 ? seen.front().uploaded : -1;
+    };
+    OpenConnection begun = store.begin(openConnection("boot", 3)).value();
+    QCOMPARE(shown(), std::int64_t{11});
+    begun.uploadedBytes = 100;
+    QVERIFY(store.checkpoint(begun));
+    QCOMPARE(shown(), std::int64_t{111});
+    begun.uploadedBytes = std::numeric_limits<std::int64_t>::max();
+    QVERIFY(store.checkpoint(begun));
+    QCOMPARE(shown(), std::int64_t{111});
+    begun.uploadedBytes = 200;
+    QVERIFY(store.finish(begun, connection("internet", 1700000000, 1700000060)));
+    QCOMPARE(shown(), std::int64_t{211});
 }
 
 void OpenConnectionsTest::checkpointOfNoOpenConnectionIsAnError()
