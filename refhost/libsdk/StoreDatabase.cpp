@@ -57,9 +57,22 @@ void StoreDatabase::checkLogAfterReplacement() const
     const std::string path = resolvedPath(m_path);
     if (hasLog(path))
         throw StoreFailure(StoreError::Kind::CannotOpen,
-                           historyAt(m_path) + " was replaced while it was in use, and \"" + path +
-                               "-wal\" still holds records of the former file; close all programs "
+                           historyAt(m_path) + " was replaced while it was in use, and \"" +
+                               logOf(path) +
+                               "\" still holds records of the former file; close all programs "
                                "that use it and put the former file back, or move the log away.");
+}
+
+/// The changes in it would undo those of the file, or damage it.
+void StoreDatabase::checkLogBase()
+{
+    if (!m_logBase->isOfThisFile())
+        throw StoreFailure(StoreError::Kind::CannotOpen,
+                           historyAt(m_path) + " was put in the place of another one, and \"" +
+                               logOf(resolvedPath(m_path)) +
+                               "\" holds changes of the former file; both were left as they are, "
+                               "move the log away to use the history as it is, or put the former "
+                               "file back.");
 }
 
 void StoreDatabase::connect()
@@ -71,6 +84,8 @@ void StoreDatabase::connect()
             lockTimeoutSeconds * 1000);
         // Nothing is written for a file that turns out to be no store of ours.
         setCheckpointOnClose(false);
+        m_logBase = std::make_unique<LogBase>(*m_database, resolvedPath(m_path));
+        checkLogBase();
         upgradeSchema(m_path, *m_database, storeSchema());
         setCheckpointOnClose(true);
         // Refused while another process is just making the same store; until the
@@ -97,6 +112,7 @@ void StoreDatabase::close()
     m_table.reset();
     m_openConnections.reset();
     m_seenLinks.reset();
+    m_logBase.reset();
     m_database.reset();
     m_file.reset();
     m_isChecked = false;

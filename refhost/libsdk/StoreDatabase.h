@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ConnectionTable.h"
+#include "LogBase.h"
 #include "OpenConnectionTable.h"
 #include "SeenLinkTable.h"
 #include "StoreFailure.h"
@@ -74,6 +75,7 @@ public:
             SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
             checkVersion();
             auto value = operation(*m_table);
+            m_logBase->record();
             transaction.commit();
             return value;
         });
@@ -93,6 +95,7 @@ private:
     StoreFailure failure(Access access, const SQLite::Exception &exception);
     int systemErrorBehind(int code) const;
     void checkLogAfterReplacement() const;
+    void checkLogBase();
     void checkVersion();
     void connect();
     void close();
@@ -106,6 +109,7 @@ private:
     std::unique_ptr<ConnectionTable> m_table;
     std::unique_ptr<OpenConnectionTable> m_openConnections;
     std::unique_ptr<SeenLinkTable> m_seenLinks;
+    std::unique_ptr<LogBase> m_logBase;
     std::optional<FileIdentity> m_file;
     bool m_isChecked = false;
 };

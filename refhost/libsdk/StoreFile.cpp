@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "StoreFile.h"
 
+#include "RawFile.h"
 #include "StoreFailure.h"
 #include "StoreSchema.h"
 
 #include <fcntl.h>
-#include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -14,7 +14,6 @@
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
-#include <memory>
 #include <string_view>
 #include <tuple>
 
@@ -47,6 +46,11 @@ std::optional<struct statx> statusOf(const std::string &path)
     throw cannotOpen(path, errno);
 }
 
+std::int64_t nanoseconds(const struct statx_timestamp &time)
+{
+    return time.tv_sec * 1000000000 + time.tv_nsec;
+}
+
 void createFolders(const std::filesystem::path &folder)
 {
     std::error_code error;
@@ -59,54 +63,13 @@ void createFolders(const std::filesystem::path &folder)
         throw cannotOpen(folder.string(), errno);
 }
 
-/// Reads through SQLite's own file layer: closing a descriptor of our own would
-/// drop the locks that this process holds on the same file elsewhere.
-class SqliteFile
+/// The first bytes of the file, followed by zeros if it is shorter.
+FileHead headOf(const std::string &path)
 {
-public:
-    explicit SqliteFile(const std::string &path)
-        : m_path(path)
-        , m_vfs(sqlite3_vfs_find(nullptr))
-        , m_storage(new unsigned char[static_cast<std::size_t>(m_vfs->szOsFile)]())
-        , m_name(sqlite3_create_filename(path.c_str(), "", "", 0, nullptr), sqlite3_free_filename)
-    {
-        const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_MAIN_DB;
-        if (m_vfs->xOpen(m_vfs, m_name.get(), file(), flags, nullptr) != SQLITE_OK) {
-            const int reason = errno;
-            close();
-            throw cannotOpen(path, reason);
-        }
-    }
-    ~SqliteFile() { close(); }
-
-    SqliteFile(const SqliteFile &) = delete;
-    SqliteFile &operator=(const SqliteFile &) = delete;
-
-    /// The first bytes of the file, followed by zeros if it is shorter.
-    FileHead head()
-    {
-        FileHead bytes = {};
-        const int code =
-            file()->pMethods->xRead(file(), bytes.data(), static_cast<int>(bytes.size()), 0);
-        if (code != SQLITE_OK && code != SQLITE_IOERR_SHORT_READ)
-            throw cannotOpen(m_path, errno);
-        return bytes;
-    }
-
-private:
-    sqlite3_file *file() { return reinterpret_cast<sqlite3_file *>(m_storage.get()); }
-
-    void close()
-    {
-        if (file()->pMethods)
-            file()->pMethods->xClose(file());
-    }
-
-    std::string m_path;
-    sqlite3_vfs *m_vfs;
-    std::unique_ptr<unsigned char[]> m_storage;
-    std::unique_ptr<const char, decltype(&sqlite3_free_filename)> m_name;
-};
+    FileHead bytes = {};
+    RawFile(path).read(0, bytes.data(), bytes.size());
+    return bytes;
+}
 
 std::int32_t bigEndian32(const FileHead &head, std::size_t offset)
 {
@@ -184,9 +147,23 @@ void createPrivateFile(const std::string &path)
         throw cannotOpen(path, reason);
 }
 
+std::optional<FileChange> changeOf(const std::string &path)
+{
+    const auto status = statusOf(path);
+    if (!status)
+        return std::nullopt;
+    return FileChange{static_cast<std::int64_t>(status->stx_ino), nanoseconds(status->stx_mtime),
+                      nanoseconds(status->stx_ctime)};
+}
+
+std::string logOf(const std::string &path)
+{
+    return path + "-wal";
+}
+
 bool hasLog(const std::string &path)
 {
-    const auto status = statusOf(path + "-wal");
+    const auto status = statusOf(logOf(path));
     return status && status->stx_size > 0;
 }
 
@@ -214,14 +191,14 @@ FileContent inspectFile(const std::string &path)
         throw notAStore(path, "a device");
     if (status->stx_size == 0 && isLogged)
         throw StoreFailure(Kind::Damaged,
-                           historyAt(path) + " is empty, but \"" + path +
-                               "-wal\" holds records of it; both were left as they are, put a " +
+                           historyAt(path) + " is empty, but \"" + logOf(path) +
+                               "\" holds records of it; both were left as they are, put a " +
                                "copy in its place or move both away.");
     if (status->stx_size == 0)
         return FileContent::Nothing;
     if (static_cast<std::size_t>(status->stx_size) < headerSize)
         throw notAStore(path, "some other file");
-    return inspectHead(path, SqliteFile(path).head());
+    return inspectHead(path, headOf(path));
 }
 
 } // namespace refhost

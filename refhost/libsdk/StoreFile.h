@@ -31,6 +31,20 @@ std::string resolvedPath(const std::string &path);
 /// process has made meanwhile is as good. Throws StoreFailure.
 void createPrivateFile(const std::string &path);
 
+/// When a file was changed.
+struct FileChange {
+    std::int64_t inode;
+    std::int64_t writtenNs; ///< its contents, in nanoseconds since 1970-01-01 00:00 UTC
+    std::int64_t changedNs; ///< its contents, name or permissions
+};
+
+/// The last change of the file at `path`, or nothing if there is none. Throws
+/// StoreFailure if that cannot be told.
+std::optional<FileChange> changeOf(const std::string &path);
+
+/// Where SQLite keeps the log of the file at `path`, a path without links.
+std::string logOf(const std::string &path);
+
 /// Whether SQLite's log beside this file holds records that are not in it yet.
 bool hasLog(const std::string &path);
 

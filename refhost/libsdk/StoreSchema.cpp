@@ -121,6 +121,14 @@ const SchemaSteps &storeSchema()
             id TEXT PRIMARY KEY NOT NULL
         ) STRICT;
         )",
+        R"(
+        CREATE TABLE log_base (
+            only INTEGER PRIMARY KEY CHECK (only = 1),
+            file_inode INTEGER NOT NULL,
+            file_written_ns INTEGER NOT NULL,
+            log_inode INTEGER NOT NULL
+        ) STRICT;
+        )",
     };
     return steps;
 }

@@ -13,6 +13,12 @@ StorePeer::~StorePeer()
     m_process.waitForFinished();
 }
 
+void StorePeer::kill()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
 QString StorePeer::tell(const QString &command)
 {
     send(command);

@@ -17,6 +17,9 @@ public:
     /// "ok VALUE" or "failed REASON".
     QString tell(const QString &command);
 
+    /// Ends the process at once, as a crash would.
+    void kill();
+
     /// The two halves of it, for several processes that work at once.
     void send(const QString &command);
     QString answer();

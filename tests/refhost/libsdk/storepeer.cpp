@@ -146,6 +146,21 @@ std::string count(std::istream &words)
                        : answer(connections.error());
 }
 
+/// "hold PATH COUNT": adds so many at once and keeps the store open until the process
+/// ends.
+std::string hold(std::istream &words)
+{
+    std::string path;
+    int count = 0;
+    words >> path >> count;
+    static std::vector<StatisticsStore> held;
+    auto store = StatisticsStore::openForRecording(path);
+    if (!store)
+        return answer(store.error());
+    held.push_back(std::move(store.value()));
+    return answer(held.back().addMissing(manyConnections(count)));
+}
+
 /// Holds the whole database until the process ends.
 std::string lock(std::istream &words)
 {
@@ -243,6 +258,7 @@ const std::map<std::string, Command> &commands()
         {"count", count},
         {"fill-disk", fillDisk},
         {"finish", finish},
+        {"hold", hold},
         {"list", list},
         {"lock", lock},
         {"mount-small-disk", mountSmallDisk},

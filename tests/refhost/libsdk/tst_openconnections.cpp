@@ -125,7 +125,9 @@ void OpenConnectionsTest::upgradesAStoreOfTheFirstVersion()
     QCOMPARE(list.value().size(), std::size_t{1});
     QCOMPARE(list.value().front().key, std::int64_t{7});
     QCOMPARE(list.value().front().profile, std::string("old"));
-    QCOMPARE(SQLite::Database(m_path).execAndGet("PRAGMA user_version").getInt(), 3);
+    const std::string recent = m_path + ".new";
+    storeWith(recent, {});
+    QCOMPARE(versionOf(m_path), versionOf(recent));
 }
 
 void OpenConnectionsTest::leavesAStoreOfTheFirstVersionAsItIsWhenTheUpgradeFails()
