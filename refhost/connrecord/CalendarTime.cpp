@@ -70,6 +70,14 @@ QTime timeOfDay(const CalendarTime &time)
     return QTime(time.hour, time.minute, time.second);
 }
 
+CalendarTime calendarTime(const QDateTime &time)
+{
+    const QDate date = time.date();
+    const QTime clock = time.time();
+    return {date.year(),    date.month(),   date.day(), clock.hour(),
+            clock.minute(), clock.second(), {}};
+}
+
 bool isSameOnWallClock(std::int64_t utc, std::int64_t otherUtc)
 {
     const QDateTime time = QDateTime::fromSecsSinceEpoch(utc);
@@ -140,6 +148,18 @@ UtcSpan utcSpan(const CalendarTime &time)
     if (isSameOnWallClock(utc, utc + secondsPerHour))
         return {utc, utc + secondsPerHour};
     return {utc, utc};
+}
+
+CalendarTime localCalendarTime(std::int64_t utc)
+{
+    return calendarTime(QDateTime::fromSecsSinceEpoch(utc));
+}
+
+CalendarTime utcCalendarTime(std::int64_t utc)
+{
+    CalendarTime time = calendarTime(QDateTime::fromSecsSinceEpoch(utc).toUTC());
+    time.utcOffset = 0;
+    return time;
 }
 
 QString utcText(std::int64_t utc)

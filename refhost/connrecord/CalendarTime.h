@@ -49,6 +49,10 @@ struct UtcSpan {
 };
 UtcSpan utcSpan(const CalendarTime &time);
 
+/// That moment in local time, and in UTC with the offset 0.
+CalendarTime localCalendarTime(std::int64_t utc);
+CalendarTime utcCalendarTime(std::int64_t utc);
+
 /// yyyy-MM-ddThh:mm:ssZ
 QString utcText(std::int64_t utc);
 /// yyyy-MM-dd hh:mm:ss in local time

@@ -161,6 +161,9 @@ void CommandLine::addImport()
         ->add_option("--profile", m_import.profile,
                      "Profile for the connections of a log that shows no APN")
         ->type_name("NAME");
+    command->add_option("--year", m_import.year, "Year of the last line of a log without years")
+        ->type_name("YYYY")
+        ->check(CLI::Range(1970, 2105).description(""));
     command->add_option("FILE", m_import.path, "The file; - is standard input")
         ->type_name("")
         ->required();

@@ -19,6 +19,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <iostream>
 
 namespace refhost
 {
@@ -35,6 +36,7 @@ struct Contents {
     std::vector<Connection> connections;
     std::vector<ProfileSource> profileSources; ///< of each connection; of a log alone
     std::vector<Unusable> unusable;
+    std::string doubt; ///< a sentence about what a log leaves open; empty without any
 };
 
 void checkReadToTheEnd(const LineReader &lines, InputFile &file)
@@ -72,18 +74,41 @@ void checkIsOfPppd(const PppdLog &log, const InputFile &file)
                                            "give a system log of a machine that dials with it.");
 }
 
-Contents readPppd(InputFile &file, const std::string &profile, const ReadProgress &progress)
+void checkYear(const YearResolver &years, std::optional<int> given, const InputFile &file)
+{
+    if (!given || years.lastYear() == 0)
+        return;
+    const std::string text = "For --year, " + std::to_string(*given);
+    if (years.lastYear() != *given)
+        throw Failure(ExitCode::Refused, text + " is wrong: the last line of " + file.name() +
+                                             " shows " + std::to_string(years.lastYear()) + ".");
+    if (years.hasImpossibleDay())
+        throw Failure(ExitCode::Refused, text + " cannot be: " + file.name() +
+                                             " has a 29 February in a year that has none then.");
+}
+
+/// The sentence about what the log does not tell; empty if it does.
+std::string yearDoubt(const YearResolver &years, const InputFile &file)
+{
+    if (!years.isGuess())
+        return {};
+    return file.name() + " does not show its years; its last line was taken to be of " +
+           std::to_string(years.lastYear()) +
+           ". If that is wrong, remove what was added and give the year with --year.";
+}
+
+Contents readPppd(InputFile &file, const ImportRequest &request, const ReadProgress &progress)
 {
     LineReader lines(file.device(), longestLogLine);
     const PppdLog log = readPppdLog(lines, progress);
     checkReadToTheEnd(lines, file);
     checkIsOfPppd(log, file);
-    // Without any date there is no line whose year would be asked for.
-    const YearResolver years(log.end.value_or(CalendarTime{1970, 1, 1, 0, 0, 0, 0}),
-                             file.modifiedUtc());
-    PppdConnections connections(years, profile);
+    const YearResolver years(log.clock.runs(), request.year, file.modifiedUtc());
+    checkYear(years, request.year, file);
+    PppdConnections connections(years, request.profile);
     connections.takeAll(log.events);
-    return {connections.connections(), connections.profileSources(), connections.unusable()};
+    return {connections.connections(), connections.profileSources(), connections.unusable(),
+            yearDoubt(years, file)};
 }
 
 Contents read(const ImportRequest &request, QIODevice *terminal)
@@ -92,7 +117,7 @@ Contents read(const ImportRequest &request, QIODevice *terminal)
     ProgressLine line(terminal, "Reading " + file.name(), bytesPerStep, file.size());
     const auto progress = [&line](std::int64_t bytes) { line.update(bytes); };
     return request.format == ImportRequest::Format::Csv ? readCsv(file, progress)
-                                                        : readPppd(file, request.profile, progress);
+                                                        : readPppd(file, request, progress);
 }
 
 StatisticsStore::Merged addLogged(StatisticsStore &store, const Contents &contents,
@@ -163,6 +188,8 @@ void importConnections(const CommonRequest &common, const ImportRequest &request
     const Contents contents = read(request, terminal);
     const StatisticsStore::Merged merged =
         store(common.storePath, contents, request.format, terminal);
+    if (!contents.doubt.empty())
+        std::cerr << "connrecord: " << contents.doubt << '\n';
     writeStandardOutput(common.json ? jsonText(reportJson(contents, merged))
                                     : QByteArray::fromStdString(reportText(contents, merged)));
 }

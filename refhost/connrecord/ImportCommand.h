@@ -3,6 +3,7 @@
 
 #include "Commands.h"
 
+#include <optional>
 #include <string>
 
 namespace refhost
@@ -12,8 +13,9 @@ struct ImportRequest {
     enum class Format { Csv, Pppd };
 
     Format format = Format::Csv;
-    std::string path;    ///< "-": standard input
-    std::string profile; ///< for connections of a pppd log that shows no APN; may be empty
+    std::string path;        ///< "-": standard input
+    std::string profile;     ///< for connections of a pppd log that shows no APN; may be empty
+    std::optional<int> year; ///< of a log's last line, if that one shows none
 };
 
 /// Stores the connections of a file that the store does not have yet, all or

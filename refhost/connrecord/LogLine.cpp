@@ -3,6 +3,7 @@
 
 #include "TextScanner.h"
 
+#include <algorithm>
 #include <array>
 
 namespace refhost
@@ -15,6 +16,14 @@ constexpr std::array<std::string_view, 7> weekdays = {"Mon", "Tue", "Wed", "Thu"
                                                       "Fri", "Sat", "Sun"};
 constexpr std::array<std::string_view, 12> months = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                      "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+
+constexpr std::array<std::string_view, 21> facilities = {
+    "auth",   "authpriv", "cron",   "daemon", "ftp",    "kern",     "lpr",
+    "mail",   "news",     "syslog", "user",   "uucp",   "security", "local0",
+    "local1", "local2",   "local3", "local4", "local5", "local6",   "local7"};
+constexpr std::array<std::string_view, 12> severities = {"debug",   "info",  "notice", "warn",
+                                                         "warning", "err",   "error",  "crit",
+                                                         "alert",   "emerg", "panic",  "none"};
 
 /// Host, facility and a word or two beside them stand in front of the process.
 constexpr int mostWordsBeforeProcess = 8;
@@ -85,6 +94,29 @@ std::optional<CalendarTime> takeTime(TextScanner &scanner)
     return time;
 }
 
+template <std::size_t count>
+bool isOneOf(std::string_view word, const std::array<std::string_view, count> &names)
+{
+    return std::find(names.begin(), names.end(), word) != names.end();
+}
+
+/// Whether the word is such as daemon.info
+bool isPriority(std::string_view word)
+{
+    TextScanner scanner(word);
+    const auto facility = scanner.takeUntil(".");
+    return facility && isOneOf(*facility, facilities) && isOneOf(scanner.rest(), severities);
+}
+
+/// A word in front of the process; the first that is no priority is the host.
+void noteHost(std::string_view word, LogLine &line)
+{
+    if (!word.empty() && word.back() == ':')
+        word.remove_suffix(1);
+    if (line.host.empty() && !isPriority(word))
+        line.host = word;
+}
+
 /// Whether the word is a process, such as pppd[485]: or /usr/sbin/chat[17]:
 bool readProcess(std::string_view word, LogLine &line)
 {
@@ -113,13 +145,16 @@ LogLine parseLogLine(std::string_view text)
     scanner.takeSpaces();
     line.message = scanner.rest();
     for (int i = 0; i < mostWordsBeforeProcess && !scanner.isAtEnd(); ++i) {
-        const bool isProcess = readProcess(scanner.takeWord(), line);
+        const std::string_view word = scanner.takeWord();
+        const bool isProcess = readProcess(word, line);
         scanner.takeSpaces();
         if (isProcess) {
             line.message = scanner.rest();
-            break;
+            return line;
         }
+        noteHost(word, line);
     }
+    line.host = {};
     return line;
 }
 

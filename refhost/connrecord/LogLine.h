@@ -14,6 +14,7 @@ namespace refhost
 /// pppd[485]: message` and the other forms that log daemons write.
 struct LogLine {
     std::optional<CalendarTime> time; ///< nothing if it cannot be read
+    std::string_view host;            ///< empty if none is named in front of the process
     std::string_view process;         ///< its name without folders; empty if none is named
     std::int64_t pid = -1;            ///< -1 if none is named
     std::string_view message;         ///< without a process: all that follows the time

@@ -136,7 +136,7 @@ void PppdConnections::store(const Dial &dial, const PppdEvent &byteCounts)
 {
     const PppdEvent &end = *dial.connectTime;
     Connection connection;
-    connection.endUtc = m_years.utc(*end.time);
+    connection.endUtc = m_years.utc(*end.time, end.run);
     connection.connectedSeconds = end.message.seconds;
     connection.startUtc = startOf(dial, connection.endUtc);
     connection.uploadedBytes = byteCounts.message.sent;
@@ -155,7 +155,8 @@ void PppdConnections::store(const Dial &dial, const PppdEvent &byteCounts)
 std::int64_t PppdConnections::startOf(const Dial &dial, std::int64_t endUtc) const
 {
     for (const PppdEvent *const event : {dial.localAddress, dial.connect}) {
-        const auto start = event && event->time ? m_years.utc(*event->time) : endUtc + 1;
+        const auto start =
+            event && event->time ? m_years.utc(*event->time, event->run) : endUtc + 1;
         // A start after the end comes from a clock that was set meanwhile.
         if (start <= endUtc)
             return start;

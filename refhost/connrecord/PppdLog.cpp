@@ -37,63 +37,61 @@ std::optional<PppdMessage> messageIn(const LogLine &line)
     return std::nullopt;
 }
 
-/// The messages of one program, and those that may be copies of them.
-class Sources
+std::string_view programOf(const PppdEvent &event)
 {
-public:
-    explicit Sources(std::string_view program)
-        : m_program(program)
-    {
-    }
+    return isOfChat(event.message) ? "chat" : "pppd";
+}
 
-    void add(std::string_view process, PppdEvent event)
-    {
-        if (process == m_program)
-            m_own.push_back(std::move(event));
-        else
-            m_copies.push_back(std::move(event));
-    }
+bool isUnderItsOwnName(const PppdEvent &event)
+{
+    return event.process == programOf(event);
+}
 
-    bool hasOwn(bool (*isMeant)(const PppdMessage &)) const
-    {
-        return std::any_of(m_own.begin(), m_own.end(),
-                           [isMeant](const PppdEvent &event) { return isMeant(event.message); });
-    }
+/// Leaves out the messages of that program under another name than its own, if
+/// there is one that `isMeant` under that.
+void dropCopies(std::vector<PppdEvent> &events, std::string_view program,
+                bool (*isMeant)(const PppdMessage &))
+{
+    const bool hasOwn = std::any_of(events.begin(), events.end(), [&](const PppdEvent &event) {
+        return programOf(event) == program && isUnderItsOwnName(event) && isMeant(event.message);
+    });
+    const auto isUnwanted = [&](const PppdEvent &event) {
+        return programOf(event) == program && isUnderItsOwnName(event) != hasOwn;
+    };
+    events.erase(std::remove_if(events.begin(), events.end(), isUnwanted), events.end());
+}
 
-    void moveTo(std::vector<PppdEvent> &events, bool own)
-    {
-        for (PppdEvent &event : own ? m_own : m_copies)
-            events.push_back(std::move(event));
-    }
-
-private:
-    std::string_view m_program;
-    std::vector<PppdEvent> m_own;
-    std::vector<PppdEvent> m_copies;
-};
+PppdEvent eventFrom(const LogLine &line, PppdMessage message, std::size_t run,
+                    const LineReader &lines)
+{
+    PppdEvent event;
+    event.message = std::move(message);
+    event.time = line.time;
+    event.run = run;
+    event.host = line.host;
+    event.process = line.process;
+    event.pid = line.pid;
+    event.line = lines.lineNumber();
+    event.lineText = lines.line().substr(0, longestQuotedText);
+    return event;
+}
 
 } // namespace
 
 PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress)
 {
     PppdLog log;
-    Sources pppd("pppd");
-    Sources chat("chat");
+    std::size_t run = 0;
     while (lines.next()) {
         const LogLine line = parseLogLine(lines.line());
         if (line.time)
-            log.end = line.time;
-        if (auto message = messageIn(line)) {
-            Sources &program = isOfChat(*message) ? chat : pppd;
-            program.add(line.process, {std::move(*message), line.time, line.pid, lines.lineNumber(),
-                                       std::string(lines.line().substr(0, longestQuotedText))});
-        }
+            run = log.clock.add(*line.time);
+        if (auto message = messageIn(line))
+            log.events.push_back(eventFrom(line, std::move(*message), run, lines));
         progress(lines.bytesRead());
     }
-    pppd.moveTo(log.events, pppd.hasOwn(isOfConnection));
-    chat.moveTo(log.events, chat.hasOwn(isOfChat));
-    std::sort(log.events.begin(), log.events.end(),
-              [](const PppdEvent &left, const PppdEvent &right) { return left.line < right.line; });
+    dropCopies(log.events, "pppd", isOfConnection);
+    dropCopies(log.events, "chat", isOfChat);
     return log;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CalendarTime.h"
+#include "ClockRuns.h"
 #include "CsvFormat.h"
 #include "PppdMessage.h"
 
@@ -19,6 +20,9 @@ class LineReader;
 struct PppdEvent {
     PppdMessage message;
     std::optional<CalendarTime> time; ///< nothing if the log shows no readable one
+    std::size_t run = 0;              ///< the place of the time's run in PppdLog::clock
+    std::string host;                 ///< empty if the log names none
+    std::string process;              ///< empty if the log names none
     std::int64_t pid = -1;            ///< -1: the log names no process
     std::int64_t line = 0;            ///< counted from 1
     std::string lineText;             ///< its beginning
@@ -27,8 +31,8 @@ struct PppdEvent {
 struct PppdLog {
     /// In the order of the log, each message once.
     std::vector<PppdEvent> events;
-    /// The time of the last line that has one.
-    std::optional<CalendarTime> end;
+    /// Of all its lines.
+    ClockRuns clock;
 };
 
 /// Reads a system log. A log may hold copies of the messages of pppd and chat

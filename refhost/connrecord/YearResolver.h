@@ -2,26 +2,44 @@
 #pragma once
 
 #include "CalendarTime.h"
+#include "ClockRuns.h"
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace refhost
 {
 
-/// Tells when the lines of a log were written, also where the log leaves the
-/// year out: it is the latest one that puts the line not after the end of the log.
+/// Tells when the lines of a log were written, also where the log leaves the year
+/// out: a clock that goes back by more than a month has come into another year,
+/// unless it only starts anew, at the beginning of a year, until it is set.
 class YearResolver
 {
 public:
-    /// `end` is the time of the log's last line; its year, when not written, is
-    /// the latest that is not after `notAfterUtc`.
-    YearResolver(const CalendarTime &end, std::int64_t notAfterUtc);
+    /// `lastYear` is that of the log's last line, if that one shows none; without it,
+    /// the latest that puts the line not more than a day after `changedUtc`.
+    YearResolver(const std::vector<ClockRun> &runs, std::optional<int> lastYear,
+                 std::int64_t changedUtc);
 
-    std::int64_t utc(const CalendarTime &time) const;
+    /// When the line of that run was written that shows this time.
+    std::int64_t utc(const CalendarTime &time, std::size_t run) const;
+
+    /// The year of the last line; 0 without any.
+    int lastYear() const { return m_lastYear; }
+    /// Whether lastYear() may as well be another one.
+    bool isGuess() const { return m_isGuess; }
+    /// Whether there is a 29 February among the lines, where it cannot be.
+    bool hasImpossibleDay() const;
 
 private:
-    std::int64_t m_endUtc;
+    void resolveFrom(std::size_t run, int year);
+    void deduceLastYear(std::size_t lastRun, std::int64_t changedUtc);
+
+    const std::vector<ClockRun> &m_runs;
+    std::vector<int> m_years; ///< of each run; before resolveFrom(), counted from the first
+    int m_lastYear = 0;
+    bool m_isGuess = false;
 };
 
 } // namespace refhost

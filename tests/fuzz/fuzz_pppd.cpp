@@ -24,7 +24,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     LineReader lines(device, longestLogLine);
     const PppdLog log = readPppdLog(lines, [](std::int64_t) {});
     constexpr std::int64_t now = 1700000000;
-    const YearResolver years(log.end.value_or(CalendarTime{1970, 1, 1, 0, 0, 0, 0}), now);
+    const YearResolver years(log.clock.runs(), {}, now);
     PppdConnections importer(years, std::string());
     importer.takeAll(log.events);
     fuzz::requireLossless(importer.connections());

@@ -23,6 +23,11 @@ private slots:
     void countsAConnectionOnceWhateverItsProfile();
     void completesWhatARotatedLogHadLost();
     void keepsTwoModemsOfOneSecondApart();
+    void takesTheYearFromTheOrderOfTheLines();
+    void takesTheYearOfTheLastLine();
+    void saysThatTheYearIsAGuess();
+    void refusesAYearThatCannotBe_data();
+    void refusesAYearThatCannotBe();
     void saysWhatItCannotUse();
     void saysWhatItCannotUseAsJson();
     void readsStandardInput();
@@ -33,6 +38,8 @@ private slots:
 private:
     /// A copy of the log, last changed at this local time.
     QString logFile(const QString &name, const QString &changed);
+    QString writtenLog(const QByteArray &contents, const QString &changed,
+                       const QString &name = "messages");
     ConnrecordRun import(const QString &path, const QStringList &options = {},
                          const QByteArray &input = {})
     {
@@ -53,6 +60,13 @@ QString dataFile(const QString &name)
     return QDir(CONNRECORD_TEST_DATA).filePath(name);
 }
 
+/// One connection of a minute that ends at that "MMM dd hh:mm:ss".
+QByteArray shortConnection(const QByteArray &end)
+{
+    return end + " gw pppd[7]: Connect time 1.0 minutes.\n" + end +
+           " gw pppd[7]: Sent 1 bytes, received 2 bytes.\n";
+}
+
 } // namespace
 
 void ConnrecordPppdTest::init()
@@ -63,8 +77,14 @@ void ConnrecordPppdTest::init()
 
 QString ConnrecordPppdTest::logFile(const QString &name, const QString &changed)
 {
+    return writtenLog(readFile(dataFile(name)), changed, name);
+}
+
+QString ConnrecordPppdTest::writtenLog(const QByteArray &contents, const QString &changed,
+                                       const QString &name)
+{
     const QString path = m_folder->filePath(name);
-    writeFile(path, readFile(dataFile(name)));
+    writeFile(path, contents);
     QFile file(path);
     const bool isSet = file.open(QIODevice::ReadWrite) &&
                        file.setFileTime(QDateTime::fromString(changed, Qt::ISODate),
@@ -164,6 +184,68 @@ void ConnrecordPppdTest::keepsTwoModemsOfOneSecondApart()
         log += QByteArray("2024-05-31T") + line + '\n';
     for (const int added : {2, 0})
         QCOMPARE(import("-", {"--json"}, log).json().object().value("added").toInt(), added);
+}
+
+void ConnrecordPppdTest::takesTheYearFromTheOrderOfTheLines()
+{
+    const QByteArray log = shortConnection("Dec 30 12:00:00") + shortConnection("Mar  3 12:00:00") +
+                           shortConnection("Dec 31 12:00:00") + shortConnection("Mar  4 12:00:01") +
+                           "Mar  4 12:00:00 gw cron[3]: a second out of order\n";
+    const ConnrecordRun result = import(writtenLog(log, "2023-03-04T12:00:00"));
+    QCOMPARE(result.error, QByteArray());
+    const QByteArray csv = exported();
+    for (const char *const end : {"2021-12-30", "2022-03-03", "2022-12-31", "2023-03-04"})
+        QVERIFY2(csv.contains(QByteArray(",") + end + 'T'), csv);
+}
+
+void ConnrecordPppdTest::takesTheYearOfTheLastLine()
+{
+    const QByteArray log = shortConnection("Dec 30 12:00:00") + shortConnection("Mar  3 12:00:00");
+    const ConnrecordRun result = import("-", {"--year", "2011"}, log);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.error, QByteArray());
+    QVERIFY2(exported().contains(",2010-12-30T11:00:00Z,"), exported());
+    QVERIFY2(exported().contains(",2011-03-03T11:00:00Z,"), exported());
+}
+
+void ConnrecordPppdTest::saysThatTheYearIsAGuess()
+{
+    const QString path = writtenLog(shortConnection("Nov 10 12:00:00"), "2023-12-24T00:00:00");
+    const ConnrecordRun result = import(path);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.error,
+             "connrecord: \"" + path.toUtf8() +
+                 "\" does not show its years; its last line was taken to be of 2023. If that is "
+                 "wrong, remove what was added and give the year with --year.\n");
+    QVERIFY2(exported().contains(",2023-11-10T11:00:00Z,"), exported());
+}
+
+void ConnrecordPppdTest::refusesAYearThatCannotBe_data()
+{
+    QTest::addColumn<QByteArray>("log");
+    QTest::addColumn<QString>("year");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QByteArray>("reason");
+
+    const QByteArray leapDay = shortConnection("Feb 29 12:00:00");
+    QTest::newRow("no number") << leapDay << "last" << 2 << QByteArray("--year");
+    QTest::newRow("before all times") << leapDay << "1969" << 2 << QByteArray("--year");
+    QTest::newRow("29 February of another year")
+        << leapDay << "2023" << 1 << QByteArray("For --year, 2023 cannot be: standard input has");
+    QTest::newRow("another year in the last line")
+        << readFile(dataFile("weekday-year.log")) << "2022" << 1
+        << QByteArray("For --year, 2022 is wrong: the last line of standard input shows 2023.");
+}
+
+void ConnrecordPppdTest::refusesAYearThatCannotBe()
+{
+    QFETCH(QByteArray, log);
+    QFETCH(QString, year);
+    QFETCH(QByteArray, reason);
+    const ConnrecordRun result = import("-", {"--year", year}, log);
+    QTEST(result.exitCode, "exitCode");
+    QVERIFY2(result.error.contains(reason), result.error);
+    QVERIFY(!QFile::exists(m_store));
 }
 
 void ConnrecordPppdTest::saysWhatItCannotUse()

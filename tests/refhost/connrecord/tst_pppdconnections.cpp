@@ -44,7 +44,7 @@ struct Outcome {
 Outcome outcomeOf(const QByteArray &contents, const std::string &profile = {})
 {
     const PppdLog log = pppdLogOf(contents);
-    const YearResolver years(log.end.value(), 2147483647);
+    const YearResolver years(log.clock.runs(), {}, 2147483647);
     PppdConnections connections(years, profile);
     connections.takeAll(log.events);
     return {connections.connections(), connections.unusable()};

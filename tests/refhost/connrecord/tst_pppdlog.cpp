@@ -18,7 +18,7 @@ private slots:
     void takesChatCopiesBesidePppdsOwnLines();
     void takesLinesWithoutAProcessWhereThereIsNothingElse();
     void findsAMessageWithoutAProcessBehindAHost();
-    void knowsTheLastDatedLine();
+    void followsTheClockOfAllLines();
     void keepsTheBeginningOfALine();
     void survivesWhatIsNoLog_data();
     void survivesWhatIsNoLog();
@@ -97,10 +97,18 @@ void PppdLogTest::findsAMessageWithoutAProcessBehindAHost()
     QCOMPARE(log.events[0].message.kind, Kind::ConnectTime);
 }
 
-void PppdLogTest::knowsTheLastDatedLine()
+void PppdLogTest::followsTheClockOfAllLines()
 {
-    QCOMPARE(pppdLogOf("Nov 10 17:02:09 gw a\nNov 11 09:00:00 gw b\n no date\n").end->day, 11);
-    QVERIFY(!pppdLogOf("no date\n").end);
+    const PppdLog log =
+        pppdLogOf("Nov 10 17:02:09 gw a\n no date\nNov 11 09:00:00 gw b\n"
+                  "Jan  2 09:00:00 gw pppd[1]: Connect: a <--> b\nJan  2 09:00:01 gw c\n");
+    const std::vector<ClockRun> &runs = log.clock.runs();
+    QCOMPARE(runs.size(), std::size_t(2));
+    QCOMPARE(runs[0].first.day, 10);
+    QCOMPARE(runs[0].last.day, 11);
+    QCOMPARE(runs[1].last.second, 1);
+    QCOMPARE(log.events.at(0).run, std::size_t(1));
+    QVERIFY(pppdLogOf("no date\n").clock.runs().empty());
 }
 
 void PppdLogTest::keepsTheBeginningOfALine()
