@@ -8,12 +8,11 @@ build_packages=(
     libmnl-dev pkg-config
 )
 run_packages=(fonts-dejavu-core)
-test_packages=(
-    qtbase5-dev qttools5-dev qttools5-dev-tools
-    clang libclang-rt-dev clang-format clang-tidy
-    libbenchmark-dev
-    sqlite3 man-db desktop-file-utils appstream iproute2
-)
+# What every step of ./test needs, and what single steps need besides.
+test_packages=(sqlite3 man-db desktop-file-utils appstream iproute2)
+clang_packages=(clang libclang-rt-dev)
+style_packages=(clang clang-format clang-tidy)
+qt5_packages=(qtbase5-dev qttools5-dev qttools5-dev-tools libbenchmark-dev)
 
 say() {
     printf '%s\n' "$*" >&2
@@ -48,9 +47,26 @@ build() {
     mkdir -p build
     say "Building build/$preset ..."
     if ! { { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
-        cmake --build --preset "$preset"; } >"$log" 2>&1; then
+        cmake --build --preset "$preset"; } 2>&1 | tee "$log" | show_progress; then
         tail -n 60 "$log" >&2
         say "Building build/$preset failed; the whole output is in $log."
         exit 1
     fi
+}
+
+# Of what a build prints, tells how far it is: in one line of a terminal, else at
+# every tenth of the way.
+show_progress() {
+    local line tenth told=0
+    while IFS= read -r line; do
+        [[ $line =~ ^\[([0-9]+)/([0-9]+)\] ]] || continue
+        if [ -t 2 ]; then
+            printf '\r  %s of %s ' "${BASH_REMATCH[@]:1}" >&2
+            continue
+        fi
+        tenth=$((10 * BASH_REMATCH[1] / BASH_REMATCH[2]))
+        [ "$tenth" -eq "$told" ] || say "  ${BASH_REMATCH[1]} of ${BASH_REMATCH[2]}"
+        told=$tenth
+    done
+    [ ! -t 2 ] || printf '\r' >&2
 }
