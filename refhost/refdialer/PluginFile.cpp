@@ -8,11 +8,10 @@
 namespace refhost
 {
 
-QString pluginFile(const QString &name)
+QString pluginFile(const QString &folder, const QString &name)
 {
     return QDir::cleanPath(
-        QCoreApplication::applicationDirPath() +
-        QStringLiteral("/" NETINFORECORD_LIBDIR_FROM_BINDIR "/lib%1.so").arg(name));
+        QStringLiteral("%1/%2/lib%3.so").arg(QCoreApplication::applicationDirPath(), folder, name));
 }
 
 QJsonObject ownMetadata(const QPluginLoader &loader)

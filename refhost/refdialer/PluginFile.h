@@ -9,8 +9,9 @@ class QPluginLoader;
 namespace refhost
 {
 
-/// The path of a plug-in that came with this program, by its library's name.
-QString pluginFile(const QString &name);
+/// The path of a plug-in that came with this program, given its folder as seen from
+/// the program's and its library's name.
+QString pluginFile(const QString &folder, const QString &name);
 
 /// What a plug-in says of itself in its metadata.
 QJsonObject ownMetadata(const QPluginLoader &loader);

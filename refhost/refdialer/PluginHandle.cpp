@@ -37,7 +37,8 @@ QWidget *historyWindow()
 
 QString PluginHandle::defaultFile()
 {
-    return pluginFile(QStringLiteral("NetInfoRecordUIPlugin"));
+    return pluginFile(QStringLiteral(NETINFORECORD_PLUGINDIR_FROM_BINDIR),
+                      QStringLiteral("NetInfoRecordUIPlugin"));
 }
 
 std::unique_ptr<PluginHandle> PluginHandle::load(const QString &file)

@@ -9,7 +9,8 @@ namespace refhost
 
 QString ServicePlugin::dialupServiceFile()
 {
-    return pluginFile(QStringLiteral("DialupService"));
+    return pluginFile(QStringLiteral(NETINFORECORD_LIBDIR_FROM_BINDIR),
+                      QStringLiteral("DialupService"));
 }
 
 ServicePlugin::ServicePlugin(const QString &file)

@@ -64,8 +64,7 @@ void tst_Exports::needsTheHostsLibrariesByNameOnly()
     QCOMPARE(lines.filter(QStringLiteral("[libcore.so]")).size(), 1);
     QCOMPARE(lines.filter(QStringLiteral("[libsdk.so]")).size(), 1);
     QVERIFY(lines.filter(QStringLiteral("(RPATH)")).isEmpty());
-    for (const QString &line : lines.filter(QStringLiteral("(RUNPATH)")))
-        QVERIFY2(line.endsWith(QStringLiteral("[$ORIGIN]")), qPrintable(line));
+    QVERIFY(lines.filter(QStringLiteral("(RUNPATH)")).isEmpty());
 }
 
 void tst_Exports::asksTheHostForTheContractsSymbolsOnly()

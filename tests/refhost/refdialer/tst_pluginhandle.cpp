@@ -92,7 +92,7 @@ void TestPluginHandle::deletesTheRootObject()
 void TestPluginHandle::looksForThePluginBesideTheProgram()
 {
     const QString file = PluginHandle::defaultFile();
-    QVERIFY(file.endsWith("/refdialer/libNetInfoRecordUIPlugin.so"));
+    QVERIFY(file.endsWith("/netinforecord/libNetInfoRecordUIPlugin.so"));
     QVERIFY(QDir::isAbsolutePath(file));
 }
 
