@@ -108,13 +108,15 @@ bool isPriority(std::string_view word)
     return facility && isOneOf(*facility, facilities) && isOneOf(scanner.rest(), severities);
 }
 
-/// A word in front of the process; the first that is no priority is the host.
+/// A word in front of the process; the last that is no priority is the host.
 void noteHost(std::string_view word, LogLine &line)
 {
     if (!word.empty() && word.back() == ':')
         word.remove_suffix(1);
-    if (line.host.empty() && !isPriority(word))
-        line.host = word;
+    // What has a colon still may be of a time that cannot be read.
+    const bool isOfTime = !line.time && word.find(':') != std::string_view::npos;
+    if (!isPriority(word))
+        line.host = isOfTime ? std::string_view() : word;
 }
 
 /// Whether the word is a process, such as pppd[485]: or /usr/sbin/chat[17]:

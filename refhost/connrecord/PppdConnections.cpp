@@ -18,6 +18,8 @@ constexpr const char *unreadableTime = "the time stamp cannot be read";
 constexpr const char *outOfRangeReason = "a number or time is out of range";
 
 constexpr std::size_t longestInterface = 31;
+/// How a connection ended whose process says nothing else before its own end.
+constexpr const char *endedByExit = "exit";
 
 bool isStorable(std::int64_t time)
 {
@@ -43,8 +45,10 @@ void PppdConnections::takeAll(const std::vector<PppdEvent> &events)
 {
     for (const PppdEvent &event : events)
         take(event);
-    for (auto &[pid, dial] : m_dials)
-        abandon(dial);
+    for (auto &[name, host] : m_hosts) {
+        for (auto &[pid, dial] : host.dials)
+            abandon(dial);
+    }
     std::sort(m_unusable.begin(), m_unusable.end(),
               [](const Unusable &left, const Unusable &right) {
                   return left.firstLine < right.firstLine;
@@ -55,10 +59,12 @@ void PppdConnections::take(const PppdEvent &event)
 {
     if (isOfConnection(event.message) && !event.time)
         count(unreadableTime, event);
-    Dial &dial = m_dials[event.pid];
+    Host &host = m_hosts[event.host];
+    Dial &dial = host.dials[event.pid];
     switch (event.message.kind) {
     case Kind::Connect:
         connect(dial, event);
+        host.apns.connects(event.pid);
         break;
     case Kind::LocalAddress:
         if (!dial.localAddress && event.time)
@@ -68,31 +74,35 @@ void PppdConnections::take(const PppdEvent &event)
         noteConnectTime(dial, event);
         break;
     case Kind::ByteCounts:
-        finish(dial, event);
+        finish(dial, event, host.apns.apnOf(event.pid));
+        host.apns.disconnects(event.pid);
+        break;
+    case Kind::Ending:
+        noteEnding(dial, event);
         break;
     case Kind::Exit:
-        abandon(dial);
-        m_apns.exits(event.pid);
+        exit(dial);
+        host.apns.exits(event.pid);
         break;
     default:
-        takeApn(event);
+        takeApn(host.apns, event);
     }
 }
 
-void PppdConnections::takeApn(const PppdEvent &event)
+void PppdConnections::takeApn(ApnTracker &apns, const PppdEvent &event)
 {
     switch (event.message.kind) {
     case Kind::PppdApn:
-        m_apns.pppdNames(event.pid, event.message.text);
+        apns.pppdNames(event.pid, event.message.text);
         break;
     case Kind::ChatApn:
-        m_apns.chatSends(event.pid, event.message.text);
+        apns.chatSends(event.pid, event.message.text);
         break;
     case Kind::ChatFailed:
-        m_apns.chatFails(event.pid);
+        apns.chatFails(event.pid);
         break;
     case Kind::ScriptFailed:
-        m_apns.scriptFails(event.pid);
+        apns.scriptFails(event.pid);
         break;
     default:
         break;
@@ -103,7 +113,6 @@ void PppdConnections::connect(Dial &dial, const PppdEvent &event)
 {
     abandon(dial);
     dial.connect = &event;
-    m_apns.connects(event.pid);
 }
 
 void PppdConnections::noteConnectTime(Dial &dial, const PppdEvent &event)
@@ -113,14 +122,34 @@ void PppdConnections::noteConnectTime(Dial &dial, const PppdEvent &event)
     dial.connectTime = &event;
 }
 
-void PppdConnections::finish(Dial &dial, const PppdEvent &byteCounts)
+void PppdConnections::noteEnding(Dial &dial, const PppdEvent &event)
 {
+    // The first reason is the cause; what follows comes from it.
+    if (dial.finished)
+        m_connections[*dial.finished].ending = event.message.text;
+    else if (!dial.ending)
+        dial.ending = &event;
+    dial.finished.reset();
+}
+
+void PppdConnections::finish(Dial &dial, const PppdEvent &byteCounts, const std::string &apn)
+{
+    std::optional<std::size_t> stored;
     if (!dial.connectTime)
         count(noConnectTime, byteCounts);
     else if (dial.connectTime->time)
-        store(dial, byteCounts);
+        stored = store(dial, byteCounts, apn);
+    const bool isEndingKnown = dial.ending;
     dial = {};
-    m_apns.disconnects(byteCounts.pid);
+    if (!isEndingKnown)
+        dial.finished = stored;
+}
+
+void PppdConnections::exit(Dial &dial)
+{
+    if (dial.finished)
+        m_connections[*dial.finished].ending = endedByExit;
+    abandon(dial);
 }
 
 void PppdConnections::abandon(Dial &dial)
@@ -132,41 +161,46 @@ void PppdConnections::abandon(Dial &dial)
     dial = {};
 }
 
-void PppdConnections::store(const Dial &dial, const PppdEvent &byteCounts)
+std::optional<std::size_t> PppdConnections::store(const Dial &dial, const PppdEvent &byteCounts,
+                                                  const std::string &apn)
 {
     const PppdEvent &end = *dial.connectTime;
     Connection connection;
     connection.endUtc = m_years.utc(*end.time, end.run);
     connection.connectedSeconds = end.message.seconds;
-    connection.startUtc = startOf(dial, connection.endUtc);
+    connection.startUtc = startOf(dial, connection);
     connection.uploadedBytes = byteCounts.message.sent;
     connection.downloadedBytes = byteCounts.message.received;
     connection.interfaceName = dial.connect ? dial.connect->message.text : std::string();
-    const ProfileSource source = nameProfile(connection, end.pid);
+    if (dial.ending)
+        connection.ending = dial.ending->message.text;
+    const ProfileSource source = nameProfile(connection, apn);
     if (!isStorable(connection)) {
         count(outOfRangeReason,
               connection.uploadedBytes < 0 || connection.downloadedBytes < 0 ? byteCounts : end);
-        return;
+        return std::nullopt;
     }
     m_connections.push_back(std::move(connection));
     m_profileSources.push_back(source);
+    return m_connections.size() - 1;
 }
 
-std::int64_t PppdConnections::startOf(const Dial &dial, std::int64_t endUtc) const
+std::int64_t PppdConnections::startOf(const Dial &dial, const Connection &connection) const
 {
     for (const PppdEvent *const event : {dial.localAddress, dial.connect}) {
-        const auto start =
-            event && event->time ? m_years.utc(*event->time, event->run) : endUtc + 1;
-        // A start after the end comes from a clock that was set meanwhile.
-        if (start <= endUtc)
+        if (!event || !event->time)
+            continue;
+        // A start after the end, or far away, comes from a clock that was set meanwhile.
+        const std::int64_t start = m_years.utc(*event->time, event->run);
+        if (start <= connection.endUtc && isPlausibleStart(start, connection))
             return start;
     }
-    return endUtc - dial.connectTime->message.seconds;
+    return connection.endUtc - connection.connectedSeconds;
 }
 
-ProfileSource PppdConnections::nameProfile(Connection &connection, std::int64_t pid) const
+ProfileSource PppdConnections::nameProfile(Connection &connection, const std::string &apn) const
 {
-    connection.profile = m_apns.apnOf(pid);
+    connection.profile = apn;
     if (!connection.profile.empty())
         return ProfileSource::Log;
     connection.profile = m_fallbackProfile;

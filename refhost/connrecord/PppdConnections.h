@@ -24,7 +24,7 @@ struct Unusable {
     std::string firstText; ///< the beginning of that line
 };
 
-/// Puts the connections of a log together, each process for itself.
+/// Puts the connections of a log together, each process of each host for itself.
 class PppdConnections
 {
 public:
@@ -43,28 +43,39 @@ public:
     const std::vector<Unusable> &unusable() const { return m_unusable; }
 
 private:
-    /// A connection while its lines come in. The events outlive it.
+    /// A process, with its connection while that one's lines come in. The events
+    /// outlive it.
     struct Dial {
         const PppdEvent *connect = nullptr;
         const PppdEvent *localAddress = nullptr;
         const PppdEvent *connectTime = nullptr;
+        const PppdEvent *ending = nullptr;
+        /// The place of the connection before, as long as it is open how that ended.
+        std::optional<std::size_t> finished;
+    };
+    /// Process ids mean something on their own host alone.
+    struct Host {
+        ApnTracker apns;
+        std::unordered_map<std::int64_t, Dial> dials;
     };
 
     void take(const PppdEvent &event);
-    void takeApn(const PppdEvent &event);
+    void takeApn(ApnTracker &apns, const PppdEvent &event);
     void connect(Dial &dial, const PppdEvent &event);
     void noteConnectTime(Dial &dial, const PppdEvent &event);
-    void finish(Dial &dial, const PppdEvent &byteCounts);
+    void noteEnding(Dial &dial, const PppdEvent &event);
+    void finish(Dial &dial, const PppdEvent &byteCounts, const std::string &apn);
+    void exit(Dial &dial);
     void abandon(Dial &dial);
-    void store(const Dial &dial, const PppdEvent &byteCounts);
-    std::int64_t startOf(const Dial &dial, std::int64_t endUtc) const;
-    ProfileSource nameProfile(Connection &connection, std::int64_t pid) const;
+    std::optional<std::size_t> store(const Dial &dial, const PppdEvent &byteCounts,
+                                     const std::string &apn);
+    std::int64_t startOf(const Dial &dial, const Connection &connection) const;
+    ProfileSource nameProfile(Connection &connection, const std::string &apn) const;
     void count(const char *reason, const PppdEvent &event);
 
     const YearResolver &m_years;
     std::string m_fallbackProfile;
-    ApnTracker m_apns;
-    std::unordered_map<std::int64_t, Dial> m_dials;
+    std::unordered_map<std::string, Host> m_hosts;
     std::vector<Connection> m_connections;
     std::vector<ProfileSource> m_profileSources;
     std::vector<Unusable> m_unusable;

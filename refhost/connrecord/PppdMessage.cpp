@@ -104,6 +104,20 @@ std::optional<PppdMessage> parseByteCounts(TextScanner scanner)
     return message;
 }
 
+/// Modem hangup, LCP terminated by peer (reason), or Terminating on signal 15
+std::optional<PppdMessage> parseEnding(TextScanner scanner)
+{
+    if (scanner.take("Modem hangup"))
+        return messageWithText(Kind::Ending, "modem hangup");
+    if (scanner.take("LCP terminated by peer"))
+        return messageWithText(Kind::Ending, "terminated by peer");
+    const auto signal =
+        scanner.take("Terminating on signal ") ? scanner.takeNumber(1, 3) : std::nullopt;
+    if (!signal)
+        return std::nullopt;
+    return messageWithText(Kind::Ending, "signal " + std::to_string(*signal));
+}
+
 std::optional<PppdMessage> parsePlain(TextScanner scanner)
 {
     if (scanner.take("Connect script failed"))
@@ -208,7 +222,7 @@ std::optional<PppdMessage> parsePppdMessage(std::string_view message)
 {
     const TextScanner scanner(message);
     for (const auto parse : {parseConnect, parseLocalAddress, parseConnectTime, parseByteCounts,
-                             parsePlain, parsePppdApn, parseChatApn}) {
+                             parseEnding, parsePlain, parsePppdApn, parseChatApn}) {
         if (auto parsed = parse(scanner))
             return parsed;
     }

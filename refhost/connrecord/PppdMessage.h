@@ -17,6 +17,7 @@ struct PppdMessage {
         LocalAddress, ///< the network is up
         ConnectTime,  ///< the line is down again; seconds
         ByteCounts,   ///< follows ConnectTime; sent and received
+        Ending,       ///< why the line goes down; text, as the store keeps it
         ScriptFailed, ///< the dialling failed
         Exit,         ///< the process ends
         PppdApn,      ///< pppd's own word for its APN; text

@@ -12,6 +12,8 @@ class LogLineTest : public QObject
 private slots:
     void takesALineApart_data();
     void takesALineApart();
+    void findsTheHost_data();
+    void findsTheHost();
     void seesATimeThatCannotBeRead_data();
     void seesATimeThatCannotBeRead();
     void survivesAnyBytes();
@@ -109,6 +111,40 @@ void LogLineTest::takesALineApart()
     QTEST(text(parsed.process), "process");
     QTEST(qint64(parsed.pid), "pid");
     QTEST(text(parsed.message), "message");
+}
+
+void LogLineTest::findsTheHost_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("host");
+
+    QTest::newRow("alone") << "Mar 06 12:59:54 gw pppd[1288]: Exit."
+                           << "gw";
+    QTest::newRow("with its domain") << "Mar 06 12:59:54 gw.daemon.info pppd[1288]: Exit."
+                                     << "gw.daemon.info";
+    QTest::newRow("in front of a facility") << "Nov 10 17:02:09 gw daemon.info pppd[485]: Exit."
+                                            << "gw";
+    QTest::newRow("behind a facility") << "Nov 10 17:02:09 daemon.notice gw pppd[485]: Exit."
+                                       << "gw";
+    QTest::newRow("with a colon") << "2023-08-21T04:30:26Z: gw: daemon.info pppd[12606]: Exit."
+                                  << "gw";
+    QTest::newRow("behind a time that cannot be read") << "Nov 31 17:02:09 gw pppd[1]: Exit."
+                                                       << "gw";
+    QTest::newRow("none behind a time that cannot be read") << "Nov 31 17:02:09 pppd[1]: Exit."
+                                                            << "";
+    QTest::newRow("a facility alone") << "Sat Jun 17 17:29:16 2023 local7.warn pppd[3844]: Exit."
+                                      << "";
+    QTest::newRow("none") << "<6>May 20 14:22:18 chat[537]: expect (OK)"
+                          << "";
+    QTest::newRow("no process") << "2025-09-09 16:57:37.935190500 Connect time 1494.0 minutes."
+                                << "";
+}
+
+void LogLineTest::findsTheHost()
+{
+    QFETCH(QString, line);
+    const std::string bytes = line.toStdString();
+    QTEST(text(parseLogLine(bytes).host), "host");
 }
 
 void LogLineTest::seesATimeThatCannotBeRead_data()

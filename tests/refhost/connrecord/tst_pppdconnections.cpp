@@ -18,6 +18,9 @@ private slots:
     void findsTheProfile_data();
     void findsTheProfile();
     void followsEachProcessForItself();
+    void tellsEqualProcessesOfTwoHostsApart();
+    void saysHowItEnded_data();
+    void saysHowItEnded();
     void countsWhatCannotBeUsed_data();
     void countsWhatCannotBeUsed();
     void quotesTheFirstOfSeveralLines();
@@ -27,12 +30,15 @@ private slots:
 namespace
 {
 
-/// "hh:mm:ss process[pid]: message" of the day, one a line.
+/// "hh:mm:ss process[pid]: message" of the day, one a line; whole lines stay.
 QByteArray dated(const QStringList &lines)
 {
     QByteArray log;
-    for (const QString &line : lines)
-        log += "2024-05-31T" + QString(line).replace(8, 1, "Z gw ").toUtf8() + '\n';
+    for (const QString &line : lines) {
+        const bool isWhole = line.indexOf('T') == 10;
+        log +=
+            (isWhole ? line : "2024-05-31T" + QString(line).replace(8, 1, "Z gw ")).toUtf8() + '\n';
+    }
     return log;
 }
 
@@ -94,6 +100,14 @@ void PppdConnectionsTest::findsTheStart_data()
         << "10:00:00";
     QTest::newRow("the clock was set back behind both")
         << QStringList{"11:00:00 pppd[100]: Connect: ppp0 <--> /dev/ttyUSB0"} << "10:00:06";
+    QTest::newRow("the clock was set forward behind both")
+        << QStringList{"2024-05-30T09:59:59Z gw pppd[100]: Connect: ppp0 <--> /dev/ttyUSB0",
+                       "1970-01-01T00:00:40Z gw pppd[100]: local  IP address 198.51.100.7"}
+        << "10:00:06";
+    QTest::newRow("the clock was set forward behind the line")
+        << QStringList{"1970-01-01T00:00:40Z gw pppd[100]: Connect: ppp0 <--> /dev/ttyUSB0",
+                       addressed}
+        << "10:00:05";
     QTest::newRow("the address of the connection before does not count")
         << QStringList{"08:00:00 pppd[100]: Connect: ppp0 <--> /dev/ttyUSB0",
                        "08:00:05 pppd[100]: local  IP address 198.51.100.7",
@@ -170,6 +184,71 @@ void PppdConnectionsTest::followsEachProcessForItself()
     QCOMPARE(clock(outcome.connections[0].startUtc), QString("10:00:07"));
     QCOMPARE(outcome.connections[1].interfaceName, std::string("ppp0"));
     QCOMPARE(clock(outcome.connections[1].startUtc), QString("10:00:05"));
+}
+
+void PppdConnectionsTest::tellsEqualProcessesOfTwoHostsApart()
+{
+    const QByteArray one = dated({"09:59:50 chat[99]: send (AT+CGDCONT=1,\"IP\",\"one\"^M)",
+                                  connected, addressed, ended, counted});
+    const QByteArray other =
+        QByteArray(one).replace(" gw ", " other ").replace("\"one\"", "\"two\"");
+    QByteArray both;
+    for (int i = 0; i < 5; ++i)
+        both += one.split('\n')[i] + '\n' + other.split('\n')[i] + '\n';
+    const Outcome outcome = outcomeOf(both);
+    QCOMPARE(outcome.connections.size(), std::size_t(2));
+    QVERIFY(outcome.unusable.empty());
+    QCOMPARE(outcome.connections[0].profile, std::string("one"));
+    QCOMPARE(outcome.connections[1].profile, std::string("two"));
+}
+
+void PppdConnectionsTest::saysHowItEnded_data()
+{
+    QTest::addColumn<QStringList>("lines");
+    QTest::addColumn<QString>("ending");
+
+    const QString hangup = "10:09:59 pppd[100]: Modem hangup";
+    const QString byPeer = "10:09:59 pppd[100]: LCP terminated by peer";
+    const QString bySignal = "10:09:59 pppd[100]: Terminating on signal 15";
+    const QString exit = "10:10:01 pppd[100]: Exit.";
+    QTest::newRow("the log ends before it says")
+        << QStringList{connected, ended, counted} << "normal";
+    QTest::newRow("the modem") << QStringList{connected, hangup, ended, counted, exit}
+                               << "modem hangup";
+    QTest::newRow("the peer") << QStringList{connected, byPeer, ended, counted, exit}
+                              << "terminated by peer";
+    QTest::newRow("a signal") << QStringList{connected, bySignal, ended, counted, exit}
+                              << "signal 15";
+    QTest::newRow("the end of the process alone")
+        << QStringList{connected, ended, counted, exit} << "exit";
+    QTest::newRow("the process dials again")
+        << QStringList{connected,
+                       ended,
+                       counted,
+                       "10:11:00 pppd[100]: Connect: ppp0 <--> /dev/x",
+                       "10:12:00 pppd[100]: Modem hangup",
+                       exit}
+        << "normal";
+    QTest::newRow("the first reason")
+        << QStringList{connected, byPeer, ended, counted, hangup} << "terminated by peer";
+    QTest::newRow("a reason behind the byte counts")
+        << QStringList{connected, ended, counted, hangup, exit} << "modem hangup";
+    QTest::newRow("the log begins with the reason")
+        << QStringList{hangup, ended, counted} << "modem hangup";
+    QTest::newRow("a reason from before")
+        << QStringList{hangup, connected, ended, counted} << "normal";
+    QTest::newRow("another process")
+        << QStringList{connected, QString(hangup).replace("100", "200"), ended, counted,
+                       QString(exit).replace("100", "200")}
+        << "normal";
+}
+
+void PppdConnectionsTest::saysHowItEnded()
+{
+    QFETCH(QStringList, lines);
+    const Outcome outcome = outcomeOf(dated(lines));
+    QCOMPARE(outcome.connections.size(), std::size_t(1));
+    QTEST(QString::fromStdString(outcome.connections[0].ending), "ending");
 }
 
 void PppdConnectionsTest::countsWhatCannotBeUsed_data()

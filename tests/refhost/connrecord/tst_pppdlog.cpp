@@ -43,7 +43,7 @@ void PppdLogTest::findsTheMessagesOfPppdAndChat()
         pppdLogOf("Nov 10 17:02:00 gw kernel: usb 1-1: new device\n"
                   "Nov 10 17:02:05 gw chat[490]: send (AT+CGDCONT=1,\"IP\",\"a\"^M)\n"
                   "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/ttyUSB0\n"
-                  "Nov 10 17:02:09 gw pppd[485]: Terminating on signal 15\n"
+                  "Nov 10 17:02:09 gw pppd[485]: Connection terminated.\n"
                   "Nov 10 17:02:10 gw pppd[485]: Exit.\n");
     QCOMPARE(linesOf(log), (QList<qint64>{2, 3, 5}));
     QCOMPARE(log.events[0].message.kind, Kind::ChatApn);

@@ -39,6 +39,11 @@ void PppdMessageTest::knowsTheKindAndTheText_data()
     row("an IPv6 address", "local  LL address fe80::1", Kind::LocalAddress, "");
     row("the dialling failed", "Connect script failed", Kind::ScriptFailed, "");
     row("the end of the process", "Exit.", Kind::Exit, "");
+    row("the modem hangs up", "Modem hangup", Kind::Ending, "modem hangup");
+    row("the peer ends it", "LCP terminated by peer", Kind::Ending, "terminated by peer");
+    row("the peer ends it with a reason", "LCP terminated by peer (\\x03^)", Kind::Ending,
+        "terminated by peer");
+    row("a signal ends it", "Terminating on signal 15", Kind::Ending, "signal 15");
     row("chat gives up", "Failed", Kind::ChatFailed, "");
     row("chat gives up with a reason", "Failed (NO CARRIER)", Kind::ChatFailed, "");
     row("pppd's own APN", "connect chat -v -f /etc/chatscripts/modem -T vipmobile", Kind::PppdApn,
@@ -75,7 +80,9 @@ void PppdMessageTest::passesOverOtherMessages_data()
                                       "Connect: ",
                                       "Connect: ppp0",
                                       "Connect:  <--> /dev/ttyUSB0",
-                                      "Terminating on signal 15",
+                                      "Terminating on signal",
+                                      "Terminating on signal x",
+                                      "LCP terminated",
                                       "Connection terminated.",
                                       "local address 198.51.100.7",
                                       "localIP address 198.51.100.7",
