@@ -12,9 +12,6 @@
 namespace refhost
 {
 
-/// The span of times that the store keeps, in seconds since 1970-01-01 00:00 UTC.
-constexpr std::int64_t largestTime = 2147483647;
-
 /// A time as somebody wrote it: a place in the calendar, perhaps without a year,
 /// in local time unless an offset says otherwise.
 struct CalendarTime {

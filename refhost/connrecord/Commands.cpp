@@ -46,7 +46,7 @@ Connection connectionFrom(const AddRequest &request)
                                              utcText(connection.startUtc).toStdString() + ".");
     connection.connectedSeconds =
         request.connectedSeconds
-            ? optionNumber("--connected", *request.connectedSeconds, largestTime)
+            ? optionNumber("--connected", *request.connectedSeconds, largestDuration)
             : connection.endUtc - connection.startUtc;
     connection.uploadedBytes = optionNumber("--up", request.uploadedBytes, largestCount);
     connection.downloadedBytes = optionNumber("--down", request.downloadedBytes, largestCount);

@@ -98,7 +98,7 @@ Connection RowReader::connection() const
     connection.profile = m_row[Profile].text;
     connection.startUtc = time(Start);
     connection.endUtc = time(End);
-    connection.connectedSeconds = number(ConnectedSeconds, largestTime);
+    connection.connectedSeconds = number(ConnectedSeconds, largestDuration);
     connection.uploadedBytes = number(UploadedBytes, largestByteCount);
     connection.downloadedBytes = number(DownloadedBytes, largestByteCount);
     connection.ending = shortText(Ending);

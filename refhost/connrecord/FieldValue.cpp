@@ -2,6 +2,7 @@
 #include "FieldValue.h"
 
 #include "CalendarTime.h"
+#include "StatisticsStore.h"
 #include "TextScanner.h"
 #include "Utf8Text.h"
 

@@ -2,6 +2,7 @@
 #include "PppdMessage.h"
 
 #include "CalendarTime.h"
+#include "StatisticsStore.h"
 #include "TextScanner.h"
 #include "Utf8Text.h"
 
@@ -59,7 +60,7 @@ std::int64_t secondsOfMinutes(std::string_view minutes)
         QByteArray(minutes.data(), static_cast<int>(minutes.size())).toDouble(&isNumber);
     const double seconds = std::round(value * 60);
     // Written so that infinity is out of range as well.
-    if (!isNumber || !(seconds >= 0 && seconds <= static_cast<double>(largestTime)))
+    if (!isNumber || !(seconds >= 0 && seconds <= static_cast<double>(largestDuration)))
         return outOfRange;
     return static_cast<std::int64_t>(seconds);
 }

@@ -9,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <iterator>
+#include <limits>
 #include <string>
 
 namespace refhost
@@ -28,6 +29,16 @@ void writeNumber(std::int64_t number, char (&field)[Size])
     // Twenty characters hold every 64-bit number, the smallest field has 31.
     static_assert(Size > 20);
     std::to_chars(field, field + Size - 1, number);
+}
+
+/// The callers read a time as a signed number of 32 bits and count on from it without
+/// the sign, so the second half of the range is written as what is 2^32 less.
+template <std::size_t Size>
+void writeTime(std::int64_t time, char (&field)[Size])
+{
+    const bool isInSecondHalf =
+        time > std::numeric_limits<std::int32_t>::max() && time <= largestTime;
+    writeNumber(isInSecondHalf ? time - largestTime - 1 : time, field);
 }
 
 template <std::size_t Size>
@@ -74,8 +85,8 @@ void writeProfile(std::string_view profile, char16_t (&field)[profileUnits + 1])
 void fillRecord(const ConnectionRow &row, _KORA_ST_CONNRECORD &record)
 {
     writeProfile(row.profile(), record.szProfileName);
-    writeNumber(row.startUtc(), record.szStartTime);
-    writeNumber(row.endUtc(), record.szEndTime);
+    writeTime(row.startUtc(), record.szStartTime);
+    writeTime(row.endUtc(), record.szEndTime);
     writeNumber(row.connectedSeconds(), record.szDuration);
     writeNumber(row.uploadedBytes(), record.szUploadBytes);
     writeNumber(row.downloadedBytes(), record.szDownloadBytes);

@@ -20,7 +20,6 @@ namespace
 
 using Kind = StoreError::Kind;
 
-constexpr std::int64_t maximumTime = 2147483647;
 constexpr std::int64_t maximumBytes = std::numeric_limits<std::int64_t>::max();
 constexpr std::size_t maximumTextBytes = 31;
 
@@ -75,8 +74,8 @@ template <typename AnyConnection>
 void checkCommon(const AnyConnection &connection, const std::string &whose)
 {
     checkText(whose, "profile", connection.profile, connection.profile.max_size());
-    checkRange(whose, "start time", connection.startUtc, maximumTime);
-    checkRange(whose, "connected time", connection.connectedSeconds, maximumTime);
+    checkRange(whose, "start time", connection.startUtc, largestTime);
+    checkRange(whose, "connected time", connection.connectedSeconds, largestDuration);
     checkRange(whose, "number of bytes sent", connection.uploadedBytes, maximumBytes);
     checkRange(whose, "number of bytes received", connection.downloadedBytes, maximumBytes);
     checkText(whose, "ending", connection.ending, maximumTextBytes);
@@ -86,14 +85,14 @@ void checkCommon(const AnyConnection &connection, const std::string &whose)
 void check(const Connection &connection, const std::string &whose)
 {
     checkCommon(connection, whose);
-    checkRange(whose, "end time", connection.endUtc, maximumTime);
+    checkRange(whose, "end time", connection.endUtc, largestTime);
 }
 
 void check(const OpenConnection &connection)
 {
     const std::string whose = "the open connection";
     checkCommon(connection, whose);
-    checkRange(whose, "time of the last update", connection.updatedUtc, maximumTime);
+    checkRange(whose, "time of the last update", connection.updatedUtc, largestTime);
     checkText(whose, "boot id", connection.bootId, connection.bootId.max_size());
 }
 

@@ -15,10 +15,14 @@
 namespace refhost
 {
 
+/// The last second that the store keeps, 2106-02-07 06:28:15 UTC, and the longest
+/// time connected: the callers of the statistics SDK count in 32 bits.
+constexpr std::int64_t largestTime = std::numeric_limits<std::uint32_t>::max();
+constexpr std::int64_t largestDuration = std::numeric_limits<std::int32_t>::max();
+
 /// One finished connection as the store keeps it. Times are seconds since
-/// 1970-01-01 00:00 UTC and, like the duration, lie between 0 and 2147483647
-/// (the statistics SDK's callers read them as signed 32-bit numbers); byte
-/// counts are not negative. Texts are UTF-8.
+/// 1970-01-01 00:00 UTC from 0 to largestTime, durations lie between 0 and
+/// largestDuration; byte counts are not negative. Texts are UTF-8.
 struct Connection {
     std::int64_t key = 0; ///< given by the store, never used twice; 0 before that
     std::string profile;

@@ -14,8 +14,6 @@ constexpr const char *endedNormally = "normal";
 constexpr const char *endedByRecovery = "recovered";
 constexpr const char *endedAfterReset = "counter reset";
 
-constexpr std::int64_t maximumSeconds = 2147483647;
-
 /// More than any counter shows, and far from where sums of them overflow.
 constexpr std::int64_t maximumCount = std::int64_t{1} << 61;
 
@@ -23,8 +21,9 @@ constexpr std::int64_t maximumCount = std::int64_t{1} << 61;
 /// the range that the store takes, so that it ends as a record.
 OpenConnection withinRange(OpenConnection row)
 {
-    for (std::int64_t *const seconds : {&row.startUtc, &row.updatedUtc, &row.connectedSeconds})
+    for (std::int64_t *const seconds : {&row.startUtc, &row.updatedUtc})
         *seconds = storableSeconds(*seconds);
+    row.connectedSeconds = std::clamp(row.connectedSeconds, std::int64_t{0}, largestDuration);
     for (std::int64_t *const count : {&row.uploadedBytes, &row.downloadedBytes})
         *count = std::clamp(*count, std::int64_t{0}, maximumCount);
     for (std::int64_t *const base : {&row.baseUploaded, &row.baseDownloaded})
@@ -80,7 +79,7 @@ Connection finishedFrom(const OpenConnection &row, const std::string &ending)
 
 std::int64_t storableSeconds(std::int64_t seconds)
 {
-    return std::clamp(seconds, std::int64_t{0}, maximumSeconds);
+    return std::clamp(seconds, std::int64_t{0}, largestTime);
 }
 
 LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
@@ -227,7 +226,7 @@ void LiveConnection::updateTimes(const Moment &now)
     // is even out of range.
     const std::int64_t start =
         std::clamp(m_row.startBootMilliseconds, std::int64_t{0}, m_moment.bootMilliseconds);
-    m_row.connectedSeconds = storableSeconds((m_moment.bootMilliseconds - start) / 1000);
+    m_row.connectedSeconds = std::min((m_moment.bootMilliseconds - start) / 1000, largestDuration);
     m_row.updatedUtc = storableSeconds(m_moment.utcSeconds < m_row.startUtc
                                            ? m_row.startUtc + m_row.connectedSeconds
                                            : m_moment.utcSeconds);

@@ -24,6 +24,7 @@ private slots:
     void listsAStoreThatDoesNotExistAsEmpty();
     void usesTheStoreOfTheEnvironment();
     void addsAndListsAConnection();
+    void addsAndListsTimesAfter2038();
     void takesTheEndMinusTheStartAsTimeConnected();
     void keepsExactByteCounts();
     void listsInTheOrderOfTheStore();
@@ -118,6 +119,17 @@ void ConnrecordTest::usesTheStoreOfTheEnvironment()
     QCOMPARE(stored().size(), std::size_t(1));
 }
 
+void ConnrecordTest::addsAndListsTimesAfter2038()
+{
+    const ConnrecordRun added = run(addition(
+        {"--start", "2038-01-19T03:14:08Z", "--end", "2106-02-07T06:28:15Z", "--connected", "60"}));
+    QCOMPARE(added.output, QByteArray("1\n"));
+    const QJsonObject listed = run({"list", "--json"}).json().array().at(0).toObject();
+    QCOMPARE(listed["start"].toString(), QString("2038-01-19T03:14:08Z"));
+    QCOMPARE(listed["end"].toString(), QString("2106-02-07T06:28:15Z"));
+    QVERIFY(run({"list"}).output.contains("2038-01-19 04:14:08"));
+}
+
 void ConnrecordTest::addsAndListsAConnection()
 {
     const ConnrecordRun added =
@@ -179,7 +191,7 @@ void ConnrecordTest::refusesWhatCannotBeAdded_data()
     };
     row("an end before the start", "--end", "2024-05-31T18:29:59Z", 1, "before the start");
     row("a time before 1970", "--start", "1969-12-31T23:59:59Z", 1, "--start");
-    row("a time after 31 bits", "--end", "2038-01-19T03:14:08Z", 1, "--end");
+    row("a time after 32 bits", "--end", "2106-02-07T06:28:16Z", 1, "--end");
     row("negative bytes", "--up", "-5", 1, "--up");
     row("more bytes than 63 bits", "--down", "9223372036854775808", 1, "--down");
     row("too long a time connected", "--connected", "2147483648", 1, "--connected");

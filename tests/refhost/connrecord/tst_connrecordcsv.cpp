@@ -62,7 +62,7 @@ void ConnrecordCsvTest::bringsBackEveryRecordThatWasExported()
         Connection connection;
         connection.profile = profile;
         connection.startUtc = static_cast<std::int64_t>(connections.size());
-        connection.endUtc = 2147483647;
+        connection.endUtc = 4294967295;
         connection.connectedSeconds = 2147483647;
         connection.uploadedBytes = std::numeric_limits<std::int64_t>::max();
         connection.ending = "no, \"signal\"";

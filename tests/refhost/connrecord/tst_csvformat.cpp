@@ -104,8 +104,8 @@ void CsvFormatTest::readsBackWhatItHasWritten()
     Connection connection = sample();
     connection.profile = profile.toStdString();
     connection.startUtc = 0;
-    connection.endUtc = std::min<qint64>(number, 2147483647);
-    connection.connectedSeconds = connection.endUtc;
+    connection.endUtc = std::min<qint64>(number, refhost::largestTime);
+    connection.connectedSeconds = std::min<qint64>(number, refhost::largestDuration);
     connection.uploadedBytes = number;
     connection.downloadedBytes = number;
     connection.ending = std::string(31, ',');
@@ -164,11 +164,11 @@ void CsvFormatTest::tellsWhatIsWrongWithALine_data()
     QTest::newRow("a time before 1970")
         << QByteArray("x,1969-12-31T23:59:59Z,2024-05-31T19:30:00Z,1,2,3,normal,")
         << "3 start: \"1969-12-31T23:59:59Z\" is not between 1970-01-01T00:00:00Z and "
-           "2038-01-19T03:14:07Z";
+           "2106-02-07T06:28:15Z";
     QTest::newRow("a time after 31 bits")
-        << QByteArray("x,2024-05-31T18:30:00Z,2038-01-19T03:14:08Z,1,2,3,normal,")
-        << "3 end: \"2038-01-19T03:14:08Z\" is not between 1970-01-01T00:00:00Z and "
-           "2038-01-19T03:14:07Z";
+        << QByteArray("x,2024-05-31T18:30:00Z,2106-02-07T06:28:16Z,1,2,3,normal,")
+        << "3 end: \"2106-02-07T06:28:16Z\" is not between 1970-01-01T00:00:00Z and "
+           "2106-02-07T06:28:15Z";
     QTest::newRow("too long an ending")
         << start + "1,2,3," + QByteArray(32, 'e') + ','
         << "3 ending: the text has 32 bytes, at most 31 are allowed";

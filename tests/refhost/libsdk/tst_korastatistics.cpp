@@ -44,6 +44,8 @@ private slots:
     void withoutAFileTheListIsEmptyAndNoFileIsMade();
     void writesEveryFieldAsText();
     void takesTheExtremes();
+    void writesLaterTimesAs32BitsWithASign_data();
+    void writesLaterTimesAs32BitsWithASign();
     void cutsALongProfile_data();
     void cutsALongProfile();
     void replacesWhatIsNotUtf8_data();
@@ -107,15 +109,34 @@ void KoraStatisticsTest::writesEveryFieldAsText()
 
 void KoraStatisticsTest::takesTheExtremes()
 {
-    Connection given = connection("", 0, 2147483647);
+    Connection given = connection("", 0, 4294967295);
+    given.connectedSeconds = 2147483647;
     given.uploadedBytes = std::numeric_limits<std::int64_t>::max();
     const _KORA_ST_CONNRECORD record = handedOut(given);
     QCOMPARE(profileOf(record), QString());
     QCOMPARE(record.szStartTime, "0");
-    QCOMPARE(record.szEndTime, "2147483647");
+    QCOMPARE(record.szEndTime, "-1");
     QCOMPARE(record.szDuration, "2147483647");
     QCOMPARE(record.szUploadBytes, "9223372036854775807");
     QCOMPARE(record.szDownloadBytes, "0");
+}
+
+void KoraStatisticsTest::writesLaterTimesAs32BitsWithASign_data()
+{
+    QTest::addColumn<qint64>("time");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("the last positive one") << qint64(2147483647) << QByteArray("2147483647");
+    QTest::newRow("the first negative one") << qint64(2147483648) << QByteArray("-2147483648");
+    QTest::newRow("the last one") << qint64(4294967295) << QByteArray("-1");
+}
+
+void KoraStatisticsTest::writesLaterTimesAs32BitsWithASign()
+{
+    QFETCH(qint64, time);
+    QFETCH(QByteArray, text);
+    const _KORA_ST_CONNRECORD record = handedOut(connection("p", time, time));
+    QCOMPARE(QByteArray(record.szStartTime), text);
+    QCOMPARE(QByteArray(record.szEndTime), text);
 }
 
 void KoraStatisticsTest::cutsALongProfile_data()

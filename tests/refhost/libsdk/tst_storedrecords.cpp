@@ -17,7 +17,8 @@ Q_DECLARE_METATYPE(refhost::Connection)
 namespace
 {
 
-constexpr std::int64_t latest = 2147483647;
+constexpr std::int64_t latest = 4294967295;
+constexpr std::int64_t longest = 2147483647;
 
 Connection withField(std::int64_t Connection::*field, std::int64_t value)
 {
@@ -71,7 +72,7 @@ void StoredRecordsTest::takesValuesAtTheLimits_data()
     constexpr auto most = std::numeric_limits<std::int64_t>::max();
     QTest::newRow("the first second") << connection("p", 0, 0);
     QTest::newRow("the last second") << connection("p", latest, latest);
-    QTest::newRow("the longest time") << withField(&Connection::connectedSeconds, latest);
+    QTest::newRow("the longest time") << withField(&Connection::connectedSeconds, longest);
     QTest::newRow("the most bytes sent") << withField(&Connection::uploadedBytes, most);
     QTest::newRow("the most bytes received") << withField(&Connection::downloadedBytes, most);
     QTest::newRow("the longest ending") << withText(&Connection::ending, std::string(31, 'e'));
@@ -96,20 +97,21 @@ void StoredRecordsTest::refusesValuesOutsideTheirRange_data()
         return QString("The %1 of the connection is %2, but must lie between 0 and %3.")
             .arg(field, value, maximum);
     };
-    const char *const lastSecond = "2147483647";
+    const char *const lastSecond = "4294967295";
+    const char *const longestTime = "2147483647";
     const char *const mostBytes = "9223372036854775807";
     QTest::newRow("a start before 1970")
         << withField(&Connection::startUtc, -1) << range("start time", "-1", lastSecond);
-    QTest::newRow("a start after 2038") << withField(&Connection::startUtc, latest + 1)
-                                        << range("start time", "2147483648", lastSecond);
+    QTest::newRow("a start after 2106") << withField(&Connection::startUtc, latest + 1)
+                                        << range("start time", "4294967296", lastSecond);
     QTest::newRow("an end before 1970")
         << withField(&Connection::endUtc, -1) << range("end time", "-1", lastSecond);
-    QTest::newRow("an end after 2038") << withField(&Connection::endUtc, latest + 1)
-                                       << range("end time", "2147483648", lastSecond);
+    QTest::newRow("an end after 2106") << withField(&Connection::endUtc, latest + 1)
+                                       << range("end time", "4294967296", lastSecond);
     QTest::newRow("a negative time") << withField(&Connection::connectedSeconds, -5)
-                                     << range("connected time", "-5", lastSecond);
-    QTest::newRow("a time beyond 68 years") << withField(&Connection::connectedSeconds, latest + 1)
-                                            << range("connected time", "2147483648", lastSecond);
+                                     << range("connected time", "-5", longestTime);
+    QTest::newRow("a time beyond 68 years") << withField(&Connection::connectedSeconds, longest + 1)
+                                            << range("connected time", "2147483648", longestTime);
     QTest::newRow("negative bytes sent") << withField(&Connection::uploadedBytes, -1)
                                          << range("number of bytes sent", "-1", mostBytes);
     QTest::newRow("negative bytes received") << withField(&Connection::downloadedBytes, -1)

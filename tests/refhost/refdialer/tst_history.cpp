@@ -18,6 +18,7 @@ private slots:
     void cleanup() { m_history.reset(); }
 
     void showsTheStoredConnectionsNewestFirst();
+    void showsTimesThat31BitsDoNotHold();
     void showsAnEmptyTableBeforeThereIsAStore();
     void speaksTheLanguageOfTheProgram();
 
@@ -41,6 +42,21 @@ void TestHistory::showsTheStoredConnectionsNewestFirst()
     QCOMPARE(cell(0, 4), QString("2.00 KB"));
     QCOMPARE(cell(0, 5), QString("5.00 MB"));
     QVERIFY(table.isVisible());
+}
+
+void TestHistory::showsTimesThat31BitsDoNotHold()
+{
+    refhost::Connection last = connection("last.example", 0);
+    last.startUtc = 2147483648;
+    last.endUtc = refhost::largestTime;
+    QVERIFY(m_history->store({connection("first.example", 0), last}));
+    QVERIFY(m_history->open());
+    QCOMPARE(m_history->shownProfiles(), QStringList({"last.example", "first.example"}));
+    const auto shownTime = [this](int column) {
+        return m_history->table().item(0, column)->data(Qt::DisplayRole).toDateTime();
+    };
+    QCOMPARE(shownTime(1).toSecsSinceEpoch(), qint64(2147483648));
+    QCOMPARE(shownTime(2).toSecsSinceEpoch(), qint64(refhost::largestTime));
 }
 
 void TestHistory::showsAnEmptyTableBeforeThereIsAStore()
