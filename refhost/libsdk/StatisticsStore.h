@@ -102,7 +102,8 @@ public:
     /// is left as it is.
     static Result<StatisticsStore> openOrCreate(const std::string &path);
     /// The same, and each change is on the disk before it is told to be done: not
-    /// even a power cut takes it back.
+    /// even a power cut takes it back. A locked store is waited for a moment only, to
+    /// be tried again later, and said to be locked by the recorder when that has lasted.
     static Result<StatisticsStore> openForRecording(const std::string &path);
     /// As openOrCreate, but a file that is not there is not made: until something else
     /// creates it, the store reads as empty.

@@ -81,7 +81,8 @@ void StoreDatabase::connect()
         // A store stays on one thread, so SQLite need not lock around every value.
         m_database = std::make_unique<SQLite::Database>(
             resolvedPath(m_path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
-            lockTimeoutSeconds * 1000);
+            m_durability == Durability::Disk ? recorderLockTimeoutMilliseconds
+                                             : lockTimeoutSeconds * 1000);
         // Nothing is written for a file that turns out to be no store of ours.
         setCheckpointOnClose(false);
         m_logBase = std::make_unique<LogBase>(*m_database, resolvedPath(m_path));

@@ -33,6 +33,10 @@ enum class Access { Opening, Reading, Writing };
 /// The seconds for which an operation waits for another process's lock.
 constexpr int lockTimeoutSeconds = 5;
 
+/// The milliseconds for which a recorder's does, which has the time to try again and
+/// whose clock must not be held up.
+constexpr int recorderLockTimeoutMilliseconds = 100;
+
 /// The file's path the way a sentence names it.
 std::string historyAt(const std::string &path);
 

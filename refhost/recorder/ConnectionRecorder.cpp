@@ -158,9 +158,11 @@ bool ConnectionRecorder::openBook()
     }
     auto store = StatisticsStore::openForRecording(m_storePath.toStdString());
     if (!store) {
-        obstruct(QString::fromStdString(store.error().message));
+        if (m_patience.isWorthTelling(store.error(), m_clock->bootMilliseconds()))
+            obstruct(QString::fromStdString(store.error().message));
         return false;
     }
+    m_patience.renew();
     const auto finished = [this](const Connection &connection, std::int64_t id) {
         later(this, [this, connection, id] { emit disconnected(connection, id); });
     };
@@ -173,7 +175,7 @@ bool ConnectionRecorder::openBook()
         fail(QString::fromStdString(error.message));
     };
     m_book = std::make_unique<RecordBook>(
-        std::move(store.value()), m_bootId,
+        std::move(store.value()), m_bootId, *m_clock,
         [this](const OpenConnection &row) { return stillLasts(row); },
         RecordBook::Listener{finished, recovered, failedToWrite, succeededToWrite});
     return true;
@@ -228,11 +230,13 @@ void ConnectionRecorder::obstruct(const QString &reason)
 
 void ConnectionRecorder::removeObstacle()
 {
-    if (m_obstacle.isEmpty())
+    if (!m_isLate)
         return;
+    const bool wasTold = !m_obstacle.isEmpty();
     m_obstacle.clear();
-    later(this, [this] {
-        emit succeeded();
+    later(this, [this, wasTold] {
+        if (wasTold)
+            emit succeeded();
         emit started();
     });
 }
@@ -311,7 +315,7 @@ void ConnectionRecorder::report(LiveConnection &connection)
 void ConnectionRecorder::tick()
 {
     m_ticks = (m_ticks + 1) % ticksPerCheckpoint;
-    const bool isCheckpoint = m_ticks == 0;
+    const bool isCheckpoint = m_ticks == 0 || m_book->isLate();
     if (isCheckpoint) {
         m_book->catchUp();
         keepIdleCounters();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "LockPatience.h"
 #include "StatisticsStore.h"
 
 #include <QDateTime>
@@ -60,8 +61,9 @@ struct ConnectionState {
 ///
 /// Signals come from the event loop, never from within a call, one after the
 /// other. Everything happens on the thread that the recorder lives in, which may
-/// be one of its own (moveToThread before start()): a store that another program
-/// keeps locked can block it for seconds.
+/// be one of its own (moveToThread before start()): a slow disk can block it. A store
+/// that another program keeps locked is waited for a moment only and tried again with
+/// each tick, so that what happens gets its time when it happens.
 class ConnectionRecorder : public QObject
 {
     Q_OBJECT
@@ -145,6 +147,7 @@ private:
     std::set<int> m_resumedLinks;     ///< watched for the connection that they have
     std::vector<SeenLink> m_keptIdle; ///< what the store knows of links without one
     std::string m_bootId;
+    LockPatience m_patience;
     QString m_obstacle; ///< why it cannot record, as it was told last
     bool m_isLate = false;
     QTimer m_timer;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecordBook.h"
 
+#include "SystemClock.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -18,10 +20,11 @@ bool areSame(const OpenConnection &a, const OpenConnection &b)
 
 } // namespace
 
-RecordBook::RecordBook(StatisticsStore store, std::string bootId, StillLasts stillLasts,
-                       Listener listener)
+RecordBook::RecordBook(StatisticsStore store, std::string bootId, const SystemClock &clock,
+                       StillLasts stillLasts, Listener listener)
     : m_store(std::move(store))
     , m_bootId(std::move(bootId))
+    , m_clock(clock)
     , m_stillLasts(std::move(stillLasts))
     , m_listener(std::move(listener))
 {
@@ -219,6 +222,7 @@ Result<std::int64_t> RecordBook::write(Unwritten &finished)
 
 void RecordBook::succeed()
 {
+    m_patience.renew();
     if (m_lastFailure.empty())
         return;
     m_lastFailure.clear();
@@ -228,7 +232,8 @@ void RecordBook::succeed()
 void RecordBook::fail(const StoreError &error)
 {
     m_isLocked |= error.kind == StoreError::Kind::Locked;
-    if (error.message == m_lastFailure)
+    const bool isToBeTold = m_patience.isWorthTelling(error, m_clock.bootMilliseconds());
+    if (!isToBeTold || error.message == m_lastFailure)
         return;
     m_lastFailure = error.message;
     m_listener.failed(error);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "LiveConnection.h"
+#include "LockPatience.h"
 #include "StatisticsStore.h"
 #include "UnwatchedTraffic.h"
 
@@ -15,6 +16,8 @@
 namespace refhost
 {
 
+class SystemClock;
+
 /// Writes connections into a store. What cannot be written stays here and is
 /// tried again, in the order in which it happened.
 class RecordBook
@@ -24,14 +27,17 @@ public:
         /// It is in the store now; with its LiveConnection::id.
         std::function<void(const Connection &, std::int64_t id)> finished;
         std::function<void(const Connection &)> recovered; ///< the same, of an earlier process
-        std::function<void(const StoreError &)> failed;    ///< once for each new reason
-        std::function<void()> succeeded;                   ///< the first time after that
+        /// Once for each new reason, and for a locked store once that has lasted.
+        std::function<void(const StoreError &)> failed;
+        std::function<void()> succeeded; ///< the first time after that
     };
     /// Whether the connection that an earlier process has left open, in this run of
     /// the system, still lasts.
     using StillLasts = std::function<bool(const OpenConnection &row)>;
 
-    RecordBook(StatisticsStore store, std::string bootId, StillLasts stillLasts, Listener listener);
+    /// `clock` must live longer.
+    RecordBook(StatisticsStore store, std::string bootId, const SystemClock &clock,
+               StillLasts stillLasts, Listener listener);
 
     /// Settles what earlier processes left, with these links as they are found now.
     void settle(std::vector<FirstSight> sights);
@@ -48,6 +54,8 @@ public:
     /// Whether there is something that catchUp() has to write before anything else
     /// is written, which is so in the beginning.
     bool isBehind() const { return !isSettled() || !m_unwritten.empty(); }
+    /// Whether there is more to be written than the next checkpoint.
+    bool isLate() const { return isBehind() || m_isLocked; }
     /// Finishes what earlier processes left open and does not last, as recovered at
     /// its last update, and records what links have moved since nobody watched them;
     /// then tries again what could not be written.
@@ -74,8 +82,10 @@ private:
 
     StatisticsStore m_store;
     std::string m_bootId;
+    const SystemClock &m_clock;
     StillLasts m_stillLasts;
     Listener m_listener;
+    LockPatience m_patience;
     std::deque<Unwritten> m_unwritten;
     std::string m_lastFailure;
     std::map<std::int64_t, OpenConnection> m_lasting; ///< rows to be resumed, by key

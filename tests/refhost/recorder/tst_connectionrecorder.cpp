@@ -4,17 +4,18 @@
 #include "FakeClock.h"
 #include "FakeLinks.h"
 #include "RecordText.h"
+#include "StoreLock.h"
 
 #include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Transaction.h>
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
+#include <atomic>
 #include <memory>
-#include <optional>
+#include <thread>
 
 using refhost::Connection;
 using refhost::ConnectionRecorder;
@@ -46,22 +47,6 @@ OpenConnection rowOf(const std::string &bootId, int linkIndex)
     row.connectedSeconds = 900;
     return row;
 }
-
-/// Keeps all others from writing into a store.
-class StoreLock
-{
-public:
-    explicit StoreLock(const QString &path)
-        : m_store(path.toStdString(), SQLite::OPEN_READWRITE)
-        , m_transaction(std::in_place, m_store, SQLite::TransactionBehavior::IMMEDIATE)
-    {
-    }
-    void release() { m_transaction.reset(); }
-
-private:
-    SQLite::Database m_store;
-    std::optional<SQLite::Transaction> m_transaction;
-};
 
 } // namespace
 
@@ -114,6 +99,8 @@ private slots:
 
     void keepsWhatItCannotWriteAndTriesAgain();
     void saysWhenItCanWriteAgain();
+    void saysNothingOfALockThatDoesNotLast();
+    void isNotHeldUpByALockedStore();
     void aStoreIsTheSameByAnyName();
     void recordsWhateverAKilledRecorderLeftOfItsLock_data();
     void recordsWhateverAKilledRecorderLeftOfItsLock();
@@ -595,6 +582,7 @@ void ConnectionRecorderTest::tellsOfARowThatItCouldNotCloseInTime()
     StoreLock lock(m_path);
     QVERIFY(start());
     QSignalSpy successes(m_recorder.get(), &ConnectionRecorder::succeeded);
+    m_clock->pass(5000);
     QTRY_COMPARE(m_failures->size(), 1);
     lock.release();
     QTRY_COMPARE_WITH_TIMEOUT(m_disconnections->size(), 1, checkpointTimeout);
@@ -687,6 +675,7 @@ void ConnectionRecorderTest::keepsWhatItCannotWriteAndTriesAgain()
     m_links->tell(downLink(3, "wwan0", 5, 6));
     // The next connection of the same link must not be taken for the former one.
     m_links->tell(runningLink(3, "wwan0", 5, 6));
+    m_clock->pass(5000);
     QTRY_COMPARE(m_failures->size(), 1);
     QCOMPARE(m_failures->first().first().toString(),
              QStringLiteral("The connection history \"%1\" has been locked by another program for "
@@ -708,10 +697,50 @@ void ConnectionRecorderTest::saysWhenItCanWriteAgain()
     connectLink(3, "wwan0", 0, 0);
     StoreLock lock(m_path);
     m_links->tell(downLink(3, "wwan0", 5, 6));
+    m_clock->pass(5000);
     QTRY_COMPARE(m_failures->size(), 1);
     QVERIFY(successes.isEmpty());
     lock.release();
     QTRY_COMPARE_WITH_TIMEOUT(successes.size(), 1, checkpointTimeout);
+}
+
+void ConnectionRecorderTest::saysNothingOfALockThatDoesNotLast()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    StoreLock lock(m_path);
+    m_links->tell(downLink(3, "wwan0", 5, 6));
+    m_clock->pass(4000);
+    lock.release();
+    QTRY_COMPARE(m_disconnections->size(), 1);
+    connectLink(4, "wwan1", 0, 0);
+    StoreLock another(m_path);
+    m_clock->pass(4000);
+    m_links->tell(downLink(4, "wwan1", 5, 6));
+    another.release();
+    QTRY_COMPARE(m_disconnections->size(), 2);
+    QVERIFY(m_failures->isEmpty());
+}
+
+/// What happens meanwhile has to get its time when it happens.
+void ConnectionRecorderTest::isNotHeldUpByALockedStore()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    StoreLock lock(m_path);
+    std::atomic<bool> hasAnotherGivenUp = false;
+    std::thread another([this, &hasAnotherGivenUp] {
+        auto store = StatisticsStore::openOrCreate(m_path.toStdString());
+        QVERIFY(!store.value().add(Connection()));
+        hasAnotherGivenUp = true;
+    });
+    m_links->tell(downLink(3, "wwan0", 5, 6));
+    m_links->tell(runningLink(3, "wwan0", 5, 6));
+    m_links->tell(downLink(3, "wwan0", 7, 8));
+    m_recorder.reset();
+    const bool wasInTime = !hasAnotherGivenUp;
+    another.join();
+    QVERIFY(wasInTime);
 }
 
 void ConnectionRecorderTest::leavesTheRecordingToTheFirstRecorder()

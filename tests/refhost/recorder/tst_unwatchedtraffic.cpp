@@ -4,9 +4,7 @@
 #include "FakeClock.h"
 #include "FakeLinks.h"
 #include "RecordText.h"
-
-#include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Transaction.h>
+#include "StoreLock.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -307,8 +305,7 @@ void UnwatchedTrafficTest::isRecordedOnceTheStoreCanBeWritten()
     m_links->tell(downLink(3, "ppp0", 100, 200));
     end();
     {
-        SQLite::Database store(m_path.toStdString(), SQLite::OPEN_READWRITE);
-        const SQLite::Transaction lock(store, SQLite::TransactionBehavior::IMMEDIATE);
+        const StoreLock lock(m_path);
         start({runningLink(3, "ppp0", 150, 260), addressOn(3)});
         for (const LinkNews &news : meanwhile)
             m_links->tell(news);
