@@ -25,11 +25,6 @@ constexpr int ticksPerCheckpoint = 4;
 /// Between attempts to start.
 constexpr std::chrono::seconds retryInterval(2);
 
-bool isMobile(const std::string &interfaceName)
-{
-    return interfaceName.rfind("ppp", 0) == 0 || interfaceName.rfind("wwan", 0) == 0;
-}
-
 const Link *linkOf(const OpenConnection &row, const std::vector<Link> &links)
 {
     const auto link = std::find_if(links.begin(), links.end(), [&row](const Link &each) {
@@ -383,7 +378,11 @@ void ConnectionRecorder::keepIdleCounters()
 
 bool ConnectionRecorder::isWatched(const Link &link) const
 {
-    return isMobile(link.name) || m_interfaceNames.contains(QString::fromStdString(link.name)) ||
+    const auto isItsName = [&link](const QString &name) {
+        return link.hasName(name.toStdString());
+    };
+    return link.isMobile() ||
+           std::any_of(m_interfaceNames.begin(), m_interfaceNames.end(), isItsName) ||
            m_resumedLinks.count(link.index) != 0;
 }
 

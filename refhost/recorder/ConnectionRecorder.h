@@ -42,9 +42,9 @@ struct ConnectionState {
     qint64 downloadRate = 0;
 };
 
-/// Records the connections of mobile interfaces (ppp*, wwan*) and of those that
-/// are named, to the byte: an interface is connected while it is up, running and
-/// has an address (see Link::isConnected). Its record lies in the store from the
+/// Records the connections of mobile interfaces (see Link::isMobile) and of those
+/// that are named, by whichever of their names, to the byte: an interface is connected while it is
+/// up, running and has an address (see Link::isConnected). Its record lies in the store from the
 /// first moment, is never more than five seconds behind and gets the kernel's
 /// final counters at the end. Connections that an earlier process left open are
 /// gone on with if their link is still connected, else closed at their last

@@ -2,10 +2,10 @@
 #include "LinkMessage.h"
 
 #include <libmnl/libmnl.h>
+#include <linux/if.h>
 #include <linux/if_addr.h>
 #include <linux/if_link.h>
 #include <linux/rtnetlink.h>
-#include <net/if.h>
 #include <net/if_arp.h>
 
 #include <algorithm>
@@ -28,14 +28,24 @@ const Header *headerOf(const nlmsghdr &message)
                : nullptr;
 }
 
+template <typename Visit>
+int visitAttribute(const nlattr *attribute, void *visit)
+{
+    (*static_cast<Visit *>(visit))(*attribute);
+    return MNL_CB_OK;
+}
+
 template <typename Header, typename Visit>
 void visitAttributes(const nlmsghdr &message, Visit visit)
 {
-    const auto callback = [](const nlattr *attribute, void *visitor) {
-        (*static_cast<Visit *>(visitor))(*attribute);
-        return MNL_CB_OK;
-    };
-    mnl_attr_parse(&message, sizeof(Header), callback, &visit);
+    mnl_attr_parse(&message, sizeof(Header), visitAttribute<Visit>, &visit);
+}
+
+/// Visits the attributes within another one.
+template <typename Visit>
+void visitNested(const nlattr &attribute, Visit visit)
+{
+    mnl_attr_parse_nested(&attribute, visitAttribute<Visit>, &visit);
 }
 
 std::string bytesOf(const nlattr &attribute)
@@ -82,25 +92,91 @@ std::uint32_t numberAt(const nlattr &attribute, std::size_t offset)
     return value;
 }
 
+std::optional<std::uint8_t> byteIn(const nlattr &attribute)
+{
+    if (mnl_attr_get_payload_len(&attribute) < 1)
+        return std::nullopt;
+    return *static_cast<const std::uint8_t *>(mnl_attr_get_payload(&attribute));
+}
+
+/// What a link's message says of its line, in three places.
+struct LineState {
+    unsigned flags = 0;
+    std::optional<std::uint8_t> operational;
+    std::uint8_t mode = IF_LINK_MODE_DEFAULT;
+
+    /// Whether traffic can pass. The kernel may take a second to work out that the
+    /// operational state of a link with a carrier is "up", and some drivers leave it
+    /// "unknown" for ever; both count. A link that waits for an event outside, as for
+    /// the network's leave, does not, though it has a carrier: until that event, what
+    /// it moves is nobody's traffic.
+    bool isRunning() const
+    {
+        if ((flags & IFF_RUNNING) != 0 || operational == IF_OPER_UNKNOWN)
+            return true;
+        const bool isWaiting = (flags & IFF_DORMANT) != 0 || operational == IF_OPER_DORMANT ||
+                               operational == IF_OPER_TESTING || mode != IF_LINK_MODE_DEFAULT;
+        return (flags & IFF_LOWER_UP) != 0 && !isWaiting;
+    }
+};
+
+void readKind(const nlattr &attribute, LinkReport &report)
+{
+    if (mnl_attr_get_type(&attribute) != IFLA_INFO_KIND)
+        return;
+    const std::string kind = textOf(attribute);
+    report.isPpp |= kind == "ppp";
+    report.isWwan |= kind == "wwan";
+}
+
+void readAlternativeName(const nlattr &attribute, LinkReport &report)
+{
+    if (mnl_attr_get_type(&attribute) == IFLA_ALT_IFNAME)
+        report.alternativeNames.push_back(textOf(attribute));
+}
+
+void readLinkAttribute(const nlattr &attribute, LinkReport &report, LineState &line)
+{
+    switch (mnl_attr_get_type(&attribute)) {
+    case IFLA_IFNAME:
+        report.name = textOf(attribute);
+        break;
+    case IFLA_PROP_LIST:
+        visitNested(attribute, [&](const nlattr &nested) { readAlternativeName(nested, report); });
+        break;
+    case IFLA_LINKINFO:
+        visitNested(attribute, [&](const nlattr &nested) { readKind(nested, report); });
+        break;
+    case IFLA_STATS64:
+        report.counters = countersIn(attribute);
+        break;
+    case IFLA_CARRIER_DOWN_COUNT:
+        report.carrierLosses = numberAt(attribute, 0);
+        break;
+    case IFLA_OPERSTATE:
+        line.operational = byteIn(attribute);
+        break;
+    case IFLA_LINKMODE:
+        line.mode = byteIn(attribute).value_or(line.mode);
+        break;
+    }
+}
+
 std::optional<LinkNews> parseLink(const nlmsghdr &message)
 {
     const auto *const header = headerOf<ifinfomsg>(message);
     if (!header || header->ifi_family != AF_UNSPEC)
         return std::nullopt;
     LinkReport report;
+    LineState line;
+    line.flags = header->ifi_flags;
     report.index = header->ifi_index;
     report.isGone = message.nlmsg_type == RTM_DELLINK;
     report.isUp = (header->ifi_flags & IFF_UP) != 0;
-    report.isRunning = (header->ifi_flags & IFF_RUNNING) != 0;
     report.isPpp = header->ifi_type == ARPHRD_PPP;
-    visitAttributes<ifinfomsg>(message, [&](const nlattr &attribute) {
-        if (mnl_attr_get_type(&attribute) == IFLA_IFNAME)
-            report.name = textOf(attribute);
-        else if (mnl_attr_get_type(&attribute) == IFLA_STATS64)
-            report.counters = countersIn(attribute);
-        else if (mnl_attr_get_type(&attribute) == IFLA_CARRIER_DOWN_COUNT)
-            report.carrierLosses = numberAt(attribute, 0);
-    });
+    visitAttributes<ifinfomsg>(
+        message, [&](const nlattr &attribute) { readLinkAttribute(attribute, report, line); });
+    report.isRunning = line.isRunning();
     return report;
 }
 

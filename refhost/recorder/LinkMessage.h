@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 struct nlmsghdr;
 
@@ -21,10 +22,12 @@ struct LinkCounters {
 struct LinkReport {
     int index = 0; ///< the kernel's number of the interface
     std::string name;
+    std::vector<std::string> alternativeNames;
     bool isGone = false;    ///< the interface has been removed
     bool isUp = false;      ///< switched on
-    bool isRunning = false; ///< its line is there
+    bool isRunning = false; ///< its line is there, and waits for nobody's leave
     bool isPpp = false;
+    bool isWwan = false;                  ///< of a kind that the kernel calls so
     std::uint32_t carrierLosses = 0;      ///< how often its line has been gone
     std::optional<LinkCounters> counters; ///< at the time of the message
 };

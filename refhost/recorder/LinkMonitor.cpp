@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "LinkMonitor.h"
 
+#include "DeviceType.h"
+
 #include <QSocketNotifier>
 
 #include <libmnl/libmnl.h>
@@ -29,6 +31,14 @@ int errorIn(const nlmsghdr &message)
 }
 
 } // namespace
+
+LinkMonitor::LinkMonitor(const std::string &deviceFolder, QObject *parent)
+    : LinkSource(parent)
+    , m_table([deviceFolder](int index, const std::string &name) {
+        return deviceTypeIn(deviceFolder, index, name);
+    })
+{
+}
 
 bool LinkMonitor::start()
 {

@@ -18,7 +18,9 @@ class LinkMonitor : public LinkSource
     Q_OBJECT
 
 public:
-    using LinkSource::LinkSource;
+    /// Device types come from this folder.
+    explicit LinkMonitor(const std::string &deviceFolder = "/sys/class/net",
+                         QObject *parent = nullptr);
 
     /// Waits until the first listing is complete, which takes milliseconds.
     bool start() override;

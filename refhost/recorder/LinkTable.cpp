@@ -2,9 +2,32 @@
 #include "LinkTable.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace refhost
 {
+
+namespace
+{
+
+bool hasNewNames(const LinkReport &report, const Link &link)
+{
+    const bool isRenamed = !report.name.empty() && report.name != link.name;
+    return isRenamed || report.alternativeNames != link.alternativeNames;
+}
+
+} // namespace
+
+bool Link::isMobile() const
+{
+    return isPpp || isWwan || name.rfind("ppp", 0) == 0 || name.rfind("ww", 0) == 0;
+}
+
+bool Link::hasName(const std::string &wanted) const
+{
+    return name == wanted || std::find(alternativeNames.begin(), alternativeNames.end(), wanted) !=
+                                 alternativeNames.end();
+}
 
 bool Link::isConnected() const
 {
@@ -24,6 +47,11 @@ std::string Link::connectionMark() const
     return std::to_string(carrierLosses) + '/' + std::to_string(since);
 }
 
+LinkTable::LinkTable(DeviceTypes deviceTypes)
+    : m_deviceTypes(std::move(deviceTypes))
+{
+}
+
 std::optional<LinkChange> LinkTable::apply(const LinkReport &report)
 {
     if (report.isGone && m_links.count(report.index) == 0)
@@ -33,7 +61,11 @@ std::optional<LinkChange> LinkTable::apply(const LinkReport &report)
     // connection that this message may tell of.
     if (!link.isConnected())
         link.idleCounters = link.counters;
+    else if (hasNewNames(report, link))
+        link.idleCounters = report.counters.value_or(link.counters);
+    link.isWwan = isWwan(link, report);
     link.name = report.name.empty() ? link.name : report.name;
+    link.alternativeNames = report.alternativeNames;
     link.isUp = report.isUp;
     link.isRunning = report.isRunning;
     link.isPpp = report.isPpp;
@@ -44,6 +76,15 @@ std::optional<LinkChange> LinkTable::apply(const LinkReport &report)
     if (report.isGone)
         m_links.erase(report.index);
     return change;
+}
+
+/// The system is asked under each new name, for the link may have got that one while
+/// the question for the former one was on its way.
+bool LinkTable::isWwan(const Link &link, const LinkReport &report) const
+{
+    const bool isAskable = m_deviceTypes && hasNewNames(report, link);
+    return link.isWwan || report.isWwan ||
+           (isAskable && m_deviceTypes(report.index, report.name) == "wwan");
 }
 
 Link &LinkTable::linkFor(const LinkReport &report)

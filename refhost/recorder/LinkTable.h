@@ -3,6 +3,7 @@
 
 #include "LinkMessage.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -15,12 +16,23 @@ namespace refhost
 struct Link {
     int index = 0;
     std::string name;
+    std::vector<std::string> alternativeNames;
     bool isUp = false;
     bool isRunning = false;
     bool isPpp = false;
+    bool isWwan = false;
     std::uint32_t carrierLosses = 0;
-    LinkCounters counters;     ///< at the last message
-    LinkCounters idleCounters; ///< at the last one before the present connection
+    LinkCounters counters; ///< at the last message
+    /// At the last one before the present connection, or the one that brought the
+    /// present names during it.
+    LinkCounters idleCounters;
+
+    /// Whether it is a mobile-broadband one: what the kernel takes for that, and
+    /// PPP. Drivers that say neither are known by the names that systemd ("ww") and
+    /// pppd ("ppp") give.
+    bool isMobile() const;
+    /// Whether this is its name or one of the alternative ones.
+    bool hasName(const std::string &wanted) const;
 
     /// Whether it can carry traffic for its user: up, running and with an address.
     /// An IPv6 link-local address does not count, for interfaces give themselves
@@ -48,12 +60,18 @@ struct LinkChange {
     bool hasFreshCounters = false; ///< the message that told it carried them
 };
 
+/// The device type ("wwan", say) that the system tells of the link of this index and
+/// name, which the kernel's messages leave out; empty if it has none.
+using DeviceTypes = std::function<std::string(int index, const std::string &name)>;
+
 /// The interfaces of the system, brought up to date message by message. While a
 /// full listing is being received, what it does not mention is found out: that
 /// went away while messages were lost.
 class LinkTable
 {
 public:
+    explicit LinkTable(DeviceTypes deviceTypes = {});
+
     /// Each returns nothing for an interface that is not known.
     std::optional<LinkChange> apply(const LinkReport &report);
     std::optional<LinkChange> apply(const AddressReport &report);
@@ -68,6 +86,9 @@ private:
     Link &linkFor(const LinkReport &report);
     LinkCounters countersBeforeFirstSight(const LinkReport &report) const;
 
+    bool isWwan(const Link &link, const LinkReport &report) const;
+
+    DeviceTypes m_deviceTypes;
     std::map<int, Link> m_links;
     unsigned m_listing = 0;
     bool m_isListing = false;

@@ -3,6 +3,7 @@
 
 #include "Failure.h"
 #include "Host.h"
+#include "InterfaceName.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -26,6 +27,7 @@ private:
     QString value(const QCommandLineOption &option) const;
     QStringList values(const QCommandLineOption &option) const;
     static void check(const Options &options);
+    static void checkInterfaceNames(const QStringList &names);
     [[noreturn]] static void refuse(const QString &problem);
 
     QCommandLineParser m_parser;
@@ -49,8 +51,8 @@ private:
         tr("Show a temporary copy of a sample history; nothing of yours is touched.")};
     const QCommandLineOption m_interface{
         QStringLiteral("interface"),
-        tr("Record the connections of the network interface NAME too, not only of ppp* and wwan*; "
-           "may be given several times."),
+        tr("Record the connections of the network interface NAME (or alternative name) too, not "
+           "only of mobile-broadband ones; may be given several times."),
         tr("NAME")};
     const QCommandLineOption m_profile{
         QStringLiteral("profile"),
@@ -92,6 +94,7 @@ Options CommandLine::read(const QStringList &arguments)
     options.isDebug = m_parser.isSet(m_debug);
     options.isDemo = m_parser.isSet(m_demo);
     check(options);
+    checkInterfaceNames(options.interfaceNames);
     return options;
 }
 
@@ -127,6 +130,16 @@ void CommandLine::check(const Options &options)
     if (!options.language.isEmpty() && !availableLanguages().contains(options.language))
         refuse(tr("There are no texts in the language \"%1\"; there are: %2.")
                    .arg(options.language, availableLanguages().join(QStringLiteral(", "))));
+}
+
+void CommandLine::checkInterfaceNames(const QStringList &names)
+{
+    for (const QString &name : names) {
+        if (!canNameAnInterface(name))
+            refuse(tr("There can be no network interface \"%1\": a name has at most 15 bytes, an "
+                      "alternative one 127, and neither \"/\" nor white space.")
+                       .arg(name));
+    }
 }
 
 void CommandLine::refuse(const QString &problem)

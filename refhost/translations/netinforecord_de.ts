@@ -206,6 +206,10 @@
         <translation>--demo und --store schließen einander aus: Das eine zeigt einen Beispielverlauf, das andere einen von Ihnen.</translation>
     </message>
     <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>Eine Netzwerkschnittstelle „%1“ kann es nicht geben: Ein Name hat höchstens 15 Bytes, ein Alternativname 127, und weder „/“ noch Leerraum.</translation>
+    </message>
+    <message>
         <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
         <translation>Es gibt keine Texte in der Sprache „%1“, sondern nur: %2.</translation>
     </message>
@@ -222,8 +226,8 @@
         <translation>Die Version zeigen.</translation>
     </message>
     <message>
-        <source>Record the connections of the network interface NAME too, not only of ppp* and wwan*; may be given several times.</source>
-        <translation>Auch die Verbindungen der Netzwerkschnittstelle NAME aufzeichnen, nicht nur die von ppp* und wwan*; mehrfach möglich.</translation>
+        <source>Record the connections of the network interface NAME (or alternative name) too, not only of mobile-broadband ones; may be given several times.</source>
+        <translation>Auch die Verbindungen der Netzwerkschnittstelle mit dem Namen oder Alternativnamen NAME aufzeichnen, nicht nur die mobiler; mehrfach möglich.</translation>
     </message>
     <message>
         <source>NAME</source>

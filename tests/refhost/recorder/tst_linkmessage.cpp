@@ -4,10 +4,10 @@
 #include <QTest>
 
 #include <libmnl/libmnl.h>
+#include <linux/if.h>
 #include <linux/if_addr.h>
 #include <linux/if_link.h>
 #include <linux/rtnetlink.h>
-#include <net/if.h>
 #include <net/if_arp.h>
 
 #include <array>
@@ -40,6 +40,11 @@ public:
     void putAttribute(std::uint16_t type, const QByteArray &bytes)
     {
         mnl_attr_put(m_message, type, static_cast<size_t>(bytes.size()), bytes.constData());
+    }
+
+    void putByte(std::uint16_t type, int value)
+    {
+        putAttribute(type, QByteArray(1, static_cast<char>(value)));
     }
 
     const nlmsghdr &header() const { return *m_message; }
@@ -90,6 +95,33 @@ Message addressMessage(std::uint16_t type, int family, unsigned char flags,
     return message;
 }
 
+/// One attribute, for another one to hold.
+QByteArray attribute(std::uint16_t type, const QByteArray &value)
+{
+    nlattr header = {};
+    header.nla_len = static_cast<std::uint16_t>(NLA_HDRLEN + value.size());
+    header.nla_type = type;
+    const QByteArray padding(NLA_ALIGN(int(value.size())) - int(value.size()), '\0');
+    return QByteArray(reinterpret_cast<const char *>(&header), sizeof(header)) + value + padding;
+}
+
+/// A text with its terminator, as the kernel sends it.
+QByteArray terminated(const char *text)
+{
+    return {text, static_cast<int>(std::strlen(text)) + 1};
+}
+
+Message linkOfKind(const char *kind)
+{
+    Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+    message.putAttribute(IFLA_LINKINFO | NLA_F_NESTED,
+                         attribute(IFLA_INFO_DATA, "data") +
+                             attribute(IFLA_INFO_KIND, terminated(kind)));
+    return message;
+}
+
+constexpr int missing = -1;
+
 std::optional<LinkReport> linkIn(const Message &message)
 {
     const auto news = parseLinkMessage(message.header());
@@ -116,8 +148,13 @@ class LinkMessageTest : public QObject
 private slots:
     void readsALink();
     void readsWhetherALinkIsUpAndRunning();
+    void aLineIsThereWhenTrafficCanPass_data();
+    void aLineIsThereWhenTrafficCanPass();
     void readsThatALinkIsGone();
     void tellsPppFromOtherLinks();
+    void readsWhatKindOfLinkItIs();
+    void readsAlternativeNames();
+    void readsNothingOutsideNestedAttributes();
     void readsCountersBeyond32Bits();
     void holdsAnImpossibleCounterAtTheLargestNumber();
     void takesCountersOfOtherLengths_data();
@@ -154,6 +191,43 @@ void LinkMessageTest::readsWhetherALinkIsUpAndRunning()
     QVERIFY(!linkIn(linkMessage(RTM_NEWLINK, IFF_BROADCAST))->isUp);
 }
 
+void LinkMessageTest::aLineIsThereWhenTrafficCanPass_data()
+{
+    QTest::addColumn<uint>("flags");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("isRunning");
+    constexpr uint carrier = IFF_LOWER_UP;
+    constexpr int usual = IF_LINK_MODE_DEFAULT;
+    QTest::newRow("no carrier") << 0U << int{IF_OPER_DOWN} << usual << false;
+    QTest::newRow("up") << (carrier | IFF_RUNNING) << int{IF_OPER_UP} << usual << true;
+    QTest::newRow("a carrier, the state late") << carrier << int{IF_OPER_DOWN} << usual << true;
+    QTest::newRow("a carrier alone") << carrier << missing << missing << true;
+    QTest::newRow("an unknown state") << 0U << int{IF_OPER_UNKNOWN} << usual << true;
+    QTest::newRow("waiting") << carrier << int{IF_OPER_DORMANT} << usual << false;
+    QTest::newRow("waiting by the driver's word")
+        << (carrier | IFF_DORMANT) << int{IF_OPER_DOWN} << usual << false;
+    QTest::newRow("being tested") << carrier << int{IF_OPER_TESTING} << usual << false;
+    QTest::newRow("about to wait")
+        << carrier << int{IF_OPER_DOWN} << int{IF_LINK_MODE_DORMANT} << false;
+    QTest::newRow("having waited")
+        << (carrier | IFF_RUNNING) << int{IF_OPER_UP} << int{IF_LINK_MODE_DORMANT} << true;
+}
+
+void LinkMessageTest::aLineIsThereWhenTrafficCanPass()
+{
+    QFETCH(uint, flags);
+    QFETCH(int, state);
+    QFETCH(int, mode);
+    QFETCH(bool, isRunning);
+    Message message = linkMessage(RTM_NEWLINK, IFF_UP | flags);
+    if (state != missing)
+        message.putByte(IFLA_OPERSTATE, state);
+    if (mode != missing)
+        message.putByte(IFLA_LINKMODE, mode);
+    QCOMPARE(linkIn(message)->isRunning, isRunning);
+}
+
 void LinkMessageTest::readsThatALinkIsGone()
 {
     QVERIFY(linkIn(linkMessage(RTM_DELLINK, 0))->isGone);
@@ -167,6 +241,40 @@ void LinkMessageTest::tellsPppFromOtherLinks()
     header.ifi_type = ARPHRD_PPP;
     message.putHeader(header);
     QVERIFY(linkIn(message)->isPpp);
+}
+
+void LinkMessageTest::readsWhatKindOfLinkItIs()
+{
+    QVERIFY(linkIn(linkOfKind("wwan"))->isWwan);
+    QVERIFY(!linkIn(linkOfKind("wwan"))->isPpp);
+    QVERIFY(linkIn(linkOfKind("ppp"))->isPpp);
+    QVERIFY(!linkIn(linkOfKind("ppp"))->isWwan);
+    QVERIFY(!linkIn(linkOfKind("veth"))->isWwan);
+    QVERIFY(!linkIn(linkOfKind("veth"))->isPpp);
+    QVERIFY(!linkIn(linkMessage(RTM_NEWLINK, IFF_UP))->isWwan);
+}
+
+void LinkMessageTest::readsAlternativeNames()
+{
+    Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+    message.putAttribute(IFLA_PROP_LIST | NLA_F_NESTED,
+                         attribute(IFLA_ALT_IFNAME, terminated("a-name-of-more-than-15-bytes")) +
+                             attribute(IFLA_ALT_IFNAME, terminated("lte")));
+    QCOMPARE(linkIn(message)->alternativeNames,
+             (std::vector<std::string>{"a-name-of-more-than-15-bytes", "lte"}));
+    QCOMPARE(linkIn(message)->name, std::string("wwan0"));
+    QVERIFY(linkIn(linkMessage(RTM_NEWLINK, IFF_UP))->alternativeNames.empty());
+}
+
+/// As long as the one that holds them says, and no longer.
+void LinkMessageTest::readsNothingOutsideNestedAttributes()
+{
+    const QByteArray whole = attribute(IFLA_INFO_KIND, terminated("wwan"));
+    for (int length = 0; length < whole.size(); ++length) {
+        Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+        message.putAttribute(IFLA_LINKINFO | NLA_F_NESTED, whole.left(length));
+        QVERIFY(!linkIn(message)->isWwan || length >= NLA_HDRLEN + 5);
+    }
 }
 
 void LinkMessageTest::readsCountersBeyond32Bits()

@@ -51,10 +51,15 @@ private slots:
     void knowsNothingOfUnknownLinks();
     void saysThatALinkIsGoneWithItsLastCounters();
     void followsARename();
+    void tellsMobileLinks_data();
+    void tellsMobileLinks();
+    void asksForTheDeviceTypeUnderEachNewName();
+    void hasAlternativeNamesAsLongAsTheyAreListed();
     void keepsTheCountersWhenAMessageHasNone();
 
     void aNewLinksConnectionBeginsWithItsFirstCounters();
     void aConnectionBeginsWhereTheLinkStoodBefore();
+    void aConnectionThatGetsAnotherNameBeginsThere();
     void aListedConnectionBeginsNow();
     void aListedPppConnectionBeginsWithTheLink();
     void aLinkMadeWhileMessagesWereLostBeginsAtNothing();
@@ -123,6 +128,73 @@ void LinkTableTest::followsARename()
     QCOMPARE(m_table.links().size(), std::size_t{1});
 }
 
+void LinkTableTest::tellsMobileLinks_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isPpp");
+    QTest::addColumn<bool>("isWwan");
+    QTest::addColumn<QString>("deviceType");
+    QTest::addColumn<bool>("isMobile");
+    QTest::newRow("wwan0") << "wwan0" << false << false << "" << true;
+    QTest::newRow("systemd's name of a slot") << "wwp0s20f0u3i12" << false << false << "" << true;
+    QTest::newRow("systemd's name of an address")
+        << "wwx028037ec0200" << false << false << "" << true;
+    QTest::newRow("ppp0") << "ppp0" << false << false << "" << true;
+    QTest::newRow("PPP of any name") << "dsl" << true << false << "" << true;
+    QTest::newRow("WWAN of any name") << "lte" << false << true << "" << true;
+    QTest::newRow("a device that is one") << "enx028037ec0200" << false << false << "wwan" << true;
+    QTest::newRow("another device") << "enx028037ec0200" << false << false << "wlan" << false;
+    QTest::newRow("a device of no type") << "eth0" << false << false << "" << false;
+    QTest::newRow("a similar name") << "wlan0" << false << false << "" << false;
+}
+
+void LinkTableTest::tellsMobileLinks()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isPpp);
+    QFETCH(bool, isWwan);
+    QFETCH(QString, deviceType);
+    QFETCH(bool, isMobile);
+    m_table = LinkTable([&](int index, const std::string &asked) {
+        return index == 3 && asked == name.toStdString() ? deviceType.toStdString() : "";
+    });
+    LinkReport report = running(0, isPpp);
+    report.name = name.toStdString();
+    report.isWwan = isWwan;
+    QCOMPARE(tell(report).link.isMobile(), isMobile);
+    QCOMPARE(tell(running(0, isPpp)).link.isMobile(), true); // renamed to wwan0
+}
+
+void LinkTableTest::asksForTheDeviceTypeUnderEachNewName()
+{
+    std::vector<std::string> asked;
+    m_table = LinkTable([&asked](int, const std::string &name) {
+        asked.push_back(name);
+        return std::string(name == "enx1" ? "wwan" : "");
+    });
+    LinkReport report = running(0);
+    report.name = "usb0"; // which it has no more when the question arrives
+    tell(report);
+    tell(report);
+    report.name = "enx1";
+    QVERIFY(tell(report).link.isMobile());
+    report.name = "usb1";
+    QVERIFY(tell(report).link.isMobile());
+    QCOMPARE(asked, (std::vector<std::string>{"usb0", "enx1"}));
+}
+
+void LinkTableTest::hasAlternativeNamesAsLongAsTheyAreListed()
+{
+    LinkReport report = running(0);
+    QVERIFY(tell(report).link.hasName("wwan0"));
+    QVERIFY(!tell(report).link.hasName("lte"));
+    report.alternativeNames = {"modem", "lte"};
+    QVERIFY(tell(report).link.hasName("lte"));
+    QVERIFY(tell(report).link.hasName("wwan0"));
+    report.alternativeNames = {"modem"};
+    QVERIFY(!tell(report).link.hasName("lte"));
+}
+
 void LinkTableTest::keepsTheCountersWhenAMessageHasNone()
 {
     tell(running(10));
@@ -154,6 +226,24 @@ void LinkTableTest::aConnectionBeginsWhereTheLinkStoodBefore()
     tell(running(180));
     tell(address(true));
     QCOMPARE(base(), std::int64_t{180});
+}
+
+/// What it moved before was under names that nobody asked for.
+void LinkTableTest::aConnectionThatGetsAnotherNameBeginsThere()
+{
+    tell(down(7));
+    tell(address(true));
+    tell(running(9));
+    LinkReport report = running(30);
+    report.alternativeNames = {"lte"};
+    tell(report);
+    QCOMPARE(base(), std::int64_t{30});
+    report.counters = LinkCounters{40, 40};
+    tell(report);
+    QCOMPARE(base(), std::int64_t{30});
+    report.name = "lte0";
+    tell(report);
+    QCOMPARE(base(), std::int64_t{40});
 }
 
 void LinkTableTest::aListedConnectionBeginsNow()

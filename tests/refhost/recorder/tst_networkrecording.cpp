@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "Campaign.h"
 #include "ConnectionRecorder.h"
+#include "LinkMonitor.h"
 #include "NetworkNamespace.h"
 #include "RecordText.h"
+#include "SystemClock.h"
 #include "TunDevice.h"
 #include "VethPair.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <net/if.h>
 
 #include <memory>
 #include <optional>
@@ -17,6 +23,8 @@
 using refhost::Connection;
 using refhost::ConnectionRecorder;
 using refhost::ConnectionState;
+using refhost::LinkMonitor;
+using refhost::SystemClock;
 
 namespace
 {
@@ -91,7 +99,11 @@ private slots:
     void goesOnWithANewNameAfterARename();
     void endsWhenTheAddressGoes();
     void recordsANamedInterface();
+    void recordsAnInterfaceByAnAlternativeName();
+    void recordsAnInterfaceThatGetsItsAlternativeNameLate();
+    void recordsADeviceOfTheTypeWwanByAnyName();
     void leavesOtherInterfacesAlone();
+    void waitsAsLongAsTheLinkIsDormant();
     void reportsTheStateEverySecond();
     void updatesTheStoreWhileConnected();
     void findsTheFinalCountersAfterAStormOfNews();
@@ -102,6 +114,9 @@ private:
     /// deleted at its end; the record that it is to leave, or nothing on failure.
     QString reconnect(campaign::Random &random);
     bool startRecorder(const QStringList &interfaceNames = {});
+    bool startWithDeviceTypes(const QString &folder);
+    bool start(std::unique_ptr<ConnectionRecorder> recorder);
+    void recordsTheFarEndToo();
 
     const QString m_obstacle;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -139,7 +154,20 @@ void NetworkRecordingTest::cleanup()
 
 bool NetworkRecordingTest::startRecorder(const QStringList &interfaceNames)
 {
-    m_recorder = std::make_unique<ConnectionRecorder>(m_path, interfaceNames);
+    return start(std::make_unique<ConnectionRecorder>(m_path, interfaceNames));
+}
+
+/// With the device types in this folder instead of the system's.
+bool NetworkRecordingTest::startWithDeviceTypes(const QString &folder)
+{
+    return start(std::make_unique<ConnectionRecorder>(
+        m_path, QStringList(), std::make_unique<LinkMonitor>(folder.toStdString()),
+        std::make_unique<SystemClock>()));
+}
+
+bool NetworkRecordingTest::start(std::unique_ptr<ConnectionRecorder> recorder)
+{
+    m_recorder = std::move(recorder);
     m_connections = std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::connected);
     m_disconnections =
         std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::disconnected);
@@ -317,16 +345,61 @@ void NetworkRecordingTest::endsWhenTheAddressGoes()
     QTRY_COMPARE(recordsIn(m_path), QStringList(record("wwan0", VethPair::bytesOf(5, 300), 0)));
 }
 
-void NetworkRecordingTest::recordsANamedInterface()
+/// It becomes a second connection beside wwan0, with what it moves from then on.
+void NetworkRecordingTest::recordsTheFarEndToo()
 {
-    m_recorder.reset();
-    QVERIFY(m_line->goUp());
-    QVERIFY(startRecorder({QStringLiteral("far0")}));
     QTRY_COMPARE(m_connections->size(), 2);
     QVERIFY(m_line->download(2, 50));
     QVERIFY(ip(QStringLiteral("link set far0 down")));
     QTRY_COMPARE(m_disconnections->size(), 2);
     QVERIFY(recordsIn(m_path).contains(record("far0", VethPair::bytesOf(2, 50), 0)));
+}
+
+void NetworkRecordingTest::recordsANamedInterface()
+{
+    m_recorder.reset();
+    QVERIFY(m_line->goUp());
+    QVERIFY(startRecorder({QStringLiteral("far0")}));
+    recordsTheFarEndToo();
+}
+
+void NetworkRecordingTest::recordsAnInterfaceByAnAlternativeName()
+{
+    m_recorder.reset();
+    const QString name = QStringLiteral("the-far-end-of-the-line");
+    QVERIFY(ip(QStringLiteral("link property add dev far0 altname ") + name));
+    QVERIFY(startRecorder(QStringList(name)));
+    QVERIFY(m_line->goUp());
+    recordsTheFarEndToo();
+}
+
+/// It is connected already, and what it has moved is not of the connection that
+/// begins with the name.
+void NetworkRecordingTest::recordsAnInterfaceThatGetsItsAlternativeNameLate()
+{
+    m_recorder.reset();
+    QVERIFY(startRecorder(QStringList(QStringLiteral("lte"))));
+    QVERIFY(m_line->goUp());
+    QTRY_COMPARE(m_connections->size(), 1);
+    QVERIFY(m_line->download(7, 500));
+    QVERIFY(ip(QStringLiteral("link property add dev far0 altname lte")));
+    recordsTheFarEndToo();
+}
+
+/// The driver of a modem says so where the system lists its devices; for the pair of
+/// interfaces, a folder of the test's does.
+void NetworkRecordingTest::recordsADeviceOfTheTypeWwanByAnyName()
+{
+    m_recorder.reset();
+    QVERIFY(QDir(m_folder->path()).mkdir("far0"));
+    QFile properties(m_folder->filePath("far0/uevent"));
+    QVERIFY(properties.open(QIODevice::WriteOnly));
+    properties.write("DEVTYPE=wwan\nINTERFACE=far0\nIFINDEX=" +
+                     QByteArray::number(if_nametoindex("far0")) + '\n');
+    properties.close();
+    QVERIFY(startWithDeviceTypes(m_folder->path()));
+    QVERIFY(m_line->goUp());
+    recordsTheFarEndToo();
 }
 
 void NetworkRecordingTest::leavesOtherInterfacesAlone()
@@ -335,6 +408,20 @@ void NetworkRecordingTest::leavesOtherInterfacesAlone()
     QVERIFY(m_line->goDown());
     QTRY_COMPARE(m_disconnections->size(), 1);
     QCOMPARE(m_connections->size(), 1);
+}
+
+/// It has a carrier, but waits for leave to send.
+void NetworkRecordingTest::waitsAsLongAsTheLinkIsDormant()
+{
+    QVERIFY(ip(QStringLiteral("link set wwan0 mode dormant")));
+    QVERIFY(ip(QStringLiteral("link set wwan0 up")));
+    QVERIFY(ip(QStringLiteral("link set wwan0 down")));
+    QVERIFY(ip(QStringLiteral("link set wwan0 up")));
+    // The kernel takes the change from "dormant" to "up" only, and may be late.
+    QTRY_VERIFY(ip(QStringLiteral("link set wwan0 state up")) && isRunning("wwan0"));
+    QTRY_COMPARE(m_connections->size(), 1);
+    QVERIFY(ip(QStringLiteral("link set wwan0 down")));
+    QTRY_COMPARE(recordsIn(m_path), QStringList(record("wwan0", 0, 0)));
 }
 
 void NetworkRecordingTest::reportsTheStateEverySecond()

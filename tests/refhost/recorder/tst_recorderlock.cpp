@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "LockFile.h"
 #include "RecorderLock.h"
 
 #include <QFileInfo>
@@ -10,8 +11,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <functional>
 #include <memory>
+#include <thread>
+#include <vector>
 
 using refhost::RecorderLock;
 
@@ -71,6 +75,7 @@ private slots:
     void cleanup();
 
     void excludesOthersWhileItIsHeld();
+    void hasOneHolderAmongManyThatTakeAndFreeIt();
     void isPrivate_data();
     void isPrivate();
     void takesAFileThatItsOwnerMayNotOpen();
@@ -81,6 +86,7 @@ private slots:
     void leavesAnotherUsersLock();
     void leavesAnotherUsersFileInTheirFolder();
     void leavesAFileThatAnotherProcessReplaces();
+    void removesNothingThatWasPutInAFilesPlace();
     void theSuperuserLeavesAUsersFile();
     void saysWhyItCannotBeTaken();
 
@@ -130,6 +136,30 @@ void RecorderLockTest::excludesOthersWhileItIsHeld()
     QCOMPARE(second.holder()->program, QCoreApplication::applicationName());
     first.free();
     QCOMPARE(second.take(), Outcome::Taken);
+}
+
+/// Who frees it removes its file, which others have open by then.
+void RecorderLockTest::hasOneHolderAmongManyThatTakeAndFreeIt()
+{
+    std::atomic<int> holders = 0;
+    std::atomic<bool> wasShared = false;
+    const auto takeAndFree = [&] {
+        RecorderLock lock(m_store);
+        for (int i = 0; i < 3000; ++i) {
+            if (lock.take() != Outcome::Taken)
+                continue;
+            wasShared = wasShared || ++holders > 1;
+            std::this_thread::yield();
+            --holders;
+            lock.free();
+        }
+    };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back(takeAndFree);
+    for (std::thread &thread : threads)
+        thread.join();
+    QVERIFY(!wasShared);
 }
 
 void RecorderLockTest::isPrivate_data()
@@ -274,6 +304,20 @@ void RecorderLockTest::leavesAFileThatAnotherProcessReplaces()
         close(folder);
         QCOMPARE(lock.take(), Outcome::Taken);
     }
+}
+
+/// That one was quicker.
+void RecorderLockTest::removesNothingThatWasPutInAFilesPlace()
+{
+    QVERIFY(write(m_file, "former"));
+    const std::string path = QFile::encodeName(m_file).toStdString();
+    const auto former = refhost::statusAt(path);
+    QVERIFY(QFile::rename(m_file, m_folder->filePath("former")));
+    QVERIFY(write(m_file, "new"));
+    QCOMPARE(refhost::removeUnlocked(path, *former), refhost::Removal::Done);
+    QCOMPARE(textIn(m_file), QByteArray("new"));
+    QCOMPARE(refhost::removeUnlocked(path, *refhost::statusAt(path)), refhost::Removal::Done);
+    QVERIFY(!QFile::exists(m_file));
 }
 
 void RecorderLockTest::theSuperuserLeavesAUsersFile()

@@ -56,6 +56,9 @@ void TestOptions::readsAllThatIsGiven()
     QCOMPARE(refhost::readOptions({"refdialer", "--interface", "usb0", "--interface=eth1"})
                  .interfaceNames,
              QStringList({"usb0", "eth1"}));
+    const QString longest(127, 'x');
+    QCOMPARE(refhost::readOptions({"refdialer", "--interface", longest}).interfaceNames,
+             QStringList(longest));
 }
 
 void TestOptions::refusesWhatDoesNotFit_data()
@@ -70,6 +73,14 @@ void TestOptions::refusesWhatDoesNotFit_data()
     QTest::newRow("an empty picture") << QStringList{"--screenshot", ""} << "--screenshot";
     QTest::newRow("an empty language") << QStringList{"--lang", ""} << "--lang";
     QTest::newRow("an empty interface") << QStringList{"--interface", ""} << "--interface";
+    const QString tooLong(128, 'x');
+    QTest::newRow("a name longer than any") << QStringList{"--interface", tooLong} << tooLong;
+    QTest::newRow("a name of too many bytes")
+        << QStringList{"--interface", QString(64, QChar(0xe4))} << "127";
+    QTest::newRow("a path") << QStringList{"--interface", "net/ppp0"} << "\"net/ppp0\"";
+    QTest::newRow("two names in one") << QStringList{"--interface", "a b"} << "\"a b\"";
+    QTest::newRow("a folder's own name") << QStringList{"--interface", "."} << "\".\"";
+    QTest::newRow("its parent's") << QStringList{"--interface", ".."} << "\"..\"";
     QTest::newRow("the known languages") << QStringList{"--lang", "xx"} << "de, en";
     QTest::newRow("the unknown language") << QStringList{"--lang", "xx"} << "\"xx\"";
     QTest::newRow("sample and own history") << QStringList{"--demo", "--store", "x"} << "--demo";
