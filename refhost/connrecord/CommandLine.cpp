@@ -1,17 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
+#include "ArgumentList.h"
 #include "Commands.h"
 #include "Failure.h"
+#include "HistoryFiles.h"
 #include "ImportCommand.h"
+#include "Output.h"
 #include "StatisticsStore.h"
+#include "TextScanner.h"
 #include "TotalsCommand.h"
+#include "Utf8Text.h"
 
 #include <CLI/CLI.hpp>
 
+#include <unistd.h>
+
+#include <cstdlib>
+#include <exception>
 #include <functional>
 #include <iostream>
-#include <optional>
+#include <new>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -25,7 +35,7 @@ constexpr const char *exitCodes = R"(Exit codes:
   0  success
   1  the request cannot be met: unknown key, refused value
   2  the command line is wrong
-  3  the store cannot be used
+  3  the store cannot be used, or there is not enough memory
   4  the input file is wrong or cannot be read
   5  the output cannot be written)";
 
@@ -38,13 +48,19 @@ ImportRequest::Format formatNamed(const std::string &name)
     throw CLI::ValidationError("--format", "it is csv or pppd, not " + name);
 }
 
+/// The file of no name is the folder that the program runs in, which nobody means.
+std::string checkFileName(const std::string &name)
+{
+    return name.empty() ? "the name of the file is empty" : std::string();
+}
+
 TotalsGroups groupsNamed(const std::string &names)
 {
     if (names == "profile")
         return {true, false};
     if (names == "month")
         return {false, true};
-    if (names == "profile,month")
+    if (names == "profile,month" || names == "month,profile")
         return {true, true};
     throw CLI::ValidationError("--by", "it is profile, month or profile,month, not " + names);
 }
@@ -55,10 +71,13 @@ class CommandLine
 public:
     CommandLine();
 
-    CLI::App &parser() { return m_parser; }
-    void run() const { m_action(); }
+    void parse(int argc, char **argv);
+    void run() const;
+    /// The text that the user has asked for instead of a command.
+    QByteArray textFor(const CLI::Success &helpOrVersion) const;
 
 private:
+    void checkCommandIsKnown() const;
     CLI::App *addCommand(const char *name, const char *description);
     void addList();
     void addAdd();
@@ -71,7 +90,7 @@ private:
     CommonRequest m_common;
     AddRequest m_add;
     std::vector<std::string> m_keys;
-    std::optional<std::string> m_outputPath;
+    std::string m_outputPath = standardOutputPath;
     ImportRequest m_import;
     TotalsRequest m_totals;
     std::function<void()> m_action;
@@ -83,6 +102,7 @@ CommandLine::CommandLine()
     m_common.storePath = StatisticsStore::defaultPath();
     m_parser.add_option("--store", m_common.storePath, "The history's file")
         ->type_name("FILE")
+        ->check(checkFileName)
         ->default_str(m_common.storePath);
     m_parser.set_version_flag("--version", "connrecord " CONNRECORD_VERSION);
     m_parser.require_subcommand(1);
@@ -96,10 +116,46 @@ CommandLine::CommandLine()
     addTotals();
 }
 
+void CommandLine::parse(int argc, char **argv)
+{
+    try {
+        m_parser.parse(argumentsFor(m_parser, argc, argv));
+    } catch (const CLI::RequiredError &) {
+        checkCommandIsKnown();
+        throw;
+    }
+}
+
+/// The parser itself would only tell that there is no command.
+void CommandLine::checkCommandIsKnown() const
+{
+    const std::vector<std::string> unknown = m_parser.remaining();
+    if (!m_parser.get_subcommands().empty())
+        return;
+    if (unknown.empty())
+        throw CLI::RequiredError("A command");
+    const std::string what = startsWith(unknown.front(), "-") ? "option" : "command";
+    throw CLI::ParseError("There is no " + what + " \"" + unknown.front() + '"',
+                          CLI::ExitCodes::ExtrasError);
+}
+
+void CommandLine::run() const
+{
+    checkIsNotOfHistory(standardOutputPath, m_common.storePath);
+    m_action();
+}
+
+QByteArray CommandLine::textFor(const CLI::Success &helpOrVersion) const
+{
+    std::ostringstream text;
+    m_parser.exit(helpOrVersion, text);
+    return QByteArray::fromStdString(text.str());
+}
+
 CLI::App *CommandLine::addCommand(const char *name, const char *description)
 {
     CLI::App *const command = m_parser.add_subcommand(name, description);
-    command->add_flag("--json", m_common.json, "Write JSON, for programs");
+    command->add_flag("--json", m_common.json, "Write JSON, for programs")->disable_flag_override();
     command->footer(exitCodes);
     return command;
 }
@@ -142,8 +198,9 @@ void CommandLine::addRemove()
 void CommandLine::addExport()
 {
     CLI::App *const command = addCommand("export", "Write all connections as CSV");
-    command->add_option("--output", m_outputPath, "Write to this file, not to standard output")
-        ->type_name("FILE");
+    command->add_option("--output", m_outputPath, "Write to this file; - is standard output")
+        ->type_name("FILE")
+        ->check(checkFileName);
     command->callback([this] { m_action = [this] { exportConnections(m_common, m_outputPath); }; });
 }
 
@@ -166,6 +223,7 @@ void CommandLine::addImport()
         ->check(CLI::Range(1970, 2105).description(""));
     command->add_option("FILE", m_import.path, "The file; - is standard input")
         ->type_name("")
+        ->check(checkFileName)
         ->required();
     command->callback([this] { m_action = [this] { importConnections(m_common, m_import); }; });
 }
@@ -190,31 +248,64 @@ void CommandLine::addTotals()
 
 int complain(ExitCode code, const std::string &sentence)
 {
-    std::cerr << "connrecord: " << sentence << '\n';
+    std::cerr << "connrecord: " << printable(sentence, unlimited) << '\n';
     return static_cast<int>(code);
 }
 
 int complainOfUsage(const CLI::ParseError &error)
 {
-    return complain(ExitCode::Usage,
-                    std::string(error.what()) + "\nconnrecord --help tells what is possible.");
+    const int code = complain(ExitCode::Usage, error.what());
+    std::cerr << "connrecord --help tells what is possible.\n";
+    return code;
+}
+
+/// There may be no memory for a sentence that has to be put together.
+int complainOfMemory()
+{
+    std::cerr << "connrecord: There is not enough memory for this; the history is as it was. "
+                 "Close other programs, or ask for less at once.\n";
+    return static_cast<int>(ExitCode::Store);
+}
+
+/// A destructor that finds no memory cannot pass it on to where the others are caught.
+[[noreturn]] void endWithSentence()
+{
+    try {
+        if (const std::exception_ptr exception = std::current_exception())
+            std::rethrow_exception(exception);
+    } catch (const std::bad_alloc &) {
+        _exit(complainOfMemory());
+    } catch (...) {
+        // A bug, which is to be seen as such.
+    }
+    std::abort();
+}
+
+void parseAndRun(int argc, char **argv)
+{
+    CommandLine commandLine;
+    try {
+        commandLine.parse(argc, argv);
+    } catch (const CLI::Success &helpOrVersion) {
+        return Output().write(commandLine.textFor(helpOrVersion));
+    }
+    commandLine.run();
 }
 
 } // namespace
 
 int runCommandLine(int argc, char **argv)
 {
-    CommandLine commandLine;
+    std::set_terminate(endWithSentence);
     try {
-        commandLine.parser().parse(argc, argv);
-        commandLine.run();
+        parseAndRun(argc, argv);
         return static_cast<int>(ExitCode::Success);
-    } catch (const CLI::Success &helpOrVersion) {
-        return commandLine.parser().exit(helpOrVersion);
     } catch (const CLI::ParseError &error) {
         return complainOfUsage(error);
     } catch (const Failure &failure) {
         return complain(failure.exitCode(), failure.what());
+    } catch (const std::bad_alloc &) {
+        return complainOfMemory();
     }
 }
 

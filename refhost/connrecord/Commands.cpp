@@ -4,6 +4,7 @@
 #include "CalendarTime.h"
 #include "ConnectionText.h"
 #include "CsvFormat.h"
+#include "HistoryFiles.h"
 #include "OptionValue.h"
 #include "Output.h"
 #include "Store.h"
@@ -59,12 +60,23 @@ std::vector<Connection> storedConnections(const CommonRequest &common)
     return valueOrFailure(store.list());
 }
 
+/// Lines of a text would look like connections of their own.
+std::vector<Connection> onOneLineEach(std::vector<Connection> connections)
+{
+    for (Connection &connection : connections) {
+        for (std::string *const text :
+             {&connection.profile, &connection.ending, &connection.interfaceName})
+            *text = printable(*text, unlimited);
+    }
+    return connections;
+}
+
 } // namespace
 
 void listConnections(const CommonRequest &common)
 {
     const std::vector<Connection> connections = storedConnections(common);
-    writeStandardOutput(common.json ? jsonText(toJson(connections)) : toTable(connections));
+    Output().write(common.json ? jsonText(toJson(connections)) : toTable(connections));
 }
 
 void addConnection(const CommonRequest &common, const AddRequest &request)
@@ -72,7 +84,7 @@ void addConnection(const CommonRequest &common, const AddRequest &request)
     const Connection connection = connectionFrom(request);
     auto store = valueOrFailure(StatisticsStore::openOrCreate(common.storePath));
     const qint64 key = valueOrFailure(store.add(connection));
-    writeStandardOutput(common.json ? jsonText({{"key", key}}) : QByteArray::number(key) + '\n');
+    Output().write(common.json ? jsonText({{"key", key}}) : QByteArray::number(key) + '\n');
 }
 
 void removeConnections(const CommonRequest &common, const std::vector<std::string> &keys)
@@ -84,17 +96,18 @@ void removeConnections(const CommonRequest &common, const std::vector<std::strin
     auto store = valueOrFailure(StatisticsStore::openForReading(common.storePath));
     valueOrFailure(store.remove(numbers));
     if (common.json)
-        writeStandardOutput(jsonText({{"removed", numbers}}));
+        Output().write(jsonText({{"removed", numbers}}));
 }
 
-void exportConnections(const CommonRequest &common, const std::optional<std::string> &outputPath)
+void exportConnections(const CommonRequest &common, const std::string &outputPath)
 {
+    checkIsNotOfHistory(outputPath, common.storePath);
+    Output output(outputPath);
     const std::vector<Connection> connections = storedConnections(common);
-    const QByteArray contents = common.json ? jsonText(toJson(connections)) : toCsv(connections);
-    if (outputPath)
-        saveFile(*outputPath, contents);
+    if (common.json)
+        output.write(jsonText(toJson(connections)));
     else
-        writeStandardOutput(contents);
+        output.write(toCsv(output.isTerminal() ? onOneLineEach(connections) : connections));
 }
 
 } // namespace refhost

@@ -31,7 +31,7 @@ struct AddRequest {
 void listConnections(const CommonRequest &common);
 void addConnection(const CommonRequest &common, const AddRequest &request);
 void removeConnections(const CommonRequest &common, const std::vector<std::string> &keys);
-/// To standard output without `outputPath`.
-void exportConnections(const CommonRequest &common, const std::optional<std::string> &outputPath);
+/// To the file of this name, or to standard output if it is "-".
+void exportConnections(const CommonRequest &common, const std::string &outputPath);
 
 } // namespace refhost

@@ -189,9 +189,9 @@ void importConnections(const CommonRequest &common, const ImportRequest &request
     const StatisticsStore::Merged merged =
         store(common.storePath, contents, request.format, terminal);
     if (!contents.doubt.empty())
-        std::cerr << "connrecord: " << contents.doubt << '\n';
-    writeStandardOutput(common.json ? jsonText(reportJson(contents, merged))
-                                    : QByteArray::fromStdString(reportText(contents, merged)));
+        std::cerr << "connrecord: " << printable(contents.doubt, unlimited) << '\n';
+    Output().write(common.json ? jsonText(reportJson(contents, merged))
+                               : QByteArray::fromStdString(reportText(contents, merged)));
 }
 
 } // namespace refhost

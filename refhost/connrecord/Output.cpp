@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "Output.h"
 
-#include "Failure.h"
+#include "FilePlace.h"
+#include "ReplacementFile.h"
 #include "Utf8Text.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
-
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
 
 namespace refhost
 {
@@ -16,36 +18,102 @@ namespace refhost
 namespace
 {
 
-Failure cannotWrite(const std::string &name, const QString &reason)
+constexpr auto dontClose = QFileDevice::DontCloseHandle;
+
+/// What is at the path, links followed; 0 for nothing.
+mode_t modeAt(const std::string &path)
 {
-    return {ExitCode::Output, name + " cannot be written: " + reason.toStdString() +
-                                  ". Check the disk, the folder and its permissions."};
+    struct stat status = {};
+    if (stat(path.c_str(), &status) == 0)
+        return status.st_mode;
+    if (errno != ENOENT)
+        throw std::system_error(errno, std::generic_category());
+    return 0;
 }
 
 } // namespace
 
-void writeStandardOutput(const QByteArray &bytes)
+std::string outputName(const std::string &path)
 {
-    QFile output;
-    const bool isWritten = output.open(STDOUT_FILENO, QIODevice::WriteOnly) &&
-                           output.write(bytes) == bytes.size() && output.flush();
-    if (!isWritten)
-        throw cannotWrite("standard output", output.errorString());
+    if (path == standardOutputPath)
+        return "standard output";
+    return '"' + printable(path, unlimited) + '"';
 }
 
-void saveFile(const std::string &path, const QByteArray &bytes)
+Output::Output(const std::string &path)
+    : m_name(outputName(path))
 {
-    const std::string name = '"' + printable(path, static_cast<int>(path.size())) + '"';
-    const QString fileName = QFile::decodeName(path.c_str());
-    const QFileInfo present(fileName);
-    // The file is put in the place of the one before, which a device must not lose.
-    if (present.exists() && !present.isFile())
-        throw cannotWrite(name, QStringLiteral("it is there and not an ordinary file"));
-    QSaveFile file(fileName);
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    if (!isWritten)
-        throw cannotWrite(name, file.errorString());
+    try {
+        open(path);
+    } catch (const std::system_error &error) {
+        throw cannotWrite(error.code().message());
+    }
+}
+
+bool Output::isTerminal() const
+{
+    return !m_replacedFile && ::isatty(m_file.handle()) != 0;
+}
+
+void Output::write(const QByteArray &result)
+{
+    if (m_replacedFile)
+        replaceBy(result);
+    else
+        writeAll(isTerminal() ? printableLines(result) : result);
+}
+
+void Output::open(const std::string &path)
+{
+    if (path == standardOutputPath)
+        return use(STDOUT_FILENO, dontClose);
+    if (const auto descriptor = descriptorAt(path))
+        return use(*descriptor, dontClose);
+    const mode_t present = modeAt(path);
+    // A disk is hardly what somebody means.
+    if (S_ISBLK(present))
+        throw cannotWrite("it is a block device");
+    if (present != 0 && !S_ISREG(present))
+        return openInPlace(path);
+    m_replacedFile = placeOf(path);
+}
+
+void Output::openInPlace(const std::string &path)
+{
+    const int descriptor = ::open(path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        throw std::system_error(errno, std::generic_category());
+    use(descriptor, QFileDevice::AutoCloseHandle);
+}
+
+void Output::use(int descriptor, QFileDevice::FileHandleFlags closing)
+{
+    if (!m_file.open(descriptor, QIODevice::WriteOnly, closing))
+        throw cannotWrite(m_file.errorString().toStdString());
+}
+
+void Output::writeAll(const QByteArray &bytes)
+{
+    if (m_file.write(bytes) != bytes.size() || !m_file.flush())
+        throw cannotWrite(m_file.errorString().toStdString());
+}
+
+void Output::replaceBy(const QByteArray &contents)
+{
+    try {
+        ReplacementFile replacement(*m_replacedFile);
+        use(replacement.descriptor(), dontClose);
+        writeAll(contents);
+        replacement.putInPlace();
+    } catch (const std::system_error &error) {
+        throw cannotWrite(error.code().message());
+    }
+}
+
+Failure Output::cannotWrite(const std::string &reason) const
+{
+    return {ExitCode::Output, m_name + " cannot be written: " + reason +
+                                  ". Check the disk, the folder and its permissions."};
 }
 
 } // namespace refhost

@@ -56,8 +56,8 @@ std::vector<Totals> totalsOf(const CommonRequest &common, const TotalsRequest &r
 void showTotals(const CommonRequest &common, const TotalsRequest &request)
 {
     const std::vector<Totals> totals = totalsOf(common, request);
-    writeStandardOutput(common.json ? jsonText(toJson(totals, request.groups))
-                                    : toTable(totals, request.groups));
+    Output().write(common.json ? jsonText(toJson(totals, request.groups))
+                               : toTable(totals, request.groups));
 }
 
 } // namespace refhost

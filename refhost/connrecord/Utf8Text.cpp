@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Utf8Text.h"
 
+#include <QVector>
+
 namespace refhost
 {
 
@@ -15,11 +17,15 @@ QByteArray guarded(std::string_view text)
     return bytes;
 }
 
-bool isHarmless(QChar character)
+/// What Unicode does not know yet may be anything.
+bool isHarmless(uint character)
 {
-    switch (character.category()) {
+    switch (QChar::category(character)) {
     case QChar::Other_Control:
     case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Other_PrivateUse:
+    case QChar::Other_NotAssigned:
     case QChar::Separator_Line:
     case QChar::Separator_Paragraph:
         return false;
@@ -28,15 +34,25 @@ bool isHarmless(QChar character)
     }
 }
 
-QString escaped(QChar character)
+QString utf16(uint character)
 {
-    if (character == QLatin1Char('\n'))
+    if (!QChar::requiresSurrogates(character))
+        return QChar(static_cast<ushort>(character));
+    return QString(QChar(QChar::highSurrogate(character))) + QChar(QChar::lowSurrogate(character));
+}
+
+QString escaped(uint character)
+{
+    if (character == '\n')
         return QStringLiteral("\\n");
-    if (character == QLatin1Char('\r'))
+    if (character == '\r')
         return QStringLiteral("\\r");
-    if (character == QLatin1Char('\t'))
+    if (character == '\t')
         return QStringLiteral("\\t");
-    return QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+    QString text;
+    for (const QChar unit : utf16(character))
+        text += QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+    return text;
 }
 
 } // namespace
@@ -61,11 +77,10 @@ std::string cleanedUtf8(std::string_view text)
 QString printable(const QString &text, int most)
 {
     QString line;
-    for (const QChar character : text) {
-        // Between the two halves of a surrogate pair there is no place to cut.
-        if (line.size() >= most && !character.isLowSurrogate())
+    for (const uint character : text.toUcs4()) {
+        if (line.size() >= most)
             return line + QStringLiteral("…");
-        line += isHarmless(character) ? QString(character) : escaped(character);
+        line += isHarmless(character) ? utf16(character) : escaped(character);
     }
     return line;
 }
@@ -73,6 +88,16 @@ QString printable(const QString &text, int most)
 std::string printable(std::string_view text, int most)
 {
     return printable(fromUtf8(text), most).toStdString();
+}
+
+QByteArray printableLines(const QByteArray &text)
+{
+    QByteArrayList lines = text.split('\n');
+    for (QByteArray &line : lines)
+        line = printable(fromUtf8({line.constData(), static_cast<std::size_t>(line.size())}),
+                         unlimited)
+                   .toUtf8();
+    return lines.join('\n');
 }
 
 } // namespace refhost

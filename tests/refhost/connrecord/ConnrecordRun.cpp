@@ -28,6 +28,11 @@ ConnrecordRun connrecord(const QStringList &arguments, const QByteArray &input)
     return runProgram(connrecordProgram(), arguments, input);
 }
 
+ConnrecordRun onTerminal(const QString &command)
+{
+    return runProgram("script", {"--quiet", "--return", "--command", command, "/dev/null"});
+}
+
 void writeFile(const QString &path, const QByteArray &contents)
 {
     QFile file(path);

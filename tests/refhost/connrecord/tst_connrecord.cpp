@@ -9,8 +9,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <sys/stat.h>
-
 using namespace refhost;
 
 /// The program's commands on a real store, import aside.
@@ -32,14 +30,16 @@ private slots:
     void refusesWhatCannotBeAdded();
     void removesAllOrNone();
     void removesFromNoStoreWithoutMakingOne();
-    void exportsToAFile();
-    void leavesTheFileThatItCannotReplace();
-    void leavesWhatIsNoOrdinaryFile();
-    void tellsWhenTheResultCannotBeWritten();
     void leavesAFileAloneThatIsNoStore_data();
     void leavesAFileAloneThatIsNoStore();
     void tellsWrongUsage_data();
     void tellsWrongUsage();
+    void tellsWrongUsageWhoseBytesAreNoText();
+    void takesAnEmptyValue();
+    void takesAValueThatLooksLikeAnOption();
+    void keepsATerminalFromObeyingNames();
+    void tellsThatThereIsNotEnoughMemory_data();
+    void tellsThatThereIsNotEnoughMemory();
     void helpsWithEveryCommand_data();
     void helpsWithEveryCommand();
     void tellsItsVersion();
@@ -237,58 +237,6 @@ void ConnrecordTest::removesFromNoStoreWithoutMakingOne()
     QVERIFY(!QFile::exists(m_store));
 }
 
-void ConnrecordTest::exportsToAFile()
-{
-    run(addition({"--profile", "a, \"b\""}));
-    const QString output = m_store + ".csv";
-    writeFile(output, "what was there before, which is longer than what comes now: " +
-                          QByteArray(1000, 'x'));
-    const ConnrecordRun result = run({"export", "--output", output});
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.output, QByteArray());
-    QCOMPARE(readFile(output), csvOf(0) + "\"a, \"\"b\"\"\",2024-05-31T18:30:00Z,"
-                                          "2024-05-31T19:30:00Z,3600,31981,20722,normal,\n");
-    QCOMPARE(run({"export"}).output, readFile(output));
-    QCOMPARE(run({"export", "--json"}).output, run({"list", "--json"}).output);
-}
-
-void ConnrecordTest::leavesTheFileThatItCannotReplace()
-{
-    run(addition());
-    const QString folder = QFileInfo(m_store).path();
-    const ConnrecordRun toFolder = run({"export", "--output", folder});
-    QCOMPARE(toFolder.exitCode, 5);
-    QVERIFY2(toFolder.error.contains(folder.toUtf8()), toFolder.error);
-    QCOMPARE(run({"export", "--output", folder + "/missing/history.csv"}).exitCode, 5);
-
-    // A store that cannot be read leaves the earlier export as it was.
-    const QString output = folder + "/history.csv";
-    writeFile(output, "earlier");
-    writeFile(folder + "/broken.db", "no store");
-    QCOMPARE(connrecord({"--store", folder + "/broken.db", "export", "--output", output}).exitCode,
-             3);
-    QCOMPARE(readFile(output), QByteArray("earlier"));
-}
-
-void ConnrecordTest::leavesWhatIsNoOrdinaryFile()
-{
-    const QString pipe = m_store + ".pipe";
-    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QCOMPARE(run({"export", "--output", pipe}).exitCode, 5);
-    QVERIFY(!QFileInfo(pipe).isFile());
-}
-
-void ConnrecordTest::tellsWhenTheResultCannotBeWritten()
-{
-    for (const char *const command : {"list", "export", "list --json"}) {
-        const ConnrecordRun result =
-            runProgram("sh", {"-c", "\"$0\" --store \"$1\" " + QString(command) + " > /dev/full",
-                              connrecordProgram(), m_store});
-        QCOMPARE(result.exitCode, 5);
-        QVERIFY2(result.error.startsWith("connrecord: standard output"), result.error);
-    }
-}
-
 void ConnrecordTest::leavesAFileAloneThatIsNoStore_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -313,17 +261,30 @@ void ConnrecordTest::leavesAFileAloneThatIsNoStore()
 void ConnrecordTest::tellsWrongUsage_data()
 {
     QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("what");
 
-    QTest::newRow("no command") << QStringList();
-    QTest::newRow("an unknown command") << QStringList{"delete"};
-    QTest::newRow("an unknown option") << QStringList{"list", "--all"};
-    QTest::newRow("an argument too many") << QStringList{"list", "all"};
-    QTest::newRow("two commands") << QStringList{"list", "export"};
-    QTest::newRow("no key to remove") << QStringList{"remove"};
-    QTest::newRow("no format to import") << QStringList{"import", "-"};
-    QTest::newRow("an unknown format") << QStringList{"import", "--format", "xml", "-"};
-    QTest::newRow("no file to import") << QStringList{"import", "--format", "csv"};
-    QTest::newRow("an option without its value") << QStringList{"list", "--store"};
+    const auto row = [](const char *name, const QStringList &arguments, const char *what) {
+        QTest::newRow(name) << arguments << QByteArray(what);
+    };
+    row("no command", {}, "command");
+    row("an unknown command", {"delete"}, "no command \"delete\"");
+    row("an unknown command with options", {"delete", "--json"}, "no command \"delete\"");
+    row("an unknown command that a terminal would obey", {"\x1b[2J"}, "no command \"\\u001b[2J\"");
+    row("an unknown option", {"list", "--all"}, "--all");
+    row("an unknown option without a command", {"--all"}, "no option \"--all\"");
+    row("an unknown option that a terminal would obey", {"list", "--\u202e"}, "--\\u202e");
+    row("an argument too many", {"list", "all"}, "all");
+    row("two commands", {"list", "export"}, "export");
+    row("no key to remove", {"remove"}, "KEY");
+    row("no format to import", {"import", "-"}, "--format");
+    row("an unknown format", {"import", "--format", "xml", "-"}, "xml");
+    row("no file to import", {"import", "--format", "csv"}, "FILE");
+    row("an option without its value", {"list", "--store"}, "--store");
+    row("a file without a name", {"list", "--store="}, "--store: the name of the file is empty");
+    row("an export without a name", {"export", "--output", ""}, "--output: the name");
+    row("an import without a name", {"import", "--format", "csv", ""}, "FILE: the name");
+    row("an empty number", addition({"--up", ""}), "For --up, \"\"");
+    row("a value for a flag", {"list", "--json=no"}, "json");
 }
 
 void ConnrecordTest::tellsWrongUsage()
@@ -333,6 +294,101 @@ void ConnrecordTest::tellsWrongUsage()
     QCOMPARE(result.exitCode, 2);
     QCOMPARE(result.output, QByteArray());
     QVERIFY2(result.error.startsWith("connrecord: "), result.error);
+    QFETCH(QByteArray, what);
+    QVERIFY2(result.error.contains(what), result.error);
+}
+
+void ConnrecordTest::tellsWrongUsageWhoseBytesAreNoText()
+{
+    const ConnrecordRun result =
+        runProgram("sh", {"-c", "\"$0\" \"$(printf 'l\\377st')\"", connrecordProgram()});
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY2(result.error.contains("no command \"l\xEF\xBF\xBDst\""), result.error);
+}
+
+void ConnrecordTest::takesAnEmptyValue()
+{
+    const ConnrecordRun result =
+        run({"add", "--profile=", "--start=2024-05-31T18:30:00Z", "--end=2024-05-31T19:30:00Z",
+             "--interface=", "--up=0", "--down", "20722"});
+    QVERIFY2(result.exitCode == 0, result.error);
+    QCOMPARE(stored().at(0).profile, std::string());
+    QCOMPARE(stored().at(0).interfaceName, std::string());
+    QCOMPARE(stored().at(0).downloadedBytes, std::int64_t(20722));
+}
+
+void ConnrecordTest::takesAValueThatLooksLikeAnOption()
+{
+    for (const char *const profile : {"--up=", "--json", "-h", "a=b", "--"}) {
+        const ConnrecordRun result = run(addition({"--profile", profile}));
+        QVERIFY2(result.exitCode == 0, result.error);
+        QCOMPARE(stored().back().profile, std::string(profile));
+    }
+}
+
+void ConnrecordTest::keepsATerminalFromObeyingNames()
+{
+    const QByteArray hostile = "a\x1b[2J\xC2\x9B\xE2\x80\xAE\xF3\xA0\x80\x81\r\nb";
+    const QByteArray shown = "a\\u001b[2J\\u009b\\u202e\\udb40\\udc01\\r\\nb";
+    QCOMPARE(run(addition({"--profile", QString::fromUtf8(hostile)})).exitCode, 0);
+    for (const char *const command :
+         {"list", "list --json", "export", "export --json", "export --output /dev/tty",
+          "export --output /dev/stdout --json", "totals --by profile",
+          "totals --by profile --json"}) {
+        const ConnrecordRun result =
+            onTerminal(QString("'%1' --store '%2' %3").arg(connrecordProgram(), m_store, command));
+        QCOMPARE(result.exitCode, 0);
+        QVERIFY2(result.output.contains(shown), command + result.output);
+        QVERIFY2(!result.output.contains('\x1b') && !result.output.contains("\xE2\x80\xAE"),
+                 command);
+    }
+    // A file or pipe gets the bytes themselves.
+    QVERIFY(run({"export"}).output.contains('"' + hostile + '"'));
+    QVERIFY(run({"list", "--json"}).output.contains("\xE2\x80\xAE\xF3\xA0\x80\x81"));
+    const QString json = QString::fromUtf8(
+        onTerminal(QString("'%1' --store '%2' list --json").arg(connrecordProgram(), m_store))
+            .output);
+    QCOMPARE(QJsonDocument::fromJson(json.toUtf8()), run({"list", "--json"}).json());
+}
+
+void ConnrecordTest::tellsThatThereIsNotEnoughMemory_data()
+{
+    QTest::addColumn<QString>("command");
+
+    for (const char *const command : {"list", "list --json", "export", "export --json",
+                                      "import --format csv \"$1/history.csv\""})
+        QTest::newRow(command) << command;
+}
+
+void ConnrecordTest::tellsThatThereIsNotEnoughMemory()
+{
+    QFETCH(QString, command);
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("sanitizers take more memory than a limit allows");
+#endif
+    const QString folder = QFileInfo(m_store).path();
+    writeFile(folder + "/history.csv", csvOf(20000));
+    QCOMPARE(run({"import", "--format", "csv", folder + "/history.csv"}).exitCode, 0);
+    const auto limited = [&folder](int kilobytes, const QString &arguments) {
+        return runProgram("sh", {"-c",
+                                 QString("ulimit -v %1 && \"$0\" --store \"$1/connections.db\" %2")
+                                     .arg(kilobytes)
+                                     .arg(arguments),
+                                 connrecordProgram(), folder});
+    };
+    constexpr int step = 8192;
+    int least = step;
+    while (limited(least, "--version").exitCode != 0)
+        least += step;
+    int failures = 0;
+    ConnrecordRun result;
+    for (int kilobytes = least; result.exitCode != 0; kilobytes += step) {
+        result = limited(kilobytes, command);
+        QVERIFY2(result.exitCode == 0 || result.exitCode == 3, result.error);
+        QCOMPARE(result.error.count('\n'), result.exitCode == 0 ? 0 : 1);
+        failures += result.exitCode == 0 ? 0 : 1;
+    }
+    QVERIFY(failures > 0);
 }
 
 void ConnrecordTest::helpsWithEveryCommand_data()

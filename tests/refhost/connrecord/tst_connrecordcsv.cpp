@@ -165,10 +165,9 @@ void ConnrecordCsvTest::showsTheProgressOfALongImportOnATerminal()
     const QString path = m_folder->filePath("history.csv");
     const auto shown = [&](int count, const QString &redirection) {
         writeFile(path, csvOf(count));
-        // The program `script` gives its command a terminal and passes on what it shows.
         const QString command = QString("'%1' --store '%2' import --format csv '%3' %4")
                                     .arg(connrecordProgram(), m_store, path, redirection);
-        return runProgram("script", {"--quiet", "--return", "--command", command, "/dev/null"});
+        return onTerminal(command);
     };
     const ConnrecordRun small = shown(10, {});
     QCOMPARE(small.exitCode, 0);

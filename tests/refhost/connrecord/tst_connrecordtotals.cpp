@@ -106,6 +106,7 @@ void ConnrecordTotalsTest::showsATable()
 {
     store(samples());
     const ConnrecordRun result = totals({"--by", "profile,month"});
+    QCOMPARE(totals({"--by", "month,profile"}).output, result.output);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.output,

@@ -18,6 +18,7 @@ private slots:
     void cleansWhatTheStoreDoesNotTake();
     void printsOneLineThatTheTerminalDoesNotObey_data();
     void printsOneLineThatTheTerminalDoesNotObey();
+    void keepsTheLinesOfAText();
     void cutsWithoutTearingACharacterApart();
 };
 
@@ -71,12 +72,35 @@ void Utf8TextTest::printsOneLineThatTheTerminalDoesNotObey_data()
                                                                << "a\\u202eb";
     QTest::newRow("a line separator is named") << "a\u2028b"
                                                << "a\\u2028b";
+    const auto named = [](uint character) {
+        const QString text = QChar::requiresSurrogates(character)
+                                 ? QString(QChar(QChar::highSurrogate(character))) +
+                                       QChar(QChar::lowSurrogate(character))
+                                 : QString(QChar(static_cast<ushort>(character)));
+        QString name;
+        for (const QChar unit : text)
+            name += QString("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+        QTest::addRow("U+%04X is named", character) << 'a' + text + 'b' << 'a' + name + 'b';
+    };
+    // Control and format characters, lines and paragraphs, private and unknown ones.
+    for (const uint character :
+         {0x00U,   0x7fU,   0x9bU,    0xadU,    0x61cU,   0x180eU,  0x200bU,  0x200fU,  0x2029U,
+          0x202aU, 0x202eU, 0x2060U,  0x2066U,  0x206fU,  0xe000U,  0xfeffU,  0xfff9U,  0xfffbU,
+          0xffffU, 0x378U,  0x110bdU, 0x1bca0U, 0x1d173U, 0xe0001U, 0xe007fU, 0xf0000U, 0x10fffdU})
+        named(character);
 }
 
 void Utf8TextTest::printsOneLineThatTheTerminalDoesNotObey()
 {
     QFETCH(QString, text);
     QTEST(printable(text), "printed");
+}
+
+void Utf8TextTest::keepsTheLinesOfAText()
+{
+    QCOMPARE(printableLines("a\x1b\n\nZ\xC3\xBCrich\r\n"),
+             QByteArray("a\\u001b\n\nZ\xC3\xBCrich\\r\n"));
+    QCOMPARE(printableLines(QByteArray(1000, 'x')), QByteArray(1000, 'x'));
 }
 
 void Utf8TextTest::cutsWithoutTearingACharacterApart()

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "HistoryFiles.h"
+
+#include "Failure.h"
+#include "FilePlace.h"
+#include "Output.h"
+
+#include <algorithm>
+#include <array>
+
+namespace refhost
+{
+
+namespace
+{
+
+/// Behind the history's name: itself, what SQLite keeps, the recorder's lock and
+/// what a recorder could not write.
+constexpr std::array<const char *, 6> suffixes = {"",         "-wal",      "-shm",
+                                                  "-journal", ".recorder", "-unwritten"};
+
+bool isOfHistory(const std::filesystem::path &path, const std::filesystem::path &store)
+{
+    return std::any_of(suffixes.begin(), suffixes.end(), [&](const char *suffix) {
+        std::filesystem::path file = store;
+        return leadToSameFile(path, file += suffix);
+    });
+}
+
+} // namespace
+
+void checkIsNotOfHistory(const std::string &outputPath, const std::string &storePath)
+{
+    const std::filesystem::path path =
+        outputPath == standardOutputPath ? "/dev/stdout" : outputPath;
+    // SQLite puts its files beside the one that a link leads to, others may not.
+    if (isOfHistory(path, storePath) || isOfHistory(path, placeOf(storePath)))
+        throw Failure(ExitCode::Output, outputName(outputPath) +
+                                            " cannot be written: it belongs to the history \"" +
+                                            storePath + "\". Give another file.");
+}
+
+} // namespace refhost
