@@ -21,6 +21,31 @@ std::string absolutePath(const std::string &path)
     return std::filesystem::absolute(path).lexically_normal().string();
 }
 
+/// The file's name as SQLite takes it together with parameters.
+std::string uriOf(const std::string &path)
+{
+    constexpr const char *digits = "0123456789ABCDEF";
+    std::string uri = "file:";
+    for (const char each : path) {
+        const auto byte = static_cast<unsigned char>(each);
+        if (each == '%' || each == '?' || each == '#' || byte < 0x21 || byte > 0x7e)
+            uri += {'%', digits[byte >> 4U], digits[byte & 15U]};
+        else
+            uri += each;
+    }
+    return uri;
+}
+
+/// Lets nothing that a file says about itself run here, now or when it is planted
+/// later.
+void distrustSchema(sqlite3 *database)
+{
+    sqlite3_db_config(database, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    for (const int option : {SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_TRIGGER,
+                             SQLITE_DBCONFIG_ENABLE_VIEW})
+        sqlite3_db_config(database, option, 0, nullptr);
+}
+
 } // namespace
 
 StoreDatabase::StoreDatabase(const std::string &path, IfMissing ifMissing, Durability durability)
@@ -35,9 +60,11 @@ StoreDatabase::~StoreDatabase() = default;
 bool StoreDatabase::open()
 {
     const auto file = fileAt(m_path);
-    if (m_database && file == m_file)
+    // What can only be read may have been changed by somebody who may write.
+    const bool isSameFile = file == m_file;
+    if (m_database && isSameFile && !m_isReadOnly)
         return true;
-    if (m_database && file)
+    if (m_database && file && !isSameFile)
         checkLogAfterReplacement();
     close();
     if (!file && m_ifMissing == IfMissing::ReadAsEmpty)
@@ -78,22 +105,15 @@ void StoreDatabase::checkLogBase()
 void StoreDatabase::connect()
 {
     try {
-        // A store stays on one thread, so SQLite need not lock around every value.
-        m_database = std::make_unique<SQLite::Database>(
-            resolvedPath(m_path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
-            m_durability == Durability::Disk ? recorderLockTimeoutMilliseconds
-                                             : lockTimeoutSeconds * 1000);
+        openFile();
         // Nothing is written for a file that turns out to be no store of ours.
         setCheckpointOnClose(false);
         m_logBase = std::make_unique<LogBase>(*m_database, resolvedPath(m_path));
         checkLogBase();
-        upgradeSchema(m_path, *m_database, storeSchema());
-        setCheckpointOnClose(true);
-        // Refused while another process is just making the same store; until the
-        // next program opens it, the store then works without a log.
-        m_database->tryExec("PRAGMA journal_mode = WAL");
-        m_database->exec(m_durability == Durability::Disk ? "PRAGMA synchronous = FULL"
-                                                          : "PRAGMA synchronous = NORMAL");
+        if (m_isReadOnly)
+            checkSchema(m_path, *m_database, storeSchema());
+        else
+            prepareForWriting();
         m_table = std::make_unique<ConnectionTable>(*m_database);
         m_openConnections = std::make_unique<OpenConnectionTable>(*m_database);
         m_seenLinks = std::make_unique<SeenLinkTable>(*m_database);
@@ -106,6 +126,34 @@ void StoreDatabase::connect()
         close();
         throw;
     }
+}
+
+void StoreDatabase::openFile()
+{
+    const std::string path = resolvedPath(m_path);
+    m_isReadOnly = m_ifMissing == IfMissing::ReadAsEmpty && writeObstacle(path) != 0;
+    // Where no file can be made beside the store, SQLite reads it only if it is told
+    // that nobody changes it; which is true for as long as it has no log.
+    const bool isAtRest = m_isReadOnly && !hasLog(path);
+    const int access = m_isReadOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
+    // A store stays on one thread, so SQLite need not lock around every value.
+    m_database = std::make_unique<SQLite::Database>(
+        isAtRest ? uriOf(path) + "?immutable=1" : uriOf(path),
+        access | SQLite::OPEN_URI | SQLite::OPEN_NOMUTEX,
+        m_durability == Durability::Disk ? recorderLockTimeoutMilliseconds
+                                         : lockTimeoutSeconds * 1000);
+    distrustSchema(m_database->getHandle());
+}
+
+void StoreDatabase::prepareForWriting()
+{
+    upgradeSchema(m_path, *m_database, storeSchema());
+    setCheckpointOnClose(true);
+    // Refused while another process is just making the same store; until the
+    // next program opens it, the store then works without a log.
+    m_database->tryExec("PRAGMA journal_mode = WAL");
+    m_database->exec(m_durability == Durability::Disk ? "PRAGMA synchronous = FULL"
+                                                      : "PRAGMA synchronous = NORMAL");
 }
 
 void StoreDatabase::close()
@@ -125,6 +173,8 @@ void StoreDatabase::openForWriting()
 {
     if (!open())
         throw cannotOpen(m_path, ENOENT);
+    if (m_isReadOnly)
+        throw sqliteFailure(m_path, Access::Writing, SQLITE_READONLY, writeObstacle(m_path), "");
     if (m_isChecked)
         return;
     const std::string verdict = translated(Access::Reading, [&] {

@@ -98,6 +98,8 @@ private:
     void checkLogBase();
     void checkVersion();
     void connect();
+    void openFile();
+    void prepareForWriting();
     void close();
     void openForWriting();
     void setCheckpointOnClose(bool enabled);
@@ -111,6 +113,7 @@ private:
     std::unique_ptr<SeenLinkTable> m_seenLinks;
     std::unique_ptr<LogBase> m_logBase;
     std::optional<FileIdentity> m_file;
+    bool m_isReadOnly = false;
     bool m_isChecked = false;
 };
 

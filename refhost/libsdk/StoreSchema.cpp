@@ -4,7 +4,11 @@
 #include "StoreFailure.h"
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
+
+#include <algorithm>
+#include <map>
 
 namespace refhost
 {
@@ -13,6 +17,11 @@ namespace
 {
 
 using Kind = StoreError::Kind;
+
+bool isWhiteSpace(char character)
+{
+    return character == ' ' || character == '\n';
+}
 
 struct SchemaState {
     std::int32_t applicationId;
@@ -44,6 +53,38 @@ void checkVersion(const std::string &path, std::int32_t version, std::size_t new
                 "; it was left as it is, update and restart this program to use it.");
 }
 
+/// What a database consists of, by kind and name, as SQL without its white space.
+std::map<std::string, std::string> objectsIn(SQLite::Database &database)
+{
+    SQLite::Statement query(database,
+                            "SELECT type || ' \"' || name || '\"', coalesce(sql, '')"
+                            " FROM sqlite_schema WHERE name NOT LIKE 'sqlite^_%' ESCAPE '^'"
+                            " OR type NOT IN ('table', 'index')");
+    std::map<std::string, std::string> objects;
+    while (query.executeStep()) {
+        std::string sql = query.getColumn(1).getString();
+        sql.erase(std::remove_if(sql.begin(), sql.end(), isWhiteSpace), sql.end());
+        objects.emplace(query.getColumn(0).getString(), sql);
+    }
+    return objects;
+}
+
+/// Triggers, views and virtual tables are programs that would run here, and even an
+/// index can refuse a record: whatever the steps have not made is somebody else's.
+void checkObjects(const std::string &path, SQLite::Database &database, const SchemaSteps &steps,
+                  std::size_t taken)
+{
+    SQLite::Database model(":memory:", SQLite::OPEN_READWRITE);
+    for (std::size_t i = 0; i < taken; ++i)
+        model.exec(steps[i]);
+    const auto ours = objectsIn(model);
+    for (const auto &[name, sql] : objectsIn(database)) {
+        const auto found = ours.find(name);
+        if (found == ours.end() || found->second != sql)
+            throw damaged(path, "its " + name + " is not one that this program makes");
+    }
+}
+
 /// How many of the steps have been taken; to be asked within a transaction.
 std::size_t stepsTaken(const std::string &path, SQLite::Database &database,
                        const SchemaSteps &steps)
@@ -54,7 +95,9 @@ std::size_t stepsTaken(const std::string &path, SQLite::Database &database,
     if (state.applicationId != storeApplicationId)
         throw notAStore(path, "a database of another program");
     checkVersion(path, state.version, steps.size());
-    return static_cast<std::size_t>(state.version);
+    const auto taken = static_cast<std::size_t>(state.version);
+    checkObjects(path, database, steps, taken);
+    return taken;
 }
 
 /// The same in a transaction of its own, for an answer from one moment.
@@ -136,6 +179,11 @@ const SchemaSteps &storeSchema()
 void checkSchemaVersion(const std::string &path, std::int32_t version)
 {
     checkVersion(path, version, storeSchema().size());
+}
+
+void checkSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps)
+{
+    stepsTakenNow(path, database, steps);
 }
 
 void upgradeSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps)

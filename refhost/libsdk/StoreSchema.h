@@ -27,8 +27,13 @@ const SchemaSteps &storeSchema();
 /// of that version.
 void checkSchemaVersion(const std::string &path, std::int32_t version);
 
+/// Throws StoreFailure unless the database is what some of the steps, from the first
+/// one on, have made of it, and SQLite::Exception.
+void checkSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps);
+
 /// Takes the steps that the database still lacks, all or none. Throws
-/// StoreFailure if it is somebody else's or newer, SQLite::Exception.
+/// StoreFailure if it is somebody else's, newer, or holds what no step has made,
+/// SQLite::Exception.
 void upgradeSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps);
 
 } // namespace refhost
