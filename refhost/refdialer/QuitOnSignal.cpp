@@ -6,7 +6,6 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <cstdint>
 
 namespace refhost
@@ -14,8 +13,6 @@ namespace refhost
 
 namespace
 {
-
-constexpr int quittingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 // A signal handler reaches nothing but what has static storage.
 int wakeUpEvent = -1;
@@ -34,6 +31,21 @@ int openWakeUpEvent()
     return wakeUpEvent;
 }
 
+/// Has a signal wake the program up, unless who started it had it ignored: nohup
+/// does that, and a shell with what it runs in the background. Returns what the
+/// signal did before.
+struct sigaction handle(int signal)
+{
+    struct sigaction before = {};
+    sigaction(signal, nullptr, &before);
+    struct sigaction action = {};
+    action.sa_handler = wakeUp;
+    action.sa_flags = SA_RESETHAND | SA_RESTART;
+    if (before.sa_handler != SIG_IGN)
+        sigaction(signal, &action, nullptr);
+    return before;
+}
+
 } // namespace
 
 QuitOnSignal::QuitOnSignal()
@@ -43,17 +55,14 @@ QuitOnSignal::QuitOnSignal()
         m_notifier.setEnabled(false);
         QCoreApplication::exit(0);
     });
-    struct sigaction action = {};
-    action.sa_handler = wakeUp;
-    action.sa_flags = SA_RESETHAND | SA_RESTART;
-    for (const int signal : quittingSignals)
-        sigaction(signal, &action, nullptr);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        m_former[signal] = handle(signal);
 }
 
 QuitOnSignal::~QuitOnSignal()
 {
-    for (const int signal : quittingSignals)
-        std::signal(signal, SIG_DFL);
+    for (const auto &[signal, action] : m_former)
+        sigaction(signal, &action, nullptr);
     close(wakeUpEvent);
     wakeUpEvent = -1;
 }

@@ -3,12 +3,16 @@
 
 #include <QSocketNotifier>
 
+#include <csignal>
+#include <map>
+
 namespace refhost
 {
 
 /// While it lives, SIGINT, SIGTERM and SIGHUP end the event loop, so that the
 /// program cleans up as after its window was closed. A second signal of the same
-/// kind ends the program at once. At most one at a time.
+/// kind ends the program at once. One that was ignored stays so. At most one at a
+/// time.
 class QuitOnSignal
 {
 public:
@@ -19,6 +23,7 @@ public:
 
 private:
     QSocketNotifier m_notifier;
+    std::map<int, struct sigaction> m_former; ///< by signal
 };
 
 } // namespace refhost
