@@ -2,6 +2,7 @@
 #include "ConnectionTable.h"
 
 #include "ConnectionMerge.h"
+#include "Fingerprint.h"
 
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
@@ -210,6 +211,25 @@ bool ConnectionTable::visitLast(const Visitor &visitor)
         return false;
     visitor(query.row());
     return true;
+}
+
+std::uint64_t ConnectionTable::fingerprint()
+{
+    const Writes writesSoFar = writes();
+    if (m_fingerprintWrites == writesSoFar)
+        return m_fingerprint;
+    m_fingerprintWrites.reset();
+    m_fingerprint = 0;
+    RowQuery query(m_database, "");
+    while (query.next())
+        m_fingerprint += fingerprintOf(query.row());
+    m_fingerprintWrites = writesSoFar;
+    return m_fingerprint;
+}
+
+ConnectionTable::Writes ConnectionTable::writes()
+{
+    return {m_database.execAndGet("PRAGMA data_version").getInt64(), m_database.getTotalChanges()};
 }
 
 std::int64_t ConnectionTable::insert(const Connection &connection)

@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 struct sqlite3_stmt;
 
@@ -66,6 +67,10 @@ public:
     /// false if there is none.
     bool visitLast(const Visitor &visitor);
 
+    /// The sum, modulo 2^64, of all rows' fingerprints. They are read only if anything
+    /// has been written to the file since the last time.
+    std::uint64_t fingerprint();
+
     /// Adds the connection, whatever its key, and returns the new key.
     std::int64_t insert(const Connection &connection);
     /// Whether there is a connection of this interface that began at that time.
@@ -82,6 +87,10 @@ public:
     bool remove(std::int64_t key);
 
 private:
+    /// What SQLite counts of the writes of others and of this database itself.
+    using Writes = std::pair<std::int64_t, std::int64_t>;
+
+    Writes writes();
     void update(const Connection &connection);
     SQLite::Statement &prepared(std::optional<SQLite::Statement> &statement, const char *sql);
 
@@ -89,6 +98,8 @@ private:
     std::optional<SQLite::Statement> m_insertion;
     std::optional<SQLite::Statement> m_update;
     std::optional<SQLite::Statement> m_removal;
+    std::uint64_t m_fingerprint = 0;
+    std::optional<Writes> m_fingerprintWrites; ///< before which it was made
 };
 
 } // namespace refhost

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "StatisticsStore.h"
 
+#include "Fingerprint.h"
 #include "StoreDatabase.h"
 #include "TotalsSum.h"
 
@@ -204,6 +205,19 @@ Result<std::vector<Connection>> StatisticsStore::list(const TimeRange &range) co
             return connections;
         });
     });
+}
+
+Result<std::uint64_t> StatisticsStore::fingerprint() const
+{
+    return d->attempt([&] {
+        return d->database.read(std::uint64_t{0},
+                                [](ConnectionTable &table) { return table.fingerprint(); });
+    });
+}
+
+std::uint64_t StatisticsStore::fingerprintOf(const Connection &connection)
+{
+    return refhost::fingerprintOf(connection);
 }
 
 Result<std::int64_t> StatisticsStore::add(const Connection &connection)

@@ -40,6 +40,9 @@ private slots:
     void doesNotMixAReplacedFileWithTheFormerLog();
     void neverUsesAKeyTwice();
 
+    void knowsWhetherItsConnectionsAreTheSame();
+    void leavesOpenConnectionsOutOfTheFingerprint();
+
     void removesTheConnectionsWithTheseKeys();
     void removesAllOrNone();
     void removingNothingRemovesNothing();
@@ -179,6 +182,53 @@ void StatisticsStoreTest::neverUsesAKeyTwice()
     const auto second = store.add(connection("second", 1, 2));
     QVERIFY(second);
     QVERIFY(second.value() > first.value());
+}
+
+void StatisticsStoreTest::knowsWhetherItsConnectionsAreTheSame()
+{
+    auto watching = StatisticsStore::openForReading(m_path);
+    const auto fingerprint = [&watching] { return watching.value().fingerprint().value(); };
+    QCOMPARE(fingerprint(), std::uint64_t(0));
+    auto writing = StatisticsStore::openOrCreate(m_path);
+    const auto first = writing.value().add(connection("first", 100, 100));
+    const auto second = writing.value().add(connection("second", 200, 200));
+    std::uint64_t expected = 0;
+    const auto listed = watching.value().list();
+    for (const Connection &stored : listed.value())
+        expected += StatisticsStore::fingerprintOf(stored);
+    QCOMPARE(fingerprint(), expected);
+    QCOMPARE(writing.value().fingerprint().value(), expected);
+
+    runSql(m_path, "UPDATE connection SET uploaded_bytes = 1 WHERE profile = 'first'");
+    QVERIFY(fingerprint() != expected);
+    QVERIFY(writing.value().remove({first.value(), second.value()}));
+    QCOMPARE(fingerprint(), std::uint64_t(0));
+    QCOMPARE(writing.value().fingerprint().value(), std::uint64_t(0));
+    // The same again is another connection.
+    QVERIFY(writing.value().add(connection("first", 100, 100)));
+    QVERIFY(writing.value().add(connection("second", 200, 200)));
+    QVERIFY(fingerprint() != expected);
+    QVERIFY(writing.value().fingerprint().value() == fingerprint());
+
+    QVERIFY(QFile::remove(QString::fromStdString(m_path)));
+    QCOMPARE(fingerprint(), std::uint64_t(0));
+}
+
+void StatisticsStoreTest::leavesOpenConnectionsOutOfTheFingerprint()
+{
+    auto writing = StatisticsStore::openOrCreate(m_path);
+    QVERIFY(writing.value().add(connection("finished", 100, 100)));
+    const auto watching = StatisticsStore::openForReading(m_path);
+    const std::uint64_t before = watching.value().fingerprint().value();
+    refhost::OpenConnection open;
+    open.bootId = "boot";
+    auto begun = writing.value().begin(open).value();
+    QCOMPARE(watching.value().fingerprint().value(), before);
+    begun.uploadedBytes = 100;
+    QVERIFY(writing.value().checkpoint(begun));
+    QCOMPARE(watching.value().fingerprint().value(), before);
+    QVERIFY(writing.value().finish(begun, connection("open", 200, 200)));
+    QVERIFY(watching.value().fingerprint().value() != before);
 }
 
 void StatisticsStoreTest::removesTheConnectionsWithTheseKeys()
