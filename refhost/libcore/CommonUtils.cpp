@@ -40,7 +40,9 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString ti
     box->setInformativeText(extraText);
     if (dialog)
         *dialog = box;
+    ++refhost::hostState().openQuestions;
     box->exec();
+    --refhost::hostState().openQuestions;
     if (dialog)
         *dialog = nullptr;
     const bool isConfirmed = box && box->isConfirmed();
@@ -50,6 +52,9 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString ti
 
 QString CommonUtils::GetSettings(QString group, QString key)
 {
+    const auto temporary = refhost::hostState().temporarySettings.constFind({group, key});
+    if (temporary != refhost::hostState().temporarySettings.constEnd())
+        return *temporary;
     return refhost::Settings(group).value(key).toString();
 }
 

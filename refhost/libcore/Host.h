@@ -22,6 +22,10 @@ HOST_API void setMainWindow(QWidget *window);
 /// for none. The caller keeps the ownership and takes it back before it goes.
 HOST_API void setPluginContainer(IPluginContainer *container);
 
+/// Whether a plug-in waits for CommonUtils::ShowMessage to return, and so is about to
+/// act on what it knew when it asked.
+HOST_API bool isQuestionOpen();
+
 /// Codes of the languages that texts are there for, such as "de", sorted.
 HOST_API QStringList availableLanguages();
 

@@ -17,6 +17,11 @@ void setMainWindow(QWidget *window)
     hostState().mainWindow = window;
 }
 
+bool isQuestionOpen()
+{
+    return hostState().openQuestions > 0;
+}
+
 void setPluginContainer(IPluginContainer *container)
 {
     hostState().pluginContainer = container;

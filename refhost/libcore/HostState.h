@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMap>
+#include <QPair>
 #include <QPointer>
+#include <QString>
 #include <QWidget>
 
 class IPluginContainer;
@@ -13,6 +16,8 @@ namespace refhost
 struct HostState {
     QPointer<QWidget> mainWindow;
     IPluginContainer *pluginContainer = nullptr;
+    int openQuestions = 0; ///< one may be asked from within another
+    QMap<QPair<QString, QString>, QString> temporarySettings; ///< by group and key
 };
 
 HostState &hostState();

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace refhost
@@ -97,15 +98,19 @@ std::vector<Connection> connectionsIn(const QTableWidget &table, TrueValues &val
     return rows;
 }
 
-/// The rows of the table in their new order.
-Order orderedRows(const QTableWidget &table, const HistoryOrder &by, TrueValues &values)
+/// The places of the rows in their new order.
+Order orderOf(const std::vector<Connection> &rows, const HistoryOrder &by, const QLocale &locale)
 {
-    const std::vector<Connection> rows = connectionsIn(table, values);
     Order order(rows.size());
     std::iota(order.begin(), order.end(), 0);
+    // The plug-in's own order is another one each time; so that rows which are equal
+    // otherwise stay where they are, the one that was stored last comes first.
+    std::sort(order.begin(), order.end(), [&rows](int a, int b) {
+        return std::pair(rows[b].key, a) < std::pair(rows[a].key, b);
+    });
     sortByAmount(rows, HistoryOrder(), order);
     if (by.column == HistoryColumn::Profile)
-        sortByProfile(rows, by.direction, table.locale(), order);
+        sortByProfile(rows, by.direction, locale, order);
     else
         sortByAmount(rows, by, order);
     return order;
@@ -128,12 +133,20 @@ void moveRows(QTableWidget &table, const Order &order)
 
 } // namespace
 
-void sortRows(QTableWidget &table, const HistoryOrder &order, TrueValues values)
+std::vector<Connection> sortRows(QTableWidget &table, const HistoryOrder &by, TrueValues values)
 {
+    std::vector<Connection> rows = connectionsIn(table, values);
+    const Order order = orderOf(rows, by, table.locale());
     const bool wasUpdating = table.updatesEnabled();
     table.setUpdatesEnabled(false);
-    moveRows(table, orderedRows(table, order, values));
+    moveRows(table, order);
     table.setUpdatesEnabled(wasUpdating);
+
+    std::vector<Connection> sorted;
+    sorted.reserve(rows.size());
+    for (const int row : order)
+        sorted.push_back(std::move(rows[row]));
+    return sorted;
 }
 
 } // namespace refhost

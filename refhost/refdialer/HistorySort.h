@@ -5,11 +5,14 @@
 
 #include <QMetaType>
 
+#include <vector>
+
 class QTableWidget;
 
 namespace refhost
 {
 
+struct Connection;
 class TrueValues;
 
 struct HistoryOrder {
@@ -19,8 +22,8 @@ struct HistoryOrder {
 
 /// Puts the rows in this order, once; those that are equal in it stand newest
 /// first. Cells, selection and current cell move with their rows, and the
-/// table's own sorting stays as it is.
-void sortRows(QTableWidget &table, const HistoryOrder &order, TrueValues values);
+/// table's own sorting stays as it is. Returns what the rows show now, from the top.
+std::vector<Connection> sortRows(QTableWidget &table, const HistoryOrder &order, TrueValues values);
 
 } // namespace refhost
 

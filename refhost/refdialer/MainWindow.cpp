@@ -84,6 +84,9 @@ void MainWindow::createMenus()
     m_sortMenu = new SortMenu(m_viewMenu);
     m_viewMenu->addMenu(m_sortMenu);
     connect(m_sortMenu, &SortMenu::orderChosen, m_area, &HistoryArea::sort);
+    m_refreshAction = m_viewMenu->addAction(QString());
+    m_refreshAction->setShortcut(QKeySequence(Qt::Key_F5));
+    connect(m_refreshAction, &QAction::triggered, m_area, &HistoryArea::refresh);
     m_viewMenu->addSeparator();
     m_viewMenu->setToolTipsVisible(true);
     m_statisticsAction = m_viewMenu->addAction(QString());
@@ -101,6 +104,7 @@ void MainWindow::retranslate()
     m_quitAction->setText(tr("&Quit"));
     m_viewMenu->setTitle(tr("&View"));
     m_historyAction->setText(tr("&History"));
+    m_refreshAction->setText(tr("&Refresh"));
     m_statisticsAction->setText(tr("S&tatistics…"));
     if (!m_statisticsAction->isEnabled()) {
         const QString reason = tr("The history plug-in in use has no statistics. Start refdialer "

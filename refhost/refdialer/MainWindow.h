@@ -48,6 +48,7 @@ private:
     QMenu *m_viewMenu;
     QAction *m_historyAction;
     SortMenu *m_sortMenu;
+    QAction *m_refreshAction;
     QAction *m_statisticsAction;
 };
 

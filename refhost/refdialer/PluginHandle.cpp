@@ -3,6 +3,7 @@
 
 #include "Failure.h"
 #include "PluginFile.h"
+#include "SummaryChoice.h"
 
 #include "INotify.h"
 #include "IUIPlugin.h"
@@ -155,8 +156,20 @@ void PluginHandle::tellDisconnected()
     tellConnection(0);
 }
 
+// The end of a connection is the one thing that makes a plug-in load its table.
+void PluginHandle::reload()
+{
+    const bool wasConnected = m_isConnected;
+    const TemporarySetting withoutSummary = suppressSummary();
+    tellConnected();
+    tellDisconnected();
+    if (wasConnected)
+        tellConnected();
+}
+
 void PluginHandle::tellConnection(unsigned int status)
 {
+    m_isConnected = status == 1;
     if (!m_hasEnded)
         m_events->Notify(connectionChanged, status, 0);
 }

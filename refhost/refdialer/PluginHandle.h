@@ -51,6 +51,8 @@ public:
     void tellConnected();
     /// After the connection's record is finished; the plug-in loads the table anew.
     void tellDisconnected();
+    /// Lets the plug-in load the table anew, without a summary.
+    void reload();
     /// Opens the statistics; false if the plug-in has nothing to be asked by.
     bool showStatistics();
     /// Ends the plug-in, which must happen while its area is still there.
@@ -66,6 +68,7 @@ private:
     IUIPlugin *m_ui;
     INotify *m_events;
     bool m_hasStatistics = false;
+    bool m_isConnected = false; ///< as the plug-in was told last
     bool m_hasEnded = false;
 };
 

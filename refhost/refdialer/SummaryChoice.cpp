@@ -14,6 +14,7 @@ namespace
 const char *const pluginGroup = "NetInfoRecordUIPlugin";
 const char *const summaryKey = "WhetherShowNotesbox";
 const char *const wanted = "true";
+const char *const unwanted = "false";
 
 QString storedChoice()
 {
@@ -29,7 +30,12 @@ bool isSummaryWanted()
 
 bool storeSummaryChoice(bool isWanted)
 {
-    return storeSetting(pluginGroup, summaryKey, isWanted ? wanted : "false");
+    return storeSetting(pluginGroup, summaryKey, isWanted ? wanted : unwanted);
+}
+
+TemporarySetting suppressSummary()
+{
+    return {pluginGroup, summaryKey, unwanted};
 }
 
 void offerSummary()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "TemporarySetting.h"
+
 namespace refhost
 {
 
@@ -10,6 +12,9 @@ bool isSummaryWanted();
 
 /// False if the choice cannot be written.
 bool storeSummaryChoice(bool isWanted);
+
+/// While the answer lives, the plug-in shows none, whatever its setting says.
+TemporarySetting suppressSummary();
 
 /// Turns the summary on for a user who has not chosen yet, so that it is seen.
 void offerSummary();

@@ -32,6 +32,22 @@ double distance(const Connection &connection, const HistoryRow &row)
            std::abs(double(connection.connectedSeconds) - double(row.connectedSeconds));
 }
 
+/// Whether the volume is what a row shows as this one, rounded to a hundredth of its unit.
+bool isShownAs(double shown, std::int64_t bytes)
+{
+    double unit = 1024;
+    while (shown >= unit * 1024 && unit < 1024.0 * 1024 * 1024)
+        unit *= 1024;
+    return std::abs(double(bytes) - shown) <= unit / 100;
+}
+
+bool isShownBy(const HistoryRow &row, const Connection &connection)
+{
+    return row.connectedSeconds == connection.connectedSeconds &&
+           isShownAs(row.uploadedBytes, connection.uploadedBytes) &&
+           isShownAs(row.downloadedBytes, connection.downloadedBytes);
+}
+
 /// Where the row shows no time, the first of all.
 std::int64_t utcSeconds(const QDateTime &time)
 {
@@ -80,6 +96,8 @@ Connection TrueValues::take(const HistoryRow &row)
         std::min_element(found->begin(), found->end(), [&row](const auto &a, const auto &b) {
             return distance(a, row) < distance(b, row);
         });
+    if (!isShownBy(row, *closest))
+        return shownBy(row);
     Connection connection = std::move(*closest);
     found->erase(closest);
     return connection;

@@ -23,8 +23,8 @@ public:
 
     explicit TrueValues(const std::vector<Connection> &connections);
 
-    /// The connection that the row shows, or what can be read from the row itself
-    /// where the store has none. Each connection is given once, so that rows which
+    /// The connection that the row shows, or what can be read from the row itself,
+    /// with the key 0, where the store has none. Each connection is given once, so that rows which
     /// show the same still differ.
     Connection take(const HistoryRow &row);
 

@@ -276,6 +276,10 @@
         <translation>&amp;Einstellungen …</translation>
     </message>
     <message>
+        <source>&amp;Refresh</source>
+        <translation>A&amp;ktualisieren</translation>
+    </message>
+    <message>
         <source>S&amp;tatistics…</source>
         <translation>S&amp;tatistik …</translation>
     </message>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CommonUtils.h"
 #include "Host.h"
+#include "TemporarySetting.h"
 
 #include <QDialog>
 #include <QFile>
@@ -26,6 +27,7 @@ private slots:
     void readsASettingThatWasStored();
     void readsASettingWrittenByHand();
     void readsAnUnsetSettingAsEmpty();
+    void answersWithATemporarySettingWhileItLives();
     void saysWhenASettingCannotBeStored();
     void keepsSettingsToTheirOwner_data();
     void keepsSettingsToTheirOwner();
@@ -110,6 +112,20 @@ void TestCommonUtils::readsAnUnsetSettingAsEmpty()
     QVERIFY(refhost::storeSetting("SomePlugin", "Key", "value"));
     QCOMPARE(CommonUtils::GetSettings("SomePlugin", "OtherKey"), QString());
     QCOMPARE(CommonUtils::GetSettings("OtherPlugin", "Key"), QString());
+}
+
+void TestCommonUtils::answersWithATemporarySettingWhileItLives()
+{
+    QVERIFY(refhost::storeSetting("SomePlugin", "Key", "stored"));
+    {
+        const refhost::TemporarySetting setting("SomePlugin", "Key", "temporary");
+        QCOMPARE(CommonUtils::GetSettings("SomePlugin", "Key"), QString("temporary"));
+        QCOMPARE(CommonUtils::GetSettings("OtherPlugin", "Key"), QString());
+        QFile file(settingsFile());
+        QVERIFY(file.open(QFile::ReadOnly));
+        QVERIFY(!file.readAll().contains("temporary"));
+    }
+    QCOMPARE(CommonUtils::GetSettings("SomePlugin", "Key"), QString("stored"));
 }
 
 void TestCommonUtils::saysWhenASettingCannotBeStored()

@@ -27,6 +27,7 @@ private slots:
     void showsMarkupAsItIs();
     void isModalOverItsParent();
     void handsTheBoxOutWhileItIsOpen();
+    void isAnOpenQuestionUntilItReturns();
     void survivesTheEndOfItsParent();
 
 private:
@@ -203,6 +204,17 @@ void TestShowMessage::handsTheBoxOutWhileItIsOpen()
     ask([&dialog](QMessageBox &box) { QCOMPARE(dialog, &box); });
     QVERIFY(m_wasOpen);
     QCOMPARE(dialog, nullptr);
+}
+
+void TestShowMessage::isAnOpenQuestionUntilItReturns()
+{
+    QVERIFY(!refhost::isQuestionOpen());
+    ask([this](QMessageBox &) {
+        ask([](QMessageBox &) { QVERIFY(refhost::isQuestionOpen()); });
+        QVERIFY(refhost::isQuestionOpen());
+    });
+    QVERIFY(m_wasOpen);
+    QVERIFY(!refhost::isQuestionOpen());
 }
 
 void TestShowMessage::survivesTheEndOfItsParent()

@@ -59,6 +59,16 @@ QStringList HistoryWindow::storedProfiles() const
     return profiles;
 }
 
+QList<qint64> HistoryWindow::storedKeys() const
+{
+    QList<qint64> keys;
+    const auto opened = StatisticsStore::openForReading(m_storePath);
+    const auto connections = opened.value().list();
+    for (const Connection &stored : connections.value())
+        keys.append(stored.key);
+    return keys;
+}
+
 bool HistoryWindow::runSql(const std::string &sql) const
 {
     return SQLite::Database(m_storePath, SQLite::OPEN_READWRITE).tryExec(sql) == SQLite::OK;

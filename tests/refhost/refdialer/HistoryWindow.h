@@ -34,6 +34,7 @@ public:
     /// Adds the connections to the store.
     bool store(const std::vector<refhost::Connection> &connections) const;
     QStringList storedProfiles() const;
+    QList<qint64> storedKeys() const;
     /// Runs SQL on the store, as another program would.
     bool runSql(const std::string &sql) const;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HistorySort.h"
-#include "RowSelection.h"
+#include "ShownConnections.h"
+#include "TableViewState.h"
 #include "TrueValues.h"
 
 #include <QTableWidget>
@@ -33,6 +34,8 @@ private slots:
     void leavesTheTablesOwnSortingOff();
     void sortsRowsWithMissingCells();
     void readsWhatTheStoreHas();
+    void keepsEqualRowsInOneOrder();
+    void saysWhatTheRowsShow();
 
     void restoresTheSelectionAfterANewLoad();
     void selectsNothingThatIsGone();
@@ -41,6 +44,7 @@ private:
     void addRow(const Connection &connection, const QStringList &texts);
     void sort(HistoryColumn column, Qt::SortOrder direction,
               const std::vector<Connection> &stored = {});
+    refhost::ShownConnections load(const std::vector<Connection> &connections);
     QString profiles() const;
     QString selectedProfiles() const;
 
@@ -288,32 +292,85 @@ void TestHistorySort::readsWhatTheStoreHas()
     QCOMPARE(TrueValues::readFrom(missing).take(row).uploadedBytes, std::int64_t(1572864));
 }
 
+void TestHistorySort::keepsEqualRowsInOneOrder()
+{
+    Connection first = connection("first", firstDay, 60, 1024);
+    first.key = 7;
+    Connection second = connection("second", firstDay, 60, 1024);
+    second.key = 8;
+    const QStringList texts{"00:01:00", "1.00 KB", "0.00 KB"};
+    addRow(first, texts);
+    addRow(second, texts);
+    sort(HistoryColumn::Uploaded, Qt::AscendingOrder, {first, second});
+    QCOMPARE(profiles(), QString("second first"));
+    m_table->setRowCount(0);
+    addRow(second, texts);
+    addRow(first, texts);
+    sort(HistoryColumn::Uploaded, Qt::AscendingOrder, {first, second});
+    QCOMPARE(profiles(), QString("second first"));
+}
+
+void TestHistorySort::saysWhatTheRowsShow()
+{
+    Connection stored = connection("stored", firstDay, 60, 1536 * 1024 + 2);
+    stored.key = 7;
+    Connection changed = connection("changed", firstDay, 60, 1024);
+    changed.key = 8;
+    addRow(changed, {"00:01:00", "1.50 MB", "0.00 KB"});
+    addRow(stored, {"00:01:00", "1.50 MB", "0.00 KB"});
+    const auto rows = refhost::sortRows(*m_table, {HistoryColumn::Profile, Qt::DescendingOrder},
+                                        TrueValues({changed, stored}));
+    QCOMPARE(rows.size(), std::size_t(2));
+    QCOMPARE(rows.at(0).key, std::int64_t(7));
+    QCOMPARE(rows.at(0).uploadedBytes, std::int64_t(1536 * 1024 + 2));
+    // A row that does not show what the store has now shows another connection.
+    QCOMPARE(rows.at(1).key, std::int64_t(0));
+    QCOMPARE(rows.at(1).uploadedBytes, std::int64_t(1536 * 1024));
+}
+
+/// Fills the table anew and returns what its rows show.
+refhost::ShownConnections TestHistorySort::load(const std::vector<Connection> &connections)
+{
+    m_table->setRowCount(0);
+    for (const Connection &made : connections)
+        addRow(made, {"00:01:00", "0.00 KB", "0.00 KB"});
+    return refhost::ShownConnections(connections);
+}
+
 void TestHistorySort::restoresTheSelectionAfterANewLoad()
 {
-    const QStringList texts{"00:01:00", "1.00 MB", "2.00 KB"};
-    for (const char *const profile : {"a", "b", "c", "b"})
-        addRow(connection(profile, firstDay, 60), texts);
-    m_table->selectRow(1);
+    std::vector<Connection> connections;
+    for (const char *const profile : {"a", "b", "c", "b"}) {
+        connections.push_back(connection(profile, firstDay, 60));
+        connections.back().key = std::int64_t(connections.size());
+    }
+    const refhost::ShownConnections before = load(connections);
+    m_table->setCurrentCell(3, 2);
+    m_table->selectRow(3);
     m_table->selectionModel()->select(m_table->model()->index(2, 0),
                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    const refhost::RowSelection selection(*m_table);
-    m_table->setRowCount(0);
-    for (const char *const profile : {"d", "c", "a", "b", "b"})
-        addRow(connection(profile, firstDay, 60), texts);
+    const refhost::TableViewState state(*m_table, before);
+    const Connection added = connection("d", firstDay, 60);
+    const refhost::ShownConnections after =
+        load({added, connections[2], connections[3], connections[0], connections[1]});
     m_table->selectAll();
-    selection.restore();
-    // Of the two that show the same, one was selected.
-    QCOMPARE(selectedProfiles(), QString("b c"));
-    QCOMPARE(m_table->currentItem()->text(), QString("b"));
+    state.restore(*m_table, after);
+    QCOMPARE(m_table->selectionModel()->selectedRows().size(), 2);
+    // Of the two that show the same it is the one that was selected.
+    QVERIFY(m_table->item(1, 0)->isSelected());
+    QVERIFY(m_table->item(2, 0)->isSelected());
+    QCOMPARE(m_table->currentRow(), 2);
 }
 
 void TestHistorySort::selectsNothingThatIsGone()
 {
-    addRow(connection("a", firstDay, 60), {"00:01:00", "1.00 MB", "2.00 KB"});
+    Connection gone = connection("a", firstDay, 60);
+    gone.key = 1;
+    const refhost::ShownConnections before = load({gone});
     m_table->selectRow(0);
-    const refhost::RowSelection selection(*m_table);
-    m_table->item(0, 4)->setText("1.01 MB");
-    selection.restore();
+    const refhost::TableViewState state(*m_table, before);
+    gone.key = 2;
+    state.restore(*m_table, load({gone}));
     QCOMPARE(selectedProfiles(), QString());
     QCOMPARE(m_table->currentRow(), -1);
 }
