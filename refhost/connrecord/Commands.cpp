@@ -40,11 +40,10 @@ Connection connectionFrom(const AddRequest &request)
     connection.profile = optionText("--profile", request.profile);
     connection.interfaceName = optionText("--interface", request.interfaceName);
     connection.startUtc = optionValue("--start", request.start, fieldTime);
-    connection.endUtc = optionValue("--end", request.end, fieldTime);
-    if (connection.endUtc < connection.startUtc)
-        throw Failure(ExitCode::Refused, "The end, " + utcText(connection.endUtc).toStdString() +
-                                             ", is before the start, " +
-                                             utcText(connection.startUtc).toStdString() + ".");
+    connection.endUtc =
+        optionValue("--end", request.end, [start = connection.startUtc](const std::string &text) {
+            return fieldEnd(text, start);
+        });
     connection.connectedSeconds =
         request.connectedSeconds
             ? optionNumber("--connected", *request.connectedSeconds, largestDuration)

@@ -5,8 +5,6 @@
 #include "TextTable.h"
 #include "Utf8Text.h"
 
-#include <QLocale>
-
 namespace refhost
 {
 
@@ -37,7 +35,15 @@ QString nameText(const std::string &name)
 
 QString volumeText(std::int64_t bytes)
 {
-    return QLocale::c().formattedDataSize(bytes);
+    constexpr double kilobyte = 1024;
+    constexpr double megabyte = kilobyte * kilobyte;
+    constexpr double gigabyte = megabyte * kilobyte;
+    const auto size = static_cast<double>(bytes);
+    if (size < megabyte)
+        return QString::asprintf("%.2f KB", size / kilobyte);
+    if (size < gigabyte)
+        return QString::asprintf("%.2f MB", size / megabyte);
+    return QString::asprintf("%.2f GB", size / gigabyte);
 }
 
 QByteArray toTable(const std::vector<Connection> &connections)

@@ -75,16 +75,17 @@ public:
 
     Connection connection() const;
     void checkHeader() const;
+    void checkColumnCount() const;
 
 private:
     [[noreturn]] void fail(std::size_t column, const std::string &reason) const;
-    void checkColumnCount() const;
     void checkBytes(std::size_t column) const;
     const std::string &shortText(Column column) const;
     template <typename Read>
     std::int64_t value(Column column, Read read) const;
     std::int64_t number(Column column, std::int64_t largest) const;
     std::int64_t time(Column column) const;
+    std::int64_t endTime(std::int64_t startUtc) const;
 
     const CsvRow &m_row;
 };
@@ -97,7 +98,7 @@ Connection RowReader::connection() const
     Connection connection;
     connection.profile = m_row[Profile].text;
     connection.startUtc = time(Start);
-    connection.endUtc = time(End);
+    connection.endUtc = endTime(connection.startUtc);
     connection.connectedSeconds = number(ConnectedSeconds, largestDuration);
     connection.uploadedBytes = number(UploadedBytes, largestByteCount);
     connection.downloadedBytes = number(DownloadedBytes, largestByteCount);
@@ -166,6 +167,25 @@ std::int64_t RowReader::time(Column column) const
     return value(column, fieldTime);
 }
 
+std::int64_t RowReader::endTime(std::int64_t startUtc) const
+{
+    return value(End, [startUtc](const std::string &text) { return fieldEnd(text, startUtc); });
+}
+
+bool isBlank(const CsvRow &row)
+{
+    return row.size() == 1 && row.front().text.empty();
+}
+
+/// Blank lines are nothing at the end of a file, and wrong before it.
+void checkIsBlankEnd(CsvReader &reader, const CsvRow &firstBlank)
+{
+    while (const auto row = reader.next()) {
+        if (!isBlank(*row))
+            RowReader(firstBlank).checkColumnCount();
+    }
+}
+
 } // namespace
 
 std::string csvColumnName(std::size_t column)
@@ -183,13 +203,17 @@ QByteArray toCsv(const std::vector<Connection> &connections)
 
 std::vector<Connection> connectionsFromCsv(LineReader &lines, const ReadProgress &progress)
 {
-    CsvReader reader(lines);
+    CsvReader reader(lines, ColumnCount);
     const auto firstRow = reader.next();
     if (!firstRow)
         throw CsvError{1, 0, "the file is empty, the first line has to be the header " + header()};
     RowReader(*firstRow).checkHeader();
     std::vector<Connection> connections;
     while (const auto row = reader.next()) {
+        if (isBlank(*row)) {
+            checkIsBlankEnd(reader, *row);
+            break;
+        }
         connections.push_back(RowReader(*row).connection());
         progress(lines.bytesRead());
     }

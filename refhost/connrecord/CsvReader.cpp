@@ -14,8 +14,9 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 } // namespace
 
-CsvReader::CsvReader(LineReader &lines)
+CsvReader::CsvReader(LineReader &lines, std::size_t mostColumns)
     : m_lines(lines)
+    , m_mostColumns(mostColumns)
 {
 }
 
@@ -27,6 +28,7 @@ std::optional<CsvRow> CsvReader::next()
     takeField(row);
     while (!isAtRowEnd()) {
         m_rest.remove_prefix(1); // the comma
+        checkColumns(row);
         takeField(row);
     }
     return row;
@@ -34,12 +36,36 @@ std::optional<CsvRow> CsvReader::next()
 
 bool CsvReader::startLine()
 {
-    if (!m_lines.next())
+    if (!nextLine())
         return false;
-    m_rest = m_lines.line();
     if (m_lines.lineNumber() == 1 && startsWith(m_rest, byteOrderMark))
         m_rest.remove_prefix(byteOrderMark.size());
     return true;
+}
+
+bool CsvReader::nextLine()
+{
+    if (!m_lines.next())
+        return false;
+    m_rest = m_lines.line();
+    if (m_rest.size() > longestCsvLine)
+        throw CsvError{m_lines.lineNumber(), 0,
+                       "the line has more than " + std::to_string(longestCsvLine) + " bytes"};
+    return true;
+}
+
+void CsvReader::checkColumns(const CsvRow &row) const
+{
+    if (row.size() == m_mostColumns)
+        throw CsvError{m_lines.lineNumber(), row.size(),
+                       "the line has more than " + std::to_string(m_mostColumns) + " columns"};
+}
+
+void CsvReader::checkText(const CsvRow &row, std::int64_t firstLine, const std::string &text) const
+{
+    if (text.size() > largestCsvText)
+        throw CsvError{firstLine, row.size(),
+                       "the text has more than " + std::to_string(largestCsvText) + " bytes"};
 }
 
 bool CsvReader::isAtRowEnd() const
@@ -52,6 +78,7 @@ void CsvReader::takeField(CsvRow &row)
     const std::int64_t line = m_lines.lineNumber();
     const bool isQuoted = !m_rest.empty() && m_rest.front() == '"';
     std::string text = isQuoted ? quotedText(row) : plainText(row);
+    checkText(row, line, text);
     row.push_back({std::move(text), line});
 }
 
@@ -96,9 +123,9 @@ std::string CsvReader::quotedText(const CsvRow &row)
 
 void CsvReader::takeLineBreak(const CsvRow &row, std::int64_t firstLine, std::string &text)
 {
-    if (!m_lines.next())
+    checkText(row, firstLine, text);
+    if (!nextLine())
         throw CsvError{firstLine, row.size(), "the quotation mark is never closed"};
-    m_rest = m_lines.line();
     text += '\n';
 }
 

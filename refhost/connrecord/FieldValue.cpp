@@ -43,6 +43,15 @@ std::int64_t fieldTime(const std::string &text)
     return *utc;
 }
 
+std::int64_t fieldEnd(const std::string &text, std::int64_t startUtc)
+{
+    const std::int64_t utc = fieldTime(text);
+    if (utc < startUtc)
+        throw FieldError{
+            quotedText(text) + " is before the start, " + utcText(startUtc).toStdString(), false};
+    return utc;
+}
+
 QDate fieldDay(const std::string &text)
 {
     const QString day = fromUtf8(text);

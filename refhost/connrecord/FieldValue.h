@@ -22,6 +22,9 @@ std::int64_t fieldNumber(const std::string &text, std::int64_t largest);
 /// An ISO 8601 time that the store can keep; local time unless it has a zone.
 std::int64_t fieldTime(const std::string &text);
 
+/// Such a time, which is not before that of the start.
+std::int64_t fieldEnd(const std::string &text, std::int64_t startUtc);
+
 /// A day of the calendar as yyyy-MM-dd.
 QDate fieldDay(const std::string &text);
 

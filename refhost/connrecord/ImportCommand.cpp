@@ -49,7 +49,7 @@ void checkReadToTheEnd(const LineReader &lines, InputFile &file)
 
 Contents readCsv(InputFile &file, const ReadProgress &progress)
 {
-    LineReader lines(file.device());
+    LineReader lines(file.device(), longestCsvLine + 1);
     try {
         Contents contents;
         contents.connections = connectionsFromCsv(lines, progress);

@@ -20,7 +20,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     QByteArray contents(reinterpret_cast<const char *>(data), static_cast<int>(size));
     QBuffer device(&contents);
     device.open(QIODevice::ReadOnly);
-    LineReader lines(device);
+    LineReader lines(device, longestCsvLine + 1);
     try {
         fuzz::requireLossless(connectionsFromCsv(lines, [](std::int64_t) {}));
     } catch (const CsvError &error) {

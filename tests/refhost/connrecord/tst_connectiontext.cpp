@@ -20,6 +20,8 @@ private slots:
     void alignsTheColumns();
     void keepsEachConnectionOnOneLine();
     void alignsWideCharacters();
+    void showsVolumesAsTheHistoryWindowDoes_data();
+    void showsVolumesAsTheHistoryWindowDoes();
     void writesExactIntegers_data();
     void writesExactIntegers();
     void writesEveryFieldAsJson();
@@ -61,12 +63,12 @@ void ConnectionTextTest::alignsTheColumns()
     other.interfaceName = "";
     QCOMPARE(
         toTable({other, sample()}),
-        QByteArray("KEY  PROFILE           START                END                  CONNECTED   "
+        QByteArray("KEY  PROFILE           START                END                  CONNECTED  "
                    "UPLOADED  DOWNLOADED  ENDING  INTERFACE\n"
                    "  3  a                 2024-05-31 20:30:00  2024-05-31 21:30:00  100:00:00   "
-                   "5.00 GiB   512 bytes  normal\n"
+                   "5.00 GB     0.50 KB  normal\n"
                    " 12  internet.example  2024-05-31 20:30:00  2024-05-31 21:30:00   00:59:50  "
-                   "31.23 KiB   512 bytes  normal  ppp0\n"));
+                   "31.23 KB     0.50 KB  normal  ppp0\n"));
 }
 
 void ConnectionTextTest::keepsEachConnectionOnOneLine()
@@ -88,6 +90,28 @@ void ConnectionTextTest::alignsWideCharacters()
     const QList<QByteArray> lines = toTable({wide, narrow}).split('\n');
     QVERIFY(lines[1].contains("\xE7\xB6\xB2\xE8\xB7\xAF     2024"));
     QVERIFY(lines[2].contains("abcd     2024"));
+}
+
+void ConnectionTextTest::showsVolumesAsTheHistoryWindowDoes_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("nothing") << qint64(0) << "0.00 KB";
+    QTest::newRow("one byte") << qint64(1) << "0.00 KB";
+    QTest::newRow("half a kilobyte") << qint64(512) << "0.50 KB";
+    QTest::newRow("a byte below a megabyte") << qint64(1048575) << "1024.00 KB";
+    QTest::newRow("a megabyte") << qint64(1048576) << "1.00 MB";
+    QTest::newRow("a byte below a gigabyte") << qint64(1073741823) << "1024.00 MB";
+    QTest::newRow("a gigabyte") << qint64(1073741824) << "1.00 GB";
+    QTest::newRow("a terabyte and a half") << qint64(1649267441664) << "1536.00 GB";
+    QTest::newRow("the largest") << std::numeric_limits<qint64>::max() << "8589934592.00 GB";
+}
+
+void ConnectionTextTest::showsVolumesAsTheHistoryWindowDoes()
+{
+    QFETCH(qint64, bytes);
+    QTEST(volumeText(bytes), "text");
 }
 
 void ConnectionTextTest::writesExactIntegers_data()

@@ -150,7 +150,7 @@ void ConnrecordTest::addsAndListsAConnection()
                                  {"interface", "ppp0"}}));
     const QByteArray row = run({"list"}).output.split('\n').at(1);
     QCOMPARE(row, QByteArray("  1  internet.example  2024-05-31 20:30:00  2024-05-31 21:30:00   "
-                             "00:59:50  31.23 KiB   20.24 KiB  normal  ppp0"));
+                             "00:59:50  31.23 KB    20.24 KB  normal  ppp0"));
 }
 
 void ConnrecordTest::takesTheEndMinusTheStartAsTimeConnected()

@@ -7,6 +7,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <pty.h>
+#include <termios.h>
+#include <unistd.h>
+
 #include <limits>
 
 using namespace refhost;
@@ -23,6 +27,10 @@ private slots:
     void addsOnlyWhatIsMissing();
     void readsStandardInput();
     void tellsTheWrongLineAndStoresNothing();
+    void storesNothingOfAFileThatCannotBeReadToItsEnd_data();
+    void storesNothingOfAFileThatCannotBeReadToItsEnd();
+    void takesABlankLastLine();
+    void refusesWhatWouldFillTheMemory();
     void tellsAFileThatCannotBeRead_data();
     void tellsAFileThatCannotBeRead();
     void showsTheProgressOfALongImportOnATerminal();
@@ -135,6 +143,53 @@ void ConnrecordCsvTest::tellsTheWrongLineAndStoresNothing()
     QCOMPARE(result.error, "connrecord: \"" + path.toUtf8() +
                                "\", line 4, column uploaded_bytes: \"-2\" is negative. "
                                "Nothing was imported.\n");
+    QCOMPARE(exported(m_store), csvOf(0));
+}
+
+void ConnrecordCsvTest::storesNothingOfAFileThatCannotBeReadToItsEnd_data()
+{
+    QTest::addColumn<QByteArray>("readable");
+
+    QTest::newRow("it fails between two lines") << csvOf(3);
+    QTest::newRow("it fails within a line") << csvOf(3) + "internet.example,2024-05-31T1";
+    QTest::newRow("it fails within quotation marks") << csvOf(3) + "\"internet.";
+}
+
+void ConnrecordCsvTest::storesNothingOfAFileThatCannotBeReadToItsEnd()
+{
+    QFETCH(QByteArray, readable);
+    // Behind what was written at its other end, a terminal whose other end is closed
+    // cannot be read.
+    int failing = -1;
+    int otherEnd = -1;
+    QCOMPARE(openpty(&failing, &otherEnd, nullptr, nullptr, nullptr), 0);
+    termios raw = {};
+    cfmakeraw(&raw);
+    QCOMPARE(tcsetattr(otherEnd, TCSANOW, &raw), 0);
+    QCOMPARE(::write(otherEnd, readable.constData(), static_cast<std::size_t>(readable.size())),
+             static_cast<ssize_t>(readable.size()));
+    QCOMPARE(::close(otherEnd), 0);
+    const ConnrecordRun result = runProgram(
+        "sh", {"-c", "\"$0\" --store \"$1\" import --format csv - <&" + QString::number(failing),
+               connrecordProgram(), m_store});
+    QCOMPARE(::close(failing), 0);
+    QCOMPARE(result.exitCode, 4);
+    QCOMPARE(result.output, QByteArray());
+    QVERIFY2(result.error.contains("standard input cannot be read to its end"), result.error);
+    QCOMPARE(exported(m_store), csvOf(0));
+}
+
+void ConnrecordCsvTest::takesABlankLastLine()
+{
+    QVERIFY(import(csvOf(2) + "\r\n").output.contains("Added: 2"));
+}
+
+void ConnrecordCsvTest::refusesWhatWouldFillTheMemory()
+{
+    const ConnrecordRun result = import(csvOf(2) + QByteArray(20 * 1000 * 1000, ','));
+    QCOMPARE(result.exitCode, 4);
+    QVERIFY2(result.error.contains("line 4") && result.error.contains("4194304 bytes"),
+             result.error);
     QCOMPARE(exported(m_store), csvOf(0));
 }
 

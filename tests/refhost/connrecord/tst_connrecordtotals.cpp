@@ -111,10 +111,10 @@ void ConnrecordTotalsTest::showsATable()
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.output,
              QByteArray("PROFILE   MONTH    CONNECTIONS  CONNECTED  UPLOADED  DOWNLOADED\n"
-                        "\"\"        2024-06            1   00:01:00   8 bytes    80 bytes\n"
-                        "Internet  2024-05            1   27:46:40   2 bytes    20 bytes\n"
-                        "internet  2024-05            1   00:01:00   1 bytes    10 bytes\n"
-                        "internet  2024-06            1   00:01:00   4 bytes    40 bytes\n"));
+                        "\"\"        2024-06            1   00:01:00   0.01 KB     0.08 KB\n"
+                        "Internet  2024-05            1   27:46:40   0.00 KB     0.02 KB\n"
+                        "internet  2024-05            1   00:01:00   0.00 KB     0.01 KB\n"
+                        "internet  2024-06            1   00:01:00   0.00 KB     0.04 KB\n"));
 }
 
 void ConnrecordTotalsTest::addsUpByWhatIsAsked_data()
@@ -179,7 +179,7 @@ void ConnrecordTotalsTest::tellsTheSumOfNothing_data()
 
     QTest::newRow("in all") << QStringList()
                             << QByteArray("CONNECTIONS  CONNECTED  UPLOADED  DOWNLOADED\n"
-                                          "          0   00:00:00   0 bytes     0 bytes\n");
+                                          "          0   00:00:00   0.00 KB     0.00 KB\n");
     QTest::newRow("by profile") << QStringList{"--by", "profile"}
                                 << QByteArray("PROFILE  CONNECTIONS  CONNECTED  UPLOADED  "
                                               "DOWNLOADED\n");

@@ -19,6 +19,8 @@ private slots:
     void readsBackWhatItHasWritten_data();
     void readsBackWhatItHasWritten();
     void readsTimesInOtherZones();
+    void passesOverBlankLinesAtTheEnd_data();
+    void passesOverBlankLinesAtTheEnd();
     void tellsWhatIsWrongWithALine_data();
     void tellsWhatIsWrongWithALine();
     void tellsAWrongHeader_data();
@@ -49,7 +51,7 @@ std::vector<Connection> readBack(QByteArray csv)
 {
     QBuffer buffer(&csv);
     buffer.open(QIODevice::ReadOnly);
-    LineReader lines(buffer);
+    LineReader lines(buffer, longestCsvLine + 1);
     return connectionsFromCsv(lines, [](std::int64_t) {});
 }
 
@@ -95,6 +97,7 @@ void CsvFormatTest::readsBackWhatItHasWritten_data()
     QTest::newRow("control characters") << QByteArray("\x01\x1b[0m\x7f") << qint64(1);
     QTest::newRow("spaces around") << QByteArray("  a  ") << qint64(1);
     QTest::newRow("a name of a megabyte") << QByteArray(1 << 20, 'x') << qint64(1);
+    QTest::newRow("a megabyte of quotation marks") << QByteArray(1 << 20, '"') << qint64(1);
 }
 
 void CsvFormatTest::readsBackWhatItHasWritten()
@@ -133,6 +136,26 @@ void CsvFormatTest::readsTimesInOtherZones()
     QCOMPARE(read.at(0).endUtc, std::int64_t(1717183800));
 }
 
+void CsvFormatTest::passesOverBlankLinesAtTheEnd_data()
+{
+    QTest::addColumn<QByteArray>("end");
+
+    QTest::newRow("one") << QByteArray("\n");
+    QTest::newRow("one with a carriage return") << QByteArray("\r\n");
+    QTest::newRow("a carriage return alone") << QByteArray("\r");
+    QTest::newRow("several") << QByteArray("\n\r\n\n");
+}
+
+void CsvFormatTest::passesOverBlankLinesAtTheEnd()
+{
+    QFETCH(QByteArray, end);
+    QCOMPARE(readBack(toCsv({sample()}) + end).size(), std::size_t(1));
+    QCOMPARE(readBack(header + end).size(), std::size_t(0));
+    const QString error =
+        errorOf(toCsv({sample()}) + "\n\n" + toCsv({sample()}).mid(header.size()));
+    QCOMPARE(error, QString("3 start: the line has 1 columns and should have 8"));
+}
+
 void CsvFormatTest::tellsWhatIsWrongWithALine_data()
 {
     QTest::addColumn<QByteArray>("line");
@@ -142,7 +165,7 @@ void CsvFormatTest::tellsWhatIsWrongWithALine_data()
     QTest::newRow("a column too few") << start + "1,2,3,normal"
                                       << "3 interface: the line has 7 columns and should have 8";
     QTest::newRow("a column too many") << start + "1,2,3,normal,ppp0,more"
-                                       << "3 9: the line has 9 columns and should have 8";
+                                       << "3 9: the line has more than 8 columns";
     QTest::newRow("an empty line")
         << QByteArray() << "3 start: the line has 1 columns and should have 8";
     QTest::newRow("a number with letters") << start + "1,2a,3,normal,"
@@ -165,6 +188,9 @@ void CsvFormatTest::tellsWhatIsWrongWithALine_data()
         << QByteArray("x,1969-12-31T23:59:59Z,2024-05-31T19:30:00Z,1,2,3,normal,")
         << "3 start: \"1969-12-31T23:59:59Z\" is not between 1970-01-01T00:00:00Z and "
            "2106-02-07T06:28:15Z";
+    QTest::newRow("an end before the start")
+        << QByteArray("x,2024-05-31T18:30:00Z,2024-05-31T18:29:59Z,1,2,3,normal,")
+        << "3 end: \"2024-05-31T18:29:59Z\" is before the start, 2024-05-31T18:30:00Z";
     QTest::newRow("a time after 31 bits")
         << QByteArray("x,2024-05-31T18:30:00Z,2106-02-07T06:28:16Z,1,2,3,normal,")
         << "3 end: \"2106-02-07T06:28:16Z\" is not between 1970-01-01T00:00:00Z and "

@@ -28,8 +28,8 @@ QList<CsvRow> rowsOf(QByteArray contents)
 {
     QBuffer buffer(&contents);
     buffer.open(QIODevice::ReadOnly);
-    LineReader lines(buffer);
-    CsvReader reader(lines);
+    LineReader lines(buffer, longestCsvLine + 1);
+    CsvReader reader(lines, 3);
     QList<CsvRow> rows;
     while (auto row = reader.next())
         rows << *row;
@@ -109,6 +109,19 @@ void CsvReaderTest::tellsWhereTheQuotingIsWrong_data()
         << QByteArray("a,\"") << qint64(1) << 1 << "never closed";
     QTest::newRow("a carriage return within a plain text")
         << QByteArray("a\rb,c\n") << qint64(1) << 0 << "carriage return";
+    QTest::newRow("a column too many")
+        << QByteArray("a\nb,c,d,\n") << qint64(2) << 3 << "3 columns";
+    QTest::newRow("twenty million commas")
+        << "a\n" + QByteArray(20 * 1000 * 1000, ',') << qint64(2) << 0 << "4194304 bytes";
+    QTest::newRow("four million commas")
+        << "a\n" + QByteArray(4 * 1000 * 1000, ',') << qint64(2) << 3 << "3 columns";
+    QTest::newRow("too long a plain text")
+        << "a\nb," + QByteArray(1048577, 'x') << qint64(2) << 1 << "1048576 bytes";
+    QTest::newRow("too long a quoted text")
+        << "a\n\"" + QByteArray(1048577, 'x') + '"' << qint64(2) << 0 << "1048576 bytes";
+    QTest::newRow("too long a text of many lines")
+        << "a\nb,\"" + QByteArray("line\n").repeated(10 * 1000 * 1000) << qint64(2) << 1
+        << "1048576 bytes";
     QTest::newRow("two carriage returns at the end of a line")
         << QByteArray("a,b\r\r\n") << qint64(1) << 1 << "carriage return";
 }

@@ -51,8 +51,8 @@ void addGroupRows()
 void TotalsTextTest::hasAColumnForWhatIsToldApart_data()
 {
     addGroupRows();
-    const QByteArray header = "CONNECTIONS  CONNECTED   UPLOADED  DOWNLOADED\n";
-    const QByteArray figures = "         12  100:00:05  31.23 KiB    5.00 GiB\n";
+    const QByteArray header = "CONNECTIONS  CONNECTED  UPLOADED  DOWNLOADED\n";
+    const QByteArray figures = "         12  100:00:05  31.23 KB     5.00 GB\n";
     QTest::newRow("nothing") << false << false << header + figures;
     QTest::newRow("profiles") << true << false << "PROFILE   " + header + "internet  " + figures;
     QTest::newRow("months") << false << true << "MONTH    " + header + "2024-05  " + figures;
