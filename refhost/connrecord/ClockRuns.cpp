@@ -60,9 +60,4 @@ void ClockRuns::reverse()
     std::swap(m_stepsForward, m_stepsBack);
 }
 
-void ClockRuns::append(const std::vector<ClockRun> &later)
-{
-    m_runs.insert(m_runs.end(), later.begin(), later.end());
-}
-
 } // namespace refhost

@@ -31,12 +31,10 @@ public:
     std::size_t add(const CalendarTime &time);
 
     const std::vector<ClockRun> &runs() const { return m_runs; }
-    /// Whether the clock goes backwards, as where the newest line is the first.
-    bool isNewestFirst() const { return m_stepsBack > m_stepsForward; }
+    /// Whether the clock mostly goes backwards, as where the newest line is the first.
+    bool goesBackwards() const { return m_stepsBack > m_stepsForward; }
     /// Brings a log whose newest line is the first into the order of time.
     void reverse();
-    /// The runs of a later log behind these.
-    void append(const std::vector<ClockRun> &later);
 
 private:
     std::vector<ClockRun> m_runs;

@@ -221,7 +221,8 @@ void CommandLine::addImport()
     command->add_option("--year", m_import.year, "Year of the last line of a log without years")
         ->type_name("YYYY")
         ->check(CLI::Range(1970, 2105).description(""));
-    command->add_option("FILE", m_import.path, "The file; - is standard input")
+    command
+        ->add_option("FILE", m_import.paths, "The file, - is standard input; logs may be several")
         ->type_name("")
         ->check(checkFileName)
         ->required();

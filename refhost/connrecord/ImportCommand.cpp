@@ -5,16 +5,15 @@
 #include "CsvFormat.h"
 #include "CsvReader.h"
 #include "InputFile.h"
+#include "JoinedLog.h"
 #include "JsonText.h"
 #include "LineReader.h"
 #include "LogCompletion.h"
 #include "Output.h"
 #include "PppdConnections.h"
-#include "PppdLog.h"
 #include "ProgressLine.h"
 #include "Store.h"
 #include "Utf8Text.h"
-#include "YearResolver.h"
 
 #include <unistd.h>
 
@@ -36,6 +35,7 @@ struct Contents {
     std::vector<Connection> connections;
     std::vector<ProfileSource> profileSources; ///< of each connection; of a log alone
     std::vector<Unusable> unusable;
+    std::vector<std::string> fileNames; ///< of logs, for messages
     std::string doubt; ///< a sentence about what a log leaves open; empty without any
 };
 
@@ -63,61 +63,84 @@ Contents readCsv(InputFile &file, const ReadProgress &progress)
     }
 }
 
-void checkIsOfPppd(const PppdLog &log, const InputFile &file)
+void checkIsOfPppd(const JoinedLog &log, const std::string &name)
 {
     const bool isOfPppd =
         std::any_of(log.events.begin(), log.events.end(),
                     [](const PppdEvent &event) { return isOfConnection(event.message); });
     if (!isOfPppd)
-        throw Failure(ExitCode::Input, file.name() +
-                                           " holds no line in which pppd tells of a connection; "
-                                           "give a system log of a machine that dials with it.");
+        throw Failure(ExitCode::Input, name + " holds no line in which pppd tells of a connection; "
+                                              "give a system log of a machine that dials with it.");
 }
 
-void checkYear(const YearResolver &years, std::optional<int> given, const InputFile &file)
+void checkYear(const JoinedLog &log, std::optional<int> given, const std::string &name)
 {
-    if (!given || years.lastYear() == 0)
+    if (!given || log.lastYear == 0)
         return;
     const std::string text = "For --year, " + std::to_string(*given);
-    if (years.lastYear() != *given)
-        throw Failure(ExitCode::Refused, text + " is wrong: the last line of " + file.name() +
-                                             " shows " + std::to_string(years.lastYear()) + ".");
-    if (years.hasImpossibleDay())
-        throw Failure(ExitCode::Refused, text + " cannot be: " + file.name() +
+    if (log.lastYear != *given)
+        throw Failure(ExitCode::Refused, text + " is wrong: the last line of " + name + " shows " +
+                                             std::to_string(log.lastYear) + ".");
+    if (log.hasImpossibleDay)
+        throw Failure(ExitCode::Refused, text + " cannot be: " + name +
                                              " has a 29 February in a year that has none then.");
 }
 
 /// The sentence about what the log does not tell; empty if it does.
-std::string yearDoubt(const YearResolver &years, const InputFile &file)
+std::string yearDoubt(const JoinedLog &log, const std::string &name)
 {
-    if (!years.isGuess())
+    if (!log.isYearGuess)
         return {};
-    return file.name() + " does not show its years; its last line was taken to be of " +
-           std::to_string(years.lastYear()) +
+    return name + " does not show its years; its last line was taken to be of " +
+           std::to_string(log.lastYear) +
            ". If that is wrong, remove what was added and give the year with --year.";
 }
 
-Contents readPppd(InputFile &file, const ImportRequest &request, const ReadProgress &progress)
+/// Reads one file by `reader`, which is also given a function to tell its progress.
+template <typename Reader>
+auto readFile(const std::string &path, QIODevice *terminal, Reader reader)
+{
+    InputFile file(path);
+    ProgressLine line(terminal, "Reading " + file.name(), bytesPerStep, file.size());
+    return reader(file, [&line](std::int64_t bytes) { line.update(bytes); });
+}
+
+LogFile readLog(InputFile &file, const ReadProgress &progress)
 {
     LineReader lines(file.device(), longestLogLine);
-    const PppdLog log = readPppdLog(lines, progress);
+    LogFile log = {readPppdLog(lines, progress), file.modifiedUtc()};
     checkReadToTheEnd(lines, file);
-    checkIsOfPppd(log, file);
-    const YearResolver years(log.clock.runs(), request.year, file.modifiedUtc());
-    checkYear(years, request.year, file);
-    PppdConnections connections(years, request.profile);
+    return log;
+}
+
+Contents readPppd(const ImportRequest &request, QIODevice *terminal)
+{
+    std::vector<LogFile> files;
+    std::vector<std::string> fileNames;
+    std::string name = "The log of these files";
+    for (const std::string &path : request.paths) {
+        files.push_back(readFile(path, terminal, [&](InputFile &file, const auto &progress) {
+            name = request.paths.size() == 1 ? file.name() : name;
+            return readLog(file, progress);
+        }));
+        fileNames.push_back(printable(path));
+    }
+    const JoinedLog log = joinLogs(std::move(files), request.year);
+    checkIsOfPppd(log, name);
+    checkYear(log, request.year, name);
+    PppdConnections connections(request.profile);
     connections.takeAll(log.events);
     return {connections.connections(), connections.profileSources(), connections.unusable(),
-            yearDoubt(years, file)};
+            fileNames, yearDoubt(log, name)};
 }
 
 Contents read(const ImportRequest &request, QIODevice *terminal)
 {
-    InputFile file(request.path);
-    ProgressLine line(terminal, "Reading " + file.name(), bytesPerStep, file.size());
-    const auto progress = [&line](std::int64_t bytes) { line.update(bytes); };
-    return request.format == ImportRequest::Format::Csv ? readCsv(file, progress)
-                                                        : readPppd(file, request, progress);
+    if (request.format == ImportRequest::Format::Pppd)
+        return readPppd(request, terminal);
+    if (request.paths.size() > 1)
+        throw Failure(ExitCode::Usage, "With --format csv, import takes one FILE.");
+    return readFile(request.paths.front(), terminal, readCsv);
 }
 
 StatisticsStore::Merged addLogged(StatisticsStore &store, const Contents &contents,
@@ -153,8 +176,10 @@ std::string reportText(const Contents &contents, const StatisticsStore::Merged &
         text += "Of these, completed: " + std::to_string(merged.completed) + '\n';
     for (const Unusable &unusable : contents.unusable)
         text += "Not used, " + unusable.reason + ": " + std::to_string(unusable.count) +
-                "; first in line " + std::to_string(unusable.firstLine) + ": " +
-                printable(unusable.firstText) + '\n';
+                "; first in line " + std::to_string(unusable.firstLine) +
+                (contents.fileNames.size() > 1 ? " of " + contents.fileNames[unusable.firstFile]
+                                               : std::string()) +
+                ": " + printable(unusable.firstText) + '\n';
     return text;
 }
 
@@ -165,6 +190,7 @@ Json reportJson(const Contents &contents, const StatisticsStore::Merged &merged)
     for (const Unusable &entry : contents.unusable)
         unusable.push_back({{"reason", entry.reason},
                             {"count", entry.count},
+                            {"first_file", contents.fileNames[entry.firstFile]},
                             {"first_line", entry.firstLine},
                             {"first_text", entry.firstText}});
     return {{"read", read},

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace refhost
 {
@@ -13,7 +14,7 @@ struct ImportRequest {
     enum class Format { Csv, Pppd };
 
     Format format = Format::Csv;
-    std::string path;        ///< "-": standard input
+    std::vector<std::string> paths; ///< "-": standard input; several logs are one
     std::string profile;     ///< for connections of a pppd log that shows no APN; may be empty
     std::optional<int> year; ///< of a log's last line, if that one shows none
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "InputFile.h"
 
+#include "CompressedInput.h"
 #include "Failure.h"
 #include "Utf8Text.h"
 
@@ -34,6 +35,9 @@ InputFile::InputFile(const std::string &path)
         openStandardInput();
     else
         open(path);
+    m_decompressed = decompressed(m_file);
+    if (m_decompressed)
+        m_size = 0;
 }
 
 void InputFile::openStandardInput()

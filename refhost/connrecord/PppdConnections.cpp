@@ -35,9 +35,8 @@ bool isStorable(const Connection &connection)
 
 } // namespace
 
-PppdConnections::PppdConnections(const YearResolver &years, std::string fallbackProfile)
-    : m_years(years)
-    , m_fallbackProfile(std::move(fallbackProfile))
+PppdConnections::PppdConnections(std::string fallbackProfile)
+    : m_fallbackProfile(std::move(fallbackProfile))
 {
 }
 
@@ -51,13 +50,13 @@ void PppdConnections::takeAll(const std::vector<PppdEvent> &events)
     }
     std::sort(m_unusable.begin(), m_unusable.end(),
               [](const Unusable &left, const Unusable &right) {
-                  return left.firstLine < right.firstLine;
+                  return left.firstPlace < right.firstPlace;
               });
 }
 
 void PppdConnections::take(const PppdEvent &event)
 {
-    if (isOfConnection(event.message) && !event.time)
+    if (isOfConnection(event.message) && !event.utc)
         count(unreadableTime, event);
     Host &host = m_hosts[event.host];
     Dial &dial = host.dials[event.pid];
@@ -67,7 +66,7 @@ void PppdConnections::take(const PppdEvent &event)
         host.apns.connects(event.pid);
         break;
     case Kind::LocalAddress:
-        if (!dial.localAddress && event.time)
+        if (!dial.localAddress && event.utc)
             dial.localAddress = &event;
         break;
     case Kind::ConnectTime:
@@ -137,7 +136,7 @@ void PppdConnections::finish(Dial &dial, const PppdEvent &byteCounts, const std:
     std::optional<std::size_t> stored;
     if (!dial.connectTime)
         count(noConnectTime, byteCounts);
-    else if (dial.connectTime->time)
+    else if (dial.connectTime->utc)
         stored = store(dial, byteCounts, apn);
     const bool isEndingKnown = dial.ending;
     dial = {};
@@ -166,7 +165,7 @@ std::optional<std::size_t> PppdConnections::store(const Dial &dial, const PppdEv
 {
     const PppdEvent &end = *dial.connectTime;
     Connection connection;
-    connection.endUtc = m_years.utc(*end.time, end.run);
+    connection.endUtc = *end.utc;
     connection.connectedSeconds = end.message.seconds;
     connection.startUtc = startOf(dial, connection);
     connection.uploadedBytes = byteCounts.message.sent;
@@ -188,10 +187,10 @@ std::optional<std::size_t> PppdConnections::store(const Dial &dial, const PppdEv
 std::int64_t PppdConnections::startOf(const Dial &dial, const Connection &connection) const
 {
     for (const PppdEvent *const event : {dial.localAddress, dial.connect}) {
-        if (!event || !event->time)
+        if (!event || !event->utc)
             continue;
         // A start after the end, or far away, comes from a clock that was set meanwhile.
-        const std::int64_t start = m_years.utc(*event->time, event->run);
+        const std::int64_t start = *event->utc;
         if (start <= connection.endUtc && isPlausibleStart(start, connection))
             return start;
     }
@@ -215,10 +214,13 @@ void PppdConnections::count(const char *reason, const PppdEvent &event)
     auto entry = std::find_if(m_unusable.begin(), m_unusable.end(),
                               [reason](const Unusable &known) { return known.reason == reason; });
     if (entry == m_unusable.end())
-        entry = m_unusable.insert(entry, {reason, 0, event.line, event.lineText});
+        entry = m_unusable.insert(entry,
+                                  {reason, 0, event.place, event.file, event.line, event.lineText});
     ++entry->count;
     // What never ends is noticed in no order.
-    if (event.line < entry->firstLine) {
+    if (event.place < entry->firstPlace) {
+        entry->firstPlace = event.place;
+        entry->firstFile = event.file;
         entry->firstLine = event.line;
         entry->firstText = event.lineText;
     }

@@ -5,7 +5,6 @@
 #include "LogCompletion.h"
 #include "PppdLog.h"
 #include "StatisticsStore.h"
-#include "YearResolver.h"
 
 #include <cstdint>
 #include <optional>
@@ -20,6 +19,8 @@ namespace refhost
 struct Unusable {
     std::string reason;
     std::size_t count = 0;
+    std::size_t firstPlace = 0; ///< of the first such event
+    std::size_t firstFile = 0;  ///< the place of its file among those that were joined
     std::int64_t firstLine = 0;
     std::string firstText; ///< the beginning of that line
 };
@@ -30,9 +31,9 @@ class PppdConnections
 public:
     /// `fallbackProfile` names connections whose APN the log does not show;
     /// without it they go by their interface.
-    PppdConnections(const YearResolver &years, std::string fallbackProfile);
+    explicit PppdConnections(std::string fallbackProfile);
 
-    /// Takes the events of a whole log, in its order; to be called once.
+    /// Takes the events of a joined log, in its order; to be called once.
     void takeAll(const std::vector<PppdEvent> &events);
 
     /// In the order in which they ended.
@@ -73,7 +74,6 @@ private:
     ProfileSource nameProfile(Connection &connection, const std::string &apn) const;
     void count(const char *reason, const PppdEvent &event);
 
-    const YearResolver &m_years;
     std::string m_fallbackProfile;
     std::unordered_map<std::string, Host> m_hosts;
     std::vector<Connection> m_connections;

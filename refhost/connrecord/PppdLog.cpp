@@ -5,6 +5,8 @@
 #include "LogLine.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace refhost
 {
@@ -49,8 +51,8 @@ bool isUnderItsOwnName(const PppdEvent &event)
 
 /// Leaves out the messages of that program under another name than its own, if
 /// there is one that `isMeant` under that.
-void dropCopies(std::vector<PppdEvent> &events, std::string_view program,
-                bool (*isMeant)(const PppdMessage &))
+void dropCopiesOf(std::vector<PppdEvent> &events, std::string_view program,
+                  bool (*isMeant)(const PppdMessage &))
 {
     const bool hasOwn = std::any_of(events.begin(), events.end(), [&](const PppdEvent &event) {
         return programOf(event) == program && isUnderItsOwnName(event) && isMeant(event.message);
@@ -72,8 +74,37 @@ PppdEvent eventFrom(const LogLine &line, PppdMessage message, std::size_t run,
     event.process = line.process;
     event.pid = line.pid;
     event.line = lines.lineNumber();
+    event.messageText = line.message.substr(0, longestQuotedText);
     event.lineText = lines.line().substr(0, longestQuotedText);
     return event;
+}
+
+/// Whether the newest line is the first. One that is out of order does not make a
+/// short log so: pppd tells the bytes behind the connect time.
+bool isNewestFirst(const PppdLog &log)
+{
+    std::map<std::pair<std::string, std::int64_t>, Kind> lastKinds;
+    int inOrder = 0;
+    int reversed = 0;
+    for (const PppdEvent &event : log.events) {
+        const Kind kind = event.message.kind;
+        if (kind != Kind::ConnectTime && kind != Kind::ByteCounts)
+            continue;
+        const auto [last, isFirst] = lastKinds.insert({{event.host, event.pid}, kind});
+        if (!isFirst && last->second != kind)
+            ++(kind == Kind::ByteCounts ? inOrder : reversed);
+        last->second = kind;
+    }
+    const bool isTold = inOrder > 0 || reversed > 0;
+    return log.clock.goesBackwards() && (!isTold || reversed > inOrder);
+}
+
+void reverse(PppdLog &log)
+{
+    log.clock.reverse();
+    std::reverse(log.events.begin(), log.events.end());
+    for (PppdEvent &event : log.events)
+        event.run = log.clock.runs().size() - 1 - event.run;
 }
 
 } // namespace
@@ -90,9 +121,15 @@ PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress)
             log.events.push_back(eventFrom(line, std::move(*message), run, lines));
         progress(lines.bytesRead());
     }
-    dropCopies(log.events, "pppd", isOfConnection);
-    dropCopies(log.events, "chat", isOfChat);
+    if (isNewestFirst(log))
+        reverse(log);
     return log;
+}
+
+void dropCopies(std::vector<PppdEvent> &events)
+{
+    dropCopiesOf(events, "pppd", isOfConnection);
+    dropCopiesOf(events, "chat", isOfChat);
 }
 
 } // namespace refhost

@@ -19,26 +19,33 @@ class LineReader;
 /// One message of pppd or chat in a log, with where it stands.
 struct PppdEvent {
     PppdMessage message;
+    std::string messageText;          ///< its beginning
     std::optional<CalendarTime> time; ///< nothing if the log shows no readable one
     std::size_t run = 0;              ///< the place of the time's run in PppdLog::clock
     std::string host;                 ///< empty if the log names none
     std::string process;              ///< empty if the log names none
     std::int64_t pid = -1;            ///< -1: the log names no process
+    std::optional<std::int64_t> utc;  ///< when that was; set by joinLogs()
+    std::size_t place = 0;            ///< among the events of a joined log
+    std::size_t file = 0;             ///< the place of its file among those that were joined
     std::int64_t line = 0;            ///< counted from 1
     std::string lineText;             ///< its beginning
 };
 
 struct PppdLog {
-    /// In the order of the log, each message once.
+    /// From the oldest line to the newest.
     std::vector<PppdEvent> events;
     /// Of all its lines.
     ClockRuns clock;
 };
 
-/// Reads a system log. A log may hold copies of the messages of pppd and chat
-/// under the name of the script that started them, or no process names at all:
-/// such lines count only where the log has none under pppd's or chat's own name.
+/// Reads a system log, also one whose newest line is the first.
 PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress);
+
+/// A log may hold copies of the messages of pppd and chat under the name of the script
+/// that started them, or no process names at all: such lines count only where the log
+/// has none under pppd's or chat's own name, and are taken away elsewhere.
+void dropCopies(std::vector<PppdEvent> &events);
 
 /// Longer lines need not be read to their end: no message is that long.
 constexpr std::size_t longestLogLine = 8192;

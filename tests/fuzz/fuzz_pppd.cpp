@@ -2,9 +2,9 @@
 // System logs of arbitrary bytes through the importer of pppd's messages.
 #include "Fuzz.h"
 #include "ImportedConnections.h"
+#include "JoinedLog.h"
 #include "LineReader.h"
 #include "PppdConnections.h"
-#include "PppdLog.h"
 
 #include <QBuffer>
 
@@ -22,10 +22,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     QBuffer device(&contents);
     device.open(QIODevice::ReadOnly);
     LineReader lines(device, longestLogLine);
-    const PppdLog log = readPppdLog(lines, [](std::int64_t) {});
     constexpr std::int64_t now = 1700000000;
-    const YearResolver years(log.clock.runs(), {}, now);
-    PppdConnections importer(years, std::string());
+    const JoinedLog log = joinLogs({{readPppdLog(lines, [](std::int64_t) {}), now}}, {});
+    PppdConnections importer({});
     importer.takeAll(log.events);
     fuzz::requireLossless(importer.connections());
     return 0;

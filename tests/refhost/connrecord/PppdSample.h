@@ -13,5 +13,7 @@ inline refhost::PppdLog pppdLogOf(QByteArray contents)
     QBuffer buffer(&contents);
     buffer.open(QIODevice::ReadOnly);
     refhost::LineReader lines(buffer, refhost::longestLogLine);
-    return refhost::readPppdLog(lines, [](std::int64_t) {});
+    refhost::PppdLog log = refhost::readPppdLog(lines, [](std::int64_t) {});
+    refhost::dropCopies(log.events);
+    return log;
 }

@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 /// The program's import of system logs into a real store. Each log in the
 /// folder data/ has beside it the history that it makes.
 class ConnrecordPppdTest : public QObject
@@ -34,6 +36,15 @@ private slots:
     void refusesAFileWithoutAnyConnection_data();
     void refusesAFileWithoutAnyConnection();
     void readsALongLog();
+    void readsRotatedLogsAsOne();
+    void readsALineOfSeveralFilesOnce();
+    void readsTheNewestLineFirst();
+    void readsCompressedLogs_data();
+    void readsCompressedLogs();
+    void refusesABrokenArchive_data();
+    void refusesABrokenArchive();
+    void keepsLittleOfALargeArchiveInMemory();
+    void takesOneCsvFileOnly();
 
 private:
     /// A copy of the log, last changed at this local time.
@@ -281,6 +292,7 @@ void ConnrecordPppdTest::saysWhatItCannotUseAsJson()
              (QJsonObject{
                  {"reason", "a connection does not end in the log"},
                  {"count", 2},
+                 {"first_file", log},
                  {"first_line", 1},
                  {"first_text", "Nov 10 09:00:00 gw pppd[300]: Connect: ppp0 <--> /dev/ttyUSB0"}}));
 }
@@ -320,6 +332,115 @@ void ConnrecordPppdTest::readsALongLog()
     const QJsonObject report = import("-", {"--json"}, log).json().object();
     QCOMPARE(report.value("read").toInt(), 40000);
     QCOMPARE(report.value("added").toInt(), 40000);
+}
+
+void ConnrecordPppdTest::readsRotatedLogsAsOne()
+{
+    const QByteArray whole = readFile(dataFile("host.log"));
+    const auto cut = whole.indexOf("Jan  1 00:20:12");
+    // The order of the arguments and the times of the files say nothing.
+    const QString newer = writtenLog(whole.mid(cut), "2024-01-02T00:00:00", "a");
+    const QString older = writtenLog(whole.left(cut), "2024-01-03T00:00:00", "b");
+    const ConnrecordRun result = import(newer, {older});
+    QCOMPARE(result.output, QByteArray("Connections read: 3\nAdded: 3\nAlready there: 0\n"));
+    QCOMPARE(exported(), readFile(dataFile("host.csv")));
+}
+
+void ConnrecordPppdTest::readsALineOfSeveralFilesOnce()
+{
+    const QByteArray whole = readFile(dataFile("weekday-year.log"));
+    const QString all = writtenLog(whole, "2023-06-18T00:00:00", "all");
+    const QString part =
+        writtenLog(whole.mid(whole.indexOf("Sat Jun 17 17:29:17")), "2023-06-18T00:00:00", "part");
+    const QString start = writtenLog(whole.left(whole.indexOf("Sat Jun 17 17:30:00")),
+                                     "2023-06-18T00:00:00", "start");
+    const QJsonObject report = import(part, {all, start, "--json"}).json().object();
+    QCOMPARE(report.value("read").toInt(), 2);
+    QCOMPARE(report.value("unusable").toArray(), QJsonArray());
+    QCOMPARE(exported(), readFile(dataFile("weekday-year.csv")));
+}
+
+void ConnrecordPppdTest::readsTheNewestLineFirst()
+{
+    QByteArrayList lines = readFile(dataFile("host.log")).split('\n');
+    lines.removeAll(QByteArray());
+    std::reverse(lines.begin(), lines.end());
+    QCOMPARE(import(writtenLog(lines.join('\n') + '\n', "2024-01-02T00:00:00")).exitCode, 0);
+    QCOMPARE(exported(), readFile(dataFile("host.csv")));
+}
+
+void ConnrecordPppdTest::readsCompressedLogs_data()
+{
+    QTest::addColumn<QString>("program");
+
+    for (const char *const program : {"gzip", "xz", "zstd", "bzip2"})
+        QTest::newRow(program) << program;
+}
+
+void ConnrecordPppdTest::readsCompressedLogs()
+{
+    QFETCH(QString, program);
+    const QByteArray packed =
+        runProgram(program, {"-c"}, readFile(dataFile("weekday-year.log"))).output;
+    QVERIFY(!packed.isEmpty());
+    QCOMPARE(import(writtenLog(packed + packed, "2023-06-18T00:00:00", "named.log")).exitCode, 0);
+    const QByteArray twice = exported();
+    QCOMPARE(twice.count('\n'), 5);
+    QCOMPARE(import("-", {"--json"}, packed).json().object().value("added").toInt(), 0);
+    QCOMPARE(exported(), twice);
+}
+
+void ConnrecordPppdTest::refusesABrokenArchive_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<bool>("isCut");
+
+    for (const char *const program : {"gzip", "xz", "zstd", "bzip2"}) {
+        QTest::addRow("%s, truncated", program) << program << true;
+        QTest::addRow("%s, one bit of the sum", program) << program << false;
+    }
+}
+
+void ConnrecordPppdTest::refusesABrokenArchive()
+{
+    QFETCH(QString, program);
+    QFETCH(bool, isCut);
+    QByteArray packed = runProgram(program, {"-c"}, readFile(dataFile("weekday-year.log"))).output;
+    if (isCut)
+        packed.chop(2);
+    else
+        packed[packed.size() - 6] = char(packed.at(packed.size() - 6) ^ 1);
+    const ConnrecordRun result = import("-", {}, packed);
+    QCOMPARE(result.exitCode, 4);
+    QVERIFY2(result.error.startsWith("connrecord: standard input cannot be read to its end: ") &&
+                 result.error.endsWith(". Nothing was imported.\n"),
+             result.error);
+    QVERIFY(!QFile::exists(m_store));
+}
+
+void ConnrecordPppdTest::keepsLittleOfALargeArchiveInMemory()
+{
+#ifdef SANITIZED
+    QSKIP("the sanitizers need more memory than the limit leaves");
+#endif
+    // 256 MiB in one line, then a log.
+    QByteArray log = QByteArray(256 << 20, 'x') + '\n' + readFile(dataFile("weekday-year.log"));
+    const QString path =
+        writtenLog(runProgram("zstd", {"-c"}, log).output, "2023-06-18T00:00:00", "large");
+    log.clear();
+    const ConnrecordRun result =
+        runProgram("sh", {"-c", "ulimit -v 200000; exec \"$0\" \"$@\"", connrecordProgram(),
+                          "--store", m_store, "import", "--format", "pppd", path});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(exported(), readFile(dataFile("weekday-year.csv")));
+}
+
+void ConnrecordPppdTest::takesOneCsvFileOnly()
+{
+    const ConnrecordRun result =
+        connrecord({"--store", m_store, "import", "--format", "csv", "a", "b"});
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(result.error, QByteArray("connrecord: With --format csv, import takes one FILE.\n"));
 }
 
 QTEST_GUILESS_MAIN(ConnrecordPppdTest)

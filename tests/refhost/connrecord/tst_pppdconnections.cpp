@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "JoinedLog.h"
 #include "PppdConnections.h"
 #include "PppdSample.h"
 
@@ -49,9 +50,8 @@ struct Outcome {
 
 Outcome outcomeOf(const QByteArray &contents, const std::string &profile = {})
 {
-    const PppdLog log = pppdLogOf(contents);
-    const YearResolver years(log.clock.runs(), {}, 2147483647);
-    PppdConnections connections(years, profile);
+    const JoinedLog log = joinLogs({{pppdLogOf(contents), 2147483647}}, {});
+    PppdConnections connections(profile);
     connections.takeAll(log.events);
     return {connections.connections(), connections.unusable()};
 }
