@@ -161,6 +161,12 @@ public:
             database.seenLinks().replace(*link);
     }
 
+    void keepOrigin(const std::string &origin)
+    {
+        if (!origin.empty())
+            database.origins().insert(origin);
+    }
+
     StoreDatabase database;
 };
 
@@ -283,7 +289,8 @@ Result<OpenConnection> StatisticsStore::begin(const OpenConnection &connection)
     });
 }
 
-Result<std::int64_t> StatisticsStore::checkpoint(const OpenConnection &connection)
+Result<std::int64_t> StatisticsStore::checkpoint(const OpenConnection &connection,
+                                                 const std::string &origin)
 {
     return d->attempt([&] {
         check(connection);
@@ -291,23 +298,41 @@ Result<std::int64_t> StatisticsStore::checkpoint(const OpenConnection &connectio
             if (!d->database.openConnections().update(connection))
                 throw noSuchOpenConnection(d->database.path(), connection.key);
             d->keepSeen(connection);
+            d->keepOrigin(origin);
             return connection.key;
         });
     });
 }
 
 Result<std::int64_t> StatisticsStore::finish(const OpenConnection &open,
-                                             const Connection &connection)
+                                             const Connection &connection,
+                                             const std::string &origin)
 {
     return d->attempt([&] {
         check(connection, "the connection");
         return d->database.write([&](ConnectionTable &table) -> std::int64_t {
+            d->keepOrigin(origin);
             const bool wasOpen = d->database.openConnections().remove(open);
             if (!wasOpen && table.holds(connection.interfaceName, connection.startUtc))
                 return 0;
             d->keepSeen(open);
             return table.insert(connection);
         });
+    });
+}
+
+Result<bool> StatisticsStore::wasTakenOver(const std::string &origin) const
+{
+    return d->attempt([&] {
+        return d->database.read(
+            false, [&](ConnectionTable &) { return d->database.origins().holds(origin); });
+    });
+}
+
+Result<std::int64_t> StatisticsStore::forgetOrigins()
+{
+    return d->attempt([&] {
+        return d->database.write([&](ConnectionTable &) { return d->database.origins().clear(); });
     });
 }
 

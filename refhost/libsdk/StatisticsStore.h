@@ -162,12 +162,20 @@ public:
     Result<OpenConnection> begin(const OpenConnection &connection);
     /// Brings an open connection up to date: its names, mark, base, totals, last update
     /// and ending; by its key, which is returned, link and start.
-    Result<std::int64_t> checkpoint(const OpenConnection &connection);
+    /// With an `origin`, it keeps in the same transaction that this was taken over.
+    Result<std::int64_t> checkpoint(const OpenConnection &connection,
+                                    const std::string &origin = {});
     /// Turns the open connection, known as for checkpoint(), into the finished one that
     /// is given, both at once, and returns the finished one's key. If it is open no
     /// longer, another process may have finished it: then the connection is added
     /// unless one of the same interface and start is there, which gives 0.
-    Result<std::int64_t> finish(const OpenConnection &open, const Connection &connection);
+    /// An `origin` is kept as for checkpoint().
+    Result<std::int64_t> finish(const OpenConnection &open, const Connection &connection,
+                                const std::string &origin = {});
+    /// Whether a change of this origin has been made, so that it is not made twice.
+    Result<bool> wasTakenOver(const std::string &origin) const;
+    /// Forgets all origins, once there is nothing left to take over. Returns how many.
+    Result<std::int64_t> forgetOrigins();
     /// The connections that have begun and not been finished, by key.
     Result<std::vector<OpenConnection>> listOpen() const;
 

@@ -117,6 +117,7 @@ void StoreDatabase::connect()
         m_table = std::make_unique<ConnectionTable>(*m_database);
         m_openConnections = std::make_unique<OpenConnectionTable>(*m_database);
         m_seenLinks = std::make_unique<SeenLinkTable>(*m_database);
+        m_origins = std::make_unique<OriginTable>(*m_database);
         m_file = fileAt(m_path);
     } catch (const SQLite::Exception &exception) {
         const StoreFailure reason = failure(Access::Opening, exception);
@@ -161,6 +162,7 @@ void StoreDatabase::close()
     m_table.reset();
     m_openConnections.reset();
     m_seenLinks.reset();
+    m_origins.reset();
     m_logBase.reset();
     m_database.reset();
     m_file.reset();

@@ -4,6 +4,7 @@
 #include "ConnectionTable.h"
 #include "LogBase.h"
 #include "OpenConnectionTable.h"
+#include "OriginTable.h"
 #include "SeenLinkTable.h"
 #include "StoreFailure.h"
 #include "StoreFile.h"
@@ -48,6 +49,7 @@ public:
     OpenConnectionTable &openConnections() { return *m_openConnections; }
     /// The same for the counters that were seen last.
     SeenLinkTable &seenLinks() { return *m_seenLinks; }
+    OriginTable &origins() { return *m_origins; }
 
     /// Calls `operation` with the table in one read transaction; without a file
     /// the answer is `ifNotThere`.
@@ -111,6 +113,7 @@ private:
     std::unique_ptr<ConnectionTable> m_table;
     std::unique_ptr<OpenConnectionTable> m_openConnections;
     std::unique_ptr<SeenLinkTable> m_seenLinks;
+    std::unique_ptr<OriginTable> m_origins;
     std::unique_ptr<LogBase> m_logBase;
     std::optional<FileIdentity> m_file;
     bool m_isReadOnly = false;

@@ -83,9 +83,10 @@ ConnectionRecorder::~ConnectionRecorder()
     if (!m_book)
         return;
     catchUpWithLinks();
-    m_book->catchUp();
-    for (auto &entry : m_live)
-        m_book->save(entry.second);
+    std::vector<LiveConnection> lasting;
+    for (const auto &entry : m_live)
+        lasting.push_back(entry.second);
+    m_book->leave(std::move(lasting));
     m_book->see(idleLinks());
 }
 
@@ -170,18 +171,22 @@ bool ConnectionRecorder::openBook()
         fail(QString::fromStdString(error.message));
     };
     m_book = std::make_unique<RecordBook>(
-        std::move(store.value()), m_bootId, *m_clock,
+        std::move(store.value()), UnwrittenFile(knownPath()), m_bootId, *m_clock,
         [this](const OpenConnection &row) { return stillLasts(row); },
         RecordBook::Listener{finished, recovered, failedToWrite, succeededToWrite});
     return true;
 }
 
-/// One lock for a store, by whichever of its names it was opened.
-bool ConnectionRecorder::lockStore()
+/// The same for all recorders, by whichever of its names the store was opened.
+QString ConnectionRecorder::knownPath() const
 {
     const QFileInfo store(m_storePath);
-    m_lock = std::make_unique<RecorderLock>(store.exists() ? store.canonicalFilePath()
-                                                           : store.absoluteFilePath());
+    return store.exists() ? store.canonicalFilePath() : store.absoluteFilePath();
+}
+
+bool ConnectionRecorder::lockStore()
+{
+    m_lock = std::make_unique<RecorderLock>(knownPath());
     const auto outcome = m_lock->take();
     if (outcome == RecorderLock::Outcome::HeldByAnother)
         obstruct(recordedByAnother(*m_lock));

@@ -123,6 +123,7 @@ private:
     bool openBook();
     bool isWatched(const Link &link) const;
     bool stillLasts(const OpenConnection &row);
+    QString knownPath() const;
     bool lockStore();
     static QString recordedByAnother(const RecorderLock &lock);
     void giveUp();

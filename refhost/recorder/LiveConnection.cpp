@@ -106,6 +106,25 @@ LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
     m_totalsAtFirst = {m_row.uploadedBytes, m_row.downloadedBytes};
 }
 
+LiveConnection::LiveConnection(const State &state)
+    : m_id(0)
+    , m_row(withinRange(state.row))
+    , m_linkMark(state.linkMark)
+    , m_hasOwnProfile(state.hasOwnProfile)
+    , m_countersAtFirst(state.countersAtFirst)
+    , m_totalsAtFirst(state.totalsAtFirst)
+    , m_counters(countersAtLastUpdate(state.row))
+    , m_moment(state.moment)
+    , m_end(state.hasEnded ? std::make_optional(state.moment) : std::nullopt)
+{
+}
+
+LiveConnection::State LiveConnection::state() const
+{
+    return {m_row,           m_linkMark, m_hasOwnProfile, m_countersAtFirst,
+            m_totalsAtFirst, m_moment,   hasEnded()};
+}
+
 bool LiveConnection::adopt(const OpenConnection &stored)
 {
     if (stored.startBootMilliseconds == m_row.startBootMilliseconds) {

@@ -24,9 +24,23 @@ std::int64_t storableSeconds(std::int64_t seconds);
 class LiveConnection
 {
 public:
+    /// All that it consists of, for another process to go on with.
+    struct State {
+        OpenConnection row;
+        std::string linkMark;
+        bool hasOwnProfile = false;
+        LinkCounters countersAtFirst;
+        LinkCounters totalsAtFirst;
+        Moment moment;
+        bool hasEnded = false;
+    };
+
     /// One that begins now on a link whose counters showed `base` before.
     LiveConnection(std::int64_t id, const std::string &bootId, const std::string &profile,
                    const Link &link, const LinkCounters &base, const Moment &now);
+    /// One that another process has left; its id is 0.
+    explicit LiveConnection(const State &state);
+    State state() const;
 
     /// Tells it from all others of this process.
     std::int64_t id() const { return m_id; }

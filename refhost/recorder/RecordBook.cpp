@@ -18,11 +18,26 @@ bool areSame(const OpenConnection &a, const OpenConnection &b)
     return a.linkMark == b.linkMark || a.startBootMilliseconds == b.startBootMilliseconds;
 }
 
+/// Its link as its own process has found it.
+FirstSight firstSightOf(const LiveConnection &connection)
+{
+    const LiveConnection::State state = connection.state();
+    const OpenConnection &row = state.row;
+    const LinkCounters &shown = state.countersAtFirst;
+    return {{row.bootId, row.interfaceIndex, row.interfaceName, shown.uploaded, shown.downloaded,
+             row.startUtc},
+            {shown.uploaded - state.totalsAtFirst.uploaded,
+             shown.downloaded - state.totalsAtFirst.downloaded},
+            row.startUtc - row.startBootMilliseconds / 1000,
+            row.profile};
+}
+
 } // namespace
 
-RecordBook::RecordBook(StatisticsStore store, std::string bootId, const SystemClock &clock,
-                       StillLasts stillLasts, Listener listener)
+RecordBook::RecordBook(StatisticsStore store, UnwrittenFile file, std::string bootId,
+                       const SystemClock &clock, StillLasts stillLasts, Listener listener)
     : m_store(std::move(store))
+    , m_file(std::move(file))
     , m_bootId(std::move(bootId))
     , m_clock(clock)
     , m_stillLasts(std::move(stillLasts))
@@ -34,6 +49,111 @@ void RecordBook::settle(std::vector<FirstSight> sights)
 {
     m_firstSights = std::move(sights);
     catchUp();
+}
+
+void RecordBook::readFile()
+{
+    m_isFileRead = true;
+    const auto left = m_file.read();
+    if (left)
+        m_left = std::deque<Unwritten>(left.value().begin(), left.value().end());
+    else
+        m_listener.failed(left.error());
+    m_isFileOurs = bool(left);
+}
+
+/// The file goes when all of it is in the store. Until then the store knows what it has
+/// of it already.
+void RecordBook::takeOver()
+{
+    if (m_left.empty())
+        return;
+    while (!m_left.empty()) {
+        const auto key = takeOver(m_left.front());
+        if (!key)
+            fail(key.error());
+        // What the store does not take at all must not keep the rest from it.
+        if (!key && key.error().kind != StoreError::Kind::BadRecord)
+            return;
+        m_left.pop_front();
+    }
+    if (m_file.remove())
+        m_store.forgetOrigins();
+}
+
+Result<std::int64_t> RecordBook::takeOver(Unwritten &left)
+{
+    const auto wasTakenOver = m_store.wasTakenOver(left.origin);
+    if (!wasTakenOver)
+        return wasTakenOver.error();
+    if (wasTakenOver.value())
+        return left.connection.row().key;
+    const auto settled = settleBefore(left.connection);
+    if (!settled)
+        return settled.error();
+    if (left.connection.hasEnded()) {
+        auto key = write(left);
+        if (key)
+            m_listener.recovered(left.connection.finished(left.hasFinalCounters));
+        return key;
+    }
+    if (left.connection.row().key == 0) {
+        const auto attached = attach(left.connection);
+        if (!attached)
+            return attached.error();
+    }
+    auto key = m_store.checkpoint(left.connection.row(), left.origin);
+    if (key || key.error().kind != StoreError::Kind::NoSuchRecord)
+        return key;
+    const auto attached = attach(left.connection);
+    return attached ? m_store.checkpoint(left.connection.row(), left.origin) : attached.error();
+}
+
+/// What was left may be of a process that could not settle what others had left before:
+/// that comes first, as it would have then.
+Result<std::size_t> RecordBook::settleBefore(LiveConnection &connection)
+{
+    const OpenConnection &row = connection.row();
+    if (row.key != 0 || !m_settledLinks.insert({row.bootId, row.interfaceIndex}).second)
+        return std::size_t{0};
+    const auto open = m_store.listOpen();
+    if (!open)
+        return open.error();
+    for (const OpenConnection &each : open.value()) {
+        if (each.bootId != row.bootId || each.interfaceIndex != row.interfaceIndex)
+            continue;
+        if (areSame(each, row))
+            return std::size_t{0};
+        const auto key = close(each);
+        if (!key)
+            return key.error();
+    }
+    const auto seenBefore = m_store.listSeen();
+    if (!seenBefore)
+        return seenBefore.error();
+    const FirstSightVerdict verdict = judge(firstSightOf(connection), seenBefore.value());
+    if (verdict.wasSeenInThisRun)
+        connection.leaveOut(connection.state().countersAtFirst);
+    std::vector<Connection> unwatched;
+    if (verdict.unwatched)
+        unwatched.push_back(*verdict.unwatched);
+    return m_store.see({verdict.settled}, unwatched);
+}
+
+void RecordBook::leave(std::vector<LiveConnection> lasting)
+{
+    catchUp();
+    std::vector<Unwritten> unwritten(m_left.begin(), m_left.end());
+    for (const Unwritten &finished : m_unwritten)
+        unwritten.push_back(finished);
+    for (LiveConnection &connection : lasting) {
+        if (!save(connection))
+            unwritten.push_back({connection});
+    }
+    if (unwritten.empty() || !m_isFileOurs)
+        return;
+    if (const auto error = m_file.write(std::move(unwritten)))
+        m_listener.failed(*error);
 }
 
 void RecordBook::recoverEarlierConnections()
@@ -125,21 +245,33 @@ Result<std::int64_t> RecordBook::close(const OpenConnection &row)
     return key;
 }
 
-void RecordBook::save(LiveConnection &connection)
+bool RecordBook::save(LiveConnection &connection)
 {
     // An unfinished row of the same link would be taken for this connection's.
     if (isBehind() || m_isLocked)
-        return;
+        return false;
     auto key = connection.row().key == 0 ? begin(connection) : m_store.checkpoint(connection.row());
     // Somebody has put another file in the store's place.
     if (!key && key.error().kind == StoreError::Kind::NoSuchRecord)
         key = begin(connection);
-    if (!key)
-        return fail(key.error());
-    succeed();
+    if (key)
+        succeed();
+    else
+        fail(key.error());
+    return bool(key);
 }
 
 Result<std::int64_t> RecordBook::begin(LiveConnection &connection)
+{
+    const auto isResumed = attach(connection);
+    if (!isResumed)
+        return isResumed.error();
+    return isResumed.value() ? m_store.checkpoint(connection.row()) : connection.row().key;
+}
+
+/// Gives it its row: a new one, or the one that an earlier process has left of the same
+/// connection, which then lacks what has happened since. Whether that is so.
+Result<bool> RecordBook::attach(LiveConnection &connection)
 {
     leaveOutWhatIsRecorded(connection);
     auto stored = m_store.begin(connection.row());
@@ -147,9 +279,7 @@ Result<std::int64_t> RecordBook::begin(LiveConnection &connection)
         stored = beginApart(connection, stored.value());
     if (!stored)
         return stored.error();
-    if (connection.adopt(stored.value()))
-        return m_store.checkpoint(connection.row());
-    return stored.value().key;
+    return connection.adopt(stored.value());
 }
 
 /// An earlier process has left another connection of the same link open.
@@ -182,7 +312,10 @@ void RecordBook::finish(const LiveConnection &connection, bool hasFinalCounters)
 void RecordBook::catchUp()
 {
     m_isLocked = false;
-    if (!m_isRecovered)
+    if (!m_isFileRead)
+        readFile();
+    takeOver();
+    if (m_left.empty() && !m_isRecovered)
         recoverEarlierConnections();
     if (m_isRecovered && !m_firstSights.empty())
         recordUnwatchedTraffic();
@@ -208,16 +341,16 @@ void RecordBook::writeFinished()
     }
 }
 
-/// One whose beginning could not be written may go on with an earlier process's row.
+/// One whose beginning could not be written may resume an earlier process's row.
 Result<std::int64_t> RecordBook::write(Unwritten &finished)
 {
     if (finished.connection.row().key == 0) {
-        auto key = begin(finished.connection);
-        if (!key)
-            return key;
+        const auto attached = attach(finished.connection);
+        if (!attached)
+            return attached.error();
     }
     return m_store.finish(finished.connection.row(),
-                          finished.connection.finished(finished.hasFinalCounters));
+                          finished.connection.finished(finished.hasFinalCounters), finished.origin);
 }
 
 void RecordBook::succeed()

@@ -5,12 +5,15 @@
 #include "LockPatience.h"
 #include "StatisticsStore.h"
 #include "UnwatchedTraffic.h"
+#include "UnwrittenFile.h"
 
 #include <cstdint>
 #include <deque>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace refhost
@@ -19,7 +22,8 @@ namespace refhost
 class SystemClock;
 
 /// Writes connections into a store. What cannot be written stays here and is
-/// tried again, in the order in which it happened.
+/// tried again, in the order in which it happened, and at the end goes into a file
+/// beside the store, from which the next one takes it over.
 class RecordBook
 {
 public:
@@ -36,8 +40,8 @@ public:
     using StillLasts = std::function<bool(const OpenConnection &row)>;
 
     /// `clock` must live longer.
-    RecordBook(StatisticsStore store, std::string bootId, const SystemClock &clock,
-               StillLasts stillLasts, Listener listener);
+    RecordBook(StatisticsStore store, UnwrittenFile file, std::string bootId,
+               const SystemClock &clock, StillLasts stillLasts, Listener listener);
 
     /// Settles what earlier processes left, with these links as they are found now.
     void settle(std::vector<FirstSight> sights);
@@ -45,11 +49,14 @@ public:
     /// Brings the store up to date with the connection. The first time, it goes
     /// on with what the store has of the same one already. A store that is locked is
     /// waited for once until the next catchUp().
-    void save(LiveConnection &connection);
+    /// Whether it is.
+    bool save(LiveConnection &connection);
     void finish(const LiveConnection &connection, bool hasFinalCounters);
     /// Keeps what links show that have no connection, unless there is something to be
     /// written first. Whether it is in the store.
     bool see(const std::vector<SeenLink> &links);
+    /// The end: these connections last. What cannot be written goes into the file.
+    void leave(std::vector<LiveConnection> lasting);
 
     /// Whether there is something that catchUp() has to write before anything else
     /// is written, which is so in the beginning.
@@ -62,12 +69,12 @@ public:
     void catchUp();
 
 private:
-    struct Unwritten {
-        LiveConnection connection;
-        bool hasFinalCounters;
-    };
-
+    void readFile();
+    void takeOver();
+    Result<std::int64_t> takeOver(Unwritten &left);
+    Result<std::size_t> settleBefore(LiveConnection &connection);
     Result<std::int64_t> begin(LiveConnection &connection);
+    Result<bool> attach(LiveConnection &connection);
     Result<OpenConnection> beginApart(LiveConnection &connection, const OpenConnection &other);
     void leaveOutWhatIsRecorded(LiveConnection &connection) const;
     bool isSettled() const { return m_isRecovered && m_firstSights.empty(); }
@@ -81,6 +88,11 @@ private:
     void succeed();
 
     StatisticsStore m_store;
+    UnwrittenFile m_file;
+    std::deque<Unwritten> m_left; ///< by an earlier process, in the file
+    bool m_isFileRead = false;
+    bool m_isFileOurs = true;                                      ///< what stands there is ours
+    std::set<std::pair<std::string, std::int64_t>> m_settledLinks; ///< of what was left
     std::string m_bootId;
     const SystemClock &m_clock;
     StillLasts m_stillLasts;

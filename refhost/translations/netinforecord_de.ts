@@ -372,6 +372,21 @@
     </message>
 </context>
 <context>
+    <name>refhost::UnwrittenFile</name>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>sie ist beschädigt oder stammt von einem anderen Programm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>„%1“ lässt sich nicht schreiben (%2), daher gehen Verbindungen verloren, die der Verlauf nicht aufnehmen konnte. Erlauben Sie sich, dort zu schreiben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>„%1“ enthält vielleicht Verbindungen, die im Verlauf fehlen, lässt sich aber nicht lesen (%2). Die Datei blieb, wie sie ist; verschieben Sie sie.</translation>
+    </message>
+</context>
+<context>
     <name>refhost::LinkMonitor</name>
     <message>
         <source>The network interfaces cannot be watched (%1), so connections are not recorded any more; start the program again.</source>

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "UnwrittenFile.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <QUuid>
+
+namespace refhost
+{
+
+namespace
+{
+
+const QByteArray mark = QByteArrayLiteral("refdialer-unwritten 1 ");
+
+/// Longer than any that a recorder writes.
+constexpr qint64 maximumSize = 64 * 1024 * 1024;
+
+/// The fields of the file, each once, for writing and for reading.
+template <typename State, typename Visitor>
+void visitFields(State &state, Visitor &visitor)
+{
+    auto &row = state.row;
+    visitor.text("boot_id", row.bootId);
+    visitor.text("interface_name", row.interfaceName);
+    visitor.text("first_link_mark", row.linkMark);
+    visitor.text("link_mark", state.linkMark);
+    visitor.text("profile", row.profile);
+    visitor.text("ending", row.ending);
+    visitor.number("key", row.key);
+    visitor.number("interface_index", row.interfaceIndex);
+    visitor.number("start_utc", row.startUtc);
+    visitor.number("start_boot_ms", row.startBootMilliseconds);
+    visitor.number("base_uploaded", row.baseUploaded);
+    visitor.number("base_downloaded", row.baseDownloaded);
+    visitor.number("uploaded_bytes", row.uploadedBytes);
+    visitor.number("downloaded_bytes", row.downloadedBytes);
+    visitor.number("updated_utc", row.updatedUtc);
+    visitor.number("connected_seconds", row.connectedSeconds);
+    visitor.number("first_uploaded", state.countersAtFirst.uploaded);
+    visitor.number("first_downloaded", state.countersAtFirst.downloaded);
+    visitor.number("first_uploaded_total", state.totalsAtFirst.uploaded);
+    visitor.number("first_downloaded_total", state.totalsAtFirst.downloaded);
+    visitor.number("moment_utc", state.moment.utcSeconds);
+    visitor.number("moment_boot_ms", state.moment.bootMilliseconds);
+    visitor.flag("has_own_profile", state.hasOwnProfile);
+    visitor.flag("has_ended", state.hasEnded);
+}
+
+/// Numbers as texts: 64 bits of them are more than JSON's numbers promise.
+class Writer
+{
+public:
+    void text(const char *name, const std::string &value)
+    {
+        object[QLatin1String(name)] = QString::fromStdString(value);
+    }
+    void number(const char *name, std::int64_t value)
+    {
+        object[QLatin1String(name)] = QString::number(value);
+    }
+    void flag(const char *name, bool value) { object[QLatin1String(name)] = value; }
+
+    QJsonObject object;
+};
+
+class Reader
+{
+public:
+    explicit Reader(const QJsonObject &object)
+        : m_object(object)
+    {
+    }
+
+    void text(const char *name, std::string &value)
+    {
+        isComplete &= field(name).isString();
+        value = field(name).toString().toStdString();
+    }
+    void number(const char *name, std::int64_t &value)
+    {
+        bool isNumber = false;
+        value = field(name).toString().toLongLong(&isNumber);
+        isComplete &= isNumber;
+    }
+    void flag(const char *name, bool &value)
+    {
+        isComplete &= field(name).isBool();
+        value = field(name).toBool();
+    }
+
+    bool isComplete = true;
+
+private:
+    QJsonValue field(const char *name) const { return m_object.value(QLatin1String(name)); }
+
+    const QJsonObject m_object;
+};
+
+QJsonObject objectOf(const Unwritten &unwritten)
+{
+    Writer writer;
+    const LiveConnection::State state = unwritten.connection.state();
+    visitFields(state, writer);
+    writer.text("origin", unwritten.origin);
+    writer.flag("has_final_counters", unwritten.hasFinalCounters);
+    return writer.object;
+}
+
+std::optional<Unwritten> unwrittenIn(const QJsonObject &object)
+{
+    Reader reader(object);
+    LiveConnection::State state;
+    visitFields(state, reader);
+    std::string origin;
+    bool hasFinalCounters = false;
+    reader.text("origin", origin);
+    reader.flag("has_final_counters", hasFinalCounters);
+    if (!reader.isComplete || origin.empty())
+        return std::nullopt;
+    return Unwritten{LiveConnection(state), hasFinalCounters, origin};
+}
+
+QByteArray digestOf(const QByteArray &text)
+{
+    return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex() + '\n';
+}
+
+} // namespace
+
+UnwrittenFile::UnwrittenFile(const QString &storePath)
+    : m_path(storePath + QStringLiteral("-unwritten"))
+{
+}
+
+Result<std::vector<Unwritten>> UnwrittenFile::read() const
+{
+    QFile file(m_path);
+    if (!file.exists())
+        return std::vector<Unwritten>();
+    if (!file.open(QIODevice::ReadOnly))
+        return damaged(file.errorString());
+    const auto connections = parse(file.read(maximumSize));
+    if (!connections)
+        return damaged(tr("it is damaged or of another program"));
+    return *connections;
+}
+
+std::optional<std::vector<Unwritten>> UnwrittenFile::parse(const QByteArray &text)
+{
+    const auto headSize = mark.size() + digestOf({}).size();
+    const QByteArray body = text.mid(headSize);
+    if (text.left(headSize) != mark + digestOf(body))
+        return std::nullopt;
+    std::vector<Unwritten> connections;
+    for (const QJsonValue &each : QJsonDocument::fromJson(body).array()) {
+        const auto connection = unwrittenIn(each.toObject());
+        if (!connection)
+            return std::nullopt;
+        connections.push_back(*connection);
+    }
+    return connections;
+}
+
+std::optional<StoreError> UnwrittenFile::write(std::vector<Unwritten> connections) const
+{
+    QJsonArray array;
+    for (Unwritten &each : connections) {
+        if (each.origin.empty())
+            each.origin = QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
+        array.append(objectOf(each));
+    }
+    const QByteArray body = QJsonDocument(array).toJson();
+    QSaveFile file(m_path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
+                           file.write(mark + digestOf(body) + body) >= 0 && file.commit();
+    if (isWritten)
+        return std::nullopt;
+    return StoreError{StoreError::Kind::WriteFailed,
+                      tr("\"%1\" cannot be written (%2), so connections that the history could "
+                         "not take are lost; allow yourself to write there.")
+                          .arg(m_path, file.errorString())
+                          .toStdString()};
+}
+
+bool UnwrittenFile::remove() const
+{
+    return !QFile::exists(m_path) || QFile::remove(m_path);
+}
+
+StoreError UnwrittenFile::damaged(const QString &reason) const
+{
+    return {StoreError::Kind::Damaged,
+            tr("\"%1\" may keep connections that are not in the history, but cannot be read (%2); "
+               "it was left as it is, move it away.")
+                .arg(m_path, reason)
+                .toStdString()};
+}
+
+} // namespace refhost
