@@ -49,13 +49,14 @@ _KORA_ST_CONNRECORD *allocateRecords(std::int64_t count)
         return nullptr;
     if (count > std::numeric_limits<int>::max())
         throw std::bad_alloc();
-    const std::size_t size = static_cast<std::size_t>(count) * sizeof(_KORA_ST_CONNRECORD);
+    const auto number = static_cast<std::size_t>(count);
     // calloc takes an array of this size straight from the system, which has
-    // zeroed it; nothing of the fields' unused bytes is written a second time.
-    void *const records = std::calloc(1, size);
+    // zeroed it; nothing of the fields' unused bytes is written a second time. It also
+    // sees to it that the product fits.
+    void *const records = std::calloc(number, sizeof(_KORA_ST_CONNRECORD));
     if (!records)
         throw std::bad_alloc();
-    preferLargePages(records, size);
+    preferLargePages(records, number * sizeof(_KORA_ST_CONNRECORD));
     return static_cast<_KORA_ST_CONNRECORD *>(records);
 }
 

@@ -56,6 +56,18 @@ void checkRange(const std::string &whose, const char *field, std::int64_t value,
                                                 std::to_string(maximum) + ".");
 }
 
+/// As much of a text as a sentence can take; it stays UTF-8 if it is.
+std::string beginningOf(const std::string &text)
+{
+    constexpr std::size_t enough = 64;
+    if (text.size() <= enough)
+        return text;
+    std::size_t end = enough;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U)
+        --end;
+    return text.substr(0, end) + "...";
+}
+
 void checkText(const std::string &whose, const char *field, const std::string &text,
                std::size_t maximum)
 {
@@ -64,17 +76,17 @@ void checkText(const std::string &whose, const char *field, const std::string &t
                                                 " contains a NUL character, but must be text "
                                                 "without one.");
     if (text.size() > maximum)
-        throw StoreFailure(Kind::BadRecord, "The " + std::string(field) + " of " + whose + ", \"" +
-                                                text + "\", has " + std::to_string(text.size()) +
-                                                " bytes, but may have 0 to " +
-                                                std::to_string(maximum) + ".");
+        throw StoreFailure(Kind::BadRecord,
+                           "The " + std::string(field) + " of " + whose + ", \"" +
+                               beginningOf(text) + "\", has " + std::to_string(text.size()) +
+                               " bytes, but may have 0 to " + std::to_string(maximum) + ".");
 }
 
 /// Checks what finished and open connections have in common.
 template <typename AnyConnection>
 void checkCommon(const AnyConnection &connection, const std::string &whose)
 {
-    checkText(whose, "profile", connection.profile, connection.profile.max_size());
+    checkText(whose, "profile", connection.profile, longestProfile);
     checkRange(whose, "start time", connection.startUtc, largestTime);
     checkRange(whose, "connected time", connection.connectedSeconds, largestDuration);
     checkRange(whose, "number of bytes sent", connection.uploadedBytes, maximumBytes);
@@ -94,7 +106,7 @@ void check(const OpenConnection &connection)
     const std::string whose = "the open connection";
     checkCommon(connection, whose);
     checkRange(whose, "time of the last update", connection.updatedUtc, largestTime);
-    checkText(whose, "boot id", connection.bootId, connection.bootId.max_size());
+    checkText(whose, "boot id", connection.bootId, longestProfile);
 }
 
 void checkAll(const std::vector<Connection> &connections)

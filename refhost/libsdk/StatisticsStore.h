@@ -20,12 +20,15 @@ namespace refhost
 constexpr std::int64_t largestTime = std::numeric_limits<std::uint32_t>::max();
 constexpr std::int64_t largestDuration = std::numeric_limits<std::int32_t>::max();
 
+/// The most bytes that a profile may have.
+constexpr std::size_t longestProfile = 1048576;
+
 /// One finished connection as the store keeps it. Times are seconds since
 /// 1970-01-01 00:00 UTC from 0 to largestTime, durations lie between 0 and
 /// largestDuration; byte counts are not negative. Texts are UTF-8.
 struct Connection {
     std::int64_t key = 0; ///< given by the store, never used twice; 0 before that
-    std::string profile;
+    std::string profile;  ///< at most longestProfile bytes
     std::int64_t startUtc = 0;
     std::int64_t endUtc = 0;
     std::int64_t connectedSeconds = 0;

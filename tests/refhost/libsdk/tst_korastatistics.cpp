@@ -8,7 +8,11 @@
 #include <QProcess>
 #include <QTest>
 
+#include <sys/inotify.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstring>
 #include <limits>
@@ -61,6 +65,7 @@ private slots:
     void releasesNull();
     void takesCallsFromManyThreads();
     void servesAHostInC();
+    void keepsTheStoreOpenBetweenCalls();
 
 private:
     /// The only record of a store with this connection alone.
@@ -300,6 +305,24 @@ void KoraStatisticsTest::servesAHostInC()
     QVERIFY(host.waitForFinished());
     QCOMPARE(host.exitCode(), 0);
     QCOMPARE(host.readAllStandardOutput(), QByteArray("10 12\n20 25\n"));
+}
+
+void KoraStatisticsTest::keepsTheStoreOpenBetweenCalls()
+{
+    storeWith(m_store->path(), numberedConnections(5));
+    handOut();
+    const int events = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    QVERIFY(inotify_add_watch(events, m_store->path().c_str(), IN_OPEN) >= 0);
+    QCOMPARE(handOut().records.size(), std::size_t(5));
+    QCOMPARE(KORA_Statistics_ConnRecord_RemoveRecord(0), int(refhost::KoraOk));
+    _KORA_ST_CONNRECORD last = {};
+    QCOMPARE(KORA_Statistics_GetLastConnRecord(&last), int(refhost::KoraOk));
+    std::array<char, 4096> seen = {};
+    QCOMPARE(read(events, seen.data(), seen.size()), ssize_t(-1));
+    // The watch does see who opens it.
+    QCOMPARE(profilesIn(m_store->path()), QString("1 2 3 4"));
+    QVERIFY(read(events, seen.data(), seen.size()) > 0);
+    close(events);
 }
 
 QTEST_GUILESS_MAIN(KoraStatisticsTest)

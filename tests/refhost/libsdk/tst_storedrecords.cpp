@@ -77,7 +77,8 @@ void StoredRecordsTest::takesValuesAtTheLimits_data()
     QTest::newRow("the most bytes received") << withField(&Connection::downloadedBytes, most);
     QTest::newRow("the longest ending") << withText(&Connection::ending, std::string(31, 'e'));
     QTest::newRow("no interface") << withText(&Connection::interfaceName, "");
-    QTest::newRow("a long profile") << withText(&Connection::profile, std::string(5000, 'p'));
+    QTest::newRow("the longest profile")
+        << withText(&Connection::profile, std::string(1048576, 'p'));
 }
 
 void StoredRecordsTest::takesValuesAtTheLimits()
@@ -124,6 +125,17 @@ void StoredRecordsTest::refusesValuesOutsideTheirRange_data()
         << withText(&Connection::interfaceName, std::string(32, 'i'))
         << QString("The interface of the connection, \"%1\", has 32 bytes, but may have 0 to 31.")
                .arg(QString(32, 'i'));
+    QTest::newRow("a profile of more than a megabyte")
+        << withText(&Connection::profile, std::string(1048577, 'p'))
+        << QString("The profile of the connection, \"%1...\", has 1048577 bytes, but may have 0 to "
+                   "1048576.")
+               .arg(QString(64, 'p'));
+    QTest::newRow("a profile of more than a megabyte in long characters")
+        << withText(&Connection::profile, "x" + QString(600000, QChar(0xe4)).toStdString())
+        << QString(
+               "The profile of the connection, \"x%1...\", has 1200001 bytes, but may have 0 to "
+               "1048576.")
+               .arg(QString(31, QChar(0xe4)));
     QTest::newRow("a profile with a NUL")
         << withText(&Connection::profile, std::string("a\0b", 3))
         << QString("The profile of the connection contains a NUL character, but must be text "

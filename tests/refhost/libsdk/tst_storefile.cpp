@@ -128,6 +128,8 @@ private slots:
     void followsALinkToTheFile();
     void refusesAndKeepsUntouched_data();
     void refusesAndKeepsUntouched();
+    void saysWhatIsInTheStoresPlace_data();
+    void saysWhatIsInTheStoresPlace();
     void refusesToWriteToAFileDamagedElsewhere();
     void keepsWhatACrashLeftInTheLog();
     void isLeftAloneOnceANewerProgramHasUpgradedIt();
@@ -351,6 +353,33 @@ void StoreFileTest::refusesAndKeepsUntouched()
     qputenv("NETINFO_STORE", (m_path + ".none").toLocal8Bit());
     KORA_Statistics_GetAllConnRecord(&records, &count);
     QCOMPARE(snapshotOf(m_folder->path()), before);
+}
+
+void StoreFileTest::saysWhatIsInTheStoresPlace_data()
+{
+    QTest::addColumn<Maker>("make");
+    QTest::addColumn<QString>("what");
+    QTest::newRow("less than a header")
+        << Maker([](const QString &path) { writeFile(path, "Dear diary"); }) << "some other file";
+    QTest::newRow("more than a header")
+        << Maker([](const QString &path) { writeFile(path, QByteArray(8192, 'x')); })
+        << "some other file";
+    QTest::newRow("another program's")
+        << Maker([](auto &path) { runSql(path.toStdString(), "CREATE TABLE notes (text)"); })
+        << "a database of another program";
+}
+
+void StoreFileTest::saysWhatIsInTheStoresPlace()
+{
+    QFETCH(Maker, make);
+    QFETCH(QString, what);
+    make(m_path);
+    const auto store = StatisticsStore::openOrCreate(m_path.toStdString());
+    QCOMPARE(outcomeOf(store), QString("NotAStore"));
+    QCOMPARE(QString::fromStdString(store.error().message),
+             QString("\"%1\" is not a connection history but %2; it was left as it is, move it "
+                     "away or name another file.")
+                 .arg(m_path, what));
 }
 
 void StoreFileTest::refusesToWriteToAFileDamagedElsewhere()
