@@ -339,10 +339,7 @@ void ConnectionHistoryDlg::Init()
         return;
     uiSetText();
     discardRows();
-    if (m_pRecordLogic) {
-        m_pRecordLogic->forgetRecords();
-        m_pRecordLogic->GetAllConnectedRecords();
-    }
+    fetchRecords();
     populateTable();
     connect(m_pTableDeleteShortcut, SIGNAL(activated()), this, SLOT(onDelete()),
             Qt::UniqueConnection);
@@ -385,9 +382,30 @@ void ConnectionHistoryDlg::discardRows()
 {
     for (int row = 0; row < m_pConnectionTblTreeWidget->rowCount(); ++row) {
         if (const QTableWidgetItem *item = m_pConnectionTblTreeWidget->item(row, 0))
-            delete linkedRecord(*item);
+            m_ownRecords.insert(linkedRecord(*item));
     }
+    freeOwnRecords();
     m_pConnectionTblTreeWidget->setRowCount(0);
+}
+
+void ConnectionHistoryDlg::fetchRecords()
+{
+    if (!m_pRecordLogic)
+        return;
+    m_pRecordLogic->forgetRecords();
+    m_pRecordLogic->GetAllConnectedRecords();
+    if (m_pConnectionTblTreeWidget)
+        return;
+    // A host has destroyed the table: no row will lead to these records.
+    for (ConnectionRecord *record : std::as_const(m_pRecordLogic->m_records))
+        m_ownRecords.insert(record);
+}
+
+void ConnectionHistoryDlg::reload()
+{
+    ReleaseTable();
+    fetchRecords();
+    populateTable();
 }
 
 bool ConnectionHistoryDlg::ShowWindow(QWidget *parent, QRect &rect)
@@ -441,6 +459,7 @@ void ConnectionHistoryDlg::PopulateTableRowOfConnectionRecord(ConnectionRecord *
     if (Log::isMissing(m_pConnectionTblTreeWidget, sourcePath, __func__, __LINE__) ||
         Log::isMissing(record, sourcePath, __func__, __LINE__))
         return;
+    m_ownRecords.insert(record);
     m_pConnectionTblTreeWidget->setRowHeight(row, rowHeight);
     for (int column = 0; column < columnCount; ++column) {
         auto *item = new (std::nothrow) QTableWidgetItem(m_commonCell);
@@ -457,46 +476,33 @@ void ConnectionHistoryDlg::PopulateTableRowOfConnectionRecord(ConnectionRecord *
 void ConnectionHistoryDlg::ReleaseTable()
 {
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    Records records;
-    const bool isComplete = collectLinkedRecords(records);
-    releaseRecordsWithoutRows(records);
-    qDeleteAll(records);
+    const bool isComplete = collectLinkedRecords();
+    freeOwnRecords();
     if (isComplete)
         Log::line("End File: %s %s: %d: %s:", sourcePath, __func__, __LINE__, now);
 }
 
-/// The records that the rows refer to, up to the first cell that is missing; false
-/// if something is.
-bool ConnectionHistoryDlg::collectLinkedRecords(Records &records) const
+/// The records that the rows refer to go with this window's own, up to the first cell
+/// that is missing; false if something is.
+bool ConnectionHistoryDlg::collectLinkedRecords()
 {
     const char function[] = "ReleaseTable";
     if (Log::isMissing(m_pConnectionTblTreeWidget, sourcePath, function, __LINE__) ||
         Log::isMissing(m_pRecordLogic, sourcePath, function, __LINE__))
         return false;
-    records.reserve(m_pConnectionTblTreeWidget->rowCount());
     for (int row = 0; row < m_pConnectionTblTreeWidget->rowCount(); ++row) {
         const QTableWidgetItem *item = m_pConnectionTblTreeWidget->item(row, 0);
         if (Log::isMissing(item, sourcePath, function, __LINE__))
             return false;
-        if (ConnectionRecord *record = linkedRecord(*item))
-            records.append(record);
+        m_ownRecords.insert(linkedRecord(*item));
     }
     return true;
 }
 
-/// Once a host has destroyed the table or rows of it, only the map leads to their
-/// records.
-void ConnectionHistoryDlg::releaseRecordsWithoutRows(const Records &recordsOfRows)
+/// Not those that somebody else has put into the map and no row has shown.
+void ConnectionHistoryDlg::freeOwnRecords()
 {
-    if (!m_pRecordLogic || recordsOfRows.size() >= m_pRecordLogic->m_records.size())
-        return;
-    QHash<int, ConnectionRecord *> &records = m_pRecordLogic->m_records;
-    for (const ConnectionRecord *record : recordsOfRows) {
-        if (records.value(record->m_nRecordId) == record)
-            records.remove(record->m_nRecordId);
-    }
-    qDeleteAll(records);
-    records.clear();
+    qDeleteAll(std::exchange(m_ownRecords, {}));
 }
 
 void ConnectionHistoryDlg::createTableRightClickAction()
@@ -580,8 +586,8 @@ void ConnectionHistoryDlg::onDelete()
     // While the question was open, the host may have ended the window or filled
     // the table with other records than the user was asked about.
     const bool isStillSame = self && m_pConnectionTblTreeWidget && changes == m_nTableChanges;
-    if (isWanted && isStillSame && !removeCells(selection.firstCells))
-        return;
+    if (isWanted && isStillSame)
+        removeCells(selection.firstCells);
     Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
 }
 
@@ -605,22 +611,18 @@ void ConnectionHistoryDlg::Selection::addRow(const QTableWidget &table, int row,
     const Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     for (int column = range.left(); column <= range.right(); ++column) {
         const QTableWidgetItem *cell = table.item(row, column);
-        if (table.isColumnHidden(column) || (cell && (cell->flags() & selectable) != selectable))
+        // A place without a cell has nothing in it that could be chosen.
+        if (!cell || table.isColumnHidden(column) || (cell->flags() & selectable) != selectable)
             continue;
         ++count;
-        if (!cell || column == 0)
+        if (column == 0)
             firstCells.append(cell);
     }
 }
 
-/// Removes the rows of these cells and their records; false, before anything is
-/// removed, at a missing cell.
-bool ConnectionHistoryDlg::removeCells(Cells cells)
+/// Removes the rows of these cells and their records.
+void ConnectionHistoryDlg::removeCells(Cells cells)
 {
-    for (const QTableWidgetItem *cell : cells) {
-        if (Log::isMissing(cell, sourcePath, "onDelete", __LINE__))
-            return false;
-    }
     std::sort(cells.begin(), cells.end(), std::less<>());
     QVector<int> rows;
     QVector<int> recordIds;
@@ -638,7 +640,6 @@ bool ConnectionHistoryDlg::removeCells(Cells cells)
     std::sort(recordIds.begin(), recordIds.end());
     removeRows(rows);
     removeRecords(recordIds);
-    return true;
 }
 
 void ConnectionHistoryDlg::removeRows(const QVector<int> &ascendingRows)
@@ -670,7 +671,9 @@ void ConnectionHistoryDlg::removeRecords(const QVector<int> &sortedIds)
     for (auto id = sortedIds.rbegin(); id != sortedIds.rend(); ++id) {
         // The record goes from the window even where the SDK keeps it.
         m_pRecordLogic->DeleteRecord(*id);
-        delete m_pRecordLogic->m_records.take(*id);
+        ConnectionRecord *const record = m_pRecordLogic->m_records.take(*id);
+        m_ownRecords.remove(record);
+        delete record;
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <QItemDelegate>
 #include <QPointer>
+#include <QSet>
 #include <QString>
 #include <QTableWidgetItem>
 #include <QVector>
@@ -61,9 +62,12 @@ public:
     /// Shows one row per record of the store's map, in the map's own order.
     void populateTable();
     void PopulateTableRowOfConnectionRecord(ConnectionRecord *record, int row);
-    /// Frees the records that the rows refer to; rows and items stay, so the
-    /// caller empties the store's map and refills or ends the table next.
+    /// Frees the records that the rows refer to, and those of rows that the host has
+    /// destroyed; rows and items stay, so the caller empties the store's map and
+    /// refills or ends the table next.
     void ReleaseTable();
+    /// Fetches every record again and fills the table anew.
+    void reload();
 
     /// Makes a fresh context menu; earlier ones live as long as the table.
     void createTableRightClickAction();
@@ -83,11 +87,10 @@ public Q_SLOTS:
 
 private:
     using Cells = QVector<const QTableWidgetItem *>;
-    using Records = QVector<ConnectionRecord *>;
     struct SummaryLayouts;
 
-    /// What is selected: how many cells, and those that lead to a record, with a
-    /// null pointer for each place that has no cell.
+    /// What is selected: how many cells, and which of them lead to a record. The
+    /// toolkit's own list of selected cells takes much longer to make.
     struct Selection {
         void addRow(const QTableWidget &table, int row, const QItemSelectionRange &range);
 
@@ -101,13 +104,14 @@ private:
     bool buildLayout();
     void setTableBehaviour();
     void discardRows();
-    bool collectLinkedRecords(Records &records) const;
-    void releaseRecordsWithoutRows(const Records &recordsOfRows);
+    void fetchRecords();
+    bool collectLinkedRecords();
+    void freeOwnRecords();
     void deleteHeaderItemsAndDelegate();
 
     bool isConfirmed(const QString &textId);
     Selection selectedCells() const;
-    bool removeCells(Cells cells);
+    void removeCells(Cells cells);
     void removeRows(const QVector<int> &ascendingRows);
     qint64 selectedArea() const;
     void removeRecords(const QVector<int> &sortedIds);
@@ -149,5 +153,8 @@ private:
     /// Copies share what they have in common with it, which costs far less than to set
     /// each role of each cell.
     const QTableWidgetItem m_commonCell;
+    /// What this window has put into rows, or would have: freed by it even where a
+    /// host has destroyed the rows.
+    QSet<ConnectionRecord *> m_ownRecords;
     int m_nTableChanges = 0; // tells an open question that its rows are others now
 };

@@ -168,7 +168,7 @@ void NetInfoRecordUIPlugin::onConnectionReceived(unsigned int status)
         return; // the host has ended the window meanwhile
     if (isSummaryWanted)
         m_pHistoryDlg->ShowDialogOfLastConnectedRecord(window);
-    reloadHistory();
+    m_pHistoryDlg->reload();
 }
 
 /// Whether the host has loaded a dial-up plug-in that gives the dial-up service;
@@ -185,14 +185,6 @@ bool NetInfoRecordUIPlugin::hasDialupService() const
         return false;
     const void *service = dialup->qt_metacast("com.quorin.skylarkdialer.plugin.IDialupUIService");
     return !Log::isMissing(service, sourcePath, function, 350);
-}
-
-void NetInfoRecordUIPlugin::reloadHistory()
-{
-    m_pHistoryDlg->ReleaseTable();
-    m_pLogic->forgetRecords();
-    m_pLogic->GetAllConnectedRecords();
-    m_pHistoryDlg->populateTable();
 }
 
 void NetInfoRecordUIPlugin::OnDestroy()

@@ -49,7 +49,6 @@ public:
 private:
     void onConnectionReceived(unsigned int status);
     bool hasDialupService() const;
-    void reloadHistory();
 
     QPointer<ConnectionHistoryDlg> m_pHistoryDlg;
     bool m_bReady = false; // never becomes true; that is meant

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void bindsDeleteDAndAToTheOpenMenu();
     void staysAwayOutsideTheCells_data();
     void staysAwayOutsideTheCells();
+    void opensDownToTheTablesHeight();
     void actsOnItsEntries_data();
     void actsOnItsEntries();
     void actsOnItsKeys_data();
@@ -128,6 +129,17 @@ void tst_ContextMenu::staysAwayOutsideTheCells()
     QFETCH(QPoint, point);
     QVERIFY(!request(point, [](QMenu *) {}));
     QVERIFY(m_plugin->table()->findChildren<QMenu *>().isEmpty());
+}
+
+void tst_ContextMenu::opensDownToTheTablesHeight()
+{
+    // The header takes room from the cells, so a row stands there, out of sight.
+    Host::instance().records.fill(scripted::record("a", "1", "2", "1", "0", "0"), 100);
+    m_plugin->ui()->Init();
+    const int height = m_plugin->table()->height();
+    QVERIFY(m_plugin->table()->indexAt(QPoint(20, height + 1)).isValid());
+    QVERIFY(request(QPoint(20, height), [](QMenu *) {}));
+    QVERIFY(!request(QPoint(20, height + 1), [](QMenu *) {}));
 }
 
 void tst_ContextMenu::actsOnItsEntries_data()

@@ -40,7 +40,8 @@ private Q_SLOTS:
     void deletesWhatIsLeftOfRowsThatTheHostRemovedMeanwhile();
     void keepsTheSelectionOfRowsThatStay();
     void keepsTheSelectionWhereNothingIsDeleted();
-    void deletesNothingWhereACellIsMissing();
+    void asksNothingForARowThatLacksACell();
+    void deletesRowsOfWhichOneLacksACell();
     void survivesTheEndDuringTheQuestion_data();
     void survivesTheEndDuringTheQuestion();
     void deletesThousandsOfRows();
@@ -386,16 +387,28 @@ void tst_Deletion::keepsTheSelectionWhereNothingIsDeleted()
     QCOMPARE(m_plugin->table()->selectedItems().size(), 6);
 }
 
-void tst_Deletion::deletesNothingWhereACellIsMissing()
+void tst_Deletion::asksNothingForARowThatLacksACell()
 {
     start(3);
+    delete m_plugin->table()->takeItem(1, 3);
+    selectRows({1});
+    trigger("onDelete");
+    QVERIFY(Host::instance().calls.isEmpty());
+    QCOMPARE(m_plugin->table()->rowCount(), 3);
+}
+
+void tst_Deletion::deletesRowsOfWhichOneLacksACell()
+{
+    start(3);
+    const QString kept = profiles().at(2);
     delete m_plugin->table()->takeItem(1, 3);
     selectRows({0, 1});
     LogCapture log;
     trigger("onDelete");
-    QCOMPARE(int(log.take().filter(QStringLiteral("Arg is NULL")).size()), 1);
-    QVERIFY(removals().isEmpty());
-    QCOMPARE(m_plugin->table()->rowCount(), 3);
+    QVERIFY(log.take().filter(QStringLiteral("Arg is NULL")).isEmpty());
+    QCOMPARE(Host::instance().messageBoxes.size(), 1);
+    QCOMPARE(removals().size(), 2);
+    QCOMPARE(profiles(), QStringList{kept});
 }
 
 void tst_Deletion::survivesTheEndDuringTheQuestion_data()
