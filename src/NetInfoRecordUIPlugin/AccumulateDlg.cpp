@@ -44,11 +44,12 @@ void setNameIfPresent(const QPointer<Widget> &widget, const char *name)
         widget->setObjectName(QLatin1String(name));
 }
 
+/// The host is asked for the texts of widgets that are there only.
 template <typename Widget>
-void setTextIfPresent(const QPointer<Widget> &widget, const QString &text)
+void setTextIfPresent(AccumulateDlg &dialog, const QPointer<Widget> &widget, const char *id)
 {
     if (widget)
-        widget->setText(text);
+        widget->setText(dialog.tr(QLatin1String(id)));
 }
 
 QString yearOf(const QString &stamp)
@@ -123,11 +124,11 @@ void AccumulateDlg::uiSetText()
     if (m_pMonthSelectionComboBox)
         m_pMonthSelectionComboBox->clear();
     m_pDialog->setWindowTitle(tr(QLatin1String("IDS_TITLE_TOTAL")));
-    setTextIfPresent(m_pSelectProfileLbl, tr(QLatin1String("IDS_STC_APN")));
-    setTextIfPresent(m_pSelectMonthLbl, tr(QLatin1String("IDS_STC_MONTH")));
-    setTextIfPresent(m_pUploadedData, tr(QLatin1String("IDS_TREE_UPLOADED_DATA")));
-    setTextIfPresent(m_pDownloadedData, tr(QLatin1String("IDS_TREE_DOWNLOADED_DATA")));
-    setTextIfPresent(m_pTransferTime, tr(QLatin1String("IDS_TREE_TIME_TRANSFER")));
+    setTextIfPresent(*this, m_pSelectProfileLbl, "IDS_STC_APN");
+    setTextIfPresent(*this, m_pSelectMonthLbl, "IDS_STC_MONTH");
+    setTextIfPresent(*this, m_pUploadedData, "IDS_TREE_UPLOADED_DATA");
+    setTextIfPresent(*this, m_pDownloadedData, "IDS_TREE_DOWNLOADED_DATA");
+    setTextIfPresent(*this, m_pTransferTime, "IDS_TREE_TIME_TRANSFER");
     if (m_pMonthSelectionComboBox) {
         m_pMonthSelectionComboBox->addItem(tr(QLatin1String("IDS_COMBO_THISMONTH")));
         m_pMonthSelectionComboBox->addItem(tr(QLatin1String("IDS_COMBO_LASTMONTH")));
@@ -135,7 +136,7 @@ void AccumulateDlg::uiSetText()
     }
     if (m_pStatisticsGrp)
         m_pStatisticsGrp->setTitle(tr(QLatin1String("IDS_GROUP_STATISTIC")));
-    setTextIfPresent(m_pPushButton, tr(QLatin1String("IDS_BTN_OK")));
+    setTextIfPresent(*this, m_pPushButton, "IDS_BTN_OK");
     Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 284, buildTime);
 }
 
@@ -177,8 +178,8 @@ AccumulateDlg::~AccumulateDlg() = default;
 void AccumulateDlg::init()
 {
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 370, buildTime);
-    std::unique_ptr<QVBoxLayout> vertical(new (std::nothrow) QVBoxLayout);
-    if (!createSelection(vertical.get()) || !createStatistics(vertical.get()) ||
+    std::unique_ptr<QVBoxLayout> vertical;
+    if (!createSelection(vertical) || !createStatistics(vertical.get()) ||
         !createButton(vertical.get()) || !createValues())
         return;
     m_pMainWidget->setLayout(vertical.release());
@@ -196,17 +197,18 @@ bool AccumulateDlg::areAllPresent(std::initializer_list<const QObject *> objects
     return true;
 }
 
-bool AccumulateDlg::createSelection(QVBoxLayout *vertical)
+bool AccumulateDlg::createSelection(std::unique_ptr<QVBoxLayout> &vertical)
 {
     m_pMainWidget = new (std::nothrow) QWidget(m_pDialog);
     m_pSelectProfileLbl = new (std::nothrow) QLabel;
     m_pSelectMonthLbl = new (std::nothrow) QLabel;
     m_pProfileSelectionComboBox = new (std::nothrow) QComboBox(m_pMainWidget);
     m_pMonthSelectionComboBox = new (std::nothrow) QComboBox(m_pMainWidget);
+    vertical.reset(new (std::nothrow) QVBoxLayout);
     std::unique_ptr<QHBoxLayout> profileRow(new (std::nothrow) QHBoxLayout);
     std::unique_ptr<QHBoxLayout> monthRow(new (std::nothrow) QHBoxLayout);
     if (!areAllPresent({m_pMainWidget, m_pSelectProfileLbl, m_pSelectMonthLbl,
-                        m_pProfileSelectionComboBox, m_pMonthSelectionComboBox, vertical,
+                        m_pProfileSelectionComboBox, m_pMonthSelectionComboBox, vertical.get(),
                         profileRow.get(), monthRow.get()},
                        382))
         return false;
@@ -477,7 +479,8 @@ void AccumulateDlg::showFigures(const Figures &figures)
                               tr(QLatin1String("IDS_STC_SINGLEPACKET_UNIT")));
     m_pDownloadedValue->setText(figures.downloaded + QLatin1Char(' ') +
                                 tr(QLatin1String("IDS_STC_SINGLEPACKET_UNIT")));
-    m_pTransferTimeValue->setText(time.toString(QLatin1String("hh:mm:ss")));
+    // Of the C locale: some versions of Qt would take the user's digits.
+    m_pTransferTimeValue->setText(QLocale::c().toString(time, QLatin1String("hh:mm:ss")));
     m_pFormLayout->setContentsMargins(10, 20, 10, 10);
     m_pFormLayout->setSpacing(10);
     // Added again at every refresh: the layout's row count grows by three.

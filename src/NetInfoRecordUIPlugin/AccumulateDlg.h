@@ -10,6 +10,7 @@
 #include <QVector>
 
 #include <initializer_list>
+#include <memory>
 
 class ExtendDialog;
 class NetInfoRecordLogic;
@@ -67,7 +68,7 @@ private:
 
     void init();
     static bool areAllPresent(std::initializer_list<const QObject *> objects, int line);
-    bool createSelection(QVBoxLayout *vertical);
+    bool createSelection(std::unique_ptr<QVBoxLayout> &vertical);
     bool createStatistics(QVBoxLayout *vertical);
     bool createButton(QVBoxLayout *vertical);
     bool createValues();

@@ -71,6 +71,7 @@ private Q_SLOTS:
     void placesItsWidgets();
     void setsItsTexts();
     void translatesInAFixedOrder();
+    void asksForNoTextOfAMissingWidget();
     void showsZerosWithoutRows();
     void findsLeapYears_data();
     void findsLeapYears();
@@ -285,6 +286,18 @@ void tst_AccumulateDlg::translatesInAFixedOrder()
     for (QString &id : expected)
         id += QStringLiteral("/NetInfoRecordUIPlugin");
     QCOMPARE(Host::instance().translated, expected);
+}
+
+void tst_AccumulateDlg::asksForNoTextOfAMissingWidget()
+{
+    dlg()->showWindow(m_parent.get());
+    for (const char *name :
+         {"m_pSelectProfileLbl", "m_pSelectMonthLbl", "m_pUploadedData", "m_pDownloadedData",
+          "m_pTransferTime", "m_pStatisticsGrp", "m_pMonthSelectionComboBox", "m_pPushButton"})
+        delete frame()->findChild<QWidget *>(name); // some have gone with the group
+    Host::instance().translated.clear();
+    dlg()->uiSetText();
+    QCOMPARE(Host::instance().translated, QStringList{"IDS_TITLE_TOTAL/NetInfoRecordUIPlugin"});
 }
 
 void tst_AccumulateDlg::showsZerosWithoutRows()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "AccumulateDlg.h"
 #include "ConnectionHistoryDlg.h"
 #include "LogCapture.h"
 #include "NetInfoRecordLogic.h"
@@ -8,9 +9,6 @@
 #include <QMenu>
 #include <QTableWidget>
 #include <QTest>
-#ifdef NETINFORECORD_WIRE_STATISTICS
-#    include "AccumulateDlg.h"
-#endif
 
 #include <cstddef>
 #include <functional>
@@ -48,6 +46,7 @@ private Q_SLOTS:
 
     void saysWhatIsMissing_data();
     void saysWhatIsMissing();
+    void createsTheMainWidgetOfTheStatisticsFirst();
 #ifdef NETINFORECORD_WIRE_STATISTICS
     void showsWhatThereIsOfTheStatistics();
 #endif
@@ -115,6 +114,22 @@ void tst_FailedCreations::saysWhatIsMissing()
         ConnectionHistoryDlg::Destroy();
     }
     QVERIFY(failures > 1);
+}
+
+void tst_FailedCreations::createsTheMainWidgetOfTheStatisticsFirst()
+{
+    QStringList lines;
+    for (int created = 0; created < 8; ++created) {
+        LogCapture log;
+        creationsLeft = created;
+        AccumulateDlg::Instance();
+        creationsLeft = -1;
+        lines.append(log.takeAbout(QStringLiteral("Arg is NULL")).join(QLatin1Char('\n')).right(3));
+        AccumulateDlg::Instance()->destroy();
+        AccumulateDlg::Destroy();
+    }
+    // In the order of the lines: main widget, labels, combo boxes, layouts.
+    QCOMPARE(lines, (QStringList{"382", "383", "384", "385", "386", "387", "388", "389"}));
 }
 
 #ifdef NETINFORECORD_WIRE_STATISTICS
