@@ -15,27 +15,27 @@ namespace
 {
 
 /// Also gives the owner what a umask has taken.
-void keepToOwner(const QString &folder)
+void keepToOwner(const QString &path)
 {
-    fchmodat(AT_FDCWD, QFile::encodeName(folder).constData(), S_IRWXU, AT_SYMLINK_NOFOLLOW);
+    fchmodat(AT_FDCWD, QFile::encodeName(path).constData(), S_IRWXU, AT_SYMLINK_NOFOLLOW);
 }
 
-void createFolders(const QString &folder)
+void createFolders(const QString &path)
 {
-    if (QFileInfo::exists(folder))
+    if (QFileInfo::exists(path))
         return;
-    createFolders(QFileInfo(folder).absolutePath());
-    if (mkdir(QFile::encodeName(folder).constData(), S_IRWXU) == 0)
-        keepToOwner(folder);
+    createFolders(QFileInfo(path).absolutePath());
+    if (mkdir(QFile::encodeName(path).constData(), S_IRWXU) == 0)
+        keepToOwner(path);
 }
 
 } // namespace
 
 void preparePrivateFile(const QString &path)
 {
-    const QString folder = QFileInfo(path).absolutePath();
-    createFolders(folder);
-    keepToOwner(folder);
+    const QString parent = QFileInfo(path).absolutePath();
+    createFolders(parent);
+    keepToOwner(parent);
     const int file = open(QFile::encodeName(path).constData(),
                           O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (file < 0)
