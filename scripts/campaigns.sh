@@ -43,6 +43,7 @@ fuzz() {
     export QT_QPA_PLATFORM=offscreen TZ=Europe/Berlin LC_ALL=C.UTF-8
     export LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0
     export FUZZ_SECONDS=${FUZZ_SECONDS:-1800}
+    # shellcheck disable=SC2016  # the inner shell expands them
     printf '%s\n' 'sdkrecord 2176' 'csv 2048' 'store 302' 'pppd 8192' |
         xargs -P 2 -L 1 bash -c '
             found=build/fuzz/tests/found/$0 corpus=(tests/fuzz/corpus/"$0")

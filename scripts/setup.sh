@@ -1,4 +1,5 @@
 # SPDX-License-Identifier: MIT
+# shellcheck shell=bash disable=SC2034
 # Shared by ./run and ./test: what Debian has to give, and how to build.
 
 build_packages=(
@@ -11,7 +12,7 @@ run_packages=(fonts-dejavu-core)
 # What every step of ./test needs, and what single steps need besides.
 test_packages=(sqlite3 man-db desktop-file-utils appstream iproute2)
 clang_packages=(clang libclang-rt-dev)
-style_packages=(clang clang-format clang-tidy)
+style_packages=(clang clang-format clang-tidy codespell reuse shellcheck)
 qt5_packages=(qtbase5-dev qttools5-dev qttools5-dev-tools libbenchmark-dev)
 
 say() {

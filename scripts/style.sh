@@ -1,19 +1,20 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Checks the format of every source file, and what clang-tidy finds in those of the
-# product and the example.
+# Checks the format of every source file, licences, spelling and shell scripts, and
+# what clang-tidy finds in the sources of the product and the example.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=build/style
 
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
-without_licence=$(git ls-files '*.h' '*.cpp' '*CMakeLists.txt' '*.cmake' '*.sh' run test .ci/run |
-    xargs grep -L 'SPDX-License-Identifier: MIT' || true)
-if [ -n "$without_licence" ]; then
-    printf 'No SPDX line in: %s\n' "$without_licence" >&2
+licences=$(reuse lint 2>&1) || {
+    printf '%s\n' "$licences" >&2
     exit 1
-fi
+}
+git ls-files -z ':!tests/fuzz/corpus' ':!*.ts' ':!*.png' ':!*.svg' ':!*.desktop' ':!*.metainfo.xml' |
+    xargs -0 codespell
+git ls-files -z '*.sh' run test .ci/run packaging/build-deb | xargs -0 shellcheck --external-sources
 
 cmake --preset style >/dev/null
 

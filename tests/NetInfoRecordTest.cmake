@@ -36,6 +36,8 @@ function(netinforecord_add_test name)
     set_property(SOURCE ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
         PROPERTY SKIP_PRECOMPILE_HEADERS ON)
     add_test(NAME ${name} COMMAND ${name})
+    get_filename_component(label ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+    set_tests_properties(${name} PROPERTIES LABELS ${label})
     netinforecord_test_environment(${name})
 endfunction()
 
