@@ -12,6 +12,9 @@
 namespace refhost
 {
 
+/// The end of the year 9999: no calendar that is written in four digits goes on.
+constexpr std::int64_t latestWrittenTime = 253402300799;
+
 /// A time as somebody wrote it: a place in the calendar, perhaps without a year,
 /// in local time unless an offset says otherwise.
 struct CalendarTime {

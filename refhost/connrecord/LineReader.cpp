@@ -34,6 +34,21 @@ bool LineReader::next()
     return !m_hasFailed;
 }
 
+std::string_view LineReader::takeBytes(std::uint64_t count)
+{
+    m_line.clear();
+    while (count > 0 && hasBytes()) {
+        const char *const start = m_chunk.constData() + m_position;
+        const auto available = static_cast<std::uint64_t>(m_chunkSize - m_position);
+        const auto length = static_cast<std::size_t>(std::min(count, available));
+        m_lineNumber += std::count(start, start + length, '\n');
+        m_line.append(start, std::min(length, m_longestLine - m_line.size()));
+        m_position += static_cast<int>(length);
+        count -= length;
+    }
+    return m_line;
+}
+
 bool LineReader::hasBytes()
 {
     if (m_position < m_chunkSize)

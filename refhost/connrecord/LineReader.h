@@ -21,6 +21,9 @@ public:
 
     /// Whether there is one more line, which line() then gives.
     bool next();
+    /// The next bytes, line feeds among them or not, fewer at the end of the device; what
+    /// of them is longer than a line may be is passed over. Valid as line() is.
+    std::string_view takeBytes(std::uint64_t count);
     /// Valid until next() is called again.
     std::string_view line() const { return m_line; }
     /// Counted from 1.

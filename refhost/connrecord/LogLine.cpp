@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ctime>
 
 namespace refhost
 {
@@ -81,12 +82,56 @@ void passPriority(TextScanner &scanner)
         scanner = ahead;
 }
 
+/// Gives the time the offset that the zone of this name has then, if it is UTC or
+/// one of local time's.
+bool applyZone(std::string_view name, CalendarTime &time)
+{
+    const UtcSpan span = utcSpan(time);
+    for (const std::time_t utc : {span.earliest, span.latest}) {
+        std::tm local = {};
+        if (localtime_r(&utc, &local) && name == local.tm_zone)
+            time.utcOffset = static_cast<int>(local.tm_gmtoff);
+    }
+    if (name == "UTC")
+        time.utcOffset = 0;
+    return time.utcOffset.has_value();
+}
+
+/// Fri 2023-11-10 17:02:09 CET
+std::optional<CalendarTime> takeFullTime(TextScanner &scanner)
+{
+    TextScanner ahead = scanner;
+    if (takeName(ahead, weekdays) == 0 || !ahead.takeSpaces())
+        return std::nullopt;
+    auto time = takeIsoTime(ahead);
+    if (!time || !ahead.takeSpaces() || !applyZone(ahead.takeWord(), *time))
+        return std::nullopt;
+    scanner = ahead;
+    return time;
+}
+
+/// 1699632129.123456, in seconds since 1970-01-01 00:00 UTC
+std::optional<CalendarTime> takeUnixTime(TextScanner &scanner)
+{
+    constexpr std::size_t leastDigits = 9;
+    TextScanner ahead = scanner;
+    const std::string_view digits = ahead.takeDigits();
+    const auto seconds = wholeNumber(digits);
+    if (digits.size() < leastDigits || !seconds->isInRange || seconds->value > latestWrittenTime ||
+        !ahead.take('.') || ahead.takeDigits().empty())
+        return std::nullopt;
+    scanner = ahead;
+    return utcCalendarTime(seconds->value);
+}
+
 std::optional<CalendarTime> takeTime(TextScanner &scanner)
 {
     TextScanner ahead = scanner;
-    auto time = takeIsoTime(ahead);
-    if (!time)
-        time = takeNamedMonthTime(ahead);
+    std::optional<CalendarTime> time;
+    for (const auto take : {takeIsoTime, takeNamedMonthTime, takeFullTime, takeUnixTime}) {
+        if (!time)
+            time = take(ahead);
+    }
     ahead.take(':');
     if (!time || (!ahead.isAtEnd() && ahead.rest().front() != ' '))
         return std::nullopt;
@@ -134,6 +179,53 @@ bool readProcess(std::string_view word, LogLine &line)
     return true;
 }
 
+/// The next word of an RFC 5424 header, "-" as an empty one.
+std::string_view takeHeaderWord(TextScanner &scanner)
+{
+    scanner.takeSpaces();
+    const std::string_view word = scanner.takeWord();
+    return word == "-" ? std::string_view() : word;
+}
+
+/// [name key="value" ...][...] or -
+void passStructuredData(TextScanner &scanner)
+{
+    scanner.takeSpaces();
+    if (scanner.take('-'))
+        return;
+    while (scanner.take('[')) {
+        bool isQuoted = false;
+        while (!scanner.isAtEnd() && (isQuoted || !scanner.take(']'))) {
+            if (scanner.take('"'))
+                isQuoted = !isQuoted;
+            else if (!scanner.take("\\\"") && !scanner.take("\\\\"))
+                scanner.takeCharacter();
+        }
+    }
+}
+
+/// 1 2023-11-10T17:02:09.123Z host pppd 485 - [structured data] message
+std::optional<LogLine> parseRfc5424(TextScanner scanner)
+{
+    LogLine line;
+    if (!scanner.take("1 "))
+        return std::nullopt;
+    line.time = takeIsoTime(scanner);
+    if (!line.time)
+        return std::nullopt;
+    line.host = takeHeaderWord(scanner);
+    const std::string_view process = takeHeaderWord(scanner);
+    line.process = process.substr(process.rfind('/') + 1);
+    const auto pid = wholeNumber(takeHeaderWord(scanner));
+    line.pid = pid && pid->isInRange ? pid->value : -1;
+    takeHeaderWord(scanner); // the message's id
+    passStructuredData(scanner);
+    scanner.takeSpaces();
+    scanner.take("\xEF\xBB\xBF");
+    line.message = scanner.rest();
+    return line;
+}
+
 } // namespace
 
 LogLine parseLogLine(std::string_view text)
@@ -143,6 +235,8 @@ LogLine parseLogLine(std::string_view text)
     LogLine line;
     TextScanner scanner(text);
     passPriority(scanner);
+    if (const auto structured = parseRfc5424(scanner))
+        return *structured;
     line.time = takeTime(scanner);
     scanner.takeSpaces();
     line.message = scanner.rest();

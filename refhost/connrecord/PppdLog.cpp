@@ -2,7 +2,7 @@
 #include "PppdLog.h"
 
 #include "LineReader.h"
-#include "LogLine.h"
+#include "LogReader.h"
 
 #include <algorithm>
 #include <map>
@@ -63,9 +63,9 @@ void dropCopiesOf(std::vector<PppdEvent> &events, std::string_view program,
     events.erase(std::remove_if(events.begin(), events.end(), isUnwanted), events.end());
 }
 
-PppdEvent eventFrom(const LogLine &line, PppdMessage message, std::size_t run,
-                    const LineReader &lines)
+PppdEvent eventFrom(const LogReader &reader, PppdMessage message, std::size_t run)
 {
+    const LogLine &line = reader.entry();
     PppdEvent event;
     event.message = std::move(message);
     event.time = line.time;
@@ -73,9 +73,9 @@ PppdEvent eventFrom(const LogLine &line, PppdMessage message, std::size_t run,
     event.host = line.host;
     event.process = line.process;
     event.pid = line.pid;
-    event.line = lines.lineNumber();
+    event.line = reader.lineNumber();
     event.messageText = line.message.substr(0, longestQuotedText);
-    event.lineText = lines.line().substr(0, longestQuotedText);
+    event.lineText = reader.text().substr(0, longestQuotedText);
     return event;
 }
 
@@ -113,12 +113,13 @@ PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress)
 {
     PppdLog log;
     std::size_t run = 0;
-    while (lines.next()) {
-        const LogLine line = parseLogLine(lines.line());
+    LogReader reader(lines);
+    while (reader.next()) {
+        const LogLine &line = reader.entry();
         if (line.time)
             run = log.clock.add(*line.time);
         if (auto message = messageIn(line))
-            log.events.push_back(eventFrom(line, std::move(*message), run, lines));
+            log.events.push_back(eventFrom(reader, std::move(*message), run));
         progress(lines.bytesRead());
     }
     if (isNewestFirst(log))

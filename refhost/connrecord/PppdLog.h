@@ -47,7 +47,7 @@ PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress);
 /// has none under pppd's or chat's own name, and are taken away elsewhere.
 void dropCopies(std::vector<PppdEvent> &events);
 
-/// Longer lines need not be read to their end: no message is that long.
-constexpr std::size_t longestLogLine = 8192;
+/// Longer lines need not be read to their end: no message, even as JSON, is that long.
+constexpr std::size_t longestLogLine = 65536;
 
 } // namespace refhost

@@ -23,6 +23,8 @@ public:
     bool take(char character);
     bool take(std::string_view text);
     bool takeAnyOf(std::string_view characters);
+    /// Whichever it is, if there is one.
+    void takeCharacter() { takeFirst(1); }
     /// At least one space or tabulator.
     bool takeSpaces();
     /// Everything up to the next `end`, which is taken as well and not returned;

@@ -39,6 +39,9 @@ private slots:
     void readsRotatedLogsAsOne();
     void readsALineOfSeveralFilesOnce();
     void readsTheNewestLineFirst();
+    void readsTheJournal_data();
+    void readsTheJournal();
+    void survivesABrokenJournal();
     void readsCompressedLogs_data();
     void readsCompressedLogs();
     void refusesABrokenArchive_data();
@@ -76,6 +79,60 @@ QByteArray shortConnection(const QByteArray &end)
 {
     return end + " gw pppd[7]: Connect time 1.0 minutes.\n" + end +
            " gw pppd[7]: Sent 1 bytes, received 2 bytes.\n";
+}
+
+struct JournalMessage {
+    int second; ///< since 2023-11-10 16:02:00 UTC
+    const char *process;
+    const char *message;
+};
+
+QByteArray journalTime(const JournalMessage &entry)
+{
+    return QByteArray::number(qint64(1699632120) + entry.second);
+}
+
+QByteArray journalAsJson(const JournalMessage &entry)
+{
+    // The message as bytes, as journalctl writes what is not all text.
+    QByteArrayList bytes;
+    for (const char byte : QByteArray(entry.message))
+        bytes << QByteArray::number(int(byte));
+    return "{\"__REALTIME_TIMESTAMP\":\"1\",\"_SOURCE_REALTIME_TIMESTAMP\":\"" +
+           journalTime(entry) +
+           "123456\",\"_HOSTNAME\":\"gw\",\"_PID\":\"7\",\"SYSLOG_IDENTIFIER\":\"" + entry.process +
+           "\",\"MESSAGE\":[" + bytes.join(',') + "]}\n";
+}
+
+QByteArray journalAsExport(const JournalMessage &entry)
+{
+    const QByteArray message = entry.message;
+    QByteArray length(8, '\0');
+    length[0] = char(message.size());
+    return QByteArray("__CURSOR=s\n__REALTIME_TIMESTAMP=") + journalTime(entry) +
+           "123456\n_HOSTNAME=gw\nNOTE\n" + QByteArray("\x03\0\0\0\0\0\0\0\n\n\n\n", 12) +
+           "_COMM=" + entry.process + "\nSYSLOG_PID=7\nMESSAGE\n" + length + message + "\n\n";
+}
+
+QByteArray journalAsShortUnix(const JournalMessage &entry)
+{
+    return journalTime(entry) + ".123456 gw " + entry.process + "[7]: " + entry.message + '\n';
+}
+
+QByteArray journal(QByteArray (*write)(const JournalMessage &), bool isReversed)
+{
+    QByteArrayList entries;
+    for (const JournalMessage &entry :
+         {JournalMessage{5, "chat", "send (AT+CGDCONT=1,\"IP\",\"internet.example\"^M)"},
+          JournalMessage{9, "pppd", "Connect: ppp0 <--> /dev/ttyUSB0"},
+          JournalMessage{10, "pppd", "local  IP address 198.51.100.7"},
+          JournalMessage{68, "pppd", "Modem hangup"},
+          JournalMessage{69, "pppd", "Connect time 1.0 minutes."},
+          JournalMessage{69, "pppd", "Sent 7 bytes, received 8 bytes."}})
+        entries << write(entry);
+    if (isReversed)
+        std::reverse(entries.begin(), entries.end());
+    return entries.join();
 }
 
 } // namespace
@@ -367,6 +424,37 @@ void ConnrecordPppdTest::readsTheNewestLineFirst()
     std::reverse(lines.begin(), lines.end());
     QCOMPARE(import(writtenLog(lines.join('\n') + '\n', "2024-01-02T00:00:00")).exitCode, 0);
     QCOMPARE(exported(), readFile(dataFile("host.csv")));
+}
+
+void ConnrecordPppdTest::readsTheJournal_data()
+{
+    QTest::addColumn<QByteArray>("log");
+
+    for (const bool isReversed : {false, true}) {
+        const char *const order = isReversed ? ", the newest first" : "";
+        QTest::addRow("json%s", order) << journal(journalAsJson, isReversed);
+        QTest::addRow("export%s", order) << journal(journalAsExport, isReversed);
+        QTest::addRow("short-unix%s", order) << journal(journalAsShortUnix, isReversed);
+    }
+}
+
+void ConnrecordPppdTest::readsTheJournal()
+{
+    QFETCH(QByteArray, log);
+    QCOMPARE(import("-", {}, log).exitCode, 0);
+    QCOMPARE(exported(),
+             QByteArray("profile,start,end,connected_seconds,uploaded_bytes,downloaded_bytes,"
+                        "ending,interface\ninternet.example,2023-11-10T16:02:10Z,"
+                        "2023-11-10T16:03:09Z,60,7,8,modem hangup,ppp0\n"));
+}
+
+void ConnrecordPppdTest::survivesABrokenJournal()
+{
+    const QByteArray whole = journal(journalAsExport, false);
+    for (int length = 0; length < whole.size(); length += 41)
+        QVERIFY(import("-", {}, whole.left(length)).exitCode != -1);
+    // A field that says it is longer than all memory.
+    QCOMPARE(import("-", {}, "__CURSOR=a\nMESSAGE\n" + QByteArray(8, '\xFF') + "x\n").exitCode, 4);
 }
 
 void ConnrecordPppdTest::readsCompressedLogs_data()

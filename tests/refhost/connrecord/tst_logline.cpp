@@ -80,6 +80,38 @@ void LogLineTest::takesALineApart_data()
         << "Sat Jun 17 17:29:16 2023gw pppd[3844]: Exit."
         << "0-6-17 17:29:16"
         << "pppd" << qint64(3844) << "Exit.";
+    QTest::newRow("RFC 5424") << "<30>1 2023-11-10T17:02:09.123Z gw pppd 485 - - Exit."
+                              << "2023-11-10 17:2:9 0"
+                              << "pppd" << qint64(485) << "Exit.";
+    QTest::newRow("RFC 5424 with structured data and a mark")
+        << "<30>1 2023-11-10T17:02:09+01:00 gw /usr/sbin/pppd 485 ID4 "
+           "[a@1 b=\"x\\\"]y [\"][c] \xEF\xBB\xBF"
+           "Exit."
+        << "2023-11-10 17:2:9 3600"
+        << "pppd" << qint64(485) << "Exit.";
+    QTest::newRow("RFC 5424 without anything") << "<30>1 2023-11-10T17:02:09Z - - - - - Exit."
+                                               << "2023-11-10 17:2:9 0"
+                                               << "" << qint64(-1) << "Exit.";
+    QTest::newRow("short-iso") << "2023-11-10T17:02:09+0100 gw pppd[485]: Exit."
+                               << "2023-11-10 17:2:9 3600"
+                               << "pppd" << qint64(485) << "Exit.";
+    QTest::newRow("short-full in local time") << "Fri 2023-11-10 17:02:09 CET gw pppd[485]: Exit."
+                                              << "2023-11-10 17:2:9 3600"
+                                              << "pppd" << qint64(485) << "Exit.";
+    QTest::newRow("short-full in UTC") << "Fri 2023-11-10 17:02:09 UTC gw pppd[485]: Exit."
+                                       << "2023-11-10 17:2:9 0"
+                                       << "pppd" << qint64(485) << "Exit.";
+    QTest::newRow("short-full in the first of two equal hours")
+        << "Sun 2023-10-29 02:30:00 CEST gw pppd[485]: Exit."
+        << "2023-10-29 2:30:0 7200"
+        << "pppd" << qint64(485) << "Exit.";
+    QTest::newRow("short-full in the second of two equal hours")
+        << "Sun 2023-10-29 02:30:00 CET gw pppd[485]: Exit."
+        << "2023-10-29 2:30:0 3600"
+        << "pppd" << qint64(485) << "Exit.";
+    QTest::newRow("short-unix") << "1699632129.123456 gw pppd[485]: Exit."
+                                << "2023-11-10 16:2:9 0"
+                                << "pppd" << qint64(485) << "Exit.";
     QTest::newRow("no process") << "2025-09-09 16:57:37.935190500 Connect time 1494.0 minutes."
                                 << "2025-9-9 16:57:37"
                                 << "" << qint64(-1) << "Connect time 1494.0 minutes.";
@@ -126,6 +158,8 @@ void LogLineTest::findsTheHost_data()
                                             << "gw";
     QTest::newRow("behind a facility") << "Nov 10 17:02:09 daemon.notice gw pppd[485]: Exit."
                                        << "gw";
+    QTest::newRow("of RFC 5424") << "<30>1 2023-11-10T17:02:09Z gw pppd 485 - - Exit."
+                                 << "gw";
     QTest::newRow("with a colon") << "2023-08-21T04:30:26Z: gw: daemon.info pppd[12606]: Exit."
                                   << "gw";
     QTest::newRow("behind a time that cannot be read") << "Nov 31 17:02:09 gw pppd[1]: Exit."
@@ -156,6 +190,10 @@ void LogLineTest::seesATimeThatCannotBeRead_data()
     QTest::newRow("30 February") << "Feb 30 17:02:09 gw pppd[485]: Exit.";
     QTest::newRow("29 February of another year") << "2023-02-29T17:02:09 pppd[485]: Exit.";
     QTest::newRow("an hour too late") << "Nov 10 24:02:09 gw pppd[485]: Exit.";
+    QTest::newRow("a zone that is not the local one")
+        << "Fri 2023-11-10 17:02:09 PST gw pppd[485]: Exit.";
+    QTest::newRow("seconds beyond all calendars")
+        << "9223372036854775807.123456 gw pppd[485]: Exit.";
     QTest::newRow("an unknown month") << "Nvo 10 17:02:09 gw pppd[485]: Exit.";
     QTest::newRow("seconds since the start") << "[   17.123456] gw pppd[485]: Exit.";
     QTest::newRow("a time that runs into the next word") << "Nov 10 17:02:09gw x pppd[485]: Exit.";
