@@ -378,6 +378,11 @@ void AccumulateDlg::fillComboBoxItem()
         Log::isMissing(m_pProfileSelectionComboBox, sourcePath, __func__, __LINE__))
         return;
     removeTimeComboElements();
+    const QDateTime time = m_pCurrentDateTime();
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    m_pRecordLogic->updateStatistics(time.date());
+#endif
+    m_currentPeriod = periodOf(time);
     const QVector<AccumulateDialogRecord> &rows = m_pRecordLogic->m_accumulateRecords;
     if (rows.isEmpty())
         insertProfile(0, tr(QLatin1String("IDS_COMBO_ALLAPN")));
@@ -405,19 +410,18 @@ int AccumulateDlg::monthIndex() const
     return m_pMonthSelectionComboBox ? m_pMonthSelectionComboBox->currentIndex() : -1;
 }
 
-AccumulateDlg::Period AccumulateDlg::currentPeriod()
+AccumulateDlg::Period AccumulateDlg::periodOf(const QDateTime &time)
 {
-    const QString stamp =
-        QLocale::c().toString(m_pCurrentDateTime(), QLatin1String("yyyyMMddhhmmss"));
+    const QString stamp = QLocale::c().toString(time, QLatin1String("yyyyMMddhhmmss"));
     return {yearOf(stamp), monthOf(stamp)};
 }
 
 /// Year and month as texts that per-profile rows are held against. Across a
 /// year's boundary the month becomes a control character behind a zero, which
 /// no row matches; that is meant.
-AccumulateDlg::Period AccumulateDlg::filterPeriod(int monthIndex)
+AccumulateDlg::Period AccumulateDlg::filterPeriod(int monthIndex) const
 {
-    Period period = currentPeriod();
+    Period period = m_currentPeriod;
     if (monthIndex != 1 && monthIndex != 2)
         return period;
     const int month = period.month.toInt();
@@ -437,12 +441,11 @@ void AccumulateDlg::setTitleOfMonth(int monthIndex)
 {
     if (monthIndex < 0 || monthIndex > 2)
         return;
-    const Period period = currentPeriod();
-    const int month = period.month.toInt() - monthIndex;
+    const int month = m_currentPeriod.month.toInt() - monthIndex;
     if (month >= 1)
-        setDateRange(period.year, month);
+        setDateRange(m_currentPeriod.year, month);
     else
-        setDateRange(yearBefore(period.year), month + 12);
+        setDateRange(yearBefore(m_currentPeriod.year), month + 12);
 }
 
 AccumulateDlg::Figures AccumulateDlg::figuresOf(const AccumulateDialogRecord &record,

@@ -86,8 +86,8 @@ private:
     QString dateRange(const QString &year, int month);
     void insertProfile(int position, const QString &text);
     int monthIndex() const;
-    static Period currentPeriod();
-    static Period filterPeriod(int monthIndex);
+    static Period periodOf(const QDateTime &time);
+    Period filterPeriod(int monthIndex) const;
     void setTitleOfMonth(int monthIndex);
     static Figures figuresOf(const AccumulateDialogRecord &record, int monthIndex);
     bool isAnyLabelMissing(const char *function) const;
@@ -117,4 +117,5 @@ private:
     QPointer<QLabel> m_pTransferTimeValue;
     NetInfoRecordLogic *m_pRecordLogic = nullptr;
     QVector<AccumulateDialogRecord> m_dialogRecords;
+    Period m_currentPeriod; // of the last choice: its rows and its title are of one day
 };

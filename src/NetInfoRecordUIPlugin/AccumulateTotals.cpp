@@ -9,6 +9,7 @@
 #include <QLocale>
 
 #include <limits>
+#include <utility>
 
 namespace
 {
@@ -20,30 +21,65 @@ QString monthKey(const QDate &day)
     return QLocale::c().toString(day, QLatin1String("yyyyMM"));
 }
 
-} // namespace
-
-QVector<AccumulateDialogRecord> AccumulateTotals::rowsOf(const _KORA_ST_CONNRECORD *records,
-                                                         int count, const QDate &today)
+/// The entry of this key, made if there is none.
+template <typename Value>
+typename QMap<QString, Value>::iterator entryOf(QMap<QString, Value> &map, const QString &key)
 {
-    AccumulateTotals totals;
-    for (int i = 0; records && i < count; ++i)
-        totals.add(records[i]);
-    return totals.rows(today);
+    const auto entry = map.find(key);
+    return entry != map.end() ? entry : map.insert(key, Value());
 }
+
+} // namespace
 
 void AccumulateTotals::Totals::add(const Totals &other)
 {
     uploaded += other.uploaded;
     downloaded += other.downloaded;
     seconds += other.seconds;
+    connections += other.connections;
+}
+
+void AccumulateTotals::Totals::subtract(const Totals &other)
+{
+    uploaded -= other.uploaded;
+    downloaded -= other.downloaded;
+    seconds -= other.seconds;
+    connections -= other.connections;
 }
 
 void AccumulateTotals::add(const _KORA_ST_CONNRECORD &record)
 {
-    const QString month = TimeText::of(SdkText::seconds(record.szStartTime)).left(monthLength);
-    const Totals totals = totalsOf(record);
-    m_ofAllProfiles[month].add(totals);
-    m_byProfile[SdkText::bounded(record.szProfileName)][month].add(totals);
+    const auto profile = entryOf(m_byProfile, SdkText::bounded(record.szProfileName));
+    const auto month =
+        entryOf(*profile, TimeText::of(SdkText::seconds(record.szStartTime)).left(monthLength));
+    // The texts are the maps' own, so that each is in memory once.
+    const Connection connection = {profile.key(), month.key(), totalsOf(record)};
+    month->add(connection.totals);
+    m_ofAllProfiles[connection.month].add(connection.totals);
+    m_connections.emplace_back(connection);
+}
+
+void AccumulateTotals::remove(int position)
+{
+    if (position < 0 || static_cast<std::size_t>(position) >= m_connections.size())
+        return;
+    const auto connection = std::exchange(m_connections[position], std::nullopt);
+    if (!connection)
+        return;
+    const auto profile = m_byProfile.find(connection->profile);
+    subtract(*connection, *profile);
+    if (profile->isEmpty())
+        m_byProfile.erase(profile);
+    subtract(*connection, m_ofAllProfiles);
+}
+
+/// A month without connections is no longer listed.
+void AccumulateTotals::subtract(const Connection &connection, TotalsByMonth &months)
+{
+    const auto month = months.find(connection.month);
+    month->subtract(connection.totals);
+    if (month->connections == 0)
+        months.erase(month);
 }
 
 AccumulateTotals::Totals AccumulateTotals::totalsOf(const _KORA_ST_CONNRECORD &record)
@@ -52,6 +88,7 @@ AccumulateTotals::Totals AccumulateTotals::totalsOf(const _KORA_ST_CONNRECORD &r
     totals.uploaded = bytesOf(record.szUploadBytes);
     totals.downloaded = bytesOf(record.szDownloadBytes);
     totals.seconds = SdkText::integer(record.szDuration);
+    totals.connections = 1;
     return totals;
 }
 

@@ -7,6 +7,9 @@
 #include <QString>
 #include <QVector>
 
+#include <optional>
+#include <vector>
+
 struct _KORA_ST_CONNRECORD;
 class QDate;
 
@@ -16,12 +19,11 @@ class QDate;
 class AccumulateTotals
 {
 public:
-    /// The rows for these connections; `records` may be null, for none.
-    static QVector<AccumulateDialogRecord> rowsOf(const _KORA_ST_CONNRECORD *records, int count,
-                                                  const QDate &today);
-
     /// Takes one connection into account.
     void add(const _KORA_ST_CONNRECORD &record);
+    /// Takes the connection out again that was added at this zero-based position, if it
+    /// is still in.
+    void remove(int position);
     /// The rows as seen on this day: one for all profiles, under a translatable
     /// identifier and stamped with the day's month, then one for each profile
     /// and month with connections, stamped with that month, in the order of the
@@ -37,17 +39,28 @@ private:
         Bytes uploaded = 0;
         Bytes downloaded = 0;
         qint64 seconds = 0;
+        int connections = 0;
 
         void add(const Totals &other);
+        void subtract(const Totals &other);
     };
     using TotalsByMonth = QMap<QString, Totals>; // key "yyyyMM"
+    using TotalsByProfile = QMap<QString, TotalsByMonth>;
+
+    struct Connection {
+        QString profile;
+        QString month;
+        Totals totals;
+    };
 
     static Totals totalsOf(const _KORA_ST_CONNRECORD &record);
+    static void subtract(const Connection &connection, TotalsByMonth &months);
     static Bytes bytesOf(const char (&field)[64]);
     static QString megabytes(Bytes bytes);
     static AccumulateDialogRecord row(const QString &name, const QString &month,
                                       const TotalsByMonth &totals, const QDate &today);
 
     TotalsByMonth m_ofAllProfiles;
-    QMap<QString, TotalsByMonth> m_byProfile;
+    TotalsByProfile m_byProfile;
+    std::vector<std::optional<Connection>> m_connections; // by position
 };

@@ -671,7 +671,7 @@ void ConnectionHistoryDlg::removeRecords(const QVector<int> &sortedIds)
     for (auto id = sortedIds.rbegin(); id != sortedIds.rend(); ++id) {
         // The record goes from the window even where the SDK keeps it.
         m_pRecordLogic->DeleteRecord(*id);
-        ConnectionRecord *const record = m_pRecordLogic->m_records.take(*id);
+        ConnectionRecord *const record = m_pRecordLogic->takeRecord(*id);
         m_ownRecords.remove(record);
         delete record;
     }

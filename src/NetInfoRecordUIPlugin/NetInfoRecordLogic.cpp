@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "NetInfoRecordLogic.h"
 
-#ifdef NETINFORECORD_WIRE_STATISTICS
-#    include "AccumulateTotals.h"
-#endif
 #include "KoraStatistics.h"
 #include "Log.h"
 #include "SdkText.h"
@@ -100,7 +97,11 @@ bool NetInfoRecordLogic::GetAllConnectedRecords()
         for (int i = 0; i < convertible; ++i)
             populateSDKtoUIStructure(i, records ? records + i : nullptr);
 #ifdef NETINFORECORD_WIRE_STATISTICS
-        m_accumulateRecords = AccumulateTotals::rowsOf(records, count, QDate::currentDate());
+        m_totals.emplace();
+        for (int i = 0; records && i < count; ++i)
+            m_totals->add(records[i]);
+        m_monthOfRows = QDate();
+        updateStatistics(QDate::currentDate());
 #endif
     }
     KORA_Statistics_ReleaseConnRecord(records);
@@ -170,7 +171,32 @@ void NetInfoRecordLogic::forgetRecords()
 {
     m_records = {};
     m_accumulateRecords = {};
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    m_totals.reset();
+#endif
 }
+
+ConnectionRecord *NetInfoRecordLogic::takeRecord(int id)
+{
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    if (m_totals && m_records.contains(id)) {
+        m_totals->remove(id);
+        m_monthOfRows = QDate();
+    }
+#endif
+    return m_records.take(id);
+}
+
+#ifdef NETINFORECORD_WIRE_STATISTICS
+void NetInfoRecordLogic::updateStatistics(const QDate &today)
+{
+    const QDate month(today.year(), today.month(), 1);
+    if (!m_totals || m_monthOfRows == month)
+        return;
+    m_accumulateRecords = m_totals->rows(today);
+    m_monthOfRows = month;
+}
+#endif
 
 void NetInfoRecordLogic::convertTimeToString(qint64 seconds, QString &out)
 {

@@ -3,6 +3,13 @@
 
 #include "AccumulateDialogRecord.h"
 #include "ConnectionRecord.h"
+#ifdef NETINFORECORD_WIRE_STATISTICS
+#    include "AccumulateTotals.h"
+
+#    include <QDate>
+
+#    include <optional>
+#endif
 
 #include <QHash>
 #include <QString>
@@ -39,6 +46,13 @@ public:
     /// Empties map and rows of statistics. Frees no record: whoever empties the
     /// table has done so, or the records live on in it.
     void forgetRecords();
+    /// Takes one record out of map and statistics; it is the caller's now. Null if the
+    /// map has none.
+    ConnectionRecord *takeRecord(int id);
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    /// Brings the rows of statistics to this day and to the records that are left.
+    void updateStatistics(const QDate &today);
+#endif
 
     /// Writes seconds as "HH:MM:SS" into `out`; hours grow without limit.
     void convertTimeToString(qint64 seconds, QString &out);
@@ -57,6 +71,11 @@ private:
     Q_DISABLE_COPY(NetInfoRecordLogic)
 
     void convertFields(const _KORA_ST_CONNRECORD &from, ConnectionRecord &to);
+
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    std::optional<AccumulateTotals> m_totals; // of the last fetch
+    QDate m_monthOfRows;                      // invalid: the rows are out of date
+#endif
 
     static NetInfoRecordLogic *m_pNetInfoRecordLogicInst;
 };

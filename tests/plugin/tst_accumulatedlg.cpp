@@ -87,6 +87,10 @@ private Q_SLOTS:
     void wrapsTheTimeAfterADay_data();
     void wrapsTheTimeAfterADay();
     void keepsTheProfileChoiceUntilTheNextMonth();
+    void titlesTheMonthOfItsFigures();
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    void countsTheMonthsOfTheDayOfEachChoice();
+#endif
     void showsNothingForAnUnknownMonth();
     void addsItsRowsAgainEachTime();
     void connectsItsControlsAgainEachTime();
@@ -101,12 +105,18 @@ private Q_SLOTS:
     void logsAShowing();
 
 private:
-    AccumulateDlg *dlg() { return AccumulateDlg::Instance(); }
+    AccumulateDlg *dlg()
+    {
+        return AccumulateDlg::Instance();
+    }
     QVector<AccumulateDialogRecord> &rows()
     {
         return NetInfoRecordLogic::Instance()->m_accumulateRecords;
     }
-    QDialog *frame() const { return m_parent->findChild<QDialog *>(); }
+    QDialog *frame() const
+    {
+        return m_parent->findChild<QDialog *>();
+    }
     QStringList profiles();
     void chooseMonth(int index);
     void chooseProfile(int index);
@@ -518,6 +528,60 @@ void tst_AccumulateDlg::keepsTheProfileChoiceUntilTheNextMonth()
     chooseProfile(7); // past the end: the row of zeros
     QCOMPARE(shown().first(), QStringLiteral("0 IDS_STC_SINGLEPACKET_UNIT"));
 }
+
+void tst_AccumulateDlg::titlesTheMonthOfItsFigures()
+{
+    rows() = {row("IDS_ALL", "", 100), row("a", "20250301000000", 200)};
+    today = QDate(2025, 3, 31);
+    AccumulateDlg::m_pCurrentDateTime = [] { // midnight comes after the first look
+        const QDateTime now = noonOfToday();
+        today = today.addDays(1);
+        return now;
+    };
+    dlg()->showWindow(m_parent.get());
+    QCOMPARE(profiles(), (QStringList{"IDS_ALL", "a"}));
+    QCOMPARE(frame()->windowTitle(),
+             QStringLiteral("IDS_TITLE_TOTAL ( 01/03/2025 - 31/03/2025 ) "));
+}
+
+#ifdef NETINFORECORD_WIRE_STATISTICS
+void tst_AccumulateDlg::countsTheMonthsOfTheDayOfEachChoice()
+{
+    const auto add = [](const QDate &day, int megabytes) {
+        const QByteArray start =
+            QByteArray::number(QDateTime(day, QTime(12, 0)).toSecsSinceEpoch());
+        const QByteArray bytes = QByteArray::number(megabytes * 1048576);
+        Host::instance().records.append(
+            scripted::record("a", start, start, QByteArray::number(megabytes), bytes, bytes));
+    };
+    const auto figures = [](const char *megabytes, const char *time) {
+        const QString amount = QLatin1String(megabytes) + " IDS_STC_SINGLEPACKET_UNIT";
+        return QStringList{amount, amount, time};
+    };
+    add(QDate(2025, 3, 31), 3);
+    add(QDate(2025, 4, 1), 4);
+    NetInfoRecordLogic *store = NetInfoRecordLogic::Instance();
+    QVERIFY(store->GetAllConnectedRecords());
+    const auto records = store->m_records;
+    today = QDate(2025, 3, 31);
+    dlg()->showWindow(m_parent.get());
+    QCOMPARE(shown(), figures("3.00", "00:00:03"));
+    today = QDate(2025, 4, 1);
+    dlg()->showWindow(m_parent.get());
+    QCOMPARE(shown(), figures("4.00", "00:00:04"));
+    QCOMPARE(frame()->windowTitle(),
+             QStringLiteral("IDS_TITLE_TOTAL ( 01/04/2025 - 30/04/2025 ) "));
+    chooseMonth(1);
+    QCOMPARE(shown(), figures("3.00", "00:00:03"));
+    today = QDate(2025, 5, 1);
+    chooseProfile(0);
+    QCOMPARE(shown(), figures("4.00", "00:00:04"));
+    chooseMonth(2);
+    QCOMPARE(shown(), figures("3.00", "00:00:03"));
+    QCOMPARE(Host::instance().calls.count(QStringLiteral("GetAllConnRecord()")), 1);
+    qDeleteAll(records);
+}
+#endif
 
 void tst_AccumulateDlg::showsNothingForAnUnknownMonth()
 {

@@ -21,6 +21,14 @@ _KORA_ST_CONNRECORD connection(const QString &profile, const QDateTime &start, q
 constexpr qint64 mega = 1048576;
 const QDate today(2025, 3, 20);
 
+QVector<AccumulateDialogRecord> rowsOf(const QVector<_KORA_ST_CONNRECORD> &records)
+{
+    AccumulateTotals totals;
+    for (const _KORA_ST_CONNRECORD &record : records)
+        totals.add(record);
+    return totals.rows(today);
+}
+
 QStringList stamps(const QVector<AccumulateDialogRecord> &rows)
 {
     QStringList result;
@@ -45,11 +53,13 @@ private Q_SLOTS:
     void formatsAmounts();
     void sumsBeforeItRounds();
     void neverOverflows();
+    void forgetsWhatIsRemoved();
+    void removesNothingTwice();
 };
 
 void tst_AccumulateTotals::givesTheAllProfilesRowWithoutRecords()
 {
-    const auto rows = AccumulateTotals::rowsOf(nullptr, 5, today);
+    const auto rows = rowsOf({});
     QCOMPARE(stamps(rows), QStringList{"IDS_COMBO_ALLAPN@20250301000000"});
     QCOMPARE(rows[0].uploadedThisMonth, QStringLiteral("0.00"));
     QCOMPARE(rows[0].secondsThisMonth, QStringLiteral("0"));
@@ -64,7 +74,7 @@ void tst_AccumulateTotals::sumsPerProfileAndMonth()
         connection("a", QDateTime(QDate(2025, 1, 31), QTime(12, 0)), 7 * mega, 8 * mega, 40),
         connection("a", QDateTime(QDate(2024, 3, 5), QTime(12, 0)), 9 * mega, 9 * mega, 90000),
     };
-    const auto rows = AccumulateTotals::rowsOf(records.constData(), records.size(), today);
+    const auto rows = rowsOf(records);
     QCOMPARE(stamps(rows),
              (QStringList{"IDS_COMBO_ALLAPN@20250301000000", "a@20240301000000", "a@20250101000000",
                           "a@20250201000000", "a@20250301000000", "b@20250301000000"}));
@@ -89,7 +99,7 @@ void tst_AccumulateTotals::ordersProfilesByName()
     for (const char *name : {"b", "", "IDS_COMBO_ALLAPN", "B", "a"})
         records.append(connection(name, QDateTime(today, QTime(1, 0)), 0, 0, 1));
     QStringList names;
-    for (const auto &row : AccumulateTotals::rowsOf(records.constData(), records.size(), today))
+    for (const auto &row : rowsOf(records))
         names.append(row.profileName);
     QCOMPARE(names, (QStringList{"IDS_COMBO_ALLAPN", "", "B", "IDS_COMBO_ALLAPN", "a", "b"}));
 }
@@ -114,7 +124,7 @@ void tst_AccumulateTotals::countsAConnectionInTheMonthOfItsStart()
     QFETCH(qint64, start);
     const auto record = scripted::record("a", QByteArray::number(start),
                                          QByteArray::number(start + 999999), "999999", "1", "1");
-    QTEST(AccumulateTotals::rowsOf(&record, 1, today).at(1).periodStamp, "stamp");
+    QTEST(rowsOf({record}).at(1).periodStamp, "stamp");
 }
 
 void tst_AccumulateTotals::formatsAmounts_data()
@@ -145,7 +155,7 @@ void tst_AccumulateTotals::formatsAmounts()
     const auto record =
         scripted::record("a", QByteArray::number(QDateTime(today, QTime(1, 0)).toSecsSinceEpoch()),
                          "0", "0", bytes, bytes);
-    const auto row = AccumulateTotals::rowsOf(&record, 1, today).first();
+    const auto row = rowsOf({record}).first();
     QTEST(row.uploadedThisMonth, "text");
     QTEST(row.downloadedThisMonth, "text");
 }
@@ -168,6 +178,37 @@ void tst_AccumulateTotals::neverOverflows()
     // 1000 times 2^63 - 1 bytes
     QCOMPARE(totals.rows(today).first().uploadedThisMonth, QStringLiteral("8796093022208000.00"));
     QCOMPARE(totals.rows(today).first().secondsThisMonth, QStringLiteral("1073741823000"));
+}
+
+void tst_AccumulateTotals::forgetsWhatIsRemoved()
+{
+    AccumulateTotals totals;
+    const QDateTime thisMonth(today, QTime(1, 0));
+    const QDateTime lastMonth(today.addMonths(-1), QTime(1, 0));
+    totals.add(connection("a", thisMonth, mega, 2 * mega, 10));
+    totals.add(connection("b", thisMonth, 3 * mega, 4 * mega, 20));
+    totals.add(connection("a", lastMonth, 5 * mega, 6 * mega, 30));
+    totals.remove(2);
+    QCOMPARE(stamps(totals.rows(today)), (QStringList{"IDS_COMBO_ALLAPN@20250301000000",
+                                                      "a@20250301000000", "b@20250301000000"}));
+    QCOMPARE(totals.rows(today).first().uploadedLastMonth, QStringLiteral("0.00"));
+    totals.remove(0);
+    const AccumulateDialogRecord all = totals.rows(today).first();
+    QCOMPARE(all.uploadedThisMonth, QStringLiteral("3.00"));
+    QCOMPARE(all.downloadedThisMonth, QStringLiteral("4.00"));
+    QCOMPARE(all.secondsThisMonth, QStringLiteral("20"));
+    QCOMPARE(stamps(totals.rows(today)),
+             (QStringList{"IDS_COMBO_ALLAPN@20250301000000", "b@20250301000000"}));
+}
+
+void tst_AccumulateTotals::removesNothingTwice()
+{
+    AccumulateTotals totals;
+    totals.add(connection("a", QDateTime(today, QTime(1, 0)), mega, 0, 10));
+    totals.add(connection("a", QDateTime(today, QTime(2, 0)), mega, 0, 10));
+    for (int position : {-1, 0, 0, 2})
+        totals.remove(position);
+    QCOMPARE(totals.rows(today).first().uploadedThisMonth, QStringLiteral("1.00"));
 }
 
 QTEST_MAIN(tst_AccumulateTotals)

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void showsTheTotalsOfAProfile();
     void followsAReload();
     void forgetsWhatWasDeleted();
+    void forgetsEachDeletedRecord_data();
+    void forgetsEachDeletedRecord();
     void survivesTheAreaGoingFirst();
     void goesWithTheWindow();
 
@@ -163,6 +165,37 @@ void tst_Statistics::forgetsWhatWasDeleted()
     QMetaObject::invokeMethod(m_plugin->historyWindow(), "onDeleteAll");
     open();
     QCOMPARE(figures(), (QStringList{"0", "0", "00:00:00"})); // the row of zeros
+}
+
+void tst_Statistics::forgetsEachDeletedRecord_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::newRow("the SDK removes it") << 0;
+    QTest::newRow("the SDK keeps it, the window does not") << 5;
+}
+
+void tst_Statistics::forgetsEachDeletedRecord()
+{
+    QFETCH(int, status);
+    Host::instance().answer = [](const scripted::MessageBox &) { return 1024; };
+    Host::instance().removeStatus = [status](int) { return status; };
+    add("a", QDate::currentDate(), 1, 10);
+    add("b", QDate::currentDate(), 2, 20);
+    add("c", QDate::currentDate(), 4, 40);
+    m_plugin->show();
+    Host::instance().calls.clear();
+    for (const char *profile : {"b", "a"}) {
+        QTableWidget *table = m_plugin->table();
+        table->selectRow(table->findItems(profile, Qt::MatchExactly).first()->row());
+        QMetaObject::invokeMethod(m_plugin->historyWindow(), "onDelete");
+        open();
+        QCOMPARE(figures(), profile == QByteArray("b") ? (QStringList{"5.00", "10.00", "00:00:50"})
+                                                       : (QStringList{"4.00", "8.00", "00:00:40"}));
+    }
+    const auto *profiles = open()->findChild<QComboBox *>("m_pProfileSelectionComboBox");
+    QCOMPARE(profiles->count(), 2);
+    QCOMPARE(profiles->itemText(1), QStringLiteral("c"));
+    QVERIFY(Host::instance().calls.filter("ConnRecord()").isEmpty()); // no fetch
 }
 
 void tst_Statistics::survivesTheAreaGoingFirst()
