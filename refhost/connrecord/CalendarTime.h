@@ -12,6 +12,8 @@
 namespace refhost
 {
 
+constexpr std::int64_t secondsPerDay = 86400;
+
 /// The end of the year 9999: no calendar that is written in four digits goes on.
 constexpr std::int64_t latestWrittenTime = 253402300799;
 

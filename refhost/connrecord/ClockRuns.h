@@ -9,8 +9,6 @@
 namespace refhost
 {
 
-constexpr std::int64_t secondsPerDay = 86400;
-
 /// Where in the year the time is, in seconds; every year has a 29 February here.
 std::int64_t placeInYear(const CalendarTime &time);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "LogCompletion.h"
 
+#include "CalendarTime.h"
+
 #include <cstdlib>
 
 namespace refhost
@@ -8,8 +10,6 @@ namespace refhost
 
 namespace
 {
-
-constexpr std::int64_t secondsPerDay = 86400;
 
 std::int64_t derivedStart(const Connection &connection)
 {
