@@ -83,6 +83,8 @@ ConnectionRecorder::~ConnectionRecorder()
     if (!m_book)
         return;
     catchUpWithLinks();
+    if (!m_book)
+        return;
     std::vector<LiveConnection> lasting;
     for (const auto &entry : m_live)
         lasting.push_back(entry.second);
@@ -128,6 +130,8 @@ bool ConnectionRecorder::tryToStart()
     }
     removeObstacle();
     m_linksAtStart = m_links->links();
+    m_resumedLinks.clear();
+    m_keptIdle.clear();
     m_book->settle(firstSights());
     for (const Link &link : m_links->links())
         handleChange({link, false, false});
@@ -241,11 +245,24 @@ void ConnectionRecorder::removeObstacle()
     });
 }
 
-/// Nothing more will be heard of the links; what is known is kept for the next start.
+/// Nothing more will be heard of the links: what is open ends as it was known last, and
+/// the lock is free for whoever can see them.
 void ConnectionRecorder::stop(const QString &reason)
 {
-    m_timer.stop();
     obstruct(reason);
+    const bool isRecording = m_timer.isActive();
+    if (!isRecording)
+        return;
+    m_timer.stop();
+    disconnect(m_links, &LinkSource::linkChanged, this, &ConnectionRecorder::handleChange);
+    while (!m_live.empty()) {
+        LiveConnection connection = m_live.begin()->second;
+        connection.end(now());
+        finish(connection, false);
+    }
+    m_book->leave({});
+    giveUp();
+    m_retryTimer.start();
 }
 
 void ConnectionRecorder::setProfileName(const QString &name)

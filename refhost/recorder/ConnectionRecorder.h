@@ -91,7 +91,7 @@ public slots:
     void setProfileName(const QString &name);
 
 signals:
-    /// It could not start in the beginning, and has now.
+    /// It could not start in the beginning, or had to stop, and has started now.
     void started();
     void connected(const refhost::ConnectionState &state);
     /// The connection is finished in the store already; `id` is its state's, or 0 if

@@ -42,12 +42,9 @@ LinkMonitor::LinkMonitor(const std::string &deviceFolder, QObject *parent)
 
 bool LinkMonitor::start()
 {
-    const int error = m_socket.open();
-    if (error != 0) {
-        fail(error);
+    m_table.forgetAll();
+    if (!open())
         return false;
-    }
-    beginListing();
     while (m_stage == Stage::ListingLinks || m_stage == Stage::ListingAddresses) {
         if (m_socket.waitForMessages(listingTimeoutMilliseconds))
             receiveAll();
@@ -56,15 +53,47 @@ bool LinkMonitor::start()
     }
     if (m_stage == Stage::Failed)
         return false;
+    watchSocket();
+    return true;
+}
+
+/// Begins to list everything on a new socket.
+bool LinkMonitor::open()
+{
+    if (m_notifier) {
+        m_notifier->setEnabled(false);
+        m_notifier->deleteLater();
+        m_notifier = nullptr;
+    }
+    const int error = m_socket.open();
+    if (error == 0)
+        beginListing();
+    else
+        fail(error);
+    return error == 0;
+}
+
+void LinkMonitor::watchSocket()
+{
     m_notifier = new QSocketNotifier(m_socket.descriptor(), QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, &LinkMonitor::receiveAll);
-    return true;
+}
+
+/// What passes when it is done anew is not worth a word; what fails in the listing
+/// that follows is.
+void LinkMonitor::resume(int systemError)
+{
+    if (m_stage != Stage::Watching)
+        fail(systemError);
+    else if (open())
+        watchSocket();
 }
 
 void LinkMonitor::requestCounters(int linkIndex)
 {
     // A request that finds no room is one of many; the next one is not far.
-    m_socket.requestLink(linkIndex, singleRequest);
+    if (m_stage != Stage::Failed)
+        m_socket.requestLink(linkIndex, singleRequest);
 }
 
 void LinkMonitor::catchUp()
@@ -85,7 +114,7 @@ void LinkMonitor::receiveAll()
             m_mustListAgain = true;
     } while (outcome == RouteSocket::Outcome::Received || outcome == RouteSocket::Outcome::Overrun);
     if (outcome == RouteSocket::Outcome::Failed)
-        fail(errno);
+        resume(errno);
     else if (m_mustListAgain && m_stage == Stage::Watching)
         beginListing();
 }
@@ -159,8 +188,8 @@ void LinkMonitor::fail(int systemError)
     m_stage = Stage::Failed;
     if (m_notifier)
         m_notifier->setEnabled(false);
-    emit failed(tr("The network interfaces cannot be watched (%1), so connections are not recorded "
-                   "any more; start the program again.")
+    emit failed(tr("The network interfaces cannot be watched (%1), so connections are not "
+                   "recorded; that is tried again every other second.")
                     .arg(QString::fromStdString(std::generic_category().message(systemError))));
 }
 

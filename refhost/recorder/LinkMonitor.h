@@ -12,7 +12,8 @@ namespace refhost
 {
 
 /// The kernel's own news about links and addresses. When they come faster than
-/// they are read, some are lost; a new listing then finds what has changed.
+/// they are read, some are lost; a new listing then finds what has changed. So it is
+/// when the socket fails: it is opened again.
 class LinkMonitor : public LinkSource
 {
     Q_OBJECT
@@ -31,6 +32,9 @@ public:
 private:
     enum class Stage { Idle, ListingLinks, ListingAddresses, Watching, Failed };
 
+    bool open();
+    void watchSocket();
+    void resume(int systemError);
     void receiveAll();
     void handle(const nlmsghdr &message);
     void handleListing(const nlmsghdr &message);

@@ -148,6 +148,13 @@ std::vector<LinkChange> LinkTable::endListing()
     return changes;
 }
 
+void LinkTable::forgetAll()
+{
+    m_links.clear();
+    m_isListing = false;
+    m_knowsAll = false;
+}
+
 std::vector<Link> LinkTable::links() const
 {
     std::vector<Link> links;

@@ -81,6 +81,8 @@ public:
     std::vector<LinkChange> endListing();
 
     std::vector<Link> links() const;
+    /// Knows nothing again, as in the beginning.
+    void forgetAll();
 
 private:
     Link &linkFor(const LinkReport &report);

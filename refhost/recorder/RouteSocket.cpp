@@ -107,20 +107,35 @@ bool RouteSocket::waitForMessages(int timeoutMilliseconds) const
 
 RouteSocket::Outcome RouteSocket::receive(const std::function<void(const nlmsghdr &)> &handle)
 {
-    const ssize_t size = mnl_socket_recvfrom(m_socket.get(), m_buffer.data(), m_buffer.size());
+    sockaddr_nl sender = {};
+    iovec place = {m_buffer.data(), m_buffer.size()};
+    msghdr datagram = {};
+    datagram.msg_name = &sender;
+    datagram.msg_namelen = sizeof(sender);
+    datagram.msg_iov = &place;
+    datagram.msg_iovlen = 1;
+    const ssize_t size = recvmsg(descriptor(), &datagram, 0);
     if (size < 0) {
         if (errno == EAGAIN || errno == EINTR)
             return Outcome::Nothing;
-        // A datagram that did not fit is as lost as one that was not queued.
-        return errno == ENOBUFS || errno == ENOSPC ? Outcome::Overrun : Outcome::Failed;
+        return errno == ENOBUFS ? Outcome::Overrun : Outcome::Failed;
     }
-    int rest = static_cast<int>(size);
-    const auto *message = reinterpret_cast<const nlmsghdr *>(m_buffer.data());
-    while (mnl_nlmsg_ok(message, rest)) {
-        handle(*message);
-        message = mnl_nlmsg_next(message, &rest);
-    }
+    // A datagram that did not fit is as lost as one that was not queued.
+    if ((datagram.msg_flags & MSG_TRUNC) != 0)
+        return Outcome::Overrun;
+    // Programs with the right to it may write to this socket too.
+    if (sender.nl_pid == 0)
+        handleAll(static_cast<int>(size), handle);
     return Outcome::Received;
+}
+
+void RouteSocket::handleAll(int size, const std::function<void(const nlmsghdr &)> &handle) const
+{
+    const auto *message = reinterpret_cast<const nlmsghdr *>(m_buffer.data());
+    while (mnl_nlmsg_ok(message, size)) {
+        handle(*message);
+        message = mnl_nlmsg_next(message, &size);
+    }
 }
 
 } // namespace refhost

@@ -22,7 +22,8 @@ public:
     RouteSocket(const RouteSocket &) = delete;
     RouteSocket &operator=(const RouteSocket &) = delete;
 
-    /// 0 or the error; nothing else may be called before.
+    /// 0 or the error, then nothing else may be called; in the place of a socket that
+    /// was open.
     int open();
     int descriptor() const;
 
@@ -35,11 +36,13 @@ public:
     enum class Outcome { Received, Nothing, Overrun, Failed };
     /// Waits until there is something to receive; false if nothing came in time.
     bool waitForMessages(int timeoutMilliseconds) const;
-    /// Hands each message of one datagram to `handle`. Overrun: messages have
+    /// Hands each message of one datagram of the kernel's to `handle`. Overrun: messages have
     /// been lost, those that were waiting already are still there.
     Outcome receive(const std::function<void(const nlmsghdr &)> &handle);
 
 private:
+    void handleAll(int size, const std::function<void(const nlmsghdr &)> &handle) const;
+
     struct Close {
         void operator()(mnl_socket *socket) const;
     };

@@ -389,8 +389,8 @@
 <context>
     <name>refhost::LinkMonitor</name>
     <message>
-        <source>The network interfaces cannot be watched (%1), so connections are not recorded any more; start the program again.</source>
-        <translation>Die Netzschnittstellen lassen sich nicht beobachten (%1), daher werden keine Verbindungen mehr aufgezeichnet. Starten Sie das Programm neu.</translation>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>Die Netzschnittstellen lassen sich nicht beobachten (%1), daher werden keine Verbindungen aufgezeichnet. Das wird alle zwei Sekunden von neuem versucht.</translation>
     </message>
 </context>
 <context>
