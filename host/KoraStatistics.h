@@ -45,7 +45,8 @@ extern "C" {
 /// may be null.
 HOST_API int KORA_Statistics_GetAllConnRecord(_KORA_ST_CONNRECORD **records, int *count);
 
-/// Removes the record at this zero-based index from the SDK's store.
+/// Removes one record from the SDK's store: the one at this zero-based index of the list
+/// handed out last, or, if that has gone already, the first one after it that is left.
 HOST_API int KORA_Statistics_ConnRecord_RemoveRecord(int index);
 
 /// Frees an array from KORA_Statistics_GetAllConnRecord; null is allowed.

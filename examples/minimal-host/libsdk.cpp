@@ -4,7 +4,9 @@
 #include "KoraStatistics.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
+#include <map>
 #include <vector>
 
 namespace
@@ -12,19 +14,32 @@ namespace
 
 constexpr int failure = 1;
 
-std::vector<_KORA_ST_CONNRECORD> &store()
+using Store = std::map<int, _KORA_ST_CONNRECORD>; // by a key that a record keeps
+
+Store &store()
 {
-    static std::vector<_KORA_ST_CONNRECORD> records = {
-        {u"internet.example", "1709200800", "1709204400", "3600", "1048576", "73400320", "", ""},
-        {u"web.example", "1709287200", "1709287260", "60", "1536", "20480", "", ""},
-        {u"internet.example", "1709373600", "1709380800", "7200", "5242880", "1288490188", "", ""},
+    static Store records = {
+        {1,
+         {u"internet.example", "1709200800", "1709204400", "3600", "1048576", "73400320", "", ""}},
+        {2, {u"web.example", "1709287200", "1709287260", "60", "1536", "20480", "", ""}},
+        {3,
+         {u"internet.example", "1709373600", "1709380800", "7200", "5242880", "1288490188", "",
+          ""}},
     };
     return records;
 }
 
-bool endsEarlier(const _KORA_ST_CONNRECORD &left, const _KORA_ST_CONNRECORD &right)
+// The keys of the list that was handed out last: an index is a position in it, and
+// removals do not move it.
+std::vector<int> &handedOut()
 {
-    return std::atoll(left.szEndTime) < std::atoll(right.szEndTime);
+    static std::vector<int> keys;
+    return keys;
+}
+
+bool endsEarlier(const Store::value_type &left, const Store::value_type &right)
+{
+    return std::atoll(left.second.szEndTime) < std::atoll(right.second.szEndTime);
 }
 
 } // namespace
@@ -33,16 +48,24 @@ int KORA_Statistics_GetAllConnRecord(_KORA_ST_CONNRECORD **records, int *count)
 {
     *records = new _KORA_ST_CONNRECORD[store().size()];
     *count = static_cast<int>(store().size());
-    std::copy(store().begin(), store().end(), *records);
+    handedOut().clear();
+    for (const auto &[key, record] : store()) {
+        (*records)[handedOut().size()] = record;
+        handedOut().push_back(key);
+    }
     return 0;
 }
 
 int KORA_Statistics_ConnRecord_RemoveRecord(int index)
 {
-    if (index < 0 || index >= static_cast<int>(store().size()))
+    if (index < 0)
         return failure;
-    store().erase(store().begin() + index);
-    return 0;
+    // Of a record that has gone already, the first one after it stands in the place.
+    for (std::size_t i = index; i < handedOut().size(); ++i) {
+        if (store().erase(handedOut()[i]) > 0)
+            return 0;
+    }
+    return failure;
 }
 
 int KORA_Statistics_ReleaseConnRecord(_KORA_ST_CONNRECORD *records)
@@ -55,6 +78,6 @@ int KORA_Statistics_GetLastConnRecord(_KORA_ST_CONNRECORD *record)
 {
     if (store().empty())
         return failure;
-    *record = *std::max_element(store().begin(), store().end(), endsEarlier);
+    *record = std::max_element(store().begin(), store().end(), endsEarlier)->second;
     return 0;
 }
