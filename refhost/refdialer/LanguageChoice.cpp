@@ -13,6 +13,22 @@ namespace
 const char *const settingsGroup = "refdialer";
 const char *const languageKey = "language";
 
+/// What the environment asks for when times are written, as "de_AT".
+QString timeLocaleName()
+{
+    for (const char *const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty())
+            return name.section(QLatin1Char('.'), 0, 0).section(QLatin1Char('@'), 0, 0);
+    }
+    return {};
+}
+
+QList<QLocale> allLocales()
+{
+    return QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+}
+
 } // namespace
 
 QString startLanguage()
@@ -35,9 +51,20 @@ bool storeLanguage(const QString &language)
 
 QLocale localeFor(const QString &language)
 {
-    const QLocale usual(language);
-    const QLocale system = QLocale::system();
-    return system.language() == usual.language() ? system : usual;
+    const QString user = timeLocaleName();
+    const QString territory = QLatin1Char('_') + user.section(QLatin1Char('_'), 1);
+    if (territory.size() > 1) {
+        for (const QString &name : {language + territory, user}) {
+            // The toolkit answers to a name that it does not know with another locale.
+            if (QLocale(name).name() == name)
+                return QLocale(name);
+        }
+        for (const QLocale &locale : allLocales()) {
+            if (locale.name().endsWith(territory))
+                return locale;
+        }
+    }
+    return QLocale(language);
 }
 
 } // namespace refhost

@@ -14,8 +14,9 @@ QString startLanguage();
 /// Remembers the user's choice for later runs; false if it cannot be written.
 bool storeLanguage(const QString &language);
 
-/// How dates are written in this language: as the user's region does if that
-/// speaks it, else as is usual for the language.
+/// How dates are written in a window of this language: as in the user's region, in the
+/// language itself if the toolkit knows how, else in the user's; as is usual for the
+/// language where the environment names no region.
 QLocale localeFor(const QString &language);
 
 } // namespace refhost

@@ -6,6 +6,7 @@
 #include "LanguageChoice.h"
 #include "LineState.h"
 #include "PluginHandle.h"
+#include "ProblemLine.h"
 #include "SettingsDialog.h"
 #include "SortMenu.h"
 
@@ -37,6 +38,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new StateLine(source, state));
     layout->addWidget(m_area, 1);
+    layout->addWidget(new ProblemLine(state, content));
     setCentralWidget(content);
     createMenus();
     retranslate();

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
+#include <QWidget>
+
+#include <vector>
+
+class QGridLayout;
+class QLabel;
 
 namespace refhost
 {
@@ -15,9 +20,10 @@ struct HistorySource {
     bool isSample = false;
 };
 
-/// The line above the history: the connections that last, or what the user is
-/// looking at where none are watched.
-class StateLine : public QLabel
+/// The lines above the history: one for each connection that lasts, or one that says
+/// what the user is looking at. Each has a fixed height, so that what stands below
+/// does not move while figures change.
+class StateLine : public QWidget
 {
     Q_OBJECT
 
@@ -29,13 +35,19 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    using Row = std::vector<QLabel *>;
+
+    void addRow();
     void showState();
-    QString stateText() const;
-    QString connectionText(const ConnectionState &connection) const;
+    std::vector<QStringList> rowTexts() const;
+    QStringList textsFor(const ConnectionState &connection) const;
+    QString nameOf(const ConnectionState &connection) const;
     QString sourceText() const;
 
     const HistorySource m_source;
     const LineState &m_state;
+    QGridLayout *m_layout;
+    std::vector<Row> m_rows; ///< some may be hidden
 };
 
 } // namespace refhost

@@ -474,8 +474,16 @@
         <translation>Nicht verbunden</translation>
     </message>
     <message>
-        <source>%1, connected since %2. Sent: %3 (%4 per second), received: %5 (%6 per second)</source>
-        <translation>%1, verbunden seit %2. Gesendet: %3 (%4 je Sekunde), empfangen: %5 (%6 je Sekunde)</translation>
+        <source>connected since %1</source>
+        <translation>verbunden seit %1</translation>
+    </message>
+    <message>
+        <source>Sent: %1 (%2)</source>
+        <translation>Gesendet: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Received: %1 (%2)</source>
+        <translation>Empfangen: %1 (%2)</translation>
     </message>
 </context>
 </TS>

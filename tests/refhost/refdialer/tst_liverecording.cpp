@@ -2,6 +2,7 @@
 #include "HistoryWindow.h"
 #include "NetworkNamespace.h"
 #include "Recording.h"
+#include "ShownText.h"
 #include "StateLine.h"
 #include "SummaryChoice.h"
 #include "TunDevice.h"
@@ -91,7 +92,7 @@ bool TestLiveRecording::start(const QStringList &interfaceNames)
 
 QString TestLiveRecording::line() const
 {
-    return m_history->window().findChild<refhost::StateLine *>()->text();
+    return shownText(*m_history->window().findChild<refhost::StateLine *>());
 }
 
 QStringList TestLiveRecording::summary() const
@@ -113,7 +114,7 @@ void TestLiveRecording::showsAConnectionFromItsBeginningToItsEnd()
     QVERIFY(start());
     QCOMPARE(line(), QString("Not connected"));
     QVERIFY(pair.goUp());
-    QTRY_VERIFY2(line().startsWith("wwan0, connected since "), qPrintable(line()));
+    QTRY_VERIFY2(line().startsWith("wwan0 | connected since "), qPrintable(line()));
     QVERIFY(pair.upload(40, 1000));
     QVERIFY(pair.download(25, 700));
     const QString sent = volume(VethPair::bytesOf(40, 1000));
@@ -135,7 +136,7 @@ void TestLiveRecording::showsOneThatWasThereBefore()
     const VethPair pair;
     QVERIFY(pair.goUp());
     QVERIFY(start());
-    QTRY_VERIFY2(line().startsWith("wwan0, connected since "), qPrintable(line()));
+    QTRY_VERIFY2(line().startsWith("wwan0 | connected since "), qPrintable(line()));
     QVERIFY(pair.goDown());
     QTRY_COMPARE(m_history->shownProfiles(), QStringList("wwan0"));
     QVERIFY(!summary().isEmpty());
@@ -148,7 +149,7 @@ void TestLiveRecording::showsADeletedInterfacesConnection()
     {
         const TunDevice device;
         QVERIFY(device.isMade() && device.goUp());
-        QTRY_VERIFY2(line().startsWith("ppp0, connected since "), qPrintable(line()));
+        QTRY_VERIFY2(line().startsWith("ppp0 | connected since "), qPrintable(line()));
         QVERIFY(device.upload(7, 500));
         sent = TunDevice::bytesOf(7, 500);
     }
@@ -163,7 +164,7 @@ void TestLiveRecording::showsWhatAnEarlierRunLeftOpen()
         const VethPair pair;
         QVERIFY(start());
         QVERIFY(pair.goUp());
-        QTRY_VERIFY2(line().startsWith("wwan0, connected since "), qPrintable(line()));
+        QTRY_VERIFY2(line().startsWith("wwan0 | connected since "), qPrintable(line()));
         m_recording.reset();
         m_history->close();
     }
@@ -178,7 +179,7 @@ void TestLiveRecording::recordsANamedInterface()
     QVERIFY(start({"far0"}));
     QVERIFY(pair.goUp());
     QTRY_COMPARE(line().split('\n').size(), 2);
-    QVERIFY2(line().contains("far0, connected since "), qPrintable(line()));
+    QVERIFY2(line().contains("far0 | connected since "), qPrintable(line()));
 }
 
 void TestLiveRecording::saysWhyItCannotRecord()

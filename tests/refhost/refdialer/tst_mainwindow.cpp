@@ -55,6 +55,8 @@ private slots:
     void offersTheSummaryToANewUserOnly();
     void sendsNoTextEventWhenThePluginRefusesTheLanguage();
     void writesDatesAsTheLanguageDoes();
+    void writesDatesAsTheUsersRegionDoes_data();
+    void writesDatesAsTheUsersRegionDoes();
 
     void endsThePluginOnceWhenClosed();
     void endsThePluginOnceByTheQuitEntry();
@@ -84,6 +86,32 @@ QList<int> daysIn(const QTableWidget &table)
         days.append(table.item(row, 1)->data(Qt::DisplayRole).toDate().day());
     return days;
 }
+
+/// Has another value, or none if that is empty, while this lives.
+class EnvironmentVariable
+{
+public:
+    EnvironmentVariable(const char *name, const QByteArray &value)
+        : m_name(name)
+        , m_former(qgetenv(name))
+    {
+        set(value);
+    }
+    ~EnvironmentVariable() { set(m_former); }
+    Q_DISABLE_COPY(EnvironmentVariable)
+
+private:
+    void set(const QByteArray &value) const
+    {
+        if (value.isEmpty())
+            qunsetenv(m_name);
+        else
+            qputenv(m_name, value);
+    }
+
+    const char *const m_name;
+    const QByteArray m_former;
+};
 
 void chooseLanguage(refhost::SettingsDialog &dialog, const QString &name)
 {
@@ -306,6 +334,49 @@ void TestMainWindow::writesDatesAsTheLanguageDoes()
     QCOMPARE(m_recording->table()->locale().language(), QLocale::English);
     openSettings(chooseGerman);
     QTRY_COMPARE(m_recording->table()->locale().language(), QLocale::German);
+}
+
+void TestMainWindow::writesDatesAsTheUsersRegionDoes_data()
+{
+    QTest::addColumn<QByteArray>("all");
+    QTest::addColumn<QByteArray>("time");
+    QTest::addColumn<QByteArray>("lang");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("date");
+    const QByteArray none;
+    QTest::newRow("nothing said") << none << none << none << "en"
+                                  << "9/1/26";
+    QTest::newRow("no region") << none << none << QByteArray("C.UTF-8") << "en"
+                               << "9/1/26";
+    QTest::newRow("the language's region") << none << none << QByteArray("en_GB.UTF-8") << "en"
+                                           << "01/09/2026";
+    QTest::newRow("times of another region")
+        << none << QByteArray("en_GB.UTF-8") << QByteArray("C.UTF-8") << "en"
+        << "01/09/2026";
+    QTest::newRow("everything of one region")
+        << QByteArray("de_CH.UTF-8") << QByteArray("en_US") << QByteArray("en_US") << "de"
+        << "01.09.26";
+    QTest::newRow("the language in a region that speaks another")
+        << none << none << QByteArray("de_DE@euro") << "en"
+        << "01/09/2026";
+    QTest::newRow("a region where nobody speaks the language")
+        << none << none << QByteArray("pl_PL.UTF-8") << "de"
+        << "1.09.2026";
+    QTest::newRow("a language that the toolkit does not know")
+        << none << none << QByteArray("xx_PL.UTF-8") << "de"
+        << "1.09.2026";
+}
+
+void TestMainWindow::writesDatesAsTheUsersRegionDoes()
+{
+    QFETCH(QByteArray, all);
+    QFETCH(QByteArray, time);
+    QFETCH(QByteArray, lang);
+    QFETCH(QString, language);
+    const EnvironmentVariable lcAll("LC_ALL", all);
+    const EnvironmentVariable lcTime("LC_TIME", time);
+    const EnvironmentVariable langVariable("LANG", lang);
+    QTEST(refhost::localeFor(language).toString(QDate(2026, 9, 1), QLocale::ShortFormat), "date");
 }
 
 void TestMainWindow::endsThePluginOnceWhenClosed()

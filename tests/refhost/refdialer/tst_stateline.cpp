@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "Host.h"
 #include "LineState.h"
+#include "ProblemLine.h"
+#include "ShownText.h"
+#include "SizeText.h"
 #include "StateLine.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QVBoxLayout>
+
 #include <QTimeZone>
+#include <limits>
 
 using refhost::ConnectionState;
 using refhost::LineState;
@@ -24,9 +31,13 @@ private slots:
     void saysThatItIsASample();
     void saysThatThereIsNoConnection();
     void showsTheConnectionWhileItLasts();
+    void writesSizesAsTheHistoryDoes_data();
+    void writesSizesAsTheHistoryDoes();
     void showsEachConnection();
+    void namesTheInterfaceWhereTwoShareAProfile();
+    void keepsItsHeight();
     void showsWhatIsWrongUntilThatIsOver();
-    void saysWhyNothingIsWatched();
+    void saysWhatItShowsIfNothingIsWatched();
     void speaksTheLanguageOfTheProgram();
     void tellsWhatHappensInOrder();
 
@@ -42,7 +53,7 @@ ConnectionState TestStateLine::connection(const QString &interfaceName, qint64 i
     state.interfaceName = interfaceName;
     state.since = QDateTime(QDate(2026, 9, 1), QTime(12, 30), QTimeZone::utc());
     state.uploadedBytes = 1536;
-    state.uploadRate = 100;
+    state.uploadRate = 249;
     state.downloadedBytes = 3LL << 30;
     state.downloadRate = 5 << 20;
     return state;
@@ -54,20 +65,20 @@ void TestStateLine::saysWhereTheHistoryComesFrom()
     const LineState state;
     const QString file = folder.filePath("<b>connections.db");
     const StateLine line({file, false}, state);
-    QCOMPARE(line.text(), "No connections recorded yet in " + file);
+    QCOMPARE(shownText(line), "No connections recorded yet in " + file);
     QFile store(file);
     QVERIFY(store.open(QFile::WriteOnly));
-    QCOMPARE(StateLine({file, false}, state).text(), "History in " + file);
-    QCOMPARE(line.textFormat(), Qt::PlainText);
+    QCOMPARE(shownText(StateLine({file, false}, state)), "History in " + file);
+    QCOMPARE(line.findChild<QLabel *>()->textFormat(), Qt::PlainText);
 }
 
 void TestStateLine::saysThatItIsASample()
 {
     const LineState state;
     const StateLine sample({"connections.db", true}, state);
-    QVERIFY(sample.text().startsWith("Sample history."));
+    QVERIFY(shownText(sample).startsWith("Sample history."));
     QVERIFY(refhost::setLanguage("de"));
-    QTRY_VERIFY(sample.text().startsWith("Beispielverlauf."));
+    QTRY_VERIFY(shownText(sample).startsWith("Beispielverlauf."));
 }
 
 void TestStateLine::saysThatThereIsNoConnection()
@@ -75,7 +86,7 @@ void TestStateLine::saysThatThereIsNoConnection()
     LineState state;
     const StateLine line({"connections.db", false}, state);
     state.setWatched(true);
-    QCOMPARE(line.text(), QString("Not connected"));
+    QCOMPARE(shownText(line), QString("Not connected"));
     QVERIFY(line.toolTip().contains("connections.db"));
 }
 
@@ -86,17 +97,48 @@ void TestStateLine::showsTheConnectionWhileItLasts()
     line.setLocale(QLocale("en_GB"));
     state.setWatched(true);
     state.begin(connection());
-    QCOMPARE(line.text(),
-             "%3<b>wwan0, connected since " +
+    QCOMPARE(shownText(line),
+             "%3<b>wwan0 | connected since " +
                  QLocale("en_GB").toString(QDateTime(QDate(2026, 9, 1), QTime(14, 30)),
                                            QLocale::ShortFormat) +
-                 ". Sent: 1.50 KB (100 bytes per second), received: 3.00 GB (5.00 MB per second)");
+                 " | Sent: 1.50 KB (249 B/s) | Received: 3.00 GB (5.00 MB/s)");
     ConnectionState later = connection();
     later.uploadedBytes = 2048;
     state.update(later);
-    QVERIFY2(line.text().contains("Sent: 2.00 KB"), qPrintable(line.text()));
+    QVERIFY2(shownText(line).contains("Sent: 2.00 KB"), qPrintable(shownText(line)));
     state.end(connection().id);
-    QCOMPARE(line.text(), QString("Not connected"));
+    QCOMPARE(shownText(line), QString("Not connected"));
+}
+
+void TestStateLine::writesSizesAsTheHistoryDoes_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("rate");
+    const qint64 kilobyte = 1024;
+    QTest::newRow("nothing") << qint64(0) << "0.00 KB"
+                             << "0 B/s";
+    QTest::newRow("less than a kilobyte") << qint64(1023) << "1.00 KB"
+                                          << "1023 B/s";
+    QTest::newRow("a kilobyte") << kilobyte << "1.00 KB"
+                                << "1.00 KB/s";
+    QTest::newRow("nearly a megabyte") << kilobyte * kilobyte - 1 << "1024.00 KB"
+                                       << "1024.00 KB/s";
+    QTest::newRow("a megabyte") << kilobyte * kilobyte << "1.00 MB"
+                                << "1.00 MB/s";
+    QTest::newRow("a gigabyte") << (kilobyte << 20) << "1.00 GB"
+                                << "1.00 GB/s";
+    QTest::newRow("a terabyte") << (kilobyte << 30) << "1024.00 GB"
+                                << "1024.00 GB/s";
+}
+
+void TestStateLine::writesSizesAsTheHistoryDoes()
+{
+    QFETCH(qint64, bytes);
+    QFETCH(QString, size);
+    QFETCH(QString, rate);
+    QCOMPARE(refhost::sizeText(bytes), size);
+    QCOMPARE(refhost::rateText(bytes), rate);
 }
 
 void TestStateLine::showsEachConnection()
@@ -106,33 +148,97 @@ void TestStateLine::showsEachConnection()
     state.setWatched(true);
     state.begin(connection("wwan0", 1));
     state.begin(connection("ppp0", 2));
-    const QStringList lines = line.text().split('\n');
+    const QStringList lines = shownText(line).split('\n');
     QCOMPARE(lines.size(), 2);
-    QVERIFY(lines.at(0).startsWith("%3<b>wwan0, "));
-    QVERIFY(lines.at(1).startsWith("%3<b>ppp0, "));
+    QVERIFY(lines.at(0).startsWith("%3<b>wwan0 | "));
+    QVERIFY(lines.at(1).startsWith("%3<b>ppp0 | "));
+    state.end(1);
+    QCOMPARE(shownText(line).count('\n'), 0);
+    QVERIFY(shownText(line).startsWith("%3<b>ppp0 | "));
+}
+
+void TestStateLine::namesTheInterfaceWhereTwoShareAProfile()
+{
+    LineState state;
+    const StateLine line({"connections.db", false}, state);
+    state.setWatched(true);
+    qint64 id = 0;
+    for (const char *const interfaceName : {"wwan0", "wwan1", "ppp0"}) {
+        ConnectionState made = connection(interfaceName, ++id);
+        made.profile = id < 3 ? "internet.example" : "other.example";
+        state.begin(made);
+    }
+    const QStringList lines = shownText(line).split('\n');
+    QVERIFY(lines.at(0).startsWith("internet.example (wwan0) | "));
+    QVERIFY(lines.at(1).startsWith("internet.example (wwan1) | "));
+    QVERIFY(lines.at(2).startsWith("other.example | "));
+    state.end(1);
+    QVERIFY(shownText(line).startsWith("internet.example | "));
+}
+
+void TestStateLine::keepsItsHeight()
+{
+    LineState state;
+    QWidget window;
+    auto *const layout = new QVBoxLayout(&window);
+    auto *const line = new StateLine({"connections.db", false}, state);
+    layout->addWidget(line);
+    layout->addStretch(1);
+    state.setWatched(true);
+    window.resize(300, 200);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const int height = line->height();
+    state.begin(connection());
+    ConnectionState longer = connection();
+    longer.profile = QString(500, 'w') + "\n" + QString::fromUtf8("\u0627\u0e49\u0e49\u0e49");
+    longer.uploadedBytes = std::numeric_limits<qint64>::max();
+    longer.downloadRate = longer.uploadedBytes;
+    for (const char *const language : {"en", "de"}) {
+        QVERIFY(refhost::setLanguage(language));
+        for (const char *const place : {"en_US", "ar_EG", "hi_IN", "th_TH"}) {
+            line->setLocale(QLocale(place));
+            for (const ConnectionState &shown : {connection(), longer}) {
+                state.update(shown);
+                QCoreApplication::processEvents();
+                QCOMPARE(line->height(), height);
+                QCOMPARE(window.width(), 300);
+            }
+        }
+    }
+    state.begin(connection("ppp0", 2));
+    QTRY_VERIFY(line->height() > height);
+    state.end(2);
+    QTRY_COMPARE(line->height(), height);
 }
 
 void TestStateLine::showsWhatIsWrongUntilThatIsOver()
 {
     LineState state;
     const StateLine line({"connections.db", false}, state);
+    QWidget window;
+    const refhost::ProblemLine problem(state, &window);
+    QVERIFY(problem.isHidden());
     state.setWatched(true);
     state.begin(connection());
-    state.setProblem("The disk is full.");
+    state.setProblem("The disk is <b>full.");
     state.update(connection());
     state.end(connection().id);
-    QCOMPARE(line.text(), QString("Not connected\nThe disk is full."));
+    QCOMPARE(shownText(line), QString("Not connected"));
+    QVERIFY(!problem.isHidden());
+    QCOMPARE(problem.text(), QString("The disk is <b>full."));
+    QCOMPARE(problem.textFormat(), Qt::PlainText);
     state.setProblem(QString());
-    QCOMPARE(line.text(), QString("Not connected"));
+    QVERIFY(problem.isHidden());
 }
 
-void TestStateLine::saysWhyNothingIsWatched()
+void TestStateLine::saysWhatItShowsIfNothingIsWatched()
 {
     LineState state;
     const StateLine line({"connections.db", false}, state);
+    state.begin(connection());
     state.setWatched(false);
-    state.setProblem("No permission.");
-    QCOMPARE(line.text(), QString("No connections recorded yet in connections.db\nNo permission."));
+    QCOMPARE(shownText(line), QString("No connections recorded yet in connections.db"));
 }
 
 void TestStateLine::speaksTheLanguageOfTheProgram()
@@ -141,10 +247,11 @@ void TestStateLine::speaksTheLanguageOfTheProgram()
     StateLine line({"connections.db", false}, state);
     state.setWatched(true);
     QVERIFY(refhost::setLanguage("de"));
-    QTRY_COMPARE(line.text(), QString("Nicht verbunden"));
+    QTRY_COMPARE(shownText(line), QString("Nicht verbunden"));
     state.begin(connection());
     line.setLocale(QLocale("de_DE"));
-    QVERIFY2(line.text().contains("1,50 KB"), qPrintable(line.text()));
+    QVERIFY2(shownText(line).contains("Gesendet: 1.50 KB"), qPrintable(shownText(line)));
+    QVERIFY2(shownText(line).contains("01.09.26"), qPrintable(shownText(line)));
 }
 
 void TestStateLine::tellsWhatHappensInOrder()
