@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Utf8Text.h"
 
+#include <QByteArrayList>
 #include <QVector>
 
 namespace refhost
