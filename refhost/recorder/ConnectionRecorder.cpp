@@ -300,8 +300,25 @@ void ConnectionRecorder::handleLiveChange(LiveConnection &connection, const Link
         begin(change.link, change.link.counters);
 }
 
+/// Told once for each time that stands in for those that cannot be held.
+void ConnectionRecorder::checkClock()
+{
+    const std::int64_t shown = m_clock->utcSeconds();
+    const std::int64_t stored = storableSeconds(shown);
+    if (stored == shown) {
+        m_standIn.reset();
+    } else if (m_standIn != stored) {
+        m_standIn = stored;
+        fail(tr("The system's clock shows a time that the history cannot hold, so connections get "
+                "%1 UTC instead; set the clock.")
+                 .arg(QDateTime::fromSecsSinceEpoch(stored).toUTC().toString(
+                     QStringLiteral("yyyy-MM-dd HH:mm:ss"))));
+    }
+}
+
 void ConnectionRecorder::begin(const Link &link, const LinkCounters &base)
 {
+    checkClock();
     const auto [live, isNew] = m_live.try_emplace(link.index, ++m_lastId, m_bootId,
                                                   profileFor(link.name), link, base, now());
     LiveConnection &connection = live->second;
@@ -314,6 +331,7 @@ void ConnectionRecorder::begin(const Link &link, const LinkCounters &base)
 
 void ConnectionRecorder::finish(LiveConnection &connection, bool hasFinalCounters)
 {
+    checkClock();
     m_book->finish(connection, hasFinalCounters);
     m_resumedLinks.erase(connection.linkIndex());
     m_live.erase(connection.linkIndex());

@@ -12,6 +12,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -111,6 +112,7 @@ private:
     void tryAgain();
     void handleChange(const LinkChange &change);
     void handleLiveChange(LiveConnection &connection, const LinkChange &change);
+    void checkClock();
     void begin(const Link &link, const LinkCounters &base);
     void finish(LiveConnection &connection, bool hasFinalCounters);
     void report(LiveConnection &connection);
@@ -149,7 +151,8 @@ private:
     std::vector<SeenLink> m_keptIdle; ///< what the store knows of links without one
     std::string m_bootId;
     LockPatience m_patience;
-    QString m_obstacle; ///< why it cannot record, as it was told last
+    std::optional<std::int64_t> m_standIn; ///< for what the clock shows
+    QString m_obstacle;                    ///< why it cannot record, as it was told last
     bool m_isLate = false;
     QTimer m_timer;
     QTimer m_retryTimer;

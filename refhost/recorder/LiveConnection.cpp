@@ -2,6 +2,7 @@
 #include "LiveConnection.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace refhost
@@ -14,8 +15,16 @@ constexpr const char *endedNormally = "normal";
 constexpr const char *endedByRecovery = "recovered";
 constexpr const char *endedAfterReset = "counter reset";
 
-/// More than any counter shows, and far from where sums of them overflow.
-constexpr std::int64_t maximumCount = std::int64_t{1} << 61;
+constexpr std::int64_t maximumCount = std::numeric_limits<std::int64_t>::max();
+
+/// Sums that a damaged file would take beyond 64 bits end there.
+std::int64_t sumOf(std::int64_t a, std::int64_t b)
+{
+    std::int64_t sum = 0;
+    if (!__builtin_add_overflow(a, b, &sum))
+        return sum;
+    return a > 0 ? maximumCount : -maximumCount;
+}
 
 /// A row as a recorder writes it; what a damaged file has in its place comes into
 /// the range that the store takes, so that it ends as a record.
@@ -34,8 +43,9 @@ OpenConnection withinRange(OpenConnection row)
 /// Brings a total up to date; false if the counter has gone backwards.
 bool advanceTotal(std::int64_t counter, std::int64_t &base, std::int64_t &total)
 {
-    if (counter - base >= total) {
-        total = counter - base;
+    std::int64_t moved = 0;
+    if (!__builtin_sub_overflow(counter, base, &moved) && moved >= total) {
+        total = moved;
         return true;
     }
     base = counter - total;
@@ -45,20 +55,22 @@ bool advanceTotal(std::int64_t counter, std::int64_t &base, std::int64_t &total)
 /// How much of what a connection counted at first the counter had shown up to `counted`.
 std::int64_t excess(std::int64_t counted, std::int64_t counterAtFirst, std::int64_t totalAtFirst)
 {
-    return std::clamp(counted - (counterAtFirst - totalAtFirst), std::int64_t{0}, totalAtFirst);
+    return std::clamp(sumOf(counted, totalAtFirst - counterAtFirst), std::int64_t{0}, totalAtFirst);
 }
 
 /// Lets a total grow without regard to how the counter came to its value.
 void growTotal(std::int64_t growth, std::int64_t counter, std::int64_t &base, std::int64_t &total)
 {
-    total += growth;
+    total = sumOf(total, growth);
     base = counter - total;
 }
 
 std::int64_t perSecond(std::int64_t bytes, std::int64_t milliseconds)
 {
-    // Bytes of hours at any speed stay far below the range of the product.
-    return milliseconds > 0 ? bytes * 1000 / milliseconds : 0;
+    std::int64_t product = 0;
+    if (milliseconds <= 0 || __builtin_mul_overflow(bytes, 1000, &product))
+        return 0;
+    return product / milliseconds;
 }
 
 Connection finishedFrom(const OpenConnection &row, const std::string &ending)
@@ -259,7 +271,8 @@ Connection recovered(const OpenConnection &row)
 LinkCounters countersAtLastUpdate(const OpenConnection &row)
 {
     const OpenConnection sound = withinRange(row);
-    return {sound.baseUploaded + sound.uploadedBytes, sound.baseDownloaded + sound.downloadedBytes};
+    return {sumOf(sound.baseUploaded, sound.uploadedBytes),
+            sumOf(sound.baseDownloaded, sound.downloadedBytes)};
 }
 
 } // namespace refhost

@@ -336,6 +336,10 @@
 <context>
     <name>refhost::ConnectionRecorder</name>
     <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>Die Uhr des Systems zeigt eine Zeit, die der Verlauf nicht fassen kann. Verbindungen bekommen stattdessen %1 UTC; stellen Sie die Uhr.</translation>
+    </message>
+    <message>
         <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
         <translation>&quot;/proc/sys/kernel/random/boot_id&quot; lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein.</translation>
     </message>

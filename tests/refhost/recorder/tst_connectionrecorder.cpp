@@ -14,6 +14,7 @@
 #include <QThread>
 
 #include <atomic>
+#include <limits>
 #include <memory>
 #include <thread>
 
@@ -71,6 +72,8 @@ private slots:
     void aCounterThatGoesBackwardsIsANewBase();
     void aResetBeforeTheStartIsNone();
     void countsBeyond32Bits();
+    void countsUpTo63Bits();
+    void tellsOfATimeThatTheHistoryCannotHold();
 
     void measuresTimeWithAClockThatNeverJumps_data();
     void measuresTimeWithAClockThatNeverJumps();
@@ -319,6 +322,40 @@ void ConnectionRecorderTest::countsBeyond32Bits()
     connectLink(3, "wwan0", 4294967290, 1);
     m_links->tell(downLink(3, "wwan0", 4294967300, 5000000001));
     QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 10 down 5000000000 normal"));
+}
+
+/// Of a connection that is resumed too.
+void ConnectionRecorderTest::countsUpTo63Bits()
+{
+    constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+    constexpr std::int64_t atStart = largest - 5000;
+    m_atStart = {runningLink(3, "wwan0", atStart, atStart), addressOn(3)};
+    QVERIFY(start());
+    m_links->toCome = {runningLink(3, "wwan0", atStart + 10, atStart + 20)};
+    m_recorder.reset();
+    m_clockAtStart.pass(3000);
+    m_atStart = {runningLink(3, "wwan0", atStart + 100, atStart + 200), addressOn(3)};
+    QVERIFY(start());
+    m_links->tell(downLink(3, "wwan0", largest, largest));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5000 down 5000 normal"));
+}
+
+void ConnectionRecorderTest::tellsOfATimeThatTheHistoryCannotHold()
+{
+    m_clockAtStart.utc = refhost::largestTime + 1;
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_links->tell(downLink(3, "wwan0", 5, 6));
+    QTRY_COMPARE(m_disconnections->size(), 1);
+    QCOMPARE(firstRecord().startUtc, refhost::largestTime);
+    QCOMPARE(m_failures->size(), 1);
+    QCOMPARE(m_failures->first().first().toString(),
+             QStringLiteral("The system's clock shows a time that the history cannot hold, so "
+                            "connections get 2106-02-07 06:28:15 UTC instead; set the clock."));
+    m_clock->utc = -1;
+    connectLink(3, "wwan0", 5, 6);
+    QTRY_COMPARE(m_failures->size(), 2);
+    QVERIFY(m_failures->last().first().toString().contains("1970-01-01 00:00:00 UTC"));
 }
 
 void ConnectionRecorderTest::measuresTimeWithAClockThatNeverJumps_data()
