@@ -4,9 +4,11 @@
 #include "StoreSchema.h"
 
 #include <sqlite3.h>
+#include <utf8.h>
 
 #include <cerrno>
 #include <filesystem>
+#include <iterator>
 
 namespace refhost
 {
@@ -19,6 +21,20 @@ namespace
 std::string absolutePath(const std::string &path)
 {
     return std::filesystem::absolute(path).lexically_normal().string();
+}
+
+/// Programs that take paths as text would name another file in its place and make a
+/// second history there.
+void checkPath(const std::string &path)
+{
+    if (utf8::is_valid(path.begin(), path.end()))
+        return;
+    std::string shown;
+    utf8::replace_invalid(path.begin(), path.end(), std::back_inserter(shown));
+    throw StoreFailure(StoreError::Kind::CannotOpen,
+                       historyAt(shown) + " cannot be opened because its path is not UTF-8; rename "
+                                          "the file or folder whose name is not, or name another "
+                                          "file.");
 }
 
 /// The file's name as SQLite takes it together with parameters.
@@ -59,6 +75,7 @@ StoreDatabase::~StoreDatabase() = default;
 
 bool StoreDatabase::open()
 {
+    checkPath(m_path);
     const auto file = fileAt(m_path);
     // What can only be read may have been changed by somebody who may write.
     const bool isSameFile = file == m_file;
@@ -149,10 +166,13 @@ void StoreDatabase::openFile()
 void StoreDatabase::prepareForWriting()
 {
     upgradeSchema(m_path, *m_database, storeSchema());
+    const std::string path = resolvedPath(m_path);
+    makePrivate(path);
     setCheckpointOnClose(true);
     // Refused while another process is just making the same store; until the
     // next program opens it, the store then works without a log.
-    m_database->tryExec("PRAGMA journal_mode = WAL");
+    m_database->tryExec(isOnNetwork(path) ? "PRAGMA journal_mode = DELETE"
+                                          : "PRAGMA journal_mode = WAL");
     m_database->exec(m_durability == Durability::Disk ? "PRAGMA synchronous = FULL"
                                                       : "PRAGMA synchronous = NORMAL");
 }

@@ -7,8 +7,10 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statfs.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdint>
@@ -49,6 +51,39 @@ std::optional<struct statx> statusOf(const std::string &path)
 std::int64_t nanoseconds(const struct statx_timestamp &time)
 {
     return time.tv_sec * 1000000000 + time.tv_nsec;
+}
+
+/// The kinds of disk, as statfs(2) numbers them, that several machines share. A disk
+/// in user space may be one of them, as with sshfs.
+constexpr std::array<std::uint32_t, 13> networkDisks = {
+    0x6969,     // nfs
+    0x517b,     // smb
+    0xff534d42, // cifs
+    0xfe534d42, // smb2
+    0x65735546, // fuse
+    0x01021997, // 9p
+    0x5346414f, // afs
+    0x6b414653, // kafs
+    0x73757245, // coda
+    0x00c36400, // ceph
+    0x0bd00bd0, // lustre
+    0x01161970, // gfs2
+    0x7461636f, // ocfs2
+};
+
+/// Through a descriptor that is only a path: it follows no link, and closing it leaves
+/// this process's locks on the file alone.
+void takeAccessOfOthers(const std::string &path)
+{
+    const int file = open(path.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC);
+    if (file < 0)
+        return;
+    struct stat status = {};
+    constexpr mode_t others = S_IRWXG | S_IRWXO;
+    if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == geteuid() &&
+        (status.st_mode & others) != 0)
+        chmod(("/proc/self/fd/" + std::to_string(file)).c_str(), status.st_mode & 07777U & ~others);
+    close(file);
 }
 
 void createFolders(const std::filesystem::path &folder)
@@ -159,6 +194,21 @@ std::optional<FileChange> changeOf(const std::string &path)
 std::string logOf(const std::string &path)
 {
     return path + "-wal";
+}
+
+void makePrivate(const std::string &path)
+{
+    for (const char *const suffix : {"", "-wal", "-shm"})
+        takeAccessOfOthers(path + suffix);
+}
+
+bool isOnNetwork(const std::string &path)
+{
+    struct statfs disk = {};
+    if (statfs(path.c_str(), &disk) != 0)
+        return false;
+    const auto type = static_cast<std::uint32_t>(disk.f_type);
+    return std::find(networkDisks.begin(), networkDisks.end(), type) != networkDisks.end();
 }
 
 bool hasLog(const std::string &path)

@@ -45,6 +45,14 @@ std::optional<FileChange> changeOf(const std::string &path);
 /// Where SQLite keeps the log of the file at `path`, a path without links.
 std::string logOf(const std::string &path);
 
+/// Takes the access of others from the file at `path`, a path without links, and from
+/// what SQLite keeps beside it, where they are this user's own.
+void makePrivate(const std::string &path);
+
+/// Whether the file lies on a disk that other machines may have open: processes there
+/// do not see the memory in which a log's index is shared.
+bool isOnNetwork(const std::string &path);
+
 /// Whether SQLite's log beside this file holds records that are not in it yet.
 bool hasLog(const std::string &path);
 

@@ -124,6 +124,10 @@ QStringList CommandLine::values(const QCommandLineOption &option) const
 
 void CommandLine::check(const Options &options)
 {
+    if (options.storeFile.contains(QChar::ReplacementCharacter))
+        refuse(tr("The path \"%1\" of the history is not UTF-8; rename the file or folder whose "
+                  "name is not, or name another file.")
+                   .arg(options.storeFile));
     if (options.isDemo && !options.storeFile.isEmpty())
         refuse(tr("--demo and --store exclude each other: the first shows a sample history, the "
                   "second one of yours."));

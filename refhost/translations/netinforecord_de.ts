@@ -202,6 +202,10 @@
         <translation>Die Option --%1 braucht einen Wert.</translation>
     </message>
     <message>
+        <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Der Pfad „%1“ des Verlaufs ist nicht UTF-8; benennen Sie die Datei oder den Ordner um, dessen Name es nicht ist, oder nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
         <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
         <translation>--demo und --store schließen einander aus: Das eine zeigt einen Beispielverlauf, das andere einen von Ihnen.</translation>
     </message>

@@ -116,6 +116,7 @@ private slots:
     void isPrivateWhateverTheUmask_data();
     void isPrivateWhateverTheUmask();
     void keepsTheModeOfAFolderThatIsThere();
+    void takesTheAccessOfOthersAway();
     void writesAheadAndKeepsIntegers();
     void marksItsFile();
     void isWholeBeforeItsLog_data();
@@ -130,6 +131,7 @@ private slots:
     void refusesAndKeepsUntouched();
     void saysWhatIsInTheStoresPlace_data();
     void saysWhatIsInTheStoresPlace();
+    void refusesAPathThatIsNotUtf8();
     void refusesToWriteToAFileDamagedElsewhere();
     void keepsWhatACrashLeftInTheLog();
     void isLeftAloneOnceANewerProgramHasUpgradedIt();
@@ -170,6 +172,21 @@ void StoreFileTest::keepsTheModeOfAFolderThatIsThere()
     QCOMPARE(chmod(qPrintable(folder), 0750), 0);
     storeWith(folder.toStdString() + "/connections.db", {});
     QCOMPARE(modeOf(folder), mode_t(0750));
+}
+
+void StoreFileTest::takesTheAccessOfOthersAway()
+{
+    makeStore(m_path);
+    QCOMPARE(chmod(qPrintable(m_path), 0664), 0);
+    // A first program has opened it so, and SQLite has given the mode to its own files.
+    SQLite::Database first(m_path.toStdString(), SQLite::OPEN_READWRITE);
+    first.exec("DELETE FROM connection WHERE key = 1");
+    const QString link = m_folder->filePath("link.db");
+    QVERIFY(QFile::link(m_path, link));
+    const auto store = StatisticsStore::openOrCreate(link.toStdString());
+    QVERIFY(store);
+    for (const char *const suffix : {"", "-wal", "-shm"})
+        QCOMPARE(modeOf(m_path + suffix), mode_t(0600));
 }
 
 void StoreFileTest::writesAheadAndKeepsIntegers()
@@ -380,6 +397,24 @@ void StoreFileTest::saysWhatIsInTheStoresPlace()
              QString("\"%1\" is not a connection history but %2; it was left as it is, move it "
                      "away or name another file.")
                  .arg(m_path, what));
+}
+
+void StoreFileTest::refusesAPathThatIsNotUtf8()
+{
+    const std::string path = m_folder->filePath("conn\xC3\xA4 ").toStdString() + "\xE4.db";
+    for (const auto open : {StatisticsStore::openForReading, StatisticsStore::openOrCreate}) {
+        const auto store = open(path);
+        QCOMPARE(outcomeOf(store), QString("CannotOpen"));
+        const QString shown = m_folder->filePath(QString::fromUtf8("conn\xC3\xA4 \xEF\xBF\xBD.db"));
+        const QString sentence = QString::fromStdString(store.error().message);
+        QVERIFY2(
+            sentence.contains('"' + shown + "\" cannot be opened because its path is not UTF-8"),
+            qPrintable(sentence));
+    }
+    qputenv("NETINFO_STORE", path.c_str());
+    _KORA_ST_CONNRECORD last = {};
+    QCOMPARE(KORA_Statistics_GetLastConnRecord(&last), int(refhost::KoraCannotOpen));
+    QVERIFY(QDir(m_folder->path()).isEmpty());
 }
 
 void StoreFileTest::refusesToWriteToAFileDamagedElsewhere()

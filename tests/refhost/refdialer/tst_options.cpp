@@ -83,6 +83,8 @@ void TestOptions::refusesWhatDoesNotFit_data()
     QTest::newRow("its parent's") << QStringList{"--interface", ".."} << "\"..\"";
     QTest::newRow("the known languages") << QStringList{"--lang", "xx"} << "de, en";
     QTest::newRow("the unknown language") << QStringList{"--lang", "xx"} << "\"xx\"";
+    QTest::newRow("a path that is no text")
+        << QStringList{"--store", QString(QChar::ReplacementCharacter)} << "not UTF-8";
     QTest::newRow("sample and own history") << QStringList{"--demo", "--store", "x"} << "--demo";
 }
 

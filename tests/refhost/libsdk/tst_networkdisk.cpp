@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// A store on a disk that other machines share. The system's answer is this program's
+// own: its statfs stands before the C library's.
+#include "StatisticsStore.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/statfs.h>
+
+using refhost::StatisticsStore;
+
+namespace
+{
+
+constexpr long nfs = 0x6969;
+constexpr long ext4 = 0xef53;
+long theDisk = nfs;
+
+} // namespace
+
+extern "C" int statfs(const char * /*path*/, struct statfs *disk) noexcept
+{
+    *disk = {};
+    disk->f_type = theDisk;
+    return 0;
+}
+
+class NetworkDiskTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void writesAheadOnlyWhereNoOtherMachineReads_data();
+    void writesAheadOnlyWhereNoOtherMachineReads();
+    void aStoreThatComesToANetworkDiskWritesAheadNoMore();
+
+private:
+    /// Adds a record while the store on this disk is open; whether it has a log then.
+    bool hasLogOn(long disk)
+    {
+        theDisk = disk;
+        auto store = StatisticsStore::openOrCreate(m_path.toStdString());
+        refhost::Connection connection;
+        connection.startUtc = ++m_added;
+        if (!store || !store.value().add(connection))
+            qFatal("nothing was added");
+        return QFile::exists(m_path + "-wal");
+    }
+
+    std::string journalMode() const
+    {
+        return SQLite::Database(m_path.toStdString()).execAndGet("PRAGMA journal_mode").getString();
+    }
+
+    std::size_t stored() const
+    {
+        return StatisticsStore::openForReading(m_path.toStdString()).value().list().value().size();
+    }
+
+    QTemporaryDir m_folder;
+    QString m_path;
+    int m_added = 0;
+};
+
+void NetworkDiskTest::writesAheadOnlyWhereNoOtherMachineReads_data()
+{
+    QTest::addColumn<long>("disk");
+    QTest::addColumn<bool>("hasLog");
+    QTest::newRow("ext4") << ext4 << true;
+    QTest::newRow("tmpfs") << 0x01021994L << true;
+    QTest::newRow("btrfs") << 0x9123683eL << true;
+    QTest::newRow("nfs") << nfs << false;
+    QTest::newRow("cifs") << 0xff534d42L << false;
+    QTest::newRow("smb2") << 0xfe534d42L << false;
+    QTest::newRow("smb2 where numbers have a sign") << -28095166L << false;
+    QTest::newRow("fuse") << 0x65735546L << false;
+    QTest::newRow("9p") << 0x01021997L << false;
+}
+
+void NetworkDiskTest::writesAheadOnlyWhereNoOtherMachineReads()
+{
+    QFETCH(long, disk);
+    QFETCH(bool, hasLog);
+    m_path = m_folder.filePath(QString("%1.db").arg(disk));
+    m_added = 0;
+    QCOMPARE(hasLogOn(disk), hasLog);
+    QCOMPARE(journalMode(), std::string(hasLog ? "wal" : "delete"));
+    QCOMPARE(stored(), std::size_t(1));
+}
+
+void NetworkDiskTest::aStoreThatComesToANetworkDiskWritesAheadNoMore()
+{
+    m_path = m_folder.filePath("moved.db");
+    m_added = 0;
+    QVERIFY(hasLogOn(ext4));
+    QVERIFY(!hasLogOn(nfs));
+    QCOMPARE(journalMode(), std::string("delete"));
+    QVERIFY(hasLogOn(ext4));
+    QCOMPARE(stored(), std::size_t(3));
+}
+
+QTEST_GUILESS_MAIN(NetworkDiskTest)
+
+#include "tst_networkdisk.moc"
