@@ -14,10 +14,11 @@ namespace refhost
 namespace
 {
 
-/// Also gives the owner what a umask has taken.
+/// Also gives the owner what a umask has taken. A folder of somebody else's stays as it is.
 void keepToOwner(const QString &path)
 {
-    fchmodat(AT_FDCWD, QFile::encodeName(path).constData(), S_IRWXU, AT_SYMLINK_NOFOLLOW);
+    [[maybe_unused]] const int result =
+        fchmodat(AT_FDCWD, QFile::encodeName(path).constData(), S_IRWXU, AT_SYMLINK_NOFOLLOW);
 }
 
 void createFolders(const QString &path)
