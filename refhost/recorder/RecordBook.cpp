@@ -88,7 +88,7 @@ Result<std::int64_t> RecordBook::takeOver(Unwritten &left)
         return wasTakenOver.error();
     if (wasTakenOver.value())
         return left.connection.row().key;
-    const auto settled = settleBefore(left.connection);
+    const auto settled = settleBefore(left);
     if (!settled)
         return settled.error();
     if (left.connection.hasEnded()) {
@@ -110,12 +110,22 @@ Result<std::int64_t> RecordBook::takeOver(Unwritten &left)
 }
 
 /// What was left may be of a process that could not settle what others had left before:
-/// that comes first, as it would have then.
+/// that comes first, as it would have then, once for each link of that process.
+Result<std::size_t> RecordBook::settleBefore(Unwritten &left)
+{
+    const OpenConnection &row = left.connection.row();
+    const std::tuple link(left.run, row.bootId, row.interfaceIndex);
+    if (row.key != 0 || m_settledLinks.count(link) != 0)
+        return std::size_t{0};
+    auto settled = settleBefore(left.connection);
+    if (settled)
+        m_settledLinks.insert(link);
+    return settled;
+}
+
 Result<std::size_t> RecordBook::settleBefore(LiveConnection &connection)
 {
     const OpenConnection &row = connection.row();
-    if (row.key != 0 || !m_settledLinks.insert({row.bootId, row.interfaceIndex}).second)
-        return std::size_t{0};
     const auto open = m_store.listOpen();
     if (!open)
         return open.error();
@@ -132,12 +142,13 @@ Result<std::size_t> RecordBook::settleBefore(LiveConnection &connection)
     if (!seenBefore)
         return seenBefore.error();
     const FirstSightVerdict verdict = judge(firstSightOf(connection), seenBefore.value());
-    if (verdict.wasSeenInThisRun)
-        connection.leaveOut(connection.state().countersAtFirst);
     std::vector<Connection> unwatched;
     if (verdict.unwatched)
         unwatched.push_back(*verdict.unwatched);
-    return m_store.see({verdict.settled}, unwatched);
+    auto added = m_store.see({verdict.settled}, unwatched);
+    if (added && verdict.wasSeenInThisRun)
+        connection.leaveOut(connection.state().countersAtFirst);
+    return added;
 }
 
 void RecordBook::leave(std::vector<LiveConnection> lasting)

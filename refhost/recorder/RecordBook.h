@@ -13,7 +13,7 @@
 #include <map>
 #include <set>
 #include <string>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 namespace refhost
@@ -72,6 +72,7 @@ private:
     void readFile();
     void takeOver();
     Result<std::int64_t> takeOver(Unwritten &left);
+    Result<std::size_t> settleBefore(Unwritten &left);
     Result<std::size_t> settleBefore(LiveConnection &connection);
     Result<std::int64_t> begin(LiveConnection &connection);
     Result<bool> attach(LiveConnection &connection);
@@ -91,8 +92,9 @@ private:
     UnwrittenFile m_file;
     std::deque<Unwritten> m_left; ///< by an earlier process, in the file
     bool m_isFileRead = false;
-    bool m_isFileOurs = true;                                      ///< what stands there is ours
-    std::set<std::pair<std::string, std::int64_t>> m_settledLinks; ///< of what was left
+    bool m_isFileOurs = true; ///< what stands there is ours
+    /// The links of each run whose connections were left, with nothing open before them.
+    std::set<std::tuple<std::string, std::string, std::int64_t>> m_settledLinks;
     std::string m_bootId;
     const SystemClock &m_clock;
     StillLasts m_stillLasts;

@@ -106,6 +106,7 @@ QJsonObject objectOf(const Unwritten &unwritten)
     Writer writer;
     const LiveConnection::State state = unwritten.connection.state();
     visitFields(state, writer);
+    writer.text("run", unwritten.run);
     writer.text("origin", unwritten.origin);
     writer.flag("has_final_counters", unwritten.hasFinalCounters);
     return writer.object;
@@ -116,13 +117,20 @@ std::optional<Unwritten> unwrittenIn(const QJsonObject &object)
     Reader reader(object);
     LiveConnection::State state;
     visitFields(state, reader);
+    std::string run;
     std::string origin;
     bool hasFinalCounters = false;
+    reader.text("run", run);
     reader.text("origin", origin);
     reader.flag("has_final_counters", hasFinalCounters);
     if (!reader.isComplete || origin.empty())
         return std::nullopt;
-    return Unwritten{LiveConnection(state), hasFinalCounters, origin};
+    return Unwritten{LiveConnection(state), hasFinalCounters, run, origin};
+}
+
+std::string newIdentifier()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
 }
 
 QByteArray digestOf(const QByteArray &text)
@@ -169,9 +177,12 @@ std::optional<std::vector<Unwritten>> UnwrittenFile::parse(const QByteArray &tex
 std::optional<StoreError> UnwrittenFile::write(std::vector<Unwritten> connections) const
 {
     QJsonArray array;
+    const std::string run = newIdentifier();
     for (Unwritten &each : connections) {
-        if (each.origin.empty())
-            each.origin = QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
+        if (each.origin.empty()) {
+            each.run = run;
+            each.origin = newIdentifier();
+        }
         array.append(objectOf(each));
     }
     const QByteArray body = QJsonDocument(array).toJson();

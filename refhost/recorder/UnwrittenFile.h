@@ -19,7 +19,8 @@ namespace refhost
 struct Unwritten {
     LiveConnection connection; ///< if it has not ended, it lasts
     bool hasFinalCounters = false;
-    std::string origin = {}; ///< what tells it from all others, once it is in a file
+    std::string run = {};    ///< of the recorder that left it, once it is in a file
+    std::string origin = {}; ///< what tells it from all others, then
 };
 
 /// The file beside a store, "-unwritten" after its name, that keeps at the end of a
@@ -36,7 +37,8 @@ public:
     /// A file that is something else, damaged or of a newer version is an error.
     Result<std::vector<Unwritten>> read() const;
     /// Puts these into the file, mode 0600, in the place of what it kept; those without
-    /// an origin get one. The reason if that is not possible: then the file is as it was.
+    /// an origin get one, and this recorder's run. The reason if that is not possible: then the
+    /// file is as it was.
     std::optional<StoreError> write(std::vector<Unwritten> connections) const;
     /// Whether there is no file any more.
     bool remove() const;

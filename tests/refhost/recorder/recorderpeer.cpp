@@ -2,11 +2,14 @@
 #include "ConnectionRecorder.h"
 
 #include <QCoreApplication>
+#include <QSocketNotifier>
+
+#include <unistd.h>
 
 #include <cstdio>
 
-/// recorderpeer STORE: records until it is killed, and says "connected" whenever
-/// a connection begins.
+/// recorderpeer STORE: records until it is killed or its input ends, and says
+/// "connected" whenever a connection begins.
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
@@ -17,6 +20,8 @@ int main(int argc, char **argv)
     });
     QObject::connect(&recorder, &refhost::ConnectionRecorder::failed, &recorder,
                      [](const QString &reason) { qWarning("%s", qPrintable(reason)); });
+    const QSocketNotifier inputEnd(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&inputEnd, &QSocketNotifier::activated, &QCoreApplication::quit);
     recorder.start();
     return QCoreApplication::exec();
 }

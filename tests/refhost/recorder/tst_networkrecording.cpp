@@ -4,6 +4,7 @@
 #include "LinkMonitor.h"
 #include "NetworkNamespace.h"
 #include "RecordText.h"
+#include "StoreLock.h"
 #include "SystemClock.h"
 #include "TunDevice.h"
 #include "VethPair.h"
@@ -18,12 +19,15 @@
 #include <net/if.h>
 
 #include <fcntl.h>
+#include <ifaddrs.h>
+#include <linux/if_link.h>
 #include <linux/rtnetlink.h>
 #include <net/if.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cstring>
 #include <memory>
 #include <optional>
 
@@ -65,6 +69,24 @@ QString storm()
     for (int i = 0; i < 1500; ++i)
         lines += QStringLiteral("link set far0 mtu %1\n").arg(1400 + i % 2);
     return lines;
+}
+
+/// What the kernel has counted on the interface, both ways.
+qint64 countedBytesOf(const char *interfaceName)
+{
+    ifaddrs *all = nullptr;
+    qint64 bytes = -1;
+    if (getifaddrs(&all) != 0)
+        return bytes;
+    for (const ifaddrs *each = all; each; each = each->ifa_next) {
+        if (!each->ifa_addr || each->ifa_addr->sa_family != AF_PACKET ||
+            std::strcmp(each->ifa_name, interfaceName) != 0)
+            continue;
+        const auto *const counters = static_cast<const rtnl_link_stats *>(each->ifa_data);
+        bytes = qint64{counters->tx_bytes} + counters->rx_bytes;
+    }
+    freeifaddrs(all);
+    return bytes;
 }
 
 /// The recorder's socket for news of the kernel, or -1.
@@ -175,6 +197,7 @@ private slots:
     void tellsWhatALivingInterfaceMovedUnwatchedFromItsConnection();
     void tenShortSessionsLoseNothingAndInventNothing();
     void manyReconnectsLoseNothingAndInventNothing();
+    void quitsRestartsAndLocksLoseNothingAndInventNothing();
     void reconnectsThatNobodyHadTimeToSeeAreRecordsOfTheirOwn();
     void anInterfaceDeletedAtOnceTakesNoByteWithIt();
     void anInterfaceMadeAnewUnderTheSameNameIsAnotherConnection();
@@ -199,6 +222,10 @@ private:
     /// A session of random volumes on a line that lives on, or on one that is
     /// deleted at its end; the record that it is to leave, or nothing on failure.
     QString reconnect(campaign::Random &random);
+    /// One of all that can happen, at random; `pppBytes` is what ppp0 has moved in all.
+    void happen(campaign::Random &random, qint64 &pppBytes);
+    void moveBytes(campaign::Random &random);
+    qint64 recordedBytesOf(const std::string &interfaceName) const;
     bool startRecorder(const QStringList &interfaceNames = {});
     bool startWithDeviceTypes(const QString &folder);
     bool start(std::unique_ptr<ConnectionRecorder> recorder);
@@ -208,6 +235,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
     std::optional<VethPair> m_line;
+    std::optional<StoreLock> m_lock;
     std::unique_ptr<ConnectionRecorder> m_recorder;
     std::unique_ptr<QSignalSpy> m_connections;
     std::unique_ptr<QSignalSpy> m_disconnections;
@@ -233,6 +261,7 @@ void NetworkRecordingTest::cleanup()
 {
     if (m_failures)
         QVERIFY(m_failures->isEmpty());
+    m_lock.reset();
     m_recorder.reset();
     m_line.reset();
     m_folder.reset();
@@ -342,6 +371,86 @@ void NetworkRecordingTest::manyReconnectsLoseNothingAndInventNothing()
     QStringList stored = recordsIn(m_path);
     stored.sort();
     QCOMPARE(stored, expected);
+}
+
+void NetworkRecordingTest::moveBytes(campaign::Random &random)
+{
+    const Volume up(random);
+    const Volume down(random);
+    if (!isRunning("wwan0"))
+        QVERIFY(m_line->goUp());
+    QVERIFY(m_line->upload(up.count, up.size));
+    QVERIFY(m_line->download(down.count, down.size));
+}
+
+void NetworkRecordingTest::happen(campaign::Random &random, qint64 &pppBytes)
+{
+    switch (random.below(7)) {
+    case 0:
+        return m_recorder.reset();
+    case 1:
+        if (!m_recorder)
+            QVERIFY(startRecorder());
+        return;
+    case 2:
+        if (m_lock)
+            m_lock.reset();
+        else
+            m_lock.emplace(m_path);
+        return;
+    case 3:
+        QVERIFY(m_line->goDown());
+        return;
+    case 4: {
+        // What is deleted while nobody looks takes its counters with it.
+        if (!m_recorder)
+            return;
+        const Volume up(random);
+        const Volume down(random);
+        const TunDevice device;
+        QVERIFY(device.isMade());
+        QVERIFY(!useLine(device, "ppp0", up, down).isEmpty());
+        pppBytes +=
+            TunDevice::bytesOf(up.count, up.size) + TunDevice::bytesOf(down.count, down.size);
+        return;
+    }
+    default:
+        moveBytes(random);
+    }
+}
+
+qint64 NetworkRecordingTest::recordedBytesOf(const std::string &interfaceName) const
+{
+    const auto store = refhost::StatisticsStore::openForReading(m_path.toStdString());
+    qint64 bytes = 0;
+    for (const Connection &each : store.value().list().value()) {
+        if (each.interfaceName == interfaceName)
+            bytes += each.uploadedBytes + each.downloadedBytes;
+    }
+    return bytes;
+}
+
+/// The kernel's counters are the witness.
+void NetworkRecordingTest::quitsRestartsAndLocksLoseNothingAndInventNothing()
+{
+    const int steps = campaign::count(100);
+    campaign::Random random(campaign::seed(1));
+    qint64 pppBytes = 0;
+    for (int i = 0; i < steps && !QTest::currentTestFailed(); ++i) {
+        happen(random, pppBytes);
+        if (random.once(2))
+            QCoreApplication::processEvents();
+    }
+    m_lock.reset();
+    if (!m_recorder)
+        QVERIFY(startRecorder());
+    QVERIFY(m_line->goDown());
+    QTRY_VERIFY(openRowsIn(m_path).empty() && !QFile::exists(m_path + "-unwritten"));
+    m_recorder.reset();
+    QCOMPARE(recordedBytesOf("wwan0"), countedBytesOf("wwan0"));
+    QCOMPARE(recordedBytesOf("ppp0"), pppBytes);
+    // A lock that lasts is told of.
+    m_failures.reset();
 }
 
 void NetworkRecordingTest::reconnectsThatNobodyHadTimeToSeeAreRecordsOfTheirOwn()
