@@ -4,6 +4,7 @@
 #include "Result.h"
 
 #include <exception>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -67,6 +68,8 @@ auto attempt(const std::string &path, Operation operation) -> Result<decltype(op
         return operation();
     } catch (const StoreFailure &failure) {
         return failure.error();
+    } catch (const std::bad_alloc &) {
+        return interrupted(path, "there is not enough memory").error();
     } catch (const std::exception &exception) {
         return interrupted(path, exception.what()).error();
     }

@@ -60,6 +60,7 @@ private slots:
     void addMissingReportsEveryConnectionLookedAt();
     void addMissingAddsAllOrNone();
     void addMissingKeepsNothingWhenTheListenerThrows();
+    void saysThatThereIsNotEnoughMemory();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -225,6 +226,16 @@ void StoredRecordsTest::addMissingKeepsNothingWhenTheListenerThrows()
     });
     QVERIFY(!added);
     QVERIFY(QString::fromStdString(added.error().message).contains("enough"));
+    QCOMPARE(profilesIn(m_path), QString());
+}
+
+void StoredRecordsTest::saysThatThereIsNotEnoughMemory()
+{
+    StatisticsStore store = storeWith(m_path, {});
+    const auto added =
+        store.addMissing(numberedConnections(1), [](std::size_t) { throw std::bad_alloc(); });
+    QCOMPARE(outcomeOf(added), QString("CannotOpen"));
+    QVERIFY(QString::fromStdString(added.error().message).contains("there is not enough memory"));
     QCOMPARE(profilesIn(m_path), QString());
 }
 
