@@ -3,6 +3,7 @@
 
 #include "Failure.h"
 #include "FilePlace.h"
+#include "FilesBesideStore.h"
 #include "Output.h"
 
 #include <algorithm>
@@ -14,10 +15,9 @@ namespace refhost
 namespace
 {
 
-/// Behind the history's name: itself, what SQLite keeps, the recorder's lock and
-/// what a recorder could not write.
-constexpr std::array<const char *, 6> suffixes = {"",         "-wal",      "-shm",
-                                                  "-journal", ".recorder", "-unwritten"};
+/// Behind the history's name: itself, what SQLite keeps and what recorders do.
+constexpr std::array<const char *, 6> suffixes = {
+    "", "-wal", "-shm", "-journal", recorderLockSuffix, unwrittenSuffix};
 
 bool isOfHistory(const std::filesystem::path &path, const std::filesystem::path &store)
 {

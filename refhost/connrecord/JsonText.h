@@ -8,8 +8,8 @@
 namespace refhost
 {
 
-/// A document for programs. The toolkit's own one would not do: under Qt 5 it
-/// turns large integers into doubles.
+/// A document for programs. Qt's own one would not do: Qt 5 has it
+/// turn large integers into doubles.
 using Json = nlohmann::json;
 
 /// The document's text, indented, ended by a line feed; what is not UTF-8 in it

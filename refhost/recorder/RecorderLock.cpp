@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecorderLock.h"
 
+#include "FilesBesideStore.h"
 #include "LockFile.h"
 
 #include <sys/file.h>
@@ -13,7 +14,7 @@ namespace refhost
 {
 
 RecorderLock::RecorderLock(const QString &storePath)
-    : m_path(storePath + QStringLiteral(".recorder"))
+    : m_path(storePath + QLatin1String(recorderLockSuffix))
 {
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UnwrittenFile.h"
 
+#include "FilesBesideStore.h"
+
 #include <QCryptographicHash>
 #include <QFile>
 #include <QJsonArray>
@@ -141,7 +143,7 @@ QByteArray digestOf(const QByteArray &text)
 } // namespace
 
 UnwrittenFile::UnwrittenFile(const QString &storePath)
-    : m_path(storePath + QStringLiteral("-unwritten"))
+    : m_path(storePath + QLatin1String(unwrittenSuffix))
 {
 }
 

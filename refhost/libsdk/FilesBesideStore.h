@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace refhost
+{
+
+/// What recorders keep beside a store, behind its name.
+constexpr const char *recorderLockSuffix = ".recorder";
+constexpr const char *unwrittenSuffix = "-unwritten";
+
+} // namespace refhost
