@@ -14,12 +14,15 @@ QString textOf(const Connection &connection)
         .arg(QString::fromStdString(connection.ending));
 }
 
+std::vector<Connection> connectionsIn(const QString &storePath)
+{
+    return StatisticsStore::openForReading(storePath.toStdString()).value().list().value();
+}
+
 QStringList recordsIn(const QString &storePath)
 {
-    const auto store = StatisticsStore::openForReading(storePath.toStdString());
-    const auto list = store.value().list();
     QStringList texts;
-    for (const Connection &each : list.value())
+    for (const Connection &each : connectionsIn(storePath))
         texts.append(textOf(each));
     return texts;
 }

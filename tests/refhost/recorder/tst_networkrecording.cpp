@@ -421,9 +421,8 @@ void NetworkRecordingTest::happen(campaign::Random &random, qint64 &pppBytes)
 
 qint64 NetworkRecordingTest::recordedBytesOf(const std::string &interfaceName) const
 {
-    const auto store = refhost::StatisticsStore::openForReading(m_path.toStdString());
     qint64 bytes = 0;
-    for (const Connection &each : store.value().list().value()) {
+    for (const Connection &each : connectionsIn(m_path)) {
         if (each.interfaceName == interfaceName)
             bytes += each.uploadedBytes + each.downloadedBytes;
     }
@@ -703,8 +702,7 @@ void NetworkRecordingTest::endsAndBeginsAnewAroundALastingErrorOfTheSocket()
     QVERIFY(m_line->goDown());
     QTRY_VERIFY(openRowsIn(m_path).empty());
     qint64 uploaded = 0;
-    const auto store = refhost::StatisticsStore::openForReading(m_path.toStdString());
-    for (const Connection &each : store.value().list().value())
+    for (const Connection &each : connectionsIn(m_path))
         uploaded += each.uploadedBytes;
     QCOMPARE(uploaded, VethPair::bytesOf(7, 100));
 }

@@ -93,9 +93,8 @@ public:
 
     qint64 recordedBytes() const
     {
-        const auto store = StatisticsStore::openForReading(path().toStdString());
         qint64 bytes = 0;
-        for (const refhost::Connection &each : store.value().list().value())
+        for (const refhost::Connection &each : connectionsIn(path()))
             bytes += each.uploadedBytes;
         return bytes;
     }

@@ -102,7 +102,7 @@ void UnwatchedTrafficTest::runSql(const char *sql)
 
 std::vector<Connection> UnwatchedTrafficTest::records()
 {
-    return StatisticsStore::openForReading(m_path.toStdString()).value().list().value();
+    return connectionsIn(m_path);
 }
 
 void UnwatchedTrafficTest::isARecordOfItsOwn()
