@@ -270,7 +270,11 @@ void TestHistoryRefresh::showsTheNewestAtTheBeginning()
 /// Presses Delete, does the step while the question is open and answers it.
 void TestHistoryRefresh::pressDelete(const std::function<void()> &whileAsked, const char *button)
 {
+    m_history->window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&m_history->window()));
+    m_history->table().setFocus();
     bool wasAsked = false;
+    // Not before the wait above, which would look for the question too early.
     QTimer::singleShot(0, this, [&] {
         QMessageBox *const box = openBox();
         QVERIFY(box);
@@ -278,9 +282,6 @@ void TestHistoryRefresh::pressDelete(const std::function<void()> &whileAsked, co
         whileAsked();
         clickOn(*box, button);
     });
-    m_history->window().activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&m_history->window()));
-    m_history->table().setFocus();
     m_history->pressKey(Qt::Key_Delete);
     QVERIFY(wasAsked);
 }
