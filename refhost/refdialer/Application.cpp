@@ -38,6 +38,8 @@ Application::~Application()
 void Application::run()
 {
     chooseStore();
+    if (!isFirst())
+        return;
     checkStore();
     loadDialupService();
     startRecording();
@@ -57,6 +59,18 @@ void Application::chooseStore()
     if (!file.isEmpty())
         qputenv("NETINFO_STORE", QFile::encodeName(file));
     m_source = {QString::fromStdString(StatisticsStore::defaultPath()), m_options.isDemo};
+}
+
+bool Application::isFirst()
+{
+    // What is shown for a moment or to try it out is nobody's other window.
+    if (m_options.isDemo || !m_options.pictureFile.isEmpty())
+        return true;
+    const SingleInstance::Outcome outcome = m_instance.claim(m_source.file);
+    if (outcome == SingleInstance::Outcome::OtherIsBusy)
+        qWarning("refdialer is running already, but busy; its window comes forward as soon as it "
+                 "can.");
+    return outcome == SingleInstance::Outcome::First;
 }
 
 // The plug-in shows a store that cannot be read as an empty history, so the
@@ -115,6 +129,7 @@ void Application::showWindow()
         savePicture(window, m_options.pictureFile);
         return;
     }
+    QObject::connect(&m_instance, &SingleInstance::activated, &window, &MainWindow::comeForward);
     window.show();
     QCoreApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include "LineState.h"
 #include "Options.h"
 #include "PluginContainer.h"
+#include "SingleInstance.h"
 #include "StateLine.h"
 
 #include <QCoreApplication>
@@ -34,6 +35,8 @@ public:
 
 private:
     void chooseStore();
+    /// Whether no other window shows the same history; one that does comes forward.
+    bool isFirst();
     void checkStore() const;
     void loadDialupService();
     void startRecording();
@@ -43,6 +46,7 @@ private:
     const Options m_options;
     std::unique_ptr<DemoStore> m_demoStore;
     HistorySource m_source;
+    SingleInstance m_instance;
     PluginContainer m_container;
     LineState m_state;
     std::unique_ptr<ServicePlugin> m_dialupService;

@@ -11,6 +11,7 @@
 #include "SortMenu.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -52,6 +53,15 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
 MainWindow::~MainWindow()
 {
     m_plugin.end();
+}
+
+void MainWindow::comeForward()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    // What the window waits for has the keyboard instead of it.
+    QWidget *const dialog = QApplication::activeModalWidget();
+    (dialog ? dialog : this)->activateWindow();
 }
 
 void MainWindow::changeEvent(QEvent *event)

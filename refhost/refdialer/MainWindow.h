@@ -28,6 +28,9 @@ public:
     MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state);
     ~MainWindow() override;
 
+    /// Shows itself above other windows and takes the keyboard.
+    void comeForward();
+
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;

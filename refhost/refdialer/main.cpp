@@ -37,8 +37,8 @@ int runWindow(const refhost::Options &options, char **argv)
     const QApplication application(programNameOnly, argv);
     const refhost::QuitOnSignal quitOnSignal;
     describeProgram();
-    QApplication::setDesktopFileName(QStringLiteral("org.example.refdialer"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.refdialer")));
+    QApplication::setDesktopFileName(QStringLiteral(REFDIALER_APPLICATION_ID));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(REFDIALER_APPLICATION_ID)));
     try {
         refhost::Application(options).run();
         return 0;

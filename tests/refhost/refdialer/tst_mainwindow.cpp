@@ -58,6 +58,9 @@ private slots:
     void writesDatesAsTheUsersRegionDoes_data();
     void writesDatesAsTheUsersRegionDoes();
 
+    void comesForwardEvenIfMinimized();
+    void comesForwardWithItsDialog();
+
     void endsThePluginOnceWhenClosed();
     void endsThePluginOnceByTheQuitEntry();
     void endsThePluginOnceWhenDestroyed();
@@ -377,6 +380,27 @@ void TestMainWindow::writesDatesAsTheUsersRegionDoes()
     const EnvironmentVariable lcTime("LC_TIME", time);
     const EnvironmentVariable langVariable("LANG", lang);
     QTEST(refhost::localeFor(language).toString(QDate(2026, 9, 1), QLocale::ShortFormat), "date");
+}
+
+void TestMainWindow::comesForwardEvenIfMinimized()
+{
+    m_window->showMinimized();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    m_window->comeForward();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(!m_window->isMinimized());
+}
+
+void TestMainWindow::comesForwardWithItsDialog()
+{
+    openSettings([this](refhost::SettingsDialog &dialog) {
+        m_window->activateWindow();
+        m_window->comeForward();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    });
 }
 
 void TestMainWindow::endsThePluginOnceWhenClosed()
