@@ -20,8 +20,30 @@ private slots:
     void isADialogWhateverTheFlags();
     void keepsAFixedSize_data();
     void keepsAFixedSize();
+    void leavesTheKeyboardToAnotherProgram();
+    void takesTheKeyboardFromItsOwnProgram();
     void canBeDeletedWhileItsButtonIsClicked();
 };
+
+namespace
+{
+
+class ShowCounter : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            ++m_count;
+        return QObject::eventFilter(watched, event);
+    }
+    int count() const { return m_count; }
+
+private:
+    int m_count = 0;
+};
+
+} // namespace
 
 void TestExtendDialog::takesTheContentOver()
 {
@@ -103,6 +125,43 @@ void TestExtendDialog::keepsAFixedSize()
     QCOMPARE(dialog.size(), size);
     dialog.resize(1000, 800);
     QCOMPARE(dialog.size(), size);
+}
+
+void TestExtendDialog::leavesTheKeyboardToAnotherProgram()
+{
+    QWidget window;
+    window.show();
+    QVERIFY(!QApplication::activeWindow());
+    ExtendDialog dialog(&window, Qt::WindowCloseButtonHint, enWidgetTypeDialog);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setVisible(true);
+    QVERIFY(dialog.testAttribute(Qt::WA_ShowWithoutActivating));
+    QVERIFY(dialog.isVisible());
+    // A modal one would be given the keyboard whatever its attribute says.
+    QCOMPARE(dialog.windowHandle()->modality(), Qt::NonModal);
+    ShowCounter shown;
+    dialog.installEventFilter(&shown);
+    // The user comes back.
+    window.activateWindow();
+    QTRY_COMPARE(dialog.windowHandle()->modality(), Qt::WindowModal);
+    // It counts for a window that is shown after that.
+    QCOMPARE(shown.count(), 1);
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(dialog.windowModality(), Qt::WindowModal);
+    QVERIFY(!dialog.testAttribute(Qt::WA_ShowWithoutActivating));
+}
+
+void TestExtendDialog::takesTheKeyboardFromItsOwnProgram()
+{
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    ExtendDialog dialog(&window, Qt::WindowCloseButtonHint, enWidgetTypeDialog);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setVisible(true);
+    QVERIFY(!dialog.testAttribute(Qt::WA_ShowWithoutActivating));
+    QCOMPARE(dialog.windowHandle()->modality(), Qt::WindowModal);
 }
 
 void TestExtendDialog::canBeDeletedWhileItsButtonIsClicked()
