@@ -105,12 +105,20 @@ auto readFile(const std::string &path, QIODevice *terminal, Reader reader)
     return reader(file, [&line](std::int64_t bytes) { line.update(bytes); });
 }
 
-LogFile readLog(InputFile &file, const ReadProgress &progress)
+LogFile readLog(InputFile &file, std::size_t largestSize, const ReadProgress &progress)
 {
     LineReader lines(file.device(), longestLogLine);
-    LogFile log = {readPppdLog(lines, progress), file.modifiedUtc()};
-    checkReadToTheEnd(lines, file);
-    return log;
+    try {
+        LogFile log = {readPppdLog(lines, progress, largestSize), file.modifiedUtc()};
+        checkReadToTheEnd(lines, file);
+        return log;
+    } catch (const LogTooLarge &) {
+        throw Failure(ExitCode::Input, file.name() + " is too much: together, more than " +
+                                           std::to_string(largestLogSize) +
+                                           " messages of pppd and jumps of a clock cannot be "
+                                           "read at once. Nothing was imported; import fewer or "
+                                           "smaller files.");
+    }
 }
 
 Contents readPppd(const ImportRequest &request, QIODevice *terminal)
@@ -118,11 +126,13 @@ Contents readPppd(const ImportRequest &request, QIODevice *terminal)
     std::vector<LogFile> files;
     std::vector<std::string> fileNames;
     std::string name = "The log of these files";
+    std::size_t sizeLeft = largestLogSize;
     for (const std::string &path : request.paths) {
         files.push_back(readFile(path, terminal, [&](InputFile &file, const auto &progress) {
             name = request.paths.size() == 1 ? file.name() : name;
-            return readLog(file, progress);
+            return readLog(file, sizeLeft, progress);
         }));
+        sizeLeft -= files.back().log.size();
         fileNames.push_back(printable(path));
     }
     const JoinedLog log = joinLogs(std::move(files), request.year);

@@ -7,6 +7,7 @@
 #include <limits>
 #include <map>
 #include <tuple>
+#include <utility>
 
 namespace refhost
 {
@@ -84,7 +85,7 @@ std::vector<PppdEvent> mergedEvents(std::vector<PlacedFile> &files)
     std::vector<Keyed> keyed;
     for (PlacedFile &file : files) {
         std::int64_t utc = file.firstUtc;
-        for (PppdEvent &event : file.file.log.events) {
+        for (PppdEvent &event : std::exchange(file.file.log.events, {})) {
             utc = std::max(utc, event.utc.value_or(utc));
             keyed.push_back({utc, std::move(event)});
         }

@@ -16,7 +16,8 @@ namespace
 
 using Kind = PppdMessage::Kind;
 
-constexpr std::size_t longestQuotedText = 240;
+/// No name is longer, and no more of a line is shown.
+constexpr std::size_t longestText = 240;
 /// A message without a process may still have a host and a facility in front.
 constexpr int mostWordsBeforeMessage = 5;
 
@@ -70,12 +71,12 @@ PppdEvent eventFrom(const LogReader &reader, PppdMessage message, std::size_t ru
     event.message = std::move(message);
     event.time = line.time;
     event.run = run;
-    event.host = line.host;
-    event.process = line.process;
+    event.host = line.host.substr(0, longestText);
+    event.process = line.process.substr(0, longestText);
     event.pid = line.pid;
     event.line = reader.lineNumber();
-    event.messageText = line.message.substr(0, longestQuotedText);
-    event.lineText = reader.text().substr(0, longestQuotedText);
+    event.messageText = line.message.substr(0, longestText);
+    event.lineText = reader.text().substr(0, longestText);
     return event;
 }
 
@@ -109,7 +110,7 @@ void reverse(PppdLog &log)
 
 } // namespace
 
-PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress)
+PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress, std::size_t largestSize)
 {
     PppdLog log;
     std::size_t run = 0;
@@ -120,6 +121,8 @@ PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress)
             run = log.clock.add(*line.time);
         if (auto message = messageIn(line))
             log.events.push_back(eventFrom(reader, std::move(*message), run));
+        if (log.size() > largestSize)
+            throw LogTooLarge();
         progress(lines.bytesRead());
     }
     if (isNewestFirst(log))

@@ -37,10 +37,21 @@ struct PppdLog {
     std::vector<PppdEvent> events;
     /// Of all its lines.
     ClockRuns clock;
+
+    /// What it takes in memory: its events and the runs of its clock.
+    std::size_t size() const { return events.size() + clock.runs().size(); }
+};
+
+/// The largest size of logs that are read at once; they take about a kilobyte for each.
+constexpr std::size_t largestLogSize = 1000000;
+
+/// Thrown where a log grows beyond the size that it may have.
+struct LogTooLarge {
 };
 
 /// Reads a system log, also one whose newest line is the first.
-PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress);
+PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress,
+                    std::size_t largestSize = largestLogSize);
 
 /// A log may hold copies of the messages of pppd and chat under the name of the script
 /// that started them, or no process names at all: such lines count only where the log

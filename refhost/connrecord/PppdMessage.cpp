@@ -21,12 +21,14 @@ namespace
 using Kind = PppdMessage::Kind;
 
 constexpr std::int64_t outOfRange = -1;
+/// Of interfaces and APNs; none is that long.
+constexpr std::size_t longestName = 240;
 
 PppdMessage messageWithText(Kind kind, std::string_view text)
 {
     PppdMessage message;
     message.kind = kind;
-    message.text = cleanedUtf8(text);
+    message.text = cleanedUtf8(text.substr(0, longestName));
     return message;
 }
 

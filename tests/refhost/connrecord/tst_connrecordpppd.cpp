@@ -47,6 +47,7 @@ private slots:
     void refusesABrokenArchive_data();
     void refusesABrokenArchive();
     void keepsLittleOfALargeArchiveInMemory();
+    void refusesMoreMessagesThanFitIntoMemory();
     void takesOneCsvFileOnly();
 
 private:
@@ -521,6 +522,27 @@ void ConnrecordPppdTest::keepsLittleOfALargeArchiveInMemory()
                           "--store", m_store, "import", "--format", "pppd", path});
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(exported(), readFile(dataFile("weekday-year.csv")));
+}
+
+void ConnrecordPppdTest::refusesMoreMessagesThanFitIntoMemory()
+{
+#ifdef SANITIZED
+    QSKIP("the sanitizers need more memory than the limit leaves");
+#endif
+    // Few bytes in an archive, and each of the two would be little enough.
+    const QByteArray messages = QByteArray("Exit.\n").repeated(500001);
+    const QString path = writtenLog(runProgram("zstd", {"-c"}, messages).output,
+                                    "2023-06-18T00:00:00", "messages.zst");
+    const ConnrecordRun result =
+        runProgram("sh", {"-c", "ulimit -v 2000000; exec \"$0\" \"$@\"", connrecordProgram(),
+                          "--store", m_store, "import", "--format", "pppd", path, path});
+    QCOMPARE(result.exitCode, 4);
+    QCOMPARE(result.error,
+             "connrecord: \"" + path.toUtf8() +
+                 "\" is too much: together, more than 1000000 messages of pppd and jumps of a "
+                 "clock cannot be read at once. Nothing was imported; import fewer or smaller "
+                 "files.\n");
+    QVERIFY(!QFile::exists(m_store));
 }
 
 void ConnrecordPppdTest::takesOneCsvFileOnly()

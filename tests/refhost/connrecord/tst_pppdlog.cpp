@@ -19,7 +19,10 @@ private slots:
     void takesLinesWithoutAProcessWhereThereIsNothingElse();
     void findsAMessageWithoutAProcessBehindAHost();
     void followsTheClockOfAllLines();
-    void keepsTheBeginningOfALine();
+    void keepsTheBeginningOfTexts_data();
+    void keepsTheBeginningOfTexts();
+    void refusesMoreThanItMayKeep_data();
+    void refusesMoreThanItMayKeep();
     void survivesWhatIsNoLog_data();
     void survivesWhatIsNoLog();
 };
@@ -111,12 +114,49 @@ void PppdLogTest::followsTheClockOfAllLines()
     QVERIFY(pppdLogOf("no date\n").clock.runs().empty());
 }
 
-void PppdLogTest::keepsTheBeginningOfALine()
+void PppdLogTest::keepsTheBeginningOfTexts_data()
 {
-    const PppdLog log = pppdLogOf("Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/" +
-                                  QByteArray(5000, 'x') + '\n');
-    QVERIFY(log.events.at(0).lineText.size() < 1000);
-    QVERIFY(startsWith(log.events.at(0).lineText, "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0"));
+    QTest::addColumn<QByteArray>("line");
+
+    const QByteArray many(5000, 'x');
+    QTest::newRow("line") << "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/" + many;
+    QTest::newRow("host") << "Nov 10 17:02:09 gw" + many + " pppd[485]: Connect: a <--> b";
+    QTest::newRow("process") << "Nov 10 17:02:09 gw pppd" + many + "[485]: Connect: a <--> b";
+    QTest::newRow("interface") << "Nov 10 17:02:09 gw pppd[485]: Connect: ppp" + many + " <--> b";
+}
+
+void PppdLogTest::keepsTheBeginningOfTexts()
+{
+    QFETCH(QByteArray, line);
+    const PppdEvent event = pppdLogOf(line + '\n').events.at(0);
+    QCOMPARE(QByteArray::fromStdString(event.lineText), line.left(240));
+    for (const std::string &text :
+         {event.host, event.process, event.messageText, event.message.text})
+        QVERIFY(text.size() < 1000);
+}
+
+void PppdLogTest::refusesMoreThanItMayKeep_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+
+    QTest::newRow("messages") << QByteArray("Exit.\n").repeated(10);
+    QTest::newRow("jumps of the clock")
+        << QByteArray("Jan  1 00:00:00 a\nMar  1 00:00:00 a\n").repeated(5);
+}
+
+void PppdLogTest::refusesMoreThanItMayKeep()
+{
+    QFETCH(QByteArray, lines);
+    const auto read = [&lines](std::size_t largestSize) {
+        QBuffer buffer(&lines);
+        buffer.open(QIODevice::ReadOnly);
+        LineReader reader(buffer, longestLogLine);
+        return readPppdLog(
+                   reader, [](std::int64_t) {}, largestSize)
+            .size();
+    };
+    QCOMPARE(read(10), std::size_t(10));
+    QVERIFY_EXCEPTION_THROWN(read(9), LogTooLarge);
 }
 
 void PppdLogTest::survivesWhatIsNoLog_data()
