@@ -31,6 +31,8 @@ public:
     const std::vector<ClockRun> &runs() const { return m_runs; }
     /// Whether the clock mostly goes backwards, as where the newest line is the first.
     bool goesBackwards() const { return m_stepsBack > m_stepsForward; }
+    /// Whether it does not, and is not of one moment either.
+    bool goesForwards() const { return !goesBackwards() && m_stepsForward > 0; }
     /// Brings a log whose newest line is the first into the order of time.
     void reverse();
 

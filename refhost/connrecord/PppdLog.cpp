@@ -97,7 +97,9 @@ bool isNewestFirst(const PppdLog &log)
         last->second = kind;
     }
     const bool isTold = inOrder > 0 || reversed > 0;
-    return log.clock.goesBackwards() && (!isTold || reversed > inOrder);
+    if (isTold)
+        return reversed > inOrder && !log.clock.goesForwards();
+    return log.clock.goesBackwards();
 }
 
 void reverse(PppdLog &log)

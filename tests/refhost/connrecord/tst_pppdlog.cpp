@@ -19,6 +19,7 @@ private slots:
     void takesLinesWithoutAProcessWhereThereIsNothingElse();
     void findsAMessageWithoutAProcessBehindAHost();
     void followsTheClockOfAllLines();
+    void takesTheNewestLineFirstWithinOneSecond();
     void keepsTheBeginningOfTexts_data();
     void keepsTheBeginningOfTexts();
     void refusesMoreThanItMayKeep_data();
@@ -112,6 +113,14 @@ void PppdLogTest::followsTheClockOfAllLines()
     QCOMPARE(runs[1].last.second, 1);
     QCOMPARE(log.events.at(0).run, std::size_t(1));
     QVERIFY(pppdLogOf("no date\n").clock.runs().empty());
+}
+
+void PppdLogTest::takesTheNewestLineFirstWithinOneSecond()
+{
+    const PppdLog log = pppdLogOf("Nov 10 17:02:09 gw pppd[485]: Exit.\n"
+                                  "Nov 10 17:02:09 gw pppd[485]: Sent 1 bytes, received 2 bytes.\n"
+                                  "Nov 10 17:02:09 gw pppd[485]: Connect time 1.0 minutes.\n");
+    QCOMPARE(linesOf(log), (QList<qint64>{3, 2, 1}));
 }
 
 void PppdLogTest::keepsTheBeginningOfTexts_data()
