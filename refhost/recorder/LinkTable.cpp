@@ -20,7 +20,7 @@ bool hasNewNames(const LinkReport &report, const Link &link)
 
 bool Link::isMobile() const
 {
-    return isPpp || isWwan || name.rfind("ppp", 0) == 0 || name.rfind("ww", 0) == 0;
+    return isPpp || isWwan || name.rfind("ww", 0) == 0;
 }
 
 bool Link::hasName(const std::string &wanted) const

@@ -28,8 +28,7 @@ struct Link {
     LinkCounters idleCounters;
 
     /// Whether it is a mobile-broadband one: what the kernel takes for that, and
-    /// PPP. Drivers that say neither are known by the names that systemd ("ww") and
-    /// pppd ("ppp") give.
+    /// PPP. A driver that says neither is known by the name that systemd gives ("ww").
     bool isMobile() const;
     /// Whether this is its name or one of the alternative ones.
     bool hasName(const std::string &wanted) const;

@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <linux/if_tun.h>
 #include <net/if.h>
+#include <net/if_arp.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -38,7 +39,8 @@ TunDevice::TunDevice()
     ifreq request = {};
     request.ifr_flags = IFF_TUN | IFF_NO_PI;
     std::strncpy(request.ifr_name, "ppp0", IFNAMSIZ - 1);
-    m_isMade = m_file >= 0 && ioctl(m_file, TUNSETIFF, &request) == 0;
+    m_isMade = m_file >= 0 && ioctl(m_file, TUNSETIFF, &request) == 0 &&
+               ioctl(m_file, TUNSETLINK, ARPHRD_PPP) == 0;
 }
 
 TunDevice::~TunDevice()

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// An interface "ppp0" that lives as long as this object, like that of a dial-up
+/// A PPP interface "ppp0" that lives as long as this object, like that of a dial-up
 /// connection, and is deleted while it is connected. Its line is a file of packets.
 class TunDevice
 {

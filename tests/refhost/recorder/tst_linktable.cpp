@@ -139,7 +139,7 @@ void LinkTableTest::tellsMobileLinks_data()
     QTest::newRow("systemd's name of a slot") << "wwp0s20f0u3i12" << false << false << "" << true;
     QTest::newRow("systemd's name of an address")
         << "wwx028037ec0200" << false << false << "" << true;
-    QTest::newRow("ppp0") << "ppp0" << false << false << "" << true;
+    QTest::newRow("a name such as pppd gives") << "ppp0" << false << false << "" << false;
     QTest::newRow("PPP of any name") << "dsl" << true << false << "" << true;
     QTest::newRow("WWAN of any name") << "lte" << false << true << "" << true;
     QTest::newRow("a device that is one") << "enx028037ec0200" << false << false << "wwan" << true;
