@@ -3,6 +3,7 @@
 
 #include "ArgumentList.h"
 #include "Commands.h"
+#include "Complaint.h"
 #include "Failure.h"
 #include "HistoryFiles.h"
 #include "ImportCommand.h"
@@ -10,13 +11,9 @@
 #include "StatisticsStore.h"
 #include "TextScanner.h"
 #include "TotalsCommand.h"
-#include "Utf8Text.h"
 
 #include <CLI/CLI.hpp>
 
-#include <unistd.h>
-
-#include <cstdlib>
 #include <exception>
 #include <functional>
 #include <iostream>
@@ -247,39 +244,11 @@ void CommandLine::addTotals()
     command->callback([this] { m_action = [this] { showTotals(m_common, m_totals); }; });
 }
 
-int complain(ExitCode code, const std::string &sentence)
-{
-    std::cerr << "connrecord: " << printable(sentence, unlimited) << '\n';
-    return static_cast<int>(code);
-}
-
 int complainOfUsage(const CLI::ParseError &error)
 {
     const int code = complain(ExitCode::Usage, error.what());
     std::cerr << "connrecord --help tells what is possible.\n";
     return code;
-}
-
-/// There may be no memory for a sentence that has to be put together.
-int complainOfMemory()
-{
-    std::cerr << "connrecord: There is not enough memory for this; the history is as it was. "
-                 "Close other programs, or ask for less at once.\n";
-    return static_cast<int>(ExitCode::Store);
-}
-
-/// A destructor that finds no memory cannot pass it on to where the others are caught.
-[[noreturn]] void endWithSentence()
-{
-    try {
-        if (const std::exception_ptr exception = std::current_exception())
-            std::rethrow_exception(exception);
-    } catch (const std::bad_alloc &) {
-        _exit(complainOfMemory());
-    } catch (...) {
-        // A bug, which is to be seen as such.
-    }
-    std::abort();
 }
 
 void parseAndRun(int argc, char **argv)
@@ -297,6 +266,7 @@ void parseAndRun(int argc, char **argv)
 
 int runCommandLine(int argc, char **argv)
 {
+    // A destructor that finds no memory cannot pass it on to where the others are caught.
     std::set_terminate(endWithSentence);
     try {
         parseAndRun(argc, argv);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportCommand.h"
 
-#include "ConnectionText.h"
+#include "Complaint.h"
 #include "CsvFormat.h"
 #include "CsvReader.h"
 #include "InputFile.h"
@@ -18,7 +18,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <iostream>
 
 namespace refhost
 {
@@ -225,7 +224,7 @@ void importConnections(const CommonRequest &common, const ImportRequest &request
     const StatisticsStore::Merged merged =
         store(common.storePath, contents, request.format, terminal);
     if (!contents.doubt.empty())
-        std::cerr << "connrecord: " << printable(contents.doubt, unlimited) << '\n';
+        warn(contents.doubt);
     Output().write(common.json ? jsonText(reportJson(contents, merged))
                                : QByteArray::fromStdString(reportText(contents, merged)));
 }
