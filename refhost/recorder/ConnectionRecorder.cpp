@@ -10,7 +10,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <chrono>
 
 namespace refhost
 {
@@ -18,12 +17,7 @@ namespace refhost
 namespace
 {
 
-constexpr std::chrono::seconds tickInterval(1);
-// The store is to be at most five seconds behind: a tick, the kernel's answer and
-// the writing take their time too.
 constexpr int ticksPerCheckpoint = 4;
-/// Between attempts to start.
-constexpr std::chrono::seconds retryInterval(2);
 
 const Link *linkOf(const OpenConnection &row, const std::vector<Link> &links)
 {
@@ -53,13 +47,14 @@ void later(QObject *sender, Emission emission)
 ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
                                        QObject *parent)
     : ConnectionRecorder(storePath, interfaceNames, std::make_unique<LinkMonitor>(),
-                         std::make_unique<SystemClock>(), parent)
+                         std::make_unique<SystemClock>(), RecorderIntervals(), parent)
 {
 }
 
 ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
                                        std::unique_ptr<LinkSource> links,
-                                       std::unique_ptr<SystemClock> clock, QObject *parent)
+                                       std::unique_ptr<SystemClock> clock,
+                                       const RecorderIntervals &intervals, QObject *parent)
     : QObject(parent)
     , m_storePath(storePath)
     , m_interfaceNames(interfaceNames)
@@ -72,9 +67,9 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     qRegisterMetaType<refhost::ConnectionState>();
     m_links->setParent(this);
     connect(m_links, &LinkSource::failed, this, &ConnectionRecorder::stop);
-    m_timer.setInterval(tickInterval);
+    m_timer.setInterval(intervals.tick);
     connect(&m_timer, &QTimer::timeout, this, &ConnectionRecorder::tick);
-    m_retryTimer.setInterval(retryInterval);
+    m_retryTimer.setInterval(intervals.retry);
     connect(&m_retryTimer, &QTimer::timeout, this, &ConnectionRecorder::tryAgain);
 }
 

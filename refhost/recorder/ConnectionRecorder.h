@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <chrono>
 #include <map>
 #include <memory>
 #include <optional>
@@ -43,6 +44,15 @@ struct ConnectionState {
     qint64 downloadRate = 0;
 };
 
+/// How often a recorder does what nothing from outside sets off.
+struct RecorderIntervals {
+    /// From tick to tick: it asks for counters and tries again what it could not write.
+    /// With every fourth one, the store is brought up to date: it is to be at most five
+    /// seconds behind, and the kernel's answer and the writing take their time too.
+    std::chrono::milliseconds tick = std::chrono::seconds(1);
+    std::chrono::milliseconds retry = std::chrono::seconds(2); ///< of the start
+};
+
 /// Records the connections of mobile interfaces (see Link::isMobile) and of those
 /// that are named, by whichever of their names, to the byte: an interface is connected while it is
 /// up, running and has an address (see Link::isConnected). Its record lies in the store from the
@@ -73,10 +83,10 @@ public:
     /// Records into the store at `storePath`. Does nothing before start().
     explicit ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames = {},
                                 QObject *parent = nullptr);
-    /// The same with another source of news about links and other clocks.
+    /// The same with another source of news about links, other clocks and intervals.
     ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
                        std::unique_ptr<LinkSource> links, std::unique_ptr<SystemClock> clock,
-                       QObject *parent = nullptr);
+                       const RecorderIntervals &intervals = {}, QObject *parent = nullptr);
     /// Leaves what is connected open in the store, as it is at this moment, for the
     /// next start to go on with.
     ~ConnectionRecorder() override;

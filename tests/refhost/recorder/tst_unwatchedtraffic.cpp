@@ -4,6 +4,7 @@
 #include "FakeClock.h"
 #include "FakeLinks.h"
 #include "RecordText.h"
+#include "ShortIntervals.h"
 #include "StoreLock.h"
 
 #include <QTemporaryDir>
@@ -84,8 +85,9 @@ void UnwatchedTrafficTest::start(const std::vector<LinkNews> &links,
     auto source = std::make_unique<FakeLinks>();
     m_links = source.get();
     m_links->atStart = links;
-    m_recorder = std::make_unique<ConnectionRecorder>(m_path, interfaceNames, std::move(source),
-                                                      std::make_unique<FakeClock>(m_clock));
+    m_recorder =
+        std::make_unique<ConnectionRecorder>(m_path, interfaceNames, std::move(source),
+                                             std::make_unique<FakeClock>(m_clock), shortIntervals);
     QVERIFY(m_recorder->start());
 }
 
