@@ -20,7 +20,7 @@ namespace
 const QByteArray mark = QByteArrayLiteral("refdialer-unwritten 1 ");
 
 /// Longer than any that a recorder writes.
-constexpr qint64 maximumSize = 64 * 1024 * 1024;
+constexpr qint64 maximumSize = qint64{64} * 1024 * 1024;
 
 /// The fields of the file, each once, for writing and for reading.
 template <typename State, typename Visitor>
@@ -167,7 +167,8 @@ std::optional<std::vector<Unwritten>> UnwrittenFile::parse(const QByteArray &tex
     if (text.left(headSize) != mark + digestOf(body))
         return std::nullopt;
     std::vector<Unwritten> connections;
-    for (const QJsonValue &each : QJsonDocument::fromJson(body).array()) {
+    const QJsonArray entries = QJsonDocument::fromJson(body).array();
+    for (const auto &each : entries) {
         const auto connection = unwrittenIn(each.toObject());
         if (!connection)
             return std::nullopt;

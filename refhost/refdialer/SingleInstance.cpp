@@ -32,7 +32,7 @@ QByteArray realPath(const QString &file)
     return QByteArray::fromStdString((error ? path : real).string());
 }
 
-/// As the specification derives it from the application's identifier.
+/// As the rules of desktop entries derive it from the application's identifier.
 QString objectPath()
 {
     return QLatin1Char('/') +

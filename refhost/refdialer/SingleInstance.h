@@ -32,7 +32,7 @@ public:
     Outcome claim(const QString &storeFile);
 
 public slots:
-    /// Called over the bus, as the desktop entry specification describes it.
+    /// Called over the bus, as the rules of desktop entries describe it.
     Q_SCRIPTABLE void Activate(const QVariantMap &platformData);
 
 signals:
