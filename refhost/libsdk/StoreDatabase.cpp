@@ -171,8 +171,8 @@ void StoreDatabase::prepareForWriting()
     setCheckpointOnClose(true);
     // Refused while another process is just making the same store; until the
     // next program opens it, the store then works without a log.
-    m_database->tryExec(isOnNetwork(path) ? "PRAGMA journal_mode = DELETE"
-                                          : "PRAGMA journal_mode = WAL");
+    m_database->tryExec(canHaveLog(path) ? "PRAGMA journal_mode = WAL"
+                                         : "PRAGMA journal_mode = DELETE");
     m_database->exec(m_durability == Durability::Disk ? "PRAGMA synchronous = FULL"
                                                       : "PRAGMA synchronous = NORMAL");
 }

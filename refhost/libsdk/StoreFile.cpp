@@ -71,6 +71,9 @@ constexpr std::array<std::uint32_t, 13> networkDisks = {
     0x7461636f, // ocfs2
 };
 
+/// SQLite reserves a log's index on the disk by a byte in each of these.
+constexpr int logIndexPage = 4096;
+
 /// Through a descriptor that is only a path: it follows no link, and closing it leaves
 /// this process's locks on the file alone.
 void takeAccessOfOthers(const std::string &path)
@@ -202,13 +205,15 @@ void makePrivate(const std::string &path)
         takeAccessOfOthers(path + suffix);
 }
 
-bool isOnNetwork(const std::string &path)
+bool canHaveLog(const std::string &path)
 {
     struct statfs disk = {};
     if (statfs(path.c_str(), &disk) != 0)
-        return false;
+        return true;
     const auto type = static_cast<std::uint32_t>(disk.f_type);
-    return std::find(networkDisks.begin(), networkDisks.end(), type) != networkDisks.end();
+    const bool isOnNetwork =
+        std::find(networkDisks.begin(), networkDisks.end(), type) != networkDisks.end();
+    return !isOnNetwork && disk.f_bsize >= logIndexPage;
 }
 
 bool hasLog(const std::string &path)

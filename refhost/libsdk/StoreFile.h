@@ -49,9 +49,11 @@ std::string logOf(const std::string &path);
 /// what SQLite keeps beside it, where they are this user's own.
 void makePrivate(const std::string &path);
 
-/// Whether the file lies on a disk that other machines may have open: processes there
-/// do not see the memory in which a log's index is shared.
-bool isOnNetwork(const std::string &path);
+/// Whether the disk that the file lies on can have a log, whose index is memory shared
+/// through a file. Processes of other machines, which may have a network's disk open, do
+/// not see that memory; and where a block is smaller than a page of it, SQLite reserves
+/// a part of each page only, so that a full disk ends the program when it uses the rest.
+bool canHaveLog(const std::string &path);
 
 /// Whether SQLite's log beside this file holds records that are not in it yet.
 bool hasLog(const std::string &path);

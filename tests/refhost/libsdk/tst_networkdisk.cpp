@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A store on a disk that other machines share. The system's answer is this program's
-// own: its statfs stands before the C library's.
+// A store on a disk that cannot have a log. The system's answer is this program's own:
+// its statfs stands before the C library's.
 #include "StatisticsStore.h"
 
 #include <SQLiteCpp/Database.h>
@@ -19,6 +19,7 @@ namespace
 constexpr long nfs = 0x6969;
 constexpr long ext4 = 0xef53;
 long theDisk = nfs;
+int theBlockSize = 4096;
 
 } // namespace
 
@@ -26,6 +27,7 @@ extern "C" int statfs(const char * /*path*/, struct statfs *disk) noexcept
 {
     *disk = {};
     disk->f_type = theDisk;
+    disk->f_bsize = theBlockSize;
     return 0;
 }
 
@@ -34,8 +36,12 @@ class NetworkDiskTest : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { theBlockSize = 4096; }
+
     void writesAheadOnlyWhereNoOtherMachineReads_data();
     void writesAheadOnlyWhereNoOtherMachineReads();
+    void writesAheadOnlyWhereABlockHoldsAPageOfMemory_data();
+    void writesAheadOnlyWhereABlockHoldsAPageOfMemory();
     void aStoreThatComesToANetworkDiskWritesAheadNoMore();
 
 private:
@@ -88,6 +94,28 @@ void NetworkDiskTest::writesAheadOnlyWhereNoOtherMachineReads()
     m_path = m_folder.filePath(QString("%1.db").arg(disk));
     m_added = 0;
     QCOMPARE(hasLogOn(disk), hasLog);
+    QCOMPARE(journalMode(), std::string(hasLog ? "wal" : "delete"));
+    QCOMPARE(stored(), std::size_t(1));
+}
+
+void NetworkDiskTest::writesAheadOnlyWhereABlockHoldsAPageOfMemory_data()
+{
+    QTest::addColumn<int>("blockSize");
+    QTest::addColumn<bool>("hasLog");
+    QTest::newRow("1 KiB") << 1024 << false;
+    QTest::newRow("2 KiB") << 2048 << false;
+    QTest::newRow("4 KiB") << 4096 << true;
+    QTest::newRow("64 KiB") << 65536 << true;
+}
+
+void NetworkDiskTest::writesAheadOnlyWhereABlockHoldsAPageOfMemory()
+{
+    QFETCH(int, blockSize);
+    QFETCH(bool, hasLog);
+    theBlockSize = blockSize;
+    m_path = m_folder.filePath(QString("%1.db").arg(blockSize));
+    m_added = 0;
+    QCOMPARE(hasLogOn(ext4), hasLog);
     QCOMPARE(journalMode(), std::string(hasLog ? "wal" : "delete"));
     QCOMPARE(stored(), std::size_t(1));
 }
