@@ -3,6 +3,7 @@
 
 #include "RawFile.h"
 #include "StoreFile.h"
+#include "StoreSchema.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -10,10 +11,12 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <fstream>
-#include <tuple>
+#include <map>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -78,26 +81,31 @@ private:
     std::vector<char> m_page;
 };
 
-/// Whether none of the changes in the log has come into the file yet. A program that
-/// is killed while it plays its log leaves a file that has changed since, but with
-/// pages as the log has them.
-bool isUntouchedByLog(const std::string &path)
+/// Whether changes of the log have come into the file already: the first page, which
+/// is the first to be played and differs in each log, or all of them. A program that is
+/// killed while it plays its log leaves a file that has changed since the log has.
+bool isPlayed(const std::string &path)
 {
     RawFile file(path);
     LogFrames frames(logOf(path));
-    bool isCommitted = false;
-    bool isSamePage = false;
+    std::map<std::uint32_t, bool> isInFile;
+    std::map<std::uint32_t, bool> transaction;
     while (frames.next()) {
         std::vector<char> page(frames.page().size());
         const std::int64_t offset =
             (std::int64_t{frames.pageNumber()} - 1) * static_cast<std::int64_t>(page.size());
         file.read(offset, page.data(), page.size());
-        isSamePage = isSamePage || page == frames.page();
-        if (frames.endsTransaction() && isSamePage)
-            return false;
-        isCommitted = isCommitted || frames.endsTransaction();
+        transaction[frames.pageNumber()] = page == frames.page();
+        if (!frames.endsTransaction())
+            continue;
+        if (const auto first = transaction.find(1); first != transaction.end() && first->second)
+            return true;
+        for (const auto &[number, isThere] : transaction)
+            isInFile[number] = isThere;
+        transaction.clear();
     }
-    return isCommitted;
+    return std::all_of(isInFile.begin(), isInFile.end(),
+                       [](const auto &page) { return page.second; });
 }
 
 bool isDamage(const SQLite::Exception &exception)
@@ -130,7 +138,10 @@ void LogBase::record()
     statement.bind(1, file->inode);
     statement.bind(2, file->writtenNs);
     statement.bind(3, log->inode);
-    statement.exec();
+    // The header is on the first page and counts each change of that page, so setting
+    // what it says already makes the page one that no other file has.
+    if (statement.exec() > 0)
+        m_database.exec("PRAGMA application_id = " + std::to_string(storeApplicationId));
 }
 
 bool LogBase::isOfThisFile()
@@ -152,9 +163,10 @@ bool LogBase::matches()
     const auto log = changeOf(logOf(m_path));
     if (!file || !log)
         return true;
-    // A log that was written last may have been put back together with the file.
-    return log->writtenNs >= file->changedNs || isRecorded(*file, *log) ||
-           !isUntouchedByLog(m_path);
+    // A log that was written last, or is itself a copy that has kept its time, may have
+    // been put back together with the file.
+    return log->writtenNs >= file->changedNs || log->writtenNs < log->bornNs ||
+           isRecorded(*file, *log) || isPlayed(m_path);
 }
 
 /// What cannot be known, because an older version has written the log or because both
@@ -168,8 +180,10 @@ bool LogBase::isRecorded(const FileChange &file, const FileChange &log)
                               "SELECT file_inode, file_written_ns, log_inode FROM log_base");
         if (!row.executeStep() || row.getColumn(2).getInt64() != log.inode)
             return true;
+        // A power cut takes times back, so the file may look older than it was.
+        const std::int64_t writtenNs = row.getColumn(1).getInt64();
         return row.getColumn(0).getInt64() == file.inode &&
-               row.getColumn(1).getInt64() == file.writtenNs;
+               (file.writtenNs == writtenNs || file.changedNs <= writtenNs);
     } catch (const SQLite::Exception &exception) {
         if (!isDamage(exception))
             throw;

@@ -112,11 +112,13 @@ void StoreDatabase::checkLogBase()
 {
     if (!m_logBase->isOfThisFile())
         throw StoreFailure(StoreError::Kind::CannotOpen,
-                           historyAt(m_path) + " was put in the place of another one, and \"" +
+                           historyAt(m_path) +
+                               " was changed from outside or replaced, so the changes in its log "
+                               "\"" +
                                logOf(resolvedPath(m_path)) +
-                               "\" holds changes of the former file; both were left as they are, "
-                               "move the log away to use the history as it is, or put the former "
-                               "file back.");
+                               "\" may be those of a former file; both were left as they are, "
+                               "move the log away to use the history as it is, or, if the file was "
+                               "never replaced, touch the log to keep its changes.");
 }
 
 void StoreDatabase::connect()

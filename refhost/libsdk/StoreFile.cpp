@@ -191,7 +191,7 @@ std::optional<FileChange> changeOf(const std::string &path)
     if (!status)
         return std::nullopt;
     return FileChange{static_cast<std::int64_t>(status->stx_ino), nanoseconds(status->stx_mtime),
-                      nanoseconds(status->stx_ctime)};
+                      nanoseconds(status->stx_ctime), nanoseconds(status->stx_btime)};
 }
 
 std::string logOf(const std::string &path)

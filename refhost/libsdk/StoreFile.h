@@ -36,6 +36,7 @@ struct FileChange {
     std::int64_t inode;
     std::int64_t writtenNs; ///< its contents, in nanoseconds since 1970-01-01 00:00 UTC
     std::int64_t changedNs; ///< its contents, name or permissions
+    std::int64_t bornNs;    ///< 0 if the disk does not keep that
 };
 
 /// The last change of the file at `path`, or nothing if there is none. Throws

@@ -53,13 +53,19 @@ void checkVersion(const std::string &path, std::int32_t version, std::size_t new
                 "; it was left as it is, update and restart this program to use it.");
 }
 
-/// What a database consists of, by kind and name, as SQL without its white space.
+/// What a database consists of, by kind and name, as SQL without its white space. Left
+/// out are indexes that only speed something up: of columns, as SQLite itself sorts them.
 std::map<std::string, std::string> objectsIn(SQLite::Database &database)
 {
-    SQLite::Statement query(database,
-                            "SELECT type || ' \"' || name || '\"', coalesce(sql, '')"
-                            " FROM sqlite_schema WHERE name NOT LIKE 'sqlite^_%' ESCAPE '^'"
-                            " OR type NOT IN ('table', 'index')");
+    SQLite::Statement query(
+        database, "SELECT type || ' \"' || name || '\"', coalesce(sql, '')"
+                  " FROM sqlite_schema AS object"
+                  " WHERE (name NOT LIKE 'sqlite^_%' ESCAPE '^' OR type NOT IN ('table', 'index'))"
+                  " AND NOT (type = 'index'"
+                  " AND EXISTS (SELECT 1 FROM pragma_index_list(object.tbl_name) AS list"
+                  " WHERE list.name = object.name AND NOT list.\"unique\" AND NOT list.partial)"
+                  " AND NOT EXISTS (SELECT 1 FROM pragma_index_xinfo(object.name)"
+                  " WHERE cid < -1 OR coll NOT IN ('BINARY', 'NOCASE', 'RTRIM')))");
     std::map<std::string, std::string> objects;
     while (query.executeStep()) {
         std::string sql = query.getColumn(1).getString();
@@ -69,8 +75,8 @@ std::map<std::string, std::string> objectsIn(SQLite::Database &database)
     return objects;
 }
 
-/// Triggers, views and virtual tables are programs that would run here, and even an
-/// index can refuse a record: whatever the steps have not made is somebody else's.
+/// Triggers, views and virtual tables are programs that would run here, and some indexes
+/// can refuse a record: whatever the steps have not made is somebody else's.
 void checkObjects(const std::string &path, SQLite::Database &database, const SchemaSteps &steps,
                   std::size_t taken)
 {

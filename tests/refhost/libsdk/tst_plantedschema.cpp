@@ -29,6 +29,7 @@ private slots:
     void isRefused();
     void doesNotRunWhenPlantedLater();
     void statisticsOfTheQueryPlannerAreNoObstacle();
+    void indexesOfColumnsAreNoObstacle();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -45,7 +46,7 @@ void PlantedSchemaTest::isRefused_data()
     QTest::newRow("a view in a table's place")
         << QByteArray("ALTER TABLE connection RENAME TO hidden;"
                       "CREATE VIEW connection AS SELECT * FROM hidden")
-        << "\"connection";
+        << "table \"hidden\"";
     QTest::newRow("a virtual table in a table's place")
         << QByteArray("DROP TABLE connection; CREATE VIRTUAL TABLE connection USING fts5(profile)")
         << "table \"connection";
@@ -55,6 +56,11 @@ void PlantedSchemaTest::isRefused_data()
     QTest::newRow("another table") << QByteArray("CREATE TABLE notes (text)") << "table \"notes\"";
     QTest::newRow("an index that refuses records")
         << QByteArray("CREATE UNIQUE INDEX one ON connection (ending) WHERE start_utc > 2000")
+        << "index \"one\"";
+    QTest::newRow("an index that computes")
+        << QByteArray("CREATE INDEX one ON connection (abs(start_utc))") << "index \"one\"";
+    QTest::newRow("an index with a condition")
+        << QByteArray("CREATE INDEX one ON connection (ending) WHERE abs(start_utc) > 0")
         << "index \"one\"";
 }
 
@@ -87,6 +93,15 @@ void PlantedSchemaTest::statisticsOfTheQueryPlannerAreNoObstacle()
 {
     runSql(m_path, "ANALYZE");
     QCOMPARE(profilesIn(m_path), QString("0 1"));
+}
+
+void PlantedSchemaTest::indexesOfColumnsAreNoObstacle()
+{
+    runSql(m_path,
+           "CREATE INDEX by_profile ON connection (profile COLLATE NOCASE, start_utc DESC)");
+    QCOMPARE(profilesIn(m_path), QString("0 1"));
+    StatisticsStore store = storeWith(m_path, {connection("added", 5000, 5001)});
+    QCOMPARE(profilesIn(m_path), QString("0 1 added"));
 }
 
 QTEST_GUILESS_MAIN(PlantedSchemaTest)

@@ -55,11 +55,28 @@ private slots:
 
     void aLogOfAFormerFileIsNotPlayed_data();
     void aLogOfAFormerFileIsNotPlayed();
+    void aLogThatLeftAPageAsItWasIsNotPlayed();
     void aLogIsPlayedIntoItsFile_data();
     void aLogIsPlayedIntoItsFile();
     void aLogIsPlayedOnWhereItWasInterrupted();
+    void aLogThatAnotherProgramHasPlayedIsNoObstacle();
+    void aLogIsPlayedWhereAPowerCutHasTakenTimesBack();
+    void aLogThatTheUserVouchesForIsPlayed();
 
 private:
+    /// A whole connection of a recorder, whose key will be `key`.
+    void record(StorePeer &peer, int key, int start)
+    {
+        QCOMPARE(peer.tell(QString("begin %1 %2").arg(m_path).arg(start)),
+                 QString("ok %1").arg(key));
+        QCOMPARE(peer.tell(QString("checkpoint %1 %2 500").arg(m_path).arg(key)),
+                 QString("ok %1").arg(key));
+        QVERIFY(
+            peer.tell(QString("finish %1 %2 %3").arg(m_path).arg(key).arg(start)).startsWith("ok"));
+    }
+
+    void checkThatTheLogIsRefused();
+
     /// Makes a store, keeps a copy of it, and leaves it with a log in which there are
     /// `count` connections more.
     void leaveALog(int count)
@@ -99,12 +116,8 @@ void RestoredBackupTest::aLogOfAFormerFileIsNotPlayed_data()
     QTest::newRow("a backup copied over a larger file") << 20000 << Restorer(copyOver);
 }
 
-void RestoredBackupTest::aLogOfAFormerFileIsNotPlayed()
+void RestoredBackupTest::checkThatTheLogIsRefused()
 {
-    QFETCH(int, count);
-    QFETCH(Restorer, restore);
-    leaveALog(count);
-    restore(m_backup, m_path);
     const QByteArray log = contentsOf(m_log);
 
     for (const auto open : {StatisticsStore::openForReading, StatisticsStore::openForRecording}) {
@@ -113,12 +126,36 @@ void RestoredBackupTest::aLogOfAFormerFileIsNotPlayed()
         const QString sentence = QString::fromStdString(store.error().message);
         QVERIFY2(sentence.contains('"' + m_log + '"'), qPrintable(sentence));
         QVERIFY2(sentence.contains("move the log away"), qPrintable(sentence));
+        QVERIFY2(sentence.contains("touch the log"), qPrintable(sentence));
     }
     QCOMPARE(contentsOf(m_path), contentsOf(m_backup));
     QCOMPARE(contentsOf(m_log), log);
+}
 
+void RestoredBackupTest::aLogOfAFormerFileIsNotPlayed()
+{
+    QFETCH(int, count);
+    QFETCH(Restorer, restore);
+    leaveALog(count);
+    restore(m_backup, m_path);
+    checkThatTheLogIsRefused();
     QVERIFY(QFile::rename(m_log, m_log + ".former"));
     QCOMPARE(profilesIn(m_path.toStdString()), QString("kept"));
+}
+
+/// An open connection that comes and goes leaves its page with the same bytes as the
+/// one before has left.
+void RestoredBackupTest::aLogThatLeftAPageAsItWasIsNotPlayed()
+{
+    storeWith(m_path.toStdString(), {connection("kept", 10000000, 10000001)});
+    StorePeer recorder;
+    record(recorder, 1, 1000);
+    copyOver(m_path, m_backup);
+    QCOMPARE(recorder.tell("hold " + m_path + " 0"), QString("ok 0"));
+    record(recorder, 2, 2000);
+    recorder.kill();
+    copyOver(m_backup, m_path);
+    checkThatTheLogIsRefused();
 }
 
 void RestoredBackupTest::aLogIsPlayedIntoItsFile_data()
@@ -143,6 +180,12 @@ void RestoredBackupTest::aLogIsPlayedIntoItsFile_data()
             QVERIFY(QFile::rename(each + ".copy", each));
         }
     });
+    // Archives keep whole seconds, and the copies may be given the numbers of the originals.
+    QTest::newRow("both were put back with their old times")
+        << 2 << Restorer([](auto &, const QString &path) {
+               setWrittenLongAgo(path);
+               setWrittenLongAgo(path + "-wal");
+           });
 }
 
 void RestoredBackupTest::aLogIsPlayedIntoItsFile()
@@ -167,6 +210,41 @@ void RestoredBackupTest::aLogIsPlayedOnWhereItWasInterrupted()
     QVERIFY(file.seek((page - 1) * 4096));
     QCOMPARE(file.write(frame.mid(24)), qint64(4096));
     file.close();
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("peer peer kept"));
+}
+
+/// What it writes itself does not say which file it is for.
+void RestoredBackupTest::aLogThatAnotherProgramHasPlayedIsNoObstacle()
+{
+    storeWith(m_path.toStdString(), {connection("kept", 10000000, 10000001)});
+    StorePeer peer;
+    QCOMPARE(peer.tell("hold " + m_path + " 2"), QString("ok 2"));
+    runSql(m_path.toStdString(), "PRAGMA wal_checkpoint; UPDATE connection SET profile = 'changed';"
+                                 "PRAGMA wal_checkpoint");
+    peer.kill();
+    QVERIFY(QFileInfo(m_log).size() > 0);
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("changed changed changed"));
+}
+
+void RestoredBackupTest::aLogIsPlayedWhereAPowerCutHasTakenTimesBack()
+{
+    storeWith(m_path.toStdString(), {connection("kept", 10000000, 10000001)});
+    StorePeer peer;
+    QCOMPARE(peer.tell("hold " + m_path + " 2"), QString("ok 2"));
+    // Times on the disk that are older than the one in the log.
+    runSql(m_path.toStdString(),
+           "UPDATE log_base SET file_written_ns = file_written_ns + 3600 * 1000000000");
+    peer.kill();
+    setWrittenLongAgo(m_path);
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("peer peer kept"));
+}
+
+void RestoredBackupTest::aLogThatTheUserVouchesForIsPlayed()
+{
+    leaveALog(2);
+    setWrittenLongAgo(m_path);
+    checkThatTheLogIsRefused();
+    QCOMPARE(utimensat(AT_FDCWD, qPrintable(m_log), nullptr, 0), 0);
     QCOMPARE(profilesIn(m_path.toStdString()), QString("peer peer kept"));
 }
 
