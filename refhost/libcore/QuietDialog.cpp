@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QTimer>
 #include <QWindow>
 
 namespace refhost
@@ -30,6 +31,9 @@ bool QuietDialog::eventFilter(QObject *watched, QEvent *event)
                     becomeModal();
             },
             Qt::QueuedConnection);
+        // The user may have come back since the dialog was made.
+        if (QGuiApplication::focusWindow())
+            QTimer::singleShot(0, this, &QuietDialog::becomeModal);
     }
     return QObject::eventFilter(watched, event);
 }
