@@ -16,8 +16,8 @@ namespace
 {
 
 /// Behind the history's name: itself, what SQLite keeps and what recorders do.
-constexpr std::array<const char *, 6> suffixes = {
-    "", "-wal", "-shm", "-journal", recorderLockSuffix, unwrittenSuffix};
+constexpr std::array<const char *, 7> suffixes = {
+    "", "-wal", "-shm", "-journal", recorderLockSuffix, unwrittenSuffix, secondUnwrittenSuffix};
 
 bool isOfHistory(const std::filesystem::path &path, const std::filesystem::path &store)
 {

@@ -7,5 +7,6 @@ namespace refhost
 /// What recorders keep beside a store, behind its name.
 constexpr const char *recorderLockSuffix = ".recorder";
 constexpr const char *unwrittenSuffix = "-unwritten";
+constexpr const char *secondUnwrittenSuffix = "-unwritten-2";
 
 } // namespace refhost

@@ -83,7 +83,9 @@ ConnectionRecorder::~ConnectionRecorder()
     std::vector<LiveConnection> lasting;
     for (const auto &entry : m_live)
         lasting.push_back(entry.second);
-    m_book->leave(std::move(lasting));
+    // Nobody listens any more.
+    if (const auto loss = m_book->leave(std::move(lasting)))
+        qWarning("%s", loss->message.c_str());
     m_book->see(idleLinks());
 }
 
@@ -255,7 +257,8 @@ void ConnectionRecorder::stop(const QString &reason)
         connection.end(now());
         finish(connection, false);
     }
-    m_book->leave({});
+    if (const auto loss = m_book->leave({}))
+        fail(QString::fromStdString(loss->message));
     giveUp();
     m_retryTimer.start();
 }

@@ -54,12 +54,10 @@ void RecordBook::settle(std::vector<FirstSight> sights)
 void RecordBook::readFile()
 {
     m_isFileRead = true;
-    const auto left = m_file.read();
-    if (left)
-        m_left = std::deque<Unwritten>(left.value().begin(), left.value().end());
-    else
-        m_listener.failed(left.error());
-    m_isFileOurs = bool(left);
+    const UnwrittenFile::Contents left = m_file.read();
+    m_left = std::deque<Unwritten>(left.connections.begin(), left.connections.end());
+    for (const StoreError &refusal : left.refusals)
+        m_listener.failed(refusal);
 }
 
 /// The file goes when all of it is in the store. Until then the store knows what it has
@@ -151,7 +149,7 @@ Result<std::size_t> RecordBook::settleBefore(LiveConnection &connection)
     return added;
 }
 
-void RecordBook::leave(std::vector<LiveConnection> lasting)
+std::optional<StoreError> RecordBook::leave(std::vector<LiveConnection> lasting)
 {
     catchUp();
     std::vector<Unwritten> unwritten(m_left.begin(), m_left.end());
@@ -161,10 +159,7 @@ void RecordBook::leave(std::vector<LiveConnection> lasting)
         if (!save(connection))
             unwritten.push_back({connection});
     }
-    if (unwritten.empty() || !m_isFileOurs)
-        return;
-    if (const auto error = m_file.write(std::move(unwritten)))
-        m_listener.failed(*error);
+    return unwritten.empty() ? std::nullopt : m_file.write(std::move(unwritten));
 }
 
 void RecordBook::recoverEarlierConnections()

@@ -11,6 +11,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <tuple>
@@ -55,8 +56,9 @@ public:
     /// Keeps what links show that have no connection, unless there is something to be
     /// written first. Whether it is in the store.
     bool see(const std::vector<SeenLink> &links);
-    /// The end: these connections last. What cannot be written goes into the file.
-    void leave(std::vector<LiveConnection> lasting);
+    /// The end: these connections last. What cannot be written goes into the file; the
+    /// reason if it is lost.
+    std::optional<StoreError> leave(std::vector<LiveConnection> lasting);
 
     /// Whether there is something that catchUp() has to write before anything else
     /// is written, which is so in the beginning.
@@ -92,7 +94,6 @@ private:
     UnwrittenFile m_file;
     std::deque<Unwritten> m_left; ///< by an earlier process, in the file
     bool m_isFileRead = false;
-    bool m_isFileOurs = true; ///< what stands there is ours
     /// The links of each run whose connections were left, with nothing open before them.
     std::set<std::tuple<std::string, std::string, std::int64_t>> m_settledLinks;
     std::string m_bootId;

@@ -2,14 +2,19 @@
 #include "UnwrittenFile.h"
 
 #include "FilesBesideStore.h"
+#include "LockFile.h"
 
-#include <QCryptographicHash>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSaveFile>
 #include <QUuid>
+
+#include <fcntl.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <iterator>
+#include <utility>
 
 namespace refhost
 {
@@ -17,202 +22,148 @@ namespace refhost
 namespace
 {
 
-const QByteArray mark = QByteArrayLiteral("refdialer-unwritten 1 ");
-
 /// Longer than any that a recorder writes.
 constexpr qint64 maximumSize = qint64{64} * 1024 * 1024;
-
-/// The fields of the file, each once, for writing and for reading.
-template <typename State, typename Visitor>
-void visitFields(State &state, Visitor &visitor)
-{
-    auto &row = state.row;
-    visitor.text("boot_id", row.bootId);
-    visitor.text("interface_name", row.interfaceName);
-    visitor.text("first_link_mark", row.linkMark);
-    visitor.text("link_mark", state.linkMark);
-    visitor.text("profile", row.profile);
-    visitor.text("ending", row.ending);
-    visitor.number("key", row.key);
-    visitor.number("interface_index", row.interfaceIndex);
-    visitor.number("start_utc", row.startUtc);
-    visitor.number("start_boot_ms", row.startBootMilliseconds);
-    visitor.number("base_uploaded", row.baseUploaded);
-    visitor.number("base_downloaded", row.baseDownloaded);
-    visitor.number("uploaded_bytes", row.uploadedBytes);
-    visitor.number("downloaded_bytes", row.downloadedBytes);
-    visitor.number("updated_utc", row.updatedUtc);
-    visitor.number("connected_seconds", row.connectedSeconds);
-    visitor.number("first_uploaded", state.countersAtFirst.uploaded);
-    visitor.number("first_downloaded", state.countersAtFirst.downloaded);
-    visitor.number("first_uploaded_total", state.totalsAtFirst.uploaded);
-    visitor.number("first_downloaded_total", state.totalsAtFirst.downloaded);
-    visitor.number("moment_utc", state.moment.utcSeconds);
-    visitor.number("moment_boot_ms", state.moment.bootMilliseconds);
-    visitor.flag("has_own_profile", state.hasOwnProfile);
-    visitor.flag("has_ended", state.hasEnded);
-}
-
-/// Numbers as texts: 64 bits of them are more than JSON's numbers promise.
-class Writer
-{
-public:
-    void text(const char *name, const std::string &value)
-    {
-        object[QLatin1String(name)] = QString::fromStdString(value);
-    }
-    void number(const char *name, std::int64_t value)
-    {
-        object[QLatin1String(name)] = QString::number(value);
-    }
-    void flag(const char *name, bool value) { object[QLatin1String(name)] = value; }
-
-    QJsonObject object;
-};
-
-class Reader
-{
-public:
-    explicit Reader(const QJsonObject &object)
-        : m_object(object)
-    {
-    }
-
-    void text(const char *name, std::string &value)
-    {
-        isComplete &= field(name).isString();
-        value = field(name).toString().toStdString();
-    }
-    void number(const char *name, std::int64_t &value)
-    {
-        bool isNumber = false;
-        value = field(name).toString().toLongLong(&isNumber);
-        isComplete &= isNumber;
-    }
-    void flag(const char *name, bool &value)
-    {
-        isComplete &= field(name).isBool();
-        value = field(name).toBool();
-    }
-
-    bool isComplete = true;
-
-private:
-    QJsonValue field(const char *name) const { return m_object.value(QLatin1String(name)); }
-
-    const QJsonObject m_object;
-};
-
-QJsonObject objectOf(const Unwritten &unwritten)
-{
-    Writer writer;
-    const LiveConnection::State state = unwritten.connection.state();
-    visitFields(state, writer);
-    writer.text("run", unwritten.run);
-    writer.text("origin", unwritten.origin);
-    writer.flag("has_final_counters", unwritten.hasFinalCounters);
-    return writer.object;
-}
-
-std::optional<Unwritten> unwrittenIn(const QJsonObject &object)
-{
-    Reader reader(object);
-    LiveConnection::State state;
-    visitFields(state, reader);
-    std::string run;
-    std::string origin;
-    bool hasFinalCounters = false;
-    reader.text("run", run);
-    reader.text("origin", origin);
-    reader.flag("has_final_counters", hasFinalCounters);
-    if (!reader.isComplete || origin.empty())
-        return std::nullopt;
-    return Unwritten{LiveConnection(state), hasFinalCounters, run, origin};
-}
 
 std::string newIdentifier()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
 }
 
-QByteArray digestOf(const QByteArray &text)
+/// Links are not followed.
+std::optional<struct stat> statusOfPath(const QString &path)
 {
-    return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex() + '\n';
+    return statusAt(QFile::encodeName(path).toStdString());
+}
+
+bool standsAt(const QString &path)
+{
+    return statusOfPath(path).has_value();
+}
+
+/// A file of one's own, without waiting for the other end of a pipe; the reason if it is
+/// none.
+std::optional<QString> openToRead(const QString &path, QFile &file)
+{
+    const auto status = statusOfPath(path);
+    if (!status || !S_ISREG(status->st_mode))
+        return UnwrittenFile::tr("it is not a file");
+    const int descriptor = open(QFile::encodeName(path).constData(),
+                                O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return file.errorString();
+    return std::nullopt;
+}
+
+StoreError damaged(const QString &path, const QString &reason)
+{
+    return {StoreError::Kind::Damaged,
+            UnwrittenFile::tr("\"%1\" may keep connections that are not in the history, but cannot "
+                              "be read (%2); it was left as it is, move it away.")
+                .arg(path, reason)
+                .toStdString()};
 }
 
 } // namespace
 
 UnwrittenFile::UnwrittenFile(const QString &storePath)
-    : m_path(storePath + QLatin1String(unwrittenSuffix))
+    : m_places{{{storePath + QLatin1String(unwrittenSuffix)},
+                {storePath + QLatin1String(secondUnwrittenSuffix)}}}
 {
 }
 
-Result<std::vector<Unwritten>> UnwrittenFile::read() const
+UnwrittenFile::Contents UnwrittenFile::read()
 {
-    QFile file(m_path);
-    if (!file.exists())
-        return std::vector<Unwritten>();
-    if (!file.open(QIODevice::ReadOnly))
-        return damaged(file.errorString());
-    const auto connections = parse(file.read(maximumSize));
+    Contents contents;
+    for (Place &place : m_places) {
+        if (!standsAt(place.path))
+            continue;
+        const auto connections = readFrom(place.path);
+        place.isOurs = bool(connections);
+        if (!connections)
+            contents.refusals.push_back(connections.error());
+        else
+            std::copy(connections.value().begin(), connections.value().end(),
+                      std::back_inserter(contents.connections));
+    }
+    return contents;
+}
+
+Result<std::vector<Unwritten>> UnwrittenFile::readFrom(const QString &path)
+{
+    QFile file;
+    if (const auto obstacle = openToRead(path, file))
+        return damaged(path, *obstacle);
+    const auto connections = unwrittenIn(file.read(maximumSize));
     if (!connections)
-        return damaged(tr("it is damaged or of another program"));
+        return damaged(path, tr("it is damaged or of another program"));
     return *connections;
 }
 
-std::optional<std::vector<Unwritten>> UnwrittenFile::parse(const QByteArray &text)
+std::optional<StoreError> UnwrittenFile::write(std::vector<Unwritten> connections)
 {
-    const auto headSize = mark.size() + digestOf({}).size();
-    const QByteArray body = text.mid(headSize);
-    if (text.left(headSize) != mark + digestOf(body))
-        return std::nullopt;
-    std::vector<Unwritten> connections;
-    const QJsonArray entries = QJsonDocument::fromJson(body).array();
-    for (const auto &each : entries) {
-        const auto connection = unwrittenIn(each.toObject());
-        if (!connection)
-            return std::nullopt;
-        connections.push_back(*connection);
-    }
-    return connections;
+    const auto place = std::find_if(m_places.begin(), m_places.end(), isFree);
+    if (place == m_places.end())
+        return noPlace();
+    if (auto error = writeTo(place->path, std::move(connections)))
+        return error;
+    place->isOurs = true;
+    for (auto other = std::next(place); other != m_places.end(); ++other)
+        removeFrom(*other);
+    return std::nullopt;
 }
 
-std::optional<StoreError> UnwrittenFile::write(std::vector<Unwritten> connections) const
+std::optional<StoreError> UnwrittenFile::writeTo(const QString &path,
+                                                 std::vector<Unwritten> connections)
 {
-    QJsonArray array;
     const std::string run = newIdentifier();
     for (Unwritten &each : connections) {
         if (each.origin.empty()) {
             each.run = run;
             each.origin = newIdentifier();
         }
-        array.append(objectOf(each));
     }
-    const QByteArray body = QJsonDocument(array).toJson();
-    QSaveFile file(m_path);
+    QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) &&
                            file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-                           file.write(mark + digestOf(body) + body) >= 0 && file.commit();
+                           file.write(textOf(connections)) >= 0 && file.commit();
     if (isWritten)
         return std::nullopt;
     return StoreError{StoreError::Kind::WriteFailed,
                       tr("\"%1\" cannot be written (%2), so connections that the history could "
                          "not take are lost; allow yourself to write there.")
-                          .arg(m_path, file.errorString())
+                          .arg(path, file.errorString())
                           .toStdString()};
 }
 
-bool UnwrittenFile::remove() const
+bool UnwrittenFile::remove()
 {
-    return !QFile::exists(m_path) || QFile::remove(m_path);
+    bool areGone = true;
+    for (Place &place : m_places)
+        areGone &= removeFrom(place);
+    return areGone;
 }
 
-StoreError UnwrittenFile::damaged(const QString &reason) const
+bool UnwrittenFile::isFree(const Place &place)
 {
-    return {StoreError::Kind::Damaged,
-            tr("\"%1\" may keep connections that are not in the history, but cannot be read (%2); "
-               "it was left as it is, move it away.")
-                .arg(m_path, reason)
+    return place.isOurs || !standsAt(place.path);
+}
+
+bool UnwrittenFile::removeFrom(Place &place)
+{
+    if (place.isOurs)
+        place.isOurs = !QFile::remove(place.path) && standsAt(place.path);
+    return !place.isOurs;
+}
+
+StoreError UnwrittenFile::noPlace() const
+{
+    return {StoreError::Kind::WriteFailed,
+            tr("\"%1\" and \"%2\" are in the way, so connections that the history could not take "
+               "are lost; move them away.")
+                .arg(m_places.front().path, m_places.back().path)
                 .toStdString()};
 }
 

@@ -1,30 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "LiveConnection.h"
 #include "Result.h"
+#include "Unwritten.h"
 
-#include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 
+#include <array>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace refhost
 {
 
-/// A connection of which the store lacks something.
-struct Unwritten {
-    LiveConnection connection; ///< if it has not ended, it lasts
-    bool hasFinalCounters = false;
-    std::string run = {};    ///< of the recorder that left it, once it is in a file
-    std::string origin = {}; ///< what tells it from all others, then
-};
-
 /// The file beside a store, "-unwritten" after its name, that keeps at the end of a
-/// recorder what the store could not take. Whoever holds the recorder's lock may use it.
+/// recorder what the store could not take; where something else stands in its place, that
+/// is left alone and another file ("-unwritten-2") is used. Whoever holds the recorder's
+/// lock may use them.
 class UnwrittenFile
 {
     Q_DECLARE_TR_FUNCTIONS(refhost::UnwrittenFile)
@@ -33,21 +26,34 @@ public:
     /// Of this store, whose path has to be the one that all recorders know it by.
     explicit UnwrittenFile(const QString &storePath);
 
-    /// What it keeps, in the order in which it was written; nothing if there is no file.
-    /// A file that is something else, damaged or of a newer version is an error.
-    Result<std::vector<Unwritten>> read() const;
-    /// Puts these into the file, mode 0600, in the place of what it kept; those without
-    /// an origin get one, and this recorder's run. The reason if that is not possible: then the
-    /// file is as it was.
-    std::optional<StoreError> write(std::vector<Unwritten> connections) const;
-    /// Whether there is no file any more.
-    bool remove() const;
+    struct Contents {
+        std::vector<Unwritten> connections; ///< in the order in which they were written
+        /// Of what stands there and is something else, damaged or of a newer version.
+        std::vector<StoreError> refusals;
+    };
+    /// What is kept; nothing if there is no file.
+    Contents read();
+    /// Puts these into the file, mode 0600, in the place of what was read; those without
+    /// an origin get one, and this recorder's run. The reason if that is not possible:
+    /// then what was kept still is.
+    std::optional<StoreError> write(std::vector<Unwritten> connections);
+    /// Removes what was read and written; whether none of it is there any more.
+    bool remove();
 
 private:
-    StoreError damaged(const QString &reason) const;
-    static std::optional<std::vector<Unwritten>> parse(const QByteArray &text);
+    struct Place {
+        QString path;
+        bool isOurs = false; ///< what is there was read or written by this process
+    };
 
-    QString m_path;
+    static Result<std::vector<Unwritten>> readFrom(const QString &path);
+    static std::optional<StoreError> writeTo(const QString &path,
+                                             std::vector<Unwritten> connections);
+    static bool isFree(const Place &place);
+    static bool removeFrom(Place &place);
+    StoreError noPlace() const;
+
+    std::array<Place, 2> m_places;
 };
 
 } // namespace refhost

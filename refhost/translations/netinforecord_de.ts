@@ -393,6 +393,14 @@
         <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
         <translation>„%1“ enthält vielleicht Verbindungen, die im Verlauf fehlen, lässt sich aber nicht lesen (%2). Die Datei blieb, wie sie ist; verschieben Sie sie.</translation>
     </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>„%1“ und „%2“ sind im Weg, daher gehen Verbindungen verloren, die der Verlauf nicht aufnehmen konnte. Verschieben Sie beide.</translation>
+    </message>
 </context>
 <context>
     <name>refhost::LinkMonitor</name>

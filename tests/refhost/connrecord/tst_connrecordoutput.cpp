@@ -139,7 +139,8 @@ void ConnrecordOutputTest::replacesNoFileOfTheHistory_data()
 {
     QTest::addColumn<QString>("suffix");
 
-    for (const char *const suffix : {"", "-wal", "-shm", "-journal", ".recorder", "-unwritten"})
+    for (const char *const suffix :
+         {"", "-wal", "-shm", "-journal", ".recorder", "-unwritten", "-unwritten-2"})
         QTest::newRow(*suffix ? suffix : "the history itself") << suffix;
 }
 

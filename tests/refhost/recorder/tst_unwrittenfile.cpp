@@ -12,6 +12,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <memory>
 #include <optional>
 #include <vector>
@@ -31,6 +34,16 @@ std::vector<std::string> originsIn(const QByteArray &file)
     for (auto at = file.indexOf(name); at >= 0; at = file.indexOf(name, at + 1))
         origins.push_back(file.mid(at + name.size(), 36).toStdString());
     return origins;
+}
+
+/// A link leads nowhere.
+bool make(unsigned type, const QByteArray &path)
+{
+    if (type == S_IFLNK)
+        return symlink("nowhere", path.constData()) == 0;
+    if (type == S_IFDIR)
+        return mkdir(path.constData(), S_IRWXU) == 0;
+    return mknod(path.constData(), type | S_IRUSR | S_IWUSR, 0) == 0;
 }
 
 } // namespace
@@ -55,6 +68,10 @@ private slots:
     void letsWhatHadBeenLeftBeforeComeFirst();
     void leavesAFileThatItCannotReadAlone_data();
     void leavesAFileThatItCannotReadAlone();
+    void leavesWhatIsNoFileAlone_data();
+    void leavesWhatIsNoFileAlone();
+    void leavesAFileThatHasComeMeanwhileAlone();
+    void saysSoWhereNothingCanBeKept();
     void isNotThereWhereNothingIsLeft();
 
 private:
@@ -63,8 +80,11 @@ private:
     void lock() { m_lock.emplace(m_path); }
     void unlock() { m_lock.reset(); }
     QString filePath() const { return m_path + QStringLiteral("-unwritten"); }
+    QString secondPath() const { return m_path + QStringLiteral("-unwritten-2"); }
     QByteArray file() const;
-    void putFile(const QByteArray &text);
+    void putFile(const QByteArray &text) { putFile(filePath(), text); }
+    static void putFile(const QString &path, const QByteArray &text);
+    void isKeptInTheSecondFile();
     void runSql(const std::string &sql);
     /// Leaves one connection of wwan0 and one of ppp0 in the file.
     void leaveTwo();
@@ -116,9 +136,9 @@ QByteArray UnwrittenFileTest::file() const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void UnwrittenFileTest::putFile(const QByteArray &text)
+void UnwrittenFileTest::putFile(const QString &path, const QByteArray &text)
 {
-    QFile file(filePath());
+    QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(text), qint64(text.size()));
 }
@@ -305,11 +325,67 @@ void UnwrittenFileTest::leavesAFileThatItCannotReadAlone()
                             "be read (it is damaged or of another program); it was left as it "
                             "is, move it away.")
                  .arg(filePath()));
+    isKeptInTheSecondFile();
+    QCOMPARE(file(), text);
+}
+
+/// What ends now is not lost for what stands in the place of the first one.
+void UnwrittenFileTest::isKeptInTheSecondFile()
+{
     m_links->tell(runningLink(5, "wwan1", 0, 0));
     m_links->tell(addressOn(5));
     lock();
+    m_links->tell(goneLink(5, "wwan1", 8, 9));
     end();
-    QCOMPARE(file(), text);
+    unlock();
+    QVERIFY(QFile::exists(secondPath()));
+    start();
+    QVERIFY(recordsIn(m_path).contains(QStringLiteral("wwan1 up 8 down 9 normal")));
+    QVERIFY(!QFile::exists(secondPath()));
+}
+
+void UnwrittenFileTest::leavesWhatIsNoFileAlone_data()
+{
+    QTest::addColumn<unsigned>("type");
+    QTest::newRow("a pipe") << unsigned{S_IFIFO};
+    QTest::newRow("a folder") << unsigned{S_IFDIR};
+    QTest::newRow("a link") << unsigned{S_IFLNK};
+}
+
+void UnwrittenFileTest::leavesWhatIsNoFileAlone()
+{
+    QFETCH(unsigned, type);
+    QVERIFY(make(type, QFile::encodeName(filePath())));
+    start();
+    QTRY_COMPARE(m_failures->size(), 1);
+    QVERIFY(m_failures->first().first().toString().contains("(it is not a file)"));
+    isKeptInTheSecondFile();
+    QVERIFY(!QFileInfo(filePath()).isFile());
+}
+
+void UnwrittenFileTest::leavesAFileThatHasComeMeanwhileAlone()
+{
+    start();
+    putFile("notes");
+    isKeptInTheSecondFile();
+    QCOMPARE(file(), QByteArray("notes"));
+}
+
+void UnwrittenFileTest::saysSoWhereNothingCanBeKept()
+{
+    putFile("notes");
+    putFile(secondPath(), "more notes");
+    start({runningLink(3, "wwan0", 0, 0), addressOn(3)});
+    QTRY_COMPARE(m_failures->size(), 2);
+    lock();
+    m_links->tell(downLink(3, "wwan0", 5, 6));
+    const QString warning =
+        QStringLiteral("\"%1\" and \"%2\" are in the way, so connections that the history could "
+                       "not take are lost; move them away.")
+            .arg(filePath(), secondPath());
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+    end();
+    QCOMPARE(file(), QByteArray("notes"));
 }
 
 void UnwrittenFileTest::isNotThereWhereNothingIsLeft()
