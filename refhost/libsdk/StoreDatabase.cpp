@@ -153,15 +153,21 @@ void StoreDatabase::openFile()
     const std::string path = resolvedPath(m_path);
     m_isReadOnly = m_ifMissing == IfMissing::ReadAsEmpty && writeObstacle(path) != 0;
     // Where no file can be made beside the store, SQLite reads it only if it is told
-    // that nobody changes it; which is true for as long as it has no log.
+    // that nobody changes it; which is true for as long as it has no log, or one whose
+    // writer was killed and whose index is not there.
     const bool isAtRest = m_isReadOnly && !hasLog(path);
+    const bool isLeftAlone = m_isReadOnly && !isAtRest && !fileAt(path + "-shm");
     const int access = m_isReadOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
     // A store stays on one thread, so SQLite need not lock around every value.
     m_database = std::make_unique<SQLite::Database>(
-        isAtRest ? uriOf(path) + "?immutable=1" : uriOf(path),
+        uriOf(path) + (isAtRest      ? "?immutable=1"
+                       : isLeftAlone ? "?vfs=unix-none"
+                                     : ""),
         access | SQLite::OPEN_URI | SQLite::OPEN_NOMUTEX,
         m_durability == Durability::Disk ? recorderLockTimeoutMilliseconds
                                          : lockTimeoutSeconds * 1000);
+    if (isLeftAlone)
+        m_database->exec("PRAGMA locking_mode = EXCLUSIVE"); // the index in memory of its own
     distrustSchema(m_database->getHandle());
 }
 

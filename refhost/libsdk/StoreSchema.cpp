@@ -8,7 +8,8 @@
 #include <SQLiteCpp/Transaction.h>
 
 #include <algorithm>
-#include <map>
+#include <string>
+#include <vector>
 
 namespace refhost
 {
@@ -53,26 +54,49 @@ void checkVersion(const std::string &path, std::int32_t version, std::size_t new
                 "; it was left as it is, update and restart this program to use it.");
 }
 
-/// What a database consists of, by kind and name, as SQL without its white space. Left
-/// out are indexes that only speed something up: of columns, as SQLite itself sorts them.
-std::map<std::string, std::string> objectsIn(SQLite::Database &database)
+/// Something that a database consists of.
+struct SchemaObject {
+    std::string type;
+    std::string name;
+    std::string table;
+    std::string sql; ///< without its white space
+};
+
+bool operator==(const SchemaObject &left, const SchemaObject &right)
 {
-    SQLite::Statement query(
-        database, "SELECT type || ' \"' || name || '\"', coalesce(sql, '')"
-                  " FROM sqlite_schema AS object"
-                  " WHERE (name NOT LIKE 'sqlite^_%' ESCAPE '^' OR type NOT IN ('table', 'index'))"
-                  " AND NOT (type = 'index'"
-                  " AND EXISTS (SELECT 1 FROM pragma_index_list(object.tbl_name) AS list"
-                  " WHERE list.name = object.name AND NOT list.\"unique\" AND NOT list.partial)"
-                  " AND NOT EXISTS (SELECT 1 FROM pragma_index_xinfo(object.name)"
-                  " WHERE cid < -1 OR coll NOT IN ('BINARY', 'NOCASE', 'RTRIM')))");
-    std::map<std::string, std::string> objects;
+    return left.type == right.type && left.name == right.name && left.sql == right.sql;
+}
+
+std::vector<SchemaObject> objectsIn(SQLite::Database &database)
+{
+    SQLite::Statement query(database, "SELECT type, name, tbl_name, coalesce(sql, '')"
+                                      " FROM sqlite_schema"
+                                      " WHERE name NOT LIKE 'sqlite^_%' ESCAPE '^'"
+                                      " OR type NOT IN ('table', 'index')");
+    std::vector<SchemaObject> objects;
     while (query.executeStep()) {
-        std::string sql = query.getColumn(1).getString();
+        std::string sql = query.getColumn(3).getString();
         sql.erase(std::remove_if(sql.begin(), sql.end(), isWhiteSpace), sql.end());
-        objects.emplace(query.getColumn(0).getString(), sql);
+        objects.push_back({query.getColumn(0).getString(), query.getColumn(1).getString(),
+                           query.getColumn(2).getString(), sql});
     }
     return objects;
+}
+
+/// Whether it is an index that only puts rows into an order, by columns and as SQLite
+/// itself compares them; any other may refuse a record.
+bool isPlainIndex(SQLite::Database &database, const SchemaObject &object)
+{
+    if (object.type != "index")
+        return false;
+    SQLite::Statement query(database,
+                            "SELECT NOT \"unique\" AND NOT partial"
+                            " AND NOT EXISTS (SELECT 1 FROM pragma_index_xinfo(?2)"
+                            " WHERE cid < -1 OR coll NOT IN ('BINARY', 'NOCASE', 'RTRIM'))"
+                            " FROM pragma_index_list(?1) WHERE name = ?2");
+    query.bind(1, object.table);
+    query.bind(2, object.name);
+    return query.executeStep() && query.getColumn(0).getInt() != 0;
 }
 
 /// Triggers, views and virtual tables are programs that would run here, and some indexes
@@ -84,10 +108,11 @@ void checkObjects(const std::string &path, SQLite::Database &database, const Sch
     for (std::size_t i = 0; i < taken; ++i)
         model.exec(steps[i]);
     const auto ours = objectsIn(model);
-    for (const auto &[name, sql] : objectsIn(database)) {
-        const auto found = ours.find(name);
-        if (found == ours.end() || found->second != sql)
-            throw damaged(path, "its " + name + " is not one that this program makes");
+    for (const SchemaObject &object : objectsIn(database)) {
+        const bool isOurs = std::find(ours.begin(), ours.end(), object) != ours.end();
+        if (!isOurs && !isPlainIndex(database, object))
+            throw damaged(path, "its " + object.type + " \"" + object.name +
+                                    "\" is not one that this program makes");
     }
 }
 

@@ -43,6 +43,11 @@ void PlantedSchemaTest::isRefused_data()
     QTest::newRow("a trigger") << QByteArray("CREATE TRIGGER more AFTER INSERT ON connection BEGIN"
                                              " UPDATE connection SET uploaded_bytes = 0; END")
                                << "trigger \"more\"";
+    QTest::newRow("a trigger called as a harmless index")
+        << QByteArray("CREATE INDEX more ON connection (profile);"
+                      "CREATE TRIGGER more AFTER INSERT ON connection BEGIN"
+                      " UPDATE connection SET uploaded_bytes = 0; END")
+        << "trigger \"more\"";
     QTest::newRow("a view in a table's place")
         << QByteArray("ALTER TABLE connection RENAME TO hidden;"
                       "CREATE VIEW connection AS SELECT * FROM hidden")

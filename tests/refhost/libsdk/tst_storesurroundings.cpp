@@ -56,6 +56,7 @@ private slots:
     void aFolderThatMayNotBeWrittenIsAnError();
     void aStoreThatMayNotBeWrittenIsRead();
     void aStoreThatMayNotBeWrittenFollowsTheOneWhoMay();
+    void aLogThatMayNotBeWrittenIsRead_data();
     void aLogThatMayNotBeWrittenIsRead();
     void aFileThatMayNotBeReadIsAnError();
     void aFolderBelowAFileIsAnError();
@@ -149,13 +150,23 @@ void StoreSurroundingsTest::aStoreThatMayNotBeWrittenFollowsTheOneWhoMay()
     QCOMPARE(peer->tell("list"), QString("ok 3"));
 }
 
+void StoreSurroundingsTest::aLogThatMayNotBeWrittenIsRead_data()
+{
+    QTest::addColumn<bool>("hasIndex");
+    QTest::newRow("with its index") << true;
+    QTest::newRow("as a copy without its index") << false;
+}
+
 void StoreSurroundingsTest::aLogThatMayNotBeWrittenIsRead()
 {
+    QFETCH(bool, hasIndex);
     {
         StorePeer writer;
         QCOMPARE(writer.tell("hold " + m_path + " 3"), QString("ok 3"));
         writer.kill();
     }
+    if (!hasIndex)
+        QVERIFY(QFile::remove(m_path + "-shm"));
     for (const QString &name : QDir(m_place).entryList(QDir::Files))
         QCOMPARE(chmod(qPrintable(m_place + '/' + name), 0444), 0);
     QCOMPARE(chmod(qPrintable(m_place), 0555), 0);
