@@ -34,6 +34,7 @@ private slots:
     void isARecordOfItsOwn();
     void isOfNoUseWithoutBytes();
     void isFoundAfterALineThatWasLost();
+    void isFoundAfterARowThatAnOlderVersionLeft();
     void isFoundOnALinkThatHadNoConnection();
     void isNothingOfAConnectionThatIsResumed();
     void isNothingOfALinkThatWasNeverSeen();
@@ -143,6 +144,23 @@ void UnwatchedTrafficTest::isFoundAfterALineThatWasLost()
     LinkReport again = runningLink(3, "wwan0", 1150, 2260);
     again.carrierLosses = 1;
     start({again, addressOn(3)});
+    m_links->tell(downLink(3, "wwan0", 1157, 2268));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"wwan0 up 100 down 200 recovered", "wwan0 up 50 down 60 not watched",
+                          "wwan0 up 7 down 8 normal"}));
+}
+
+/// That one kept no counters but those of the row.
+void UnwatchedTrafficTest::isFoundAfterARowThatAnOlderVersionLeft()
+{
+    start({runningLink(3, "wwan0", 1000, 2000), addressOn(3), downLink(4, "wwan1", 5, 6)});
+    m_links->toCome = {runningLink(3, "wwan0", 1100, 2200)};
+    end();
+    runSql("DROP TABLE seen_link; DROP TABLE taken_over; DROP TABLE log_base;"
+           " PRAGMA user_version = 2");
+    LinkReport again = runningLink(3, "wwan0", 1150, 2260);
+    again.carrierLosses = 1;
+    start({again, addressOn(3), downLink(4, "wwan1", 7, 8)});
     m_links->tell(downLink(3, "wwan0", 1157, 2268));
     QCOMPARE(recordsIn(m_path),
              QStringList({"wwan0 up 100 down 200 recovered", "wwan0 up 50 down 60 not watched",
