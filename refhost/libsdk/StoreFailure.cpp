@@ -24,7 +24,7 @@ bool isLock(int code)
     return code == SQLITE_BUSY || code == SQLITE_LOCKED || code == SQLITE_PROTOCOL;
 }
 
-/// The disk, the permissions or the memory are to blame, not the contents.
+/// The disk or the permissions are to blame, not the contents.
 bool isSurroundings(int code)
 {
     switch (code) {
@@ -33,7 +33,6 @@ bool isSurroundings(int code)
     case SQLITE_READONLY:
     case SQLITE_IOERR:
     case SQLITE_FULL:
-    case SQLITE_NOMEM:
     case SQLITE_INTERRUPT:
         return true;
     default:
@@ -105,12 +104,19 @@ StoreFailure sqliteFailure(const std::string &path, Access access, int code, int
     const int primaryCode = code & 0xff;
     if (isLock(primaryCode))
         return locked(path);
+    if (primaryCode == SQLITE_NOMEM)
+        return outOfMemory(path);
     if (!isSurroundings(primaryCode))
         return damaged(path, reason);
     if (isFullDisk(primaryCode, systemError))
         return diskFull(path);
     const std::string cause = systemError != 0 ? systemReason(systemError) : reason;
     return access == Access::Writing ? writeFailed(path, cause) : cannotOpenBecause(path, cause);
+}
+
+StoreFailure outOfMemory(const std::string &path)
+{
+    return interrupted(path, "there is not enough memory");
 }
 
 StoreFailure interrupted(const std::string &path, const std::string &reason)

@@ -56,8 +56,9 @@ StoreFailure cannotOpen(const std::string &path, int errorNumber);
 StoreFailure sqliteFailure(const std::string &path, Access access, int code, int systemError,
                            const std::string &reason);
 
-/// The error for what has nothing to do with the store: memory, or an exception
+/// The errors for what has nothing to do with the store: memory, or an exception
 /// thrown by a function that the caller has given.
+StoreFailure outOfMemory(const std::string &path);
 StoreFailure interrupted(const std::string &path, const std::string &reason);
 
 /// Calls `operation` and gives back its value, or the error that it threw.
@@ -69,7 +70,7 @@ auto attempt(const std::string &path, Operation operation) -> Result<decltype(op
     } catch (const StoreFailure &failure) {
         return failure.error();
     } catch (const std::bad_alloc &) {
-        return interrupted(path, "there is not enough memory").error();
+        return outOfMemory(path).error();
     } catch (const std::exception &exception) {
         return interrupted(path, exception.what()).error();
     }

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sqlite3.h>
+
 #include <limits>
 #include <stdexcept>
 
@@ -61,6 +63,7 @@ private slots:
     void addMissingAddsAllOrNone();
     void addMissingKeepsNothingWhenTheListenerThrows();
     void saysThatThereIsNotEnoughMemory();
+    void saysThatTheDatabaseHasNotEnoughMemory();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -237,6 +240,20 @@ void StoredRecordsTest::saysThatThereIsNotEnoughMemory()
     QCOMPARE(outcomeOf(added), QString("CannotOpen"));
     QVERIFY(QString::fromStdString(added.error().message).contains("there is not enough memory"));
     QCOMPARE(profilesIn(m_path), QString());
+}
+
+void StoredRecordsTest::saysThatTheDatabaseHasNotEnoughMemory()
+{
+    const std::string large(1048576, 'p');
+    const StatisticsStore store = storeWith(m_path, {connection(large, 1, 2)});
+    sqlite3_hard_heap_limit64(1); // what is in use already stays
+    const auto listed = store.list();
+    sqlite3_hard_heap_limit64(0);
+    sqlite3_soft_heap_limit64(0);
+    QCOMPARE(outcomeOf(listed), QString("CannotOpen"));
+    const QString sentence = QString::fromStdString(listed.error().message);
+    QVERIFY2(sentence.contains("there is not enough memory"), qPrintable(sentence));
+    QCOMPARE(profilesIn(m_path), QString::fromStdString(large));
 }
 
 QTEST_GUILESS_MAIN(StoredRecordsTest)
