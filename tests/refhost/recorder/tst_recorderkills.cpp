@@ -331,15 +331,15 @@ void RecorderKillsTest::round(campaign::Random &random)
 
 void RecorderKillsTest::theNextRecorderGoesOnToTheByte()
 {
-    const int kills = campaign::count(recordersAtOnce);
+    const int recorders = campaign::count(recordersAtOnce);
     campaign::Random random(campaign::seed(20260722));
-    int killed = 0;
-    for (; killed < kills && !QTest::currentTestFailed(); killed += recordersAtOnce)
+    int ended = 0;
+    for (; ended < recorders && !QTest::currentTestFailed(); ended += recordersAtOnce)
         round(random);
-    qInfo("%d recorders killed, what they left was at most %.1f seconds old", killed,
+    qInfo("%d recorders killed or quit, what the killed left was at most %.1f seconds old", ended,
           static_cast<double>(m_oldest) / 1000);
     // The short form shares the machine with other tests, so it only tells the age.
-    if (kills > recordersAtOnce)
+    if (recorders > recordersAtOnce)
         QVERIFY(m_oldest <= oldestAllowed);
 }
 
