@@ -75,6 +75,17 @@ private:
             peer.tell(QString("finish %1 %2 %3").arg(m_path).arg(key).arg(start)).startsWith("ok"));
     }
 
+    /// Files that are written in one tick of the clock have the same time.
+    void awaitTimeAfterTheLog()
+    {
+        const QString probe = m_folder->filePath("probe");
+        const auto isLater = [&] {
+            writeFile(probe, "now");
+            return QFileInfo(probe).lastModified() > QFileInfo(m_log).lastModified();
+        };
+        QTRY_VERIFY(isLater());
+    }
+
     void checkThatTheLogIsRefused();
 
     /// Makes a store, keeps a copy of it, and leaves it with a log in which there are
@@ -88,6 +99,7 @@ private:
                  QString("ok %1").arg(count));
         peer.kill();
         QVERIFY(QFileInfo(m_log).size() > 0);
+        awaitTimeAfterTheLog();
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -154,6 +166,7 @@ void RestoredBackupTest::aLogThatLeftAPageAsItWasIsNotPlayed()
     QCOMPARE(recorder.tell("hold " + m_path + " 0"), QString("ok 0"));
     record(recorder, 2, 2000);
     recorder.kill();
+    awaitTimeAfterTheLog();
     copyOver(m_backup, m_path);
     checkThatTheLogIsRefused();
 }
