@@ -144,17 +144,18 @@ class StatisticsStore::Private
 {
 public:
     Private(const std::string &path, StoreDatabase::IfMissing ifMissing,
-            StoreDatabase::Durability durability)
-        : database(path, ifMissing, durability)
+            StoreDatabase::Durability durability, StoreDatabase::LockWait lockWait)
+        : database(path, ifMissing, durability, lockWait)
     {
     }
 
     static Result<StatisticsStore>
     open(const std::string &path, StoreDatabase::IfMissing ifMissing,
-         StoreDatabase::Durability durability = StoreDatabase::Durability::System)
+         StoreDatabase::Durability durability = StoreDatabase::Durability::System,
+         StoreDatabase::LockWait lockWait = StoreDatabase::LockWait::Long)
     {
         return refhost::attempt(path, [&] {
-            auto opened = std::make_unique<Private>(path, ifMissing, durability);
+            auto opened = std::make_unique<Private>(path, ifMissing, durability, lockWait);
             opened->database.open();
             return StatisticsStore(std::move(opened));
         });
@@ -195,12 +196,19 @@ Result<StatisticsStore> StatisticsStore::openOrCreate(const std::string &path)
 
 Result<StatisticsStore> StatisticsStore::openForRecording(const std::string &path)
 {
-    return Private::open(path, StoreDatabase::IfMissing::Create, StoreDatabase::Durability::Disk);
+    return Private::open(path, StoreDatabase::IfMissing::Create, StoreDatabase::Durability::Disk,
+                         StoreDatabase::LockWait::Short);
 }
 
 Result<StatisticsStore> StatisticsStore::openForReading(const std::string &path)
 {
     return Private::open(path, StoreDatabase::IfMissing::ReadAsEmpty);
+}
+
+Result<StatisticsStore> StatisticsStore::openForWatching(const std::string &path)
+{
+    return Private::open(path, StoreDatabase::IfMissing::ReadAsEmpty,
+                         StoreDatabase::Durability::System, StoreDatabase::LockWait::Short);
 }
 
 StatisticsStore::StatisticsStore(std::unique_ptr<Private> privateData)

@@ -111,6 +111,8 @@ public:
     /// As openOrCreate, but a file that is not there is not made: until something else
     /// creates it, the store reads as empty.
     static Result<StatisticsStore> openForReading(const std::string &path);
+    /// The same for who reads again and again: a locked store is waited for a moment only.
+    static Result<StatisticsStore> openForWatching(const std::string &path);
 
     StatisticsStore(StatisticsStore &&) noexcept;
     StatisticsStore &operator=(StatisticsStore &&) noexcept;

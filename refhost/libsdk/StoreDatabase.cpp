@@ -64,10 +64,12 @@ void distrustSchema(sqlite3 *database)
 
 } // namespace
 
-StoreDatabase::StoreDatabase(const std::string &path, IfMissing ifMissing, Durability durability)
+StoreDatabase::StoreDatabase(const std::string &path, IfMissing ifMissing, Durability durability,
+                             LockWait lockWait)
     : m_path(absolutePath(path))
     , m_ifMissing(ifMissing)
     , m_durability(durability)
+    , m_lockWait(lockWait)
 {
 }
 
@@ -164,8 +166,7 @@ void StoreDatabase::openFile()
                        : isLeftAlone ? "?vfs=unix-none"
                                      : ""),
         access | SQLite::OPEN_URI | SQLite::OPEN_NOMUTEX,
-        m_durability == Durability::Disk ? recorderLockTimeoutMilliseconds
-                                         : lockTimeoutSeconds * 1000);
+        m_lockWait == LockWait::Short ? shortLockTimeoutMilliseconds : lockTimeoutSeconds * 1000);
     if (isLeftAlone)
         m_database->exec("PRAGMA locking_mode = EXCLUSIVE"); // the index in memory of its own
     distrustSchema(m_database->getHandle());

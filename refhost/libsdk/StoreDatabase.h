@@ -28,9 +28,11 @@ public:
     enum class IfMissing { Create, ReadAsEmpty };
     /// What a change that is done survives: the program's end, or the system's too.
     enum class Durability { System, Disk };
+    /// How long operations wait for a store that another process has locked.
+    enum class LockWait { Long, Short };
 
     StoreDatabase(const std::string &path, IfMissing ifMissing,
-                  Durability durability = Durability::System);
+                  Durability durability = Durability::System, LockWait lockWait = LockWait::Long);
     ~StoreDatabase();
     StoreDatabase(const StoreDatabase &) = delete;
     StoreDatabase &operator=(const StoreDatabase &) = delete;
@@ -109,6 +111,7 @@ private:
     std::string m_path;
     IfMissing m_ifMissing;
     Durability m_durability;
+    LockWait m_lockWait;
     std::unique_ptr<SQLite::Database> m_database;
     std::unique_ptr<ConnectionTable> m_table;
     std::unique_ptr<OpenConnectionTable> m_openConnections;

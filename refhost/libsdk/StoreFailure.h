@@ -34,9 +34,9 @@ enum class Access { Opening, Reading, Writing };
 /// The seconds for which an operation waits for another process's lock.
 constexpr int lockTimeoutSeconds = 5;
 
-/// The milliseconds for which a recorder's does, which has the time to try again and
-/// whose clock must not be held up.
-constexpr int recorderLockTimeoutMilliseconds = 100;
+/// The milliseconds for which one does that is tried again soon anyway and must not
+/// hold up whoever asks for it.
+constexpr int shortLockTimeoutMilliseconds = 100;
 
 /// The file's path the way a sentence names it.
 std::string historyAt(const std::string &path);

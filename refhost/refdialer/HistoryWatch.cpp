@@ -29,7 +29,7 @@ void HistoryWatch::look()
 void HistoryWatch::readStore()
 {
     if (!m_store) {
-        if (auto opened = StatisticsStore::openForReading(m_storePath))
+        if (auto opened = StatisticsStore::openForWatching(m_storePath))
             m_store.emplace(std::move(opened.value()));
     }
     std::optional<quint64> fingerprint;

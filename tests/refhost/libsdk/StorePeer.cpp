@@ -31,6 +31,11 @@ void StorePeer::send(const QString &command)
     m_process.waitForBytesWritten();
 }
 
+bool StorePeer::hasAnswered()
+{
+    return m_process.canReadLine() || (m_process.waitForReadyRead(0) && m_process.canReadLine());
+}
+
 QString StorePeer::answer()
 {
     while (!m_process.canReadLine()) {

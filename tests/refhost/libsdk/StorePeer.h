@@ -23,6 +23,7 @@ public:
     /// The two halves of it, for several processes that work at once.
     void send(const QString &command);
     QString answer();
+    bool hasAnswered();
 
 private:
     QProcess m_process;

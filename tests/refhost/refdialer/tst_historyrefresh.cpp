@@ -3,6 +3,7 @@
 #include "HistoryWatch.h"
 #include "HistoryWindow.h"
 #include "MenuEntry.h"
+#include "StorePeer.h"
 #include "SummaryChoice.h"
 
 #include "ExtendDialog.h"
@@ -11,7 +12,9 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMenu>
 #include <QProcess>
 #include <QScrollBar>
@@ -50,6 +53,7 @@ private slots:
     void leavesTheRowsAloneUnderAMenu();
     void showsAgainWhatTheStoreKeeps();
     void doesNotRepeatWhatDoesNotHelp();
+    void endsWhileOthersWaitForALockedStore();
 
 private:
     bool open(bool hasDialupService = true);
@@ -84,6 +88,16 @@ void countMissingService(QtMsgType, const QMessageLogContext &, const QString &m
 {
     if (message.endsWith("onConnectionReceived 348"))
         ++missingServices;
+}
+
+/// How often this process has the file open.
+int descriptorsOf(const QString &path)
+{
+    int count = 0;
+    const QDir descriptors("/proc/self/fd");
+    for (const QString &name : descriptors.entryList(QDir::Files | QDir::System))
+        count += QFile::symLinkTarget(descriptors.filePath(name)) == path ? 1 : 0;
+    return count;
 }
 
 std::vector<Connection> numbered(int count)
@@ -388,6 +402,28 @@ void TestHistoryRefresh::doesNotRepeatWhatDoesNotHelp()
     QCOMPARE(m_history->table().rowCount(), 0);
     // One beginning and one end.
     QCOMPARE(missingServices, 2);
+}
+
+void TestHistoryRefresh::endsWhileOthersWaitForALockedStore()
+{
+    QVERIFY(m_history->store(numbered(1)));
+    const QString path =
+        QFileInfo(QString::fromStdString(m_history->storePath())).canonicalFilePath();
+    StorePeer locking;
+    QCOMPARE(locking.tell("lock " + path), QString("ok"));
+    StorePeer waiting;
+    waiting.send("count " + path);
+    // One that waited as long as that would be there until the other has given up.
+    for (int i = 0; i < 2; ++i) {
+        refhost::HistoryWatch watch(path.toStdString());
+        const auto isAtIt = [&watch, &path] {
+            watch.look();
+            return descriptorsOf(path) > 0;
+        };
+        QTRY_VERIFY(isAtIt());
+    }
+    QVERIFY(!waiting.hasAnswered());
+    QVERIFY(waiting.answer().startsWith("failed"));
 }
 
 QTEST_MAIN(TestHistoryRefresh)
