@@ -260,13 +260,6 @@ bool AccumulateDlg::createValues()
         {m_pFormLayout, m_pDownloadedValue, m_pUploadedValue, m_pTransferTimeValue}, 438);
 }
 
-/// The instance lives as long as the module: a host that unloads the library gets the
-/// memory back. Without a word, since at the end of a process Qt's log is gone by then.
-struct AccumulateDlg::FreedWithModule {
-    ~FreedWithModule() { delete m_pAccumulateDlgInst; }
-};
-const AccumulateDlg::FreedWithModule AccumulateDlg::m_freedWithModule;
-
 AccumulateDlg *AccumulateDlg::Instance()
 {
     Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 464);

@@ -61,7 +61,6 @@ private:
         QString year;
         QString month;
     };
-    struct FreedWithModule;
 
     AccumulateDlg();
     ~AccumulateDlg() override;
@@ -94,7 +93,6 @@ private:
     void showFigures(const Figures &figures);
 
     static AccumulateDlg *m_pAccumulateDlgInst;
-    static const FreedWithModule m_freedWithModule;
     /// The clock that the months are counted from; tests set their own.
     static QDateTime (*m_pCurrentDateTime)();
 

@@ -3,12 +3,6 @@
 
 #include <algorithm>
 
-void ExpectedHistory::loadLibrary()
-{
-    m_wasConnected = false;
-    replaceRoot();
-}
-
 void ExpectedHistory::replaceRoot()
 {
     m_isSuppressed = false;

@@ -25,7 +25,6 @@ public:
     Answers answers;
     NumberedSdk sdk;
 
-    void loadLibrary();
     void replaceRoot();
     void init();
     void connectionStatus(unsigned int status);
@@ -60,7 +59,7 @@ private:
     bool m_hasTable = false;
     bool m_hasSummary = false;
     bool m_isSuppressed = false;
-    bool m_wasConnected = false;
+    bool m_wasConnected = false; // as long as the process lives
     QString m_headerPrefix;
     QMap<int, int> m_keyOfId;
     int m_window = 0;   // counts the windows that there have been

@@ -18,6 +18,7 @@ constexpr int longestTrace = 60;
 
 HostileHost::HostileHost(std::uint64_t seed)
     : m_random(seed)
+    , m_plugin(std::make_unique<LoadedPlugin>())
 {
     Host &host = Host::instance();
     host.reset();
@@ -30,7 +31,7 @@ HostileHost::HostileHost(std::uint64_t seed)
         return status;
     };
     host.handedOut = [this] { m_sdk.handOut(); };
-    load();
+    replaceRoot();
 }
 
 HostileHost::~HostileHost()
@@ -124,20 +125,11 @@ void HostileHost::runSomeWithin()
     --m_depth;
 }
 
-void HostileHost::load()
-{
-    m_plugin = std::make_unique<LoadedPlugin>(QLibrary::LoadHints());
-    m_expected.loadLibrary();
-    m_lastRect = QRect();
-}
-
+/// Whatever is open, and even from within the plug-in's own code.
 void HostileHost::loadAnew()
 {
-    if (m_depth > 0 || !m_random.once(4))
-        return; // code that still runs cannot be unloaded
-    m_expected.end();
-    m_plugin.reset();
-    load();
+    m_plugin->unload();
+    replaceRoot();
 }
 
 void HostileHost::replaceRoot()

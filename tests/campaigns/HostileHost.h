@@ -53,7 +53,6 @@ private:
     void runSomeWithin();
 
     // What the host asks of the plug-in.
-    void load();
     void loadAnew();
     void replaceRoot();
     void startOver();

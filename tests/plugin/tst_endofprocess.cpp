@@ -31,7 +31,8 @@ void tst_EndOfProcess::isQuiet_data()
     QTest::addColumn<QString>("ending");
     for (const char *ending :
          {"return", "exit-after-OnDestroy", "exit-without-OnDestroy", "static-application",
-          "undeleted-application", "load-before-application", "static-window", "unload", "dlclose"})
+          "undeleted-application", "load-before-application", "static-window", "unload",
+          "unload-without-OnDestroy", "dlclose"})
         QTest::newRow(ending) << QString::fromLatin1(ending);
 }
 

@@ -3,11 +3,11 @@
 
 #include <QApplication>
 
-LoadedPlugin::LoadedPlugin(QLibrary::LoadHints hints)
+LoadedPlugin::LoadedPlugin()
     : m_loader(fileName())
     , m_area(new QWidget)
 {
-    m_loader.setLoadHints(hints);
+    m_loader.setLoadHints({}); // Qt would not close the library
     if (!m_loader.load())
         qFatal("%s", qPrintable(m_loader.errorString()));
     m_loader.instance();
@@ -18,6 +18,12 @@ LoadedPlugin::~LoadedPlugin()
     end();
     delete m_area;
     m_loader.unload();
+}
+
+void LoadedPlugin::unload()
+{
+    if (!m_loader.unload())
+        qFatal("%s", qPrintable(m_loader.errorString()));
 }
 
 QString LoadedPlugin::fileName()

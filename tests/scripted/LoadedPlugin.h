@@ -4,20 +4,17 @@
 #include "INotify.h"
 #include "IUIPlugin.h"
 
-#include <QLibrary>
 #include <QPluginLoader>
 #include <QPointer>
 #include <QTableWidget>
 #include <QWidget>
 
-/// The built plug-in, loaded and driven as a host does it. Ends the plug-in and
-/// unloads the library with itself, so that each test starts anew.
+/// The built plug-in, loaded and driven as a host does it. Ends the plug-in with
+/// itself, so that each test starts anew; only what the library itself keeps stays.
 class LoadedPlugin
 {
 public:
-    /// The toolkit keeps the library in memory after its end unless it is told
-    /// otherwise; without a hint it really goes.
-    explicit LoadedPlugin(QLibrary::LoadHints hints = QLibrary::PreventUnloadHint);
+    LoadedPlugin();
     ~LoadedPlugin();
 
     static QString fileName();
@@ -30,6 +27,9 @@ public:
     void show(const QSize &size = QSize(760, 400));
     /// OnDestroy, once however often it is asked for.
     void end();
+    /// Deletes the root object and closes the library, whatever else is there.
+    /// root() opens it again.
+    void unload();
 
     QWidget *area() { return m_area; }
     /// Deletes the area, as a host that tears down its window first.
