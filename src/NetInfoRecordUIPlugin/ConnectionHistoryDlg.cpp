@@ -92,16 +92,21 @@ QTableWidgetItem commonCell()
     return cell;
 }
 
-/// Asks a table who listens to its cells, which the toolkit lets only a class
-/// derived from it do.
-class CellListeners : public QTableWidget
+/// Asks a table what the toolkit lets only a class derived from it ask.
+class TableQuestions : public QTableWidget
 {
 public:
-    static bool arePresent(const QTableWidget &table)
+    static bool hasCellListeners(const QTableWidget &table)
     {
-        const auto isConnected = &CellListeners::isSignalConnected;
+        const auto isConnected = &TableQuestions::isSignalConnected;
         return (table.*isConnected)(QMetaMethod::fromSignal(&QTableWidget::cellChanged)) ||
                (table.*isConnected)(QMetaMethod::fromSignal(&QTableWidget::itemChanged));
+    }
+    /// Hidden by the host, or under a cell that spans over it.
+    static bool isHidden(const QTableWidget &table, int row, int column)
+    {
+        const auto isIndexHidden = &TableQuestions::isIndexHidden;
+        return (table.*isIndexHidden)(table.model()->index(row, column));
     }
 };
 
@@ -114,7 +119,7 @@ public:
     explicit ChangedAsOne(QTableWidget &table)
         : m_model(*table.model())
     {
-        if (!CellListeners::arePresent(table))
+        if (!TableQuestions::hasCellListeners(table))
             m_blocker.emplace(m_model);
     }
     ~ChangedAsOne()
@@ -596,11 +601,8 @@ ConnectionHistoryDlg::Selection ConnectionHistoryDlg::selectedCells() const
     Selection selection;
     const QItemSelection ranges = m_pConnectionTblTreeWidget->selectionModel()->selection();
     for (const QItemSelectionRange &range : ranges) {
-        // What the host has hidden is not what the user has chosen.
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            if (!m_pConnectionTblTreeWidget->isRowHidden(row))
-                selection.addRow(*m_pConnectionTblTreeWidget, row, range);
-        }
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            selection.addRow(*m_pConnectionTblTreeWidget, row, range);
     }
     return selection;
 }
@@ -611,8 +613,9 @@ void ConnectionHistoryDlg::Selection::addRow(const QTableWidget &table, int row,
     const Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     for (int column = range.left(); column <= range.right(); ++column) {
         const QTableWidgetItem *cell = table.item(row, column);
-        // A place without a cell has nothing in it that could be chosen.
-        if (!cell || table.isColumnHidden(column) || (cell->flags() & selectable) != selectable)
+        // Neither a place without a cell nor what is hidden has been chosen by the user.
+        if (!cell || (cell->flags() & selectable) != selectable ||
+            TableQuestions::isHidden(table, row, column))
             continue;
         ++count;
         if (column == 0)

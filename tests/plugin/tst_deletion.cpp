@@ -42,6 +42,7 @@ private Q_SLOTS:
     void keepsTheSelectionWhereNothingIsDeleted();
     void asksNothingForARowThatLacksACell();
     void deletesRowsOfWhichOneLacksACell();
+    void asksNothingForARowWhoseCellsSpanOthers();
     void survivesTheEndDuringTheQuestion_data();
     void survivesTheEndDuringTheQuestion();
     void deletesThousandsOfRows();
@@ -409,6 +410,16 @@ void tst_Deletion::deletesRowsOfWhichOneLacksACell()
     QCOMPARE(Host::instance().messageBoxes.size(), 1);
     QCOMPARE(removals().size(), 2);
     QCOMPARE(profiles(), QStringList{kept});
+}
+
+void tst_Deletion::asksNothingForARowWhoseCellsSpanOthers()
+{
+    start(3);
+    m_plugin->table()->setSpan(1, 3, 1, 2);
+    selectRows({1});
+    QCOMPARE(m_plugin->table()->selectedItems().size(), 5);
+    trigger("onDelete");
+    QVERIFY(Host::instance().calls.isEmpty());
 }
 
 void tst_Deletion::survivesTheEndDuringTheQuestion_data()
