@@ -363,11 +363,17 @@ void AccumulateDlg::removeTimeComboElements()
     Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
 }
 
+/// The store that the dialog was opened with, while it lives.
+NetInfoRecordLogic *AccumulateDlg::recordLogic() const
+{
+    return m_pRecordLogic == NetInfoRecordLogic::current() ? m_pRecordLogic : nullptr;
+}
+
 void AccumulateDlg::fillComboBoxItem()
 {
     Log::line("Enter: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
     m_dialogRecords = {};
-    if (Log::isMissing(m_pRecordLogic, sourcePath, __func__, __LINE__) ||
+    if (Log::isMissing(recordLogic(), sourcePath, __func__, __LINE__) ||
         Log::isMissing(m_pProfileSelectionComboBox, sourcePath, __func__, __LINE__))
         return;
     removeTimeComboElements();
@@ -488,12 +494,12 @@ void AccumulateDlg::showFigures(const Figures &figures)
 void AccumulateDlg::onSelectComboItemOfTime(int monthIndex)
 {
     Log::line("Entered: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    if (Log::isMissing(m_pRecordLogic, sourcePath, __func__, __LINE__))
+    if (Log::isMissing(recordLogic(), sourcePath, __func__, __LINE__))
         return;
     fillComboBoxItem();
     if (Log::isMissing(m_pProfileSelectionComboBox, sourcePath, __func__, __LINE__) ||
         Log::isMissing(m_pFormLayout, sourcePath, __func__, __LINE__) ||
-        Log::isMissing(m_pRecordLogic, sourcePath, __func__, __LINE__))
+        Log::isMissing(recordLogic(), sourcePath, __func__, __LINE__))
         return;
     const AccumulateDialogRecord record =
         m_dialogRecords.value(m_pProfileSelectionComboBox->currentIndex());
@@ -511,7 +517,7 @@ void AccumulateDlg::onSelectComboItemOfProfile(int profileIndex)
     if (m_pProfileSelectionComboBox)
         m_pProfileSelectionComboBox->setCurrentIndex(profileIndex);
     if (Log::isMissing(m_pMonthSelectionComboBox, sourcePath, __func__, __LINE__) ||
-        Log::isMissing(m_pRecordLogic, sourcePath, __func__, __LINE__) ||
+        Log::isMissing(recordLogic(), sourcePath, __func__, __LINE__) ||
         Log::isMissing(m_pFormLayout, sourcePath, __func__, __LINE__))
         return;
     const AccumulateDialogRecord record = m_dialogRecords.value(profileIndex);

@@ -79,6 +79,7 @@ private:
 
     QString checkLeapYear(int year);
     void setDateRange(QString year, int month);
+    NetInfoRecordLogic *recordLogic() const;
     void fillComboBoxItem();
     void removeTimeComboElements();
 

@@ -331,7 +331,7 @@ void ConnectionHistoryDlg::OnAccumulateClicked()
 {
     Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 416, now);
 #ifdef NETINFORECORD_WIRE_STATISTICS
-    if (m_pContainerWidget) // a dialog without it would outlive the record store
+    if (m_pContainerWidget) // a dialog without a parent would outlive the window
         AccumulateDlg::Instance()->showWindow(m_pContainerWidget);
 #endif
     Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 425, now);

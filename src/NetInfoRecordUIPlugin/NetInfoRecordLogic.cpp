@@ -156,7 +156,7 @@ bool NetInfoRecordLogic::DeleteAll()
     bool anyRemoved = false;
     const auto count = m_records.size();
     for (auto i = count; i > 0; --i) {
-        // Always the first record: each removal moves the next one up.
+        // Always index 0, of which the SDK takes the first record that is left.
         const int status = KORA_Statistics_ConnRecord_RemoveRecord(0);
         Log::line("<======= %s: %s: %s: %d: FinishedKORA_Statistics_ConnRecord_RemoveRecord (), "
                   "retVal=%ld",

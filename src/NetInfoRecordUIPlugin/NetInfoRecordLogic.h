@@ -24,6 +24,8 @@ class NetInfoRecordLogic
 public:
     /// The single instance, made on the first call.
     static NetInfoRecordLogic *Instance();
+    /// The single instance, null if there is none.
+    static NetInfoRecordLogic *current() { return m_pNetInfoRecordLogicInst; }
     /// Ends the single instance if there is one.
     static void Destroy();
 

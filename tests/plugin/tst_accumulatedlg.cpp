@@ -100,6 +100,7 @@ private Q_SLOTS:
     void deletesItsWidgets_data();
     void deletesItsWidgets();
     void survivesItsSlotsWithoutWidgets();
+    void missesAStoreThatHasEnded();
     void reportsAMissingFrame();
     void logsItsLife();
     void logsAShowing();
@@ -705,6 +706,24 @@ void tst_AccumulateDlg::survivesItsSlotsWithoutWidgets()
     dlg()->removeTimeComboElements();
     QCOMPARE(log.take().filter(QRegularExpression(missing("removeTimeComboElements"))).size(), 1);
     dlg()->onOKBtbClicked();
+}
+
+/// A host whose frames have another parent than they were given keeps the dialog on
+/// screen when the plug-in has ended.
+void tst_AccumulateDlg::missesAStoreThatHasEnded()
+{
+    dlg()->showWindow(m_parent.get());
+    const QString title = frame()->windowTitle();
+    NetInfoRecordLogic::Destroy();
+    LogCapture log;
+    chooseMonth(1);
+    QCOMPARE(log.takeAbout(QStringLiteral("onSelectComboItemOfTime")).filter("Arg is NULL").size(),
+             1);
+    chooseProfile(0);
+    const QStringList lines = log.take();
+    QCOMPARE(lines.filter(QRegularExpression(missing("fillComboBoxItem"))).size(), 1);
+    QCOMPARE(lines.filter(QRegularExpression(missing("onSelectComboItemOfProfile"))).size(), 1);
+    QCOMPARE(frame()->windowTitle(), title);
 }
 
 void tst_AccumulateDlg::reportsAMissingFrame()
