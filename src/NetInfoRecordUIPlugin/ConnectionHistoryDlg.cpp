@@ -387,7 +387,7 @@ void ConnectionHistoryDlg::discardRows()
 {
     for (int row = 0; row < m_pConnectionTblTreeWidget->rowCount(); ++row) {
         if (const QTableWidgetItem *item = m_pConnectionTblTreeWidget->item(row, 0))
-            m_ownRecords.insert(linkedRecord(*item));
+            m_ownRecords.append(linkedRecord(*item));
     }
     freeOwnRecords();
     m_pConnectionTblTreeWidget->setRowCount(0);
@@ -403,7 +403,7 @@ void ConnectionHistoryDlg::fetchRecords()
         return;
     // A host has destroyed the table: no row will lead to these records.
     for (ConnectionRecord *record : std::as_const(m_pRecordLogic->m_records))
-        m_ownRecords.insert(record);
+        m_ownRecords.append(record);
 }
 
 void ConnectionHistoryDlg::reload()
@@ -464,7 +464,7 @@ void ConnectionHistoryDlg::PopulateTableRowOfConnectionRecord(ConnectionRecord *
     if (Log::isMissing(m_pConnectionTblTreeWidget, sourcePath, __func__, __LINE__) ||
         Log::isMissing(record, sourcePath, __func__, __LINE__))
         return;
-    m_ownRecords.insert(record);
+    m_ownRecords.append(record);
     m_pConnectionTblTreeWidget->setRowHeight(row, rowHeight);
     for (int column = 0; column < columnCount; ++column) {
         auto *item = new (std::nothrow) QTableWidgetItem(m_commonCell);
@@ -499,7 +499,7 @@ bool ConnectionHistoryDlg::collectLinkedRecords()
         const QTableWidgetItem *item = m_pConnectionTblTreeWidget->item(row, 0);
         if (Log::isMissing(item, sourcePath, function, __LINE__))
             return false;
-        m_ownRecords.insert(linkedRecord(*item));
+        m_ownRecords.append(linkedRecord(*item));
     }
     return true;
 }
@@ -507,7 +507,16 @@ bool ConnectionHistoryDlg::collectLinkedRecords()
 /// Not those that somebody else has put into the map and no row has shown.
 void ConnectionHistoryDlg::freeOwnRecords()
 {
-    qDeleteAll(std::exchange(m_ownRecords, {}));
+    Records records = std::exchange(m_ownRecords, {});
+    keepEachOnce(records);
+    qDeleteAll(records);
+}
+
+/// In the order of their addresses.
+void ConnectionHistoryDlg::keepEachOnce(Records &records)
+{
+    std::sort(records.begin(), records.end(), std::less<>());
+    records.erase(std::unique(records.begin(), records.end()), records.end());
 }
 
 void ConnectionHistoryDlg::createTableRightClickAction()
@@ -670,14 +679,26 @@ qint64 ConnectionHistoryDlg::selectedArea() const
 
 void ConnectionHistoryDlg::removeRecords(const QVector<int> &sortedIds)
 {
+    Records removed;
     // The highest identifier goes first, so that the SDK's lower ones keep theirs.
     for (auto id = sortedIds.rbegin(); id != sortedIds.rend(); ++id) {
         // The record goes from the window even where the SDK keeps it.
         m_pRecordLogic->DeleteRecord(*id);
-        ConnectionRecord *const record = m_pRecordLogic->takeRecord(*id);
-        m_ownRecords.remove(record);
-        delete record;
+        removed.append(m_pRecordLogic->takeRecord(*id));
     }
+    freeRecords(removed);
+}
+
+/// Frees these and no longer counts them among this window's own.
+void ConnectionHistoryDlg::freeRecords(Records records)
+{
+    keepEachOnce(records);
+    const auto isFreed = [&records](const ConnectionRecord *record) {
+        return std::binary_search(records.cbegin(), records.cend(), record, std::less<>());
+    };
+    m_ownRecords.erase(std::remove_if(m_ownRecords.begin(), m_ownRecords.end(), isFreed),
+                       m_ownRecords.end());
+    qDeleteAll(records);
 }
 
 void ConnectionHistoryDlg::onDeleteAll()

@@ -3,7 +3,6 @@
 
 #include <QItemDelegate>
 #include <QPointer>
-#include <QSet>
 #include <QString>
 #include <QTableWidgetItem>
 #include <QVector>
@@ -87,6 +86,7 @@ public Q_SLOTS:
 
 private:
     using Cells = QVector<const QTableWidgetItem *>;
+    using Records = QVector<ConnectionRecord *>;
     struct SummaryLayouts;
 
     /// What is selected: how many cells, and which of them lead to a record. The
@@ -107,6 +107,7 @@ private:
     void fetchRecords();
     bool collectLinkedRecords();
     void freeOwnRecords();
+    static void keepEachOnce(Records &records);
     void deleteHeaderItemsAndDelegate();
 
     bool isConfirmed(const QString &textId);
@@ -115,6 +116,7 @@ private:
     void removeRows(const QVector<int> &ascendingRows);
     qint64 selectedArea() const;
     void removeRecords(const QVector<int> &sortedIds);
+    void freeRecords(Records records);
 
     void deleteSummary();
     bool createSummary(QWidget *parent, SummaryLayouts &layouts);
@@ -154,7 +156,8 @@ private:
     /// each role of each cell.
     const QTableWidgetItem m_commonCell;
     /// What this window has put into rows, or would have: freed by it even where a
-    /// host has destroyed the rows.
-    QSet<ConnectionRecord *> m_ownRecords;
+    /// host has destroyed the rows. One can be here twice, which costs less than to
+    /// look for it at each row.
+    Records m_ownRecords;
     int m_nTableChanges = 0; // tells an open question that its rows are others now
 };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Campaign.h"
 #include "ConnectionHistoryDlg.h"
 #include "NetInfoRecordLogic.h"
 #include "ScriptedHost.h"
@@ -33,6 +34,13 @@ private:
     QString m_text;
 };
 
+int countOfThose(const QVector<Witness> &witnesses)
+{
+    return static_cast<int>(
+        std::count_if(witnesses.begin(), witnesses.end(),
+                      [](const Witness &record) { return record.isRecordThere(); }));
+}
+
 /// What a host or the window does with the table.
 using Action = std::function<void(QTableWidget *)>;
 
@@ -57,6 +65,7 @@ private Q_SLOTS:
     void freesADeletedRecordOnce();
     void keepsARecordThatNoRowHasShown_data();
     void keepsARecordThatNoRowHasShown();
+    void freesItsOwnOnlyWhateverTheHostDoes();
 
 private:
     static ConnectionHistoryDlg &window() { return *ConnectionHistoryDlg::Instance(); }
@@ -65,6 +74,8 @@ private:
         return NetInfoRecordLogic::Instance()->m_records;
     }
     QVector<Witness> witnesses() const;
+    void hostActs(campaign::Random &random);
+    void windowActs(campaign::Random &random);
 
     QPointer<QTableWidget> m_table;
 };
@@ -160,9 +171,7 @@ void tst_RecordOwnership::freesADeletedRecordOnce()
     m_table->selectRow(1);
     window().onDelete();
     QCOMPARE(m_table->rowCount(), 4);
-    QCOMPARE(std::count_if(all.begin(), all.end(),
-                           [](const Witness &record) { return record.isRecordThere(); }),
-             4);
+    QCOMPARE(countOfThose(all), 4);
     window().reload();
 }
 
@@ -192,6 +201,72 @@ void tst_RecordOwnership::keepsARecordThatNoRowHasShown()
     map().insert(99, foreign.get());
     operation(m_table);
     QVERIFY(witness.isRecordThere());
+}
+
+/// To the table, none of which frees a record.
+void tst_RecordOwnership::hostActs(campaign::Random &random)
+{
+    if (!m_table || m_table->rowCount() == 0)
+        return;
+    const int row = random.below(m_table->rowCount());
+    const Action actions[] = {
+        [row](QTableWidget *table) { table->removeRow(row); },
+        [row](QTableWidget *table) { delete table->item(row, 0); },
+        [row](QTableWidget *table) { table->insertRow(row); },
+        [](QTableWidget *table) { table->sortItems(0, Qt::DescendingOrder); },
+        [](QTableWidget *table) { table->setRowCount(0); },
+    };
+    if (random.once(20))
+        delete m_table;
+    else
+        random.oneOf(actions)(m_table);
+}
+
+/// Until it has freed and fetched everything anew.
+void tst_RecordOwnership::windowActs(campaign::Random &random)
+{
+    switch (random.below(4)) {
+    case 0:
+        window().reload();
+        break;
+    case 1:
+        window().onDeleteAll();
+        window().reload();
+        break;
+    case 2:
+        window().Init();
+        window().reload();
+        break;
+    default:
+        cleanup();
+        init();
+    }
+}
+
+void tst_RecordOwnership::freesItsOwnOnlyWhateverTheHostDoes()
+{
+    campaign::Random random(campaign::seed(20261122));
+    for (int rounds = campaign::count(500); rounds > 0; --rounds) {
+        const QVector<Witness> own = witnesses();
+        QCOMPARE(countOfThose(own), 5);
+        const auto foreign = std::make_unique<ConnectionRecord>();
+        const Witness foreignWitness(*foreign);
+        map().insert(99, foreign.get());
+
+        for (int times = random.below(4); times > 0; --times)
+            hostActs(random);
+        QCOMPARE(countOfThose(own), 5);
+        const int rows = m_table ? m_table->rowCount() : 0;
+        if (m_table && random.once(2)) {
+            m_table->selectRow(random.below(std::max(rows, 1)));
+            window().onDelete();
+        }
+        QCOMPARE(5 - countOfThose(own), m_table ? rows - m_table->rowCount() : 0);
+
+        windowActs(random);
+        QCOMPARE(countOfThose(own), 0);
+        QVERIFY(foreignWitness.isRecordThere());
+    }
 }
 
 QTEST_MAIN(tst_RecordOwnership)
