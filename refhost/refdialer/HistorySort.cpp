@@ -137,7 +137,8 @@ std::vector<Connection> sortRows(QTableWidget &table, const HistoryOrder &by, Tr
 {
     std::vector<Connection> rows = connectionsIn(table, values);
     const Order order = orderOf(rows, by, table.locale());
-    const bool wasUpdating = table.updatesEnabled();
+    // Of its own: what a parent has switched off for a while is that one's to switch on.
+    const bool wasUpdating = !table.testAttribute(Qt::WA_ForceUpdatesDisabled);
     table.setUpdatesEnabled(false);
     moveRows(table, order);
     table.setUpdatesEnabled(wasUpdating);

@@ -185,6 +185,7 @@ void TestHistoryRefresh::showsWhatAnotherProgramDoes()
     connrecord({"add", "--store", store, "--profile", "added", "--start", "2026-09-01T10:00:00",
                 "--end", "2026-09-01T11:00:00", "--up", "1", "--down", "2"});
     QTRY_COMPARE(m_history->shownProfiles(), QStringList("added"));
+    QVERIFY(m_history->table().updatesEnabled());
     const std::int64_t key = m_history->storedKeys().at(0);
     connrecord({"remove", "--store", store, QString::number(key)});
     QTRY_COMPARE(m_history->shownProfiles(), QStringList());
