@@ -1,8 +1,11 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Fails if one of the given libraries and programs was built without the stack's
-# protection, checked string functions, or write-protected tables of addresses.
+# check-hardening.sh COMPILER FILE...: fails if one of these libraries and programs was
+# built without the stack's protection, checked string functions, or write-protected
+# tables of addresses.
 set -eu
+compiler=$1
+shift
 status=0
 complain()
 {
@@ -17,6 +20,7 @@ for file in "$@"; do
     readelf -lW "$file" | grep -q 'GNU_RELRO' || complain "$file" 'no RELRO'
     readelf -dW "$file" | grep -qE 'BIND_NOW|FLAGS_1.*NOW' || complain "$file" 'binds lazily'
 done
-# Not every file calls a function that has a checked form.
-[ "$checked" -gt 0 ] || complain 'all files' 'no checked string functions'
+# Not every file calls a function that has a checked form, and Clang sees at once that
+# the calls of all of them fit.
+[ "$checked" -gt 0 ] || [ "$compiler" != GNU ] || complain 'all files' 'no checked string functions'
 exit $status
