@@ -207,10 +207,10 @@ QString ConnectionRecorder::recordedByAnother(const RecorderLock &lock)
 {
     const auto holder = lock.holder();
     if (!holder)
-        return tr("Connections are recorded by another program already, and appear here when the "
-                  "history is opened again.");
+        return tr("Connections are recorded by another program already, and appear here when "
+                  "they have ended.");
     return tr("Connections are recorded by another %1 already (process %2), and appear here when "
-              "the history is opened again.")
+              "they have ended.")
         .arg(holder->program)
         .arg(holder->process);
 }

@@ -348,12 +348,12 @@
         <translation>&quot;/proc/sys/kernel/random/boot_id&quot; lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein.</translation>
     </message>
     <message>
-        <source>Connections are recorded by another program already, and appear here when the history is opened again.</source>
-        <translation>Ein anderes Programm zeichnet die Verbindungen schon auf. Sie erscheinen hier, wenn der Verlauf wieder geöffnet wird.</translation>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>Ein anderes Programm zeichnet die Verbindungen schon auf. Sie erscheinen hier, wenn sie beendet sind.</translation>
     </message>
     <message>
-        <source>Connections are recorded by another %1 already (process %2), and appear here when the history is opened again.</source>
-        <translation>Ein anderes %1 zeichnet die Verbindungen schon auf (Prozess %2). Sie erscheinen hier, wenn der Verlauf wieder geöffnet wird.</translation>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>Ein anderes %1 zeichnet die Verbindungen schon auf (Prozess %2). Sie erscheinen hier, wenn sie beendet sind.</translation>
     </message>
     <message>
         <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>

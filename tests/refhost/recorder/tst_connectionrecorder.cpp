@@ -835,7 +835,7 @@ void ConnectionRecorderTest::recordsWhateverAKilledRecorderLeftOfItsLock()
     QTRY_COMPARE(m_failures->size(), 1);
     QCOMPARE(m_failures->first().first().toString(),
              QStringLiteral("Connections are recorded by another %1 already (process %2), and "
-                            "appear here when the history is opened again.")
+                            "appear here when they have ended.")
                  .arg(QCoreApplication::applicationName())
                  .arg(QCoreApplication::applicationPid()));
 }
