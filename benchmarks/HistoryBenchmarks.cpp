@@ -17,16 +17,22 @@ std::size_t memoryInUse()
     return info.uordblks + info.hblkhd;
 }
 
-/// The record store filled with samples, without a table that shows them.
+/// Fills the record store with samples, without a table that shows them.
+const QHash<int, ConnectionRecord *> &convertSamples(int count)
+{
+    MemorySdk::setRecords(MemorySdk::samples(count));
+    NetInfoRecordLogic::Instance()->GetAllConnectedRecords();
+    MemorySdk::setRecords({});
+    return NetInfoRecordLogic::Instance()->m_records;
+}
+
+/// Samples that no window of the plug-in ever shows, which would own them then.
 class ConvertedRecords
 {
 public:
     explicit ConvertedRecords(int count)
+        : all(convertSamples(count))
     {
-        MemorySdk::setRecords(MemorySdk::samples(count));
-        NetInfoRecordLogic::Instance()->GetAllConnectedRecords();
-        MemorySdk::setRecords({});
-        all = NetInfoRecordLogic::Instance()->m_records;
     }
     ~ConvertedRecords()
     {
@@ -35,7 +41,7 @@ public:
     }
     Q_DISABLE_COPY(ConvertedRecords)
 
-    QHash<int, ConnectionRecord *> all;
+    const QHash<int, ConnectionRecord *> all;
 };
 
 /// Times `fill`, and notes how much memory each row has taken.
@@ -49,12 +55,12 @@ void measureFill(benchmark::State &state, int rows, Fill fill)
 
 void fillPlugin(benchmark::State &state, int rows)
 {
-    const ConvertedRecords records(rows);
     ConnectionHistoryDlg *window = ConnectionHistoryDlg::Instance();
     window->uiSetText();
     for ([[maybe_unused]] auto iteration : state) {
-        NetInfoRecordLogic::Instance()->m_records = records.all;
+        convertSamples(rows);
         measureFill(state, rows, [&] { window->populateTable(); });
+        window->ReleaseTable();
         NetInfoRecordLogic::Instance()->forgetRecords();
         window->populateTable();
     }
