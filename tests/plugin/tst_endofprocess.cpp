@@ -42,7 +42,11 @@ void tst_EndOfProcess::isQuiet()
     const QTemporaryDir runtime;
     QVERIFY(runtime.isValid());
     QProcess host;
-    host.setProcessEnvironment(quietToolkit(runtime));
+    QProcessEnvironment environment = quietToolkit(runtime);
+    // A host that unloads the plug-in without ending it leaves its windows behind.
+    if (ending == QLatin1String("unload-without-OnDestroy"))
+        environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
+    host.setProcessEnvironment(environment);
     host.start(QStringLiteral(HOST_FILE), {QStringLiteral(PLUGIN_FILE), ending});
     QVERIFY(host.waitForFinished());
     const QByteArray said = host.readAllStandardError();
