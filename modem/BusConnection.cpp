@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "modem/BusConnection.h"
+
+#include "modem/BusAddress.h"
+#include "modem/Names.h"
+
+#include <QDBusError>
+#include <QDBusPendingCallWatcher>
+#include <QDir>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+#include <QLoggingCategory>
+
+#include <atomic>
+#include <climits>
+#include <utility>
+
+namespace modem
+{
+
+namespace
+{
+
+Q_LOGGING_CATEGORY(log, "modem", QtWarningMsg)
+
+/// A socket is there a moment before somebody listens to it, and a bus that loses
+/// everybody at once is not asked again and again.
+constexpr int pauseMilliseconds = 1000;
+
+QString uniqueName()
+{
+    static std::atomic<int> count{0};
+    return QStringLiteral("modem-%1").arg(++count);
+}
+
+QDBusMessage busCall(const char *method, const QVariantList &arguments = {})
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(names::bus, names::busPath, names::bus,
+                                                       QLatin1String(method));
+    call.setArguments(arguments);
+    return call;
+}
+
+} // namespace
+
+BusConnection::BusConnection(const QString &address, std::vector<Subscription> subscriptions,
+                             QObject *parent)
+    : QObject(parent)
+    , m_address(address)
+    , m_subscriptions(std::move(subscriptions))
+    , m_name(uniqueName())
+    , m_retry(this)
+{
+    m_retry.setSingleShot(true);
+    m_retry.setInterval(pauseMilliseconds);
+    connect(&m_retry, &QTimer::timeout, this, &BusConnection::connectToBus);
+}
+
+BusConnection::~BusConnection()
+{
+    close();
+}
+
+void BusConnection::start()
+{
+    if (isLocalBusAddress(m_address))
+        connectToBus();
+    else
+        qCWarning(log,
+                  "No names of mobile networks: the system bus \"%s\" is not on this computer. "
+                  "Set DBUS_SYSTEM_BUS_ADDRESS to an address that begins with \"unix:\".",
+                  qUtf8Printable(m_address));
+}
+
+void BusConnection::connectToBus()
+{
+    m_connection = QDBusConnection::connectToPeer(m_address, m_name);
+    if (!m_connection.isConnected()) {
+        qCDebug(log, "%s", qUtf8Printable(m_connection.lastError().message()));
+        close();
+        waitForSocket();
+        return;
+    }
+    m_socketWatcher.reset();
+    m_pendingCalls = std::make_unique<QObject>();
+    subscribe();
+    greet();
+}
+
+void BusConnection::subscribe()
+{
+    m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                         QStringLiteral("org.freedesktop.DBus.Local"),
+                         QStringLiteral("Disconnected"), this, SLOT(handleDisconnection()));
+    for (const Subscription &subscription : m_subscriptions)
+        m_connection.connect(QString(), QString(), subscription.interfaceName, subscription.member,
+                             this, SLOT(handleSignal(QDBusMessage)));
+}
+
+/// What is sent meanwhile waits in order behind the greeting.
+void BusConnection::greet()
+{
+    ask(busCall("Hello"), QStringLiteral("s"), [this](const QVariantList &reply) {
+        m_isGreeted = !reply.isEmpty();
+        if (m_isGreeted)
+            emit connected();
+    });
+    for (const Subscription &subscription : m_subscriptions) {
+        for (const QString &rule : subscription.rules)
+            ask(busCall("AddMatch", {rule}), QString(), [](const QVariantList &) {});
+    }
+}
+
+void BusConnection::ask(const QDBusMessage &call, const QString &signature, const Handler &handler)
+{
+    if (!m_pendingCalls)
+        return;
+    QDBusMessage message = call;
+    message.setAutoStartService(false);
+    // Who is slow may still answer; who has gone is said to be so by the bus.
+    auto *const watcher =
+        new QDBusPendingCallWatcher(m_connection.asyncCall(message, INT_MAX), m_pendingCalls.get());
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [service = call.service(), signature, handler](QDBusPendingCallWatcher *finished) {
+                const QDBusMessage reply = finished->reply();
+                const bool isProper = reply.type() == QDBusMessage::ReplyMessage &&
+                                      reply.service() == service && reply.signature() == signature;
+                finished->deleteLater();
+                handler(isProper ? reply.arguments() : QVariantList());
+            });
+}
+
+void BusConnection::handleSignal(const QDBusMessage &message)
+{
+    if (m_isGreeted)
+        emit received(message);
+}
+
+void BusConnection::handleDisconnection()
+{
+    const bool wasGreeted = std::exchange(m_isGreeted, false);
+    close();
+    if (!wasGreeted) {
+        waitForSocket();
+        return;
+    }
+    m_retry.start();
+    emit disconnected();
+}
+
+void BusConnection::close()
+{
+    m_pendingCalls.reset();
+    QDBusConnection::disconnectFromPeer(m_name);
+    m_connection = QDBusConnection(QString());
+}
+
+/// In the nearest folder that is there.
+void BusConnection::waitForSocket()
+{
+    const QString socket = socketOfBusAddress(m_address);
+    if (socket.isEmpty())
+        return;
+    QDir folder = QFileInfo(socket).dir();
+    while (!folder.exists() && !folder.isRoot())
+        folder = QFileInfo(folder.path()).dir();
+    m_socketWatcher = std::make_unique<QFileSystemWatcher>(QStringList(folder.path()));
+    connect(m_socketWatcher.get(), &QFileSystemWatcher::directoryChanged, &m_retry,
+            qOverload<>(&QTimer::start));
+}
+
+} // namespace modem

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QFileSystemWatcher;
+
+namespace modem
+{
+
+/// A connection to a message bus that never waits: neither for a bus that is not there
+/// yet, nor for one that accepts and then says nothing. QtDBus's own connections to a
+/// bus are greeted by it before anything else goes on, and all of a program's share one
+/// thread. So this one is opened as one to a peer, which is not asked anything, and
+/// greets the bus by itself.
+///
+/// A bus that comes later, or again, is noticed by its socket.
+class BusConnection : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Signals to receive, and the rule that lets the bus send them.
+    struct Subscription {
+        QString interfaceName;
+        QString member;
+        QStringList rules;
+    };
+    /// Gets the arguments of the answer; none if there was no proper one.
+    using Handler = std::function<void(const QVariantList &)>;
+
+    BusConnection(const QString &address, std::vector<Subscription> subscriptions,
+                  QObject *parent = nullptr);
+    ~BusConnection() override;
+
+    void start();
+    /// Sends the call and starts no service for it. The answer must be the receiver's own
+    /// and have that signature. No answer comes when the bus is lost meanwhile.
+    void ask(const QDBusMessage &call, const QString &signature, const Handler &handler);
+
+signals:
+    /// The bus is there, all subscriptions are on their way to it.
+    void connected();
+    void disconnected();
+    /// Of a subscription. Anybody on the bus can send it: look at the sender.
+    void received(const QDBusMessage &message);
+
+private slots:
+    void handleSignal(const QDBusMessage &message);
+    void handleDisconnection();
+
+private:
+    void connectToBus();
+    void subscribe();
+    void greet();
+    void close();
+    void waitForSocket();
+
+    const QString m_address;
+    const std::vector<Subscription> m_subscriptions;
+    const QString m_name; ///< among QtDBus's connections
+    QDBusConnection m_connection{QString()};
+    std::unique_ptr<QObject> m_pendingCalls; ///< of the present connection
+    std::unique_ptr<QFileSystemWatcher> m_socketWatcher;
+    QTimer m_retry;
+    bool m_isGreeted = false;
+};
+
+} // namespace modem
