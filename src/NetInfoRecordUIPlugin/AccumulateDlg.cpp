@@ -11,24 +11,20 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
-#include <QTime>
 #include <QVBoxLayout>
-#include <QVariant>
 
 #include <memory>
 #include <new>
 
-using Log::now;
-
 namespace
 {
 
-const char sourcePath[] = "../../src/NetInfoRecordUIPlugin/AccumulateDlg";
 const char buildTime[] = __TIME__;
+constexpr Log::Place initPlace{Log::accumulateDlg, "init"};
+constexpr Log::Form listenerForm{
+    "Entered: %s: %s: %d: %s:", "End: %s: %s: %d: %s:", Log::Details::PlaceThenTime};
 
 template <typename Widget>
 void setGeometryIfPresent(const QPointer<Widget> &widget, int x, int y, int width, int height)
@@ -52,21 +48,6 @@ void setTextIfPresent(AccumulateDlg &dialog, const QPointer<Widget> &widget, con
         widget->setText(dialog.tr(QLatin1String(id)));
 }
 
-QString yearOf(const QString &stamp)
-{
-    return stamp.mid(0, 4);
-}
-
-QString monthOf(const QString &stamp)
-{
-    return stamp.mid(4, 2);
-}
-
-QString yearBefore(const QString &year)
-{
-    return QString::number(year.toInt() - 1);
-}
-
 } // namespace
 
 AccumulateDlg *AccumulateDlg::m_pAccumulateDlgInst = nullptr;
@@ -74,7 +55,8 @@ QDateTime (*AccumulateDlg::m_pCurrentDateTime)() = &QDateTime::currentDateTime;
 
 void AccumulateDlg::uiSetObjectName()
 {
-    Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 70, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    log.entry(70);
     setNameIfPresent(m_pSelectProfileLbl, "m_pSelectProfileLbl");
     setNameIfPresent(m_pSelectMonthLbl, "m_pSelectMonthLbl");
     setNameIfPresent(m_pStatisticsGrp, "m_pStatisticsGrp");
@@ -84,14 +66,15 @@ void AccumulateDlg::uiSetObjectName()
     setNameIfPresent(m_pProfileSelectionComboBox, "m_pProfileSelectionComboBox");
     setNameIfPresent(m_pMonthSelectionComboBox, "m_pMonthSelectionComboBox");
     setNameIfPresent(m_pPushButton, "m_pPushButton");
-    Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 109, buildTime);
+    log.exit(109);
 }
 
 /// The layouts take over once the dialog is shown; the fixed places are set as
 /// well, for hosts that read them.
 void AccumulateDlg::uiSetGeometry()
 {
-    Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 126, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    log.entry(126);
     if (m_pMainWidget) {
         if (m_pDialog) {
             m_pDialog->AddMainWidget(m_pMainWidget);
@@ -108,15 +91,15 @@ void AccumulateDlg::uiSetGeometry()
         setGeometryIfPresent(m_pStatisticsGrp, 10, 110, 350, 120);
         setGeometryIfPresent(m_pPushButton, 155, 255, 100, 20);
     }
-    Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 174, buildTime);
+    log.exit(174);
 }
 
 void AccumulateDlg::uiSetText()
 {
-    Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 230, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    log.entry(230);
     if (!m_pDialog) {
-        Log::line("AccumulateDlg is not yet initialized: %s %s: %d: %s:", sourcePath, __func__, 235,
-                  buildTime);
+        log.line("AccumulateDlg is not yet initialized: %s %s: %d: %s:", 235);
         return;
     }
     if (m_pProfileSelectionComboBox)
@@ -137,12 +120,13 @@ void AccumulateDlg::uiSetText()
     if (m_pStatisticsGrp)
         m_pStatisticsGrp->setTitle(tr(QLatin1String("IDS_GROUP_STATISTIC")));
     setTextIfPresent(*this, m_pPushButton, "IDS_BTN_OK");
-    Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 284, buildTime);
+    log.exit(284);
 }
 
 void AccumulateDlg::showWindow(QWidget *parent)
 {
-    Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 301, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    log.entry(301);
     m_pRecordLogic = NetInfoRecordLogic::Instance();
     if (!m_pMainWidget) {
         // The host destroyed the earlier frame with all that stood in it.
@@ -163,38 +147,29 @@ void AccumulateDlg::showWindow(QWidget *parent)
         onSelectComboItemOfTime(0);
         m_pDialog->setVisible(true);
     }
-    Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 328, buildTime);
+    log.exit(328);
 }
 
 AccumulateDlg::AccumulateDlg()
 {
-    Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 361, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    log.entry(361);
     init();
-    Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 365, buildTime);
+    log.exit(365);
 }
 
 AccumulateDlg::~AccumulateDlg() = default;
 
 void AccumulateDlg::init()
 {
-    Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 370, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    log.entry(370);
     std::unique_ptr<QVBoxLayout> vertical;
     if (!createSelection(vertical) || !createStatistics(vertical.get()) ||
         !createButton(vertical.get()) || !createValues())
         return;
     m_pMainWidget->setLayout(vertical.release());
-    Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 445, buildTime);
-}
-
-/// Looks for the first missing object; the first one's line is `line`, the
-/// others follow line by line.
-bool AccumulateDlg::areAllPresent(std::initializer_list<const QObject *> objects, int line)
-{
-    for (const QObject *object : objects) {
-        if (Log::isMissing(object, sourcePath, "init", line++))
-            return false;
-    }
-    return true;
+    log.exit(445);
 }
 
 bool AccumulateDlg::createSelection(std::unique_ptr<QVBoxLayout> &vertical)
@@ -207,10 +182,10 @@ bool AccumulateDlg::createSelection(std::unique_ptr<QVBoxLayout> &vertical)
     vertical.reset(new (std::nothrow) QVBoxLayout);
     std::unique_ptr<QHBoxLayout> profileRow(new (std::nothrow) QHBoxLayout);
     std::unique_ptr<QHBoxLayout> monthRow(new (std::nothrow) QHBoxLayout);
-    if (!areAllPresent({m_pMainWidget, m_pSelectProfileLbl, m_pSelectMonthLbl,
-                        m_pProfileSelectionComboBox, m_pMonthSelectionComboBox, vertical.get(),
-                        profileRow.get(), monthRow.get()},
-                       382))
+    if (initPlace.isAnyMissing({m_pMainWidget, m_pSelectProfileLbl, m_pSelectMonthLbl,
+                                m_pProfileSelectionComboBox, m_pMonthSelectionComboBox,
+                                vertical.get(), profileRow.get(), monthRow.get()},
+                               382))
         return false;
     m_pProfileSelectionComboBox->setFixedWidth(185);
     profileRow->addWidget(m_pSelectProfileLbl);
@@ -230,8 +205,8 @@ bool AccumulateDlg::createStatistics(QVBoxLayout *vertical)
     m_pUploadedData = new (std::nothrow) QLabel(m_pStatisticsGrp);
     m_pDownloadedData = new (std::nothrow) QLabel;
     m_pTransferTime = new (std::nothrow) QLabel;
-    if (!areAllPresent({m_pStatisticsGrp, m_pUploadedData, m_pDownloadedData, m_pTransferTime},
-                       413))
+    if (initPlace.isAnyMissing(
+            {m_pStatisticsGrp, m_pUploadedData, m_pDownloadedData, m_pTransferTime}, 413))
         return false;
     m_pStatisticsGrp->setFixedSize(354, 122);
     vertical->addWidget(m_pStatisticsGrp);
@@ -242,7 +217,7 @@ bool AccumulateDlg::createButton(QVBoxLayout *vertical)
 {
     m_pPushButton = new (std::nothrow) QPushButton;
     std::unique_ptr<QHBoxLayout> row(new (std::nothrow) QHBoxLayout);
-    if (!areAllPresent({m_pPushButton, row.get()}, 426))
+    if (initPlace.isAnyMissing({m_pPushButton, row.get()}, 426))
         return false;
     // A stretch, not an alignment: it lets the button take the row's width.
     row->addWidget(m_pPushButton, 132);
@@ -256,36 +231,39 @@ bool AccumulateDlg::createValues()
     m_pDownloadedValue = new (std::nothrow) QLabel;
     m_pUploadedValue = new (std::nothrow) QLabel;
     m_pTransferTimeValue = new (std::nothrow) QLabel;
-    return areAllPresent(
+    return !initPlace.isAnyMissing(
         {m_pFormLayout, m_pDownloadedValue, m_pUploadedValue, m_pTransferTimeValue}, 438);
 }
 
 AccumulateDlg *AccumulateDlg::Instance()
 {
-    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 464);
+    const Log::Operation log(Log::instance, Log::accumulateDlg, __func__);
+    log.entry(464);
     if (!m_pAccumulateDlgInst)
         m_pAccumulateDlgInst = new AccumulateDlg;
-    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 470);
+    log.exit(470);
     return m_pAccumulateDlgInst;
 }
 
 void AccumulateDlg::Destroy()
 {
-    Log::line("Start  : %s: %s: %s %d", now, sourcePath, __func__, 490);
+    const Log::Operation log(Log::destroy, Log::accumulateDlg, __func__);
+    log.entry(490);
     delete m_pAccumulateDlgInst;
     m_pAccumulateDlgInst = nullptr;
-    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 492);
+    log.exit(492);
 }
 
 void AccumulateDlg::addListener()
 {
-    Log::line("Entered: %s: %s: %d: %s:", sourcePath, __func__, 525, now);
-    // The blank is part of the signal's text; the toolkit normalises it.
+    const Log::Operation log(listenerForm, Log::accumulateDlg, __func__);
+    log.entry(525);
+    // The blank is part of the signal's text; Qt normalises it.
     connect(m_pMonthSelectionComboBox, "2activated (int)", this,
             SLOT(onSelectComboItemOfTime(int)));
     connect(m_pProfileSelectionComboBox, "2activated (int)", this,
             SLOT(onSelectComboItemOfProfile(int)));
-    Log::line("End: %s: %s: %d: %s:", sourcePath, __func__, 532, now);
+    log.exit(532);
 }
 
 void AccumulateDlg::destroy()
@@ -316,213 +294,4 @@ void AccumulateDlg::onOKBtbClicked()
 {
     if (m_pDialog)
         m_pDialog->close();
-}
-
-QString AccumulateDlg::checkLeapYear(int year)
-{
-    Log::line("Enter: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    const bool isLeapYear = year % 400 == 0 || (year % 4 == 0 && year % 100 != 0);
-    Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    return QLatin1String(isLeapYear ? "29" : "28");
-}
-
-void AccumulateDlg::setDateRange(QString year, int month)
-{
-    Log::line("Enter: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    const QString range = dateRange(year, month);
-    if (Log::isMissing(m_pDialog, sourcePath, __func__, __LINE__))
-        return;
-    m_pDialog->setWindowTitle(tr(QLatin1String("IDS_TITLE_TOTAL")) + QLatin1String(" ( ") + range +
-                              QLatin1String(" ) "));
-    Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-}
-
-/// First and last day of a month; empty for a month that is none.
-QString AccumulateDlg::dateRange(const QString &year, int month)
-{
-    static const char *const lastDays[] = {"31", nullptr, "31", "30", "31", "30",
-                                           "31", "31",    "30", "31", "30", "31"};
-    if (month < 1 || month > 12)
-        return QString();
-    const QString lastDay =
-        month == 2 ? checkLeapYear(year.toInt()) : QString(QLatin1String(lastDays[month - 1]));
-    const QString monthAndYear = QString::asprintf("/%02d/", month) + year;
-    // December's two blanks after the dash are meant.
-    const QLatin1String joiner(month == 12 ? " -  " : " - ");
-    return QLatin1String("01") + monthAndYear + joiner + lastDay + monthAndYear;
-}
-
-/// Empties the profile combo box; the name is the one that callers know.
-void AccumulateDlg::removeTimeComboElements()
-{
-    Log::line("Enter: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    if (Log::isMissing(m_pProfileSelectionComboBox, sourcePath, __func__, __LINE__))
-        return;
-    for (int left = m_pProfileSelectionComboBox->count(); left > 0; --left)
-        m_pProfileSelectionComboBox->removeItem(0);
-    Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-}
-
-/// The store that the dialog was opened with, while it lives.
-NetInfoRecordLogic *AccumulateDlg::recordLogic() const
-{
-    return m_pRecordLogic == NetInfoRecordLogic::current() ? m_pRecordLogic : nullptr;
-}
-
-void AccumulateDlg::fillComboBoxItem()
-{
-    Log::line("Enter: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    m_dialogRecords = {};
-    if (Log::isMissing(recordLogic(), sourcePath, __func__, __LINE__) ||
-        Log::isMissing(m_pProfileSelectionComboBox, sourcePath, __func__, __LINE__))
-        return;
-    removeTimeComboElements();
-    const QDateTime time = m_pCurrentDateTime();
-#ifdef NETINFORECORD_WIRE_STATISTICS
-    m_pRecordLogic->updateStatistics(time.date());
-#endif
-    m_currentPeriod = periodOf(time);
-    const QVector<AccumulateDialogRecord> &rows = m_pRecordLogic->m_accumulateRecords;
-    if (rows.isEmpty())
-        insertProfile(0, tr(QLatin1String("IDS_COMBO_ALLAPN")));
-    const Period period = filterPeriod(monthIndex());
-    for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
-        const AccumulateDialogRecord row = rows.at(i);
-        // The first row, for all profiles, is listed in every month.
-        if (i > 0 &&
-            (yearOf(row.periodStamp) != period.year || monthOf(row.periodStamp) != period.month))
-            continue;
-        insertProfile(i, i == 0 ? tr(row.profileName) : row.profileName);
-        m_dialogRecords.append(row);
-    }
-    Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-}
-
-void AccumulateDlg::insertProfile(int position, const QString &text)
-{
-    m_pProfileSelectionComboBox->insertItem(position, QIcon(), text, QVariant());
-}
-
-/// The chosen month, -1 without a month combo box.
-int AccumulateDlg::monthIndex() const
-{
-    return m_pMonthSelectionComboBox ? m_pMonthSelectionComboBox->currentIndex() : -1;
-}
-
-AccumulateDlg::Period AccumulateDlg::periodOf(const QDateTime &time)
-{
-    const QString stamp = QLocale::c().toString(time, QLatin1String("yyyyMMddhhmmss"));
-    return {yearOf(stamp), monthOf(stamp)};
-}
-
-/// Year and month as texts that per-profile rows are held against. Across a
-/// year's boundary the month becomes a control character behind a zero, which
-/// no row matches; that is meant.
-AccumulateDlg::Period AccumulateDlg::filterPeriod(int monthIndex) const
-{
-    Period period = m_currentPeriod;
-    if (monthIndex != 1 && monthIndex != 2)
-        return period;
-    const int month = period.month.toInt();
-    if (month > monthIndex) {
-        period.month = QString::number(month - monthIndex);
-    } else {
-        period.year = yearBefore(period.year);
-        period.month = QChar(month - monthIndex + 12);
-    }
-    if (period.month.size() == 1)
-        period.month.prepend(QLatin1Char('0'));
-    return period;
-}
-
-/// The title counts months with integers and is right across a year's boundary.
-void AccumulateDlg::setTitleOfMonth(int monthIndex)
-{
-    if (monthIndex < 0 || monthIndex > 2)
-        return;
-    const int month = m_currentPeriod.month.toInt() - monthIndex;
-    if (month >= 1)
-        setDateRange(m_currentPeriod.year, month);
-    else
-        setDateRange(yearBefore(m_currentPeriod.year), month + 12);
-}
-
-AccumulateDlg::Figures AccumulateDlg::figuresOf(const AccumulateDialogRecord &record,
-                                                int monthIndex)
-{
-    switch (monthIndex) {
-    case 0:
-        return {record.uploadedThisMonth, record.downloadedThisMonth, record.secondsThisMonth};
-    case 1:
-        return {record.uploadedLastMonth, record.downloadedLastMonth, record.secondsLastMonth};
-    case 2:
-        return {record.uploadedMonthBeforeLast, record.downloadedMonthBeforeLast,
-                record.secondsMonthBeforeLast};
-    default:
-        return {};
-    }
-}
-
-bool AccumulateDlg::isAnyLabelMissing(const char *function) const
-{
-    return Log::isMissing(m_pUploadedData, sourcePath, function, __LINE__) ||
-           Log::isMissing(m_pUploadedValue, sourcePath, function, __LINE__) ||
-           Log::isMissing(m_pDownloadedValue, sourcePath, function, __LINE__) ||
-           Log::isMissing(m_pDownloadedData, sourcePath, function, __LINE__) ||
-           Log::isMissing(m_pTransferTime, sourcePath, function, __LINE__) ||
-           Log::isMissing(m_pTransferTimeValue, sourcePath, function, __LINE__);
-}
-
-void AccumulateDlg::showFigures(const Figures &figures)
-{
-    // A time of day from midnight: a day or more wraps around; that is meant.
-    const QTime time = QTime(0, 0).addSecs(figures.seconds.toInt());
-    m_pUploadedValue->setText(figures.uploaded + QLatin1Char(' ') +
-                              tr(QLatin1String("IDS_STC_SINGLEPACKET_UNIT")));
-    m_pDownloadedValue->setText(figures.downloaded + QLatin1Char(' ') +
-                                tr(QLatin1String("IDS_STC_SINGLEPACKET_UNIT")));
-    // Of the C locale: some versions of Qt would take the user's digits.
-    m_pTransferTimeValue->setText(QLocale::c().toString(time, QLatin1String("hh:mm:ss")));
-    m_pFormLayout->setContentsMargins(10, 20, 10, 10);
-    m_pFormLayout->setSpacing(10);
-    // Added again at every refresh: the layout's row count grows by three.
-    m_pFormLayout->addRow(m_pUploadedData, m_pUploadedValue);
-    m_pFormLayout->addRow(m_pDownloadedData, m_pDownloadedValue);
-    m_pFormLayout->addRow(m_pTransferTime, m_pTransferTimeValue);
-}
-
-void AccumulateDlg::onSelectComboItemOfTime(int monthIndex)
-{
-    Log::line("Entered: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    if (Log::isMissing(recordLogic(), sourcePath, __func__, __LINE__))
-        return;
-    fillComboBoxItem();
-    if (Log::isMissing(m_pProfileSelectionComboBox, sourcePath, __func__, __LINE__) ||
-        Log::isMissing(m_pFormLayout, sourcePath, __func__, __LINE__) ||
-        Log::isMissing(recordLogic(), sourcePath, __func__, __LINE__))
-        return;
-    const AccumulateDialogRecord record =
-        m_dialogRecords.value(m_pProfileSelectionComboBox->currentIndex());
-    setTitleOfMonth(monthIndex);
-    if (isAnyLabelMissing(__func__))
-        return;
-    showFigures(figuresOf(record, monthIndex));
-    Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-}
-
-void AccumulateDlg::onSelectComboItemOfProfile(int profileIndex)
-{
-    Log::line("Enter: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
-    fillComboBoxItem();
-    if (m_pProfileSelectionComboBox)
-        m_pProfileSelectionComboBox->setCurrentIndex(profileIndex);
-    if (Log::isMissing(m_pMonthSelectionComboBox, sourcePath, __func__, __LINE__) ||
-        Log::isMissing(recordLogic(), sourcePath, __func__, __LINE__) ||
-        Log::isMissing(m_pFormLayout, sourcePath, __func__, __LINE__))
-        return;
-    const AccumulateDialogRecord record = m_dialogRecords.value(profileIndex);
-    if (isAnyLabelMissing(__func__))
-        return;
-    showFigures(figuresOf(record, monthIndex()));
-    Log::line("Exit: %s: %s: %d: %s:", sourcePath, __func__, __LINE__, now);
 }

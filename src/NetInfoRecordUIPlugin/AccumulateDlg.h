@@ -9,7 +9,6 @@
 #include <QString>
 #include <QVector>
 
-#include <initializer_list>
 #include <memory>
 
 class ExtendDialog;
@@ -23,7 +22,9 @@ class QVBoxLayout;
 class QWidget;
 
 /// The statistics dialog: totals of a profile in this month, the last one or the
-/// one before. One instance per process, GUI thread only.
+/// one before. One instance per process, GUI thread only. Its frame and widgets are in
+/// AccumulateDlg.cpp, the months that it counts and lists in AccumulateMonths.cpp, what
+/// it shows of a choice in AccumulateFigures.cpp.
 class AccumulateDlg : public QObject
 {
     Q_OBJECT
@@ -50,7 +51,10 @@ public Q_SLOTS:
     void onSelectComboItemOfProfile(int profileIndex);
 
 private:
+    friend class AccumulateDlgTest;
     friend class tst_AccumulateDlg;
+    friend class tst_AccumulateMonths;
+    friend class tst_AccumulateFigures;
 
     struct Figures {
         QString uploaded;
@@ -66,7 +70,6 @@ private:
     ~AccumulateDlg() override;
 
     void init();
-    static bool areAllPresent(std::initializer_list<const QObject *> objects, int line);
     bool createSelection(std::unique_ptr<QVBoxLayout> &vertical);
     bool createStatistics(QVBoxLayout *vertical);
     bool createButton(QVBoxLayout *vertical);

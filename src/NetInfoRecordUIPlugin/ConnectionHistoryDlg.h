@@ -35,7 +35,9 @@ protected:
 /// The history window: the table of past connections with its deletion, and the
 /// summary of the connection that has just ended. The object itself is never
 /// shown; what is visible lives under a container widget that goes into the
-/// host's area. One instance per process, GUI thread only.
+/// host's area. One instance per process, GUI thread only. The window itself is in
+/// ConnectionHistoryDlg.cpp; its rows, its menu, the deletion and the summary each in
+/// the History*.cpp of that name.
 class ConnectionHistoryDlg : public QWidget
 {
     Q_OBJECT
@@ -90,7 +92,7 @@ private:
     struct SummaryLayouts;
 
     /// What is selected: how many cells, and which of them lead to a record. The
-    /// toolkit's own list of selected cells takes much longer to make.
+    /// list that Qt makes of selected cells takes much longer to make.
     struct Selection {
         void addRow(const QTableWidget &table, int row, const QItemSelectionRange &range);
 

@@ -10,12 +10,22 @@
 
 #include <algorithm>
 
-using Log::now;
+using Log::Details;
 
 namespace
 {
 
-const char sourcePath[] = "../../src/NetInfoRecordUIPlugin/NetInfoRecordLogic";
+constexpr Log::Form request{"Start: %s: %s: %s %d", "End: %s: %s: %s %d", Details::TimeThenPlace};
+constexpr Log::Form fetch{"Start: %s: %s: %s %d", "Exit: %s: %s: %s %d", Details::TimeThenPlace};
+constexpr Log::Form conversion{"Enter: %s: %s: %s %d", "Exit: %s: %s: %s %d",
+                               Details::TimeThenPlace};
+constexpr Log::Form deletion{"Enter: %s: %s: %s %d", "End: %s: %s: %s %d", Details::TimeThenPlace};
+
+// The blank missing after "Finished" is part of the line.
+constexpr char removing[] =
+    "=======> %s: %s: %s: %d: Calling KORA_Statistics_ConnRecord_RemoveRecord ()";
+constexpr char removed[] =
+    "<======= %s: %s: %s: %d: FinishedKORA_Statistics_ConnRecord_RemoveRecord (), retVal=%ld";
 
 double kilobytes(double bytes)
 {
@@ -36,63 +46,67 @@ NetInfoRecordLogic *NetInfoRecordLogic::m_pNetInfoRecordLogicInst = nullptr;
 
 NetInfoRecordLogic::NetInfoRecordLogic()
 {
-    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 34);
-    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 36);
+    const Log::Operation log(Log::instance, Log::netInfoRecordLogic, __func__);
+    log.entry(34);
+    log.exit(36);
 }
 
 NetInfoRecordLogic::~NetInfoRecordLogic()
 {
-    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 58);
-    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 60);
+    const Log::Operation log(Log::instance, Log::netInfoRecordLogic, __func__);
+    log.entry(58);
+    log.exit(60);
 }
 
 NetInfoRecordLogic *NetInfoRecordLogic::Instance()
 {
-    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 85);
+    const Log::Operation log(Log::instance, Log::netInfoRecordLogic, __func__);
+    log.entry(85);
     if (!m_pNetInfoRecordLogicInst)
         m_pNetInfoRecordLogicInst = new NetInfoRecordLogic;
-    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 91);
+    log.exit(91);
     return m_pNetInfoRecordLogicInst;
 }
 
 void NetInfoRecordLogic::Destroy()
 {
-    Log::line("Start  : %s: %s: %s %d", now, sourcePath, __func__, 111);
+    const Log::Operation log(Log::destroy, Log::netInfoRecordLogic, __func__);
+    log.entry(111);
     delete m_pNetInfoRecordLogicInst;
     m_pNetInfoRecordLogicInst = nullptr;
-    Log::line("End  : %s: %s: %s %d", now, sourcePath, __func__, 115);
+    log.exit(115);
 }
 
 bool NetInfoRecordLogic::GetLastConnectedRecord()
 {
-    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 169);
+    const Log::Operation log(request, Log::netInfoRecordLogic, __func__);
+    log.entry(169);
     _KORA_ST_CONNRECORD record = {};
-    Log::line("=======> %s: %s: %s: %d: Calling KORA_Statistics_GetLastConnRecord()", now,
-              sourcePath, __func__, 177);
+    log.line("=======> %s: %s: %s: %d: Calling KORA_Statistics_GetLastConnRecord()", 177);
     const int status = KORA_Statistics_GetLastConnRecord(&record);
-    Log::line("<======= %s: %s: %s: %d: Finished KORA_Statistics_GetLastConnRecord(), retVal=%ld",
-              now, sourcePath, __func__, 182, static_cast<long>(status));
+    log.line("<======= %s: %s: %s: %d: Finished KORA_Statistics_GetLastConnRecord(), retVal=%ld",
+             182, static_cast<long>(status));
     const bool succeeded = status == 0;
     if (succeeded)
         convertFields(record, m_lastRecord);
-    Log::line("End: %s: %s: %s %d", now, sourcePath, __func__, 233);
+    log.exit(233);
     return succeeded;
 }
 
 bool NetInfoRecordLogic::GetAllConnectedRecords()
 {
-    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 253);
+    const Log::Operation log(fetch, Log::netInfoRecordLogic, __func__);
+    log.entry(253);
     _KORA_ST_CONNRECORD *records = nullptr;
     int count = 0;
-    Log::line("=======> %s: %s: %s: %d: Calling KORA_Statistics_GetAllConnRecord()", now,
-              sourcePath, __func__, 263);
+    log.line("=======> %s: %s: %s: %d: Calling KORA_Statistics_GetAllConnRecord()", 263);
     const int status = KORA_Statistics_GetAllConnRecord(&records, &count);
-    Log::line("<======= %s: %s: %s: %d: Finished KORA_Statistics_GetAllConnRecord(), retVal=%ld",
-              now, sourcePath, __func__, 269, static_cast<long>(status));
+    log.line("<======= %s: %s: %s: %d: Finished KORA_Statistics_GetAllConnRecord(), retVal=%ld",
+             269, static_cast<long>(status));
     const bool succeeded = status == 0;
     if (succeeded) {
-        // A null array has no second element to go on to: its first one is
-        // reported as missing, and that is all.
+        // A null array has no second element: its first one is reported as missing,
+        // and that is all.
         const int convertible = records ? count : std::min(count, 1);
         for (int i = 0; i < convertible; ++i)
             populateSDKtoUIStructure(i, records ? records + i : nullptr);
@@ -105,20 +119,21 @@ bool NetInfoRecordLogic::GetAllConnectedRecords()
 #endif
     }
     KORA_Statistics_ReleaseConnRecord(records);
-    Log::line("Exit: %s: %s: %s %d", now, sourcePath, __func__, 282);
+    log.exit(282);
     return succeeded;
 }
 
 void NetInfoRecordLogic::populateSDKtoUIStructure(int id, const _KORA_ST_CONNRECORD *record)
 {
-    Log::line("Enter: %s: %s: %s %d", now, sourcePath, __func__, 302);
-    if (Log::isMissing(record, sourcePath, __func__, 304))
+    const Log::Operation log(conversion, Log::netInfoRecordLogic, __func__);
+    log.entry(302);
+    if (log.isMissing(record, 304))
         return;
     auto *converted = new ConnectionRecord;
     converted->m_nRecordId = id;
     convertFields(*record, *converted);
     m_records.insert(id, converted);
-    Log::line("Exit: %s: %s: %s %d", now, sourcePath, __func__, 352);
+    log.exit(352);
 }
 
 void NetInfoRecordLogic::convertFields(const _KORA_ST_CONNRECORD &from, ConnectionRecord &to)
@@ -135,35 +150,30 @@ void NetInfoRecordLogic::convertFields(const _KORA_ST_CONNRECORD &from, Connecti
 
 bool NetInfoRecordLogic::DeleteRecord(int id)
 {
-    Log::line("Enter: %s: %s: %s %d", now, sourcePath, __func__, 370);
-    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 372);
-    Log::line("=======> %s: %s: %s: %d: Calling KORA_Statistics_ConnRecord_RemoveRecord ()", now,
-              sourcePath, __func__, 377);
+    const Log::Operation log(deletion, Log::netInfoRecordLogic, __func__);
+    log.entry(370);
+    log.line("Start: %s: %s: %s %d", 372);
+    log.line(removing, 377);
     const int status = KORA_Statistics_ConnRecord_RemoveRecord(id);
-    // The blank missing after "Finished" is part of the line, here and below.
-    Log::line("<======= %s: %s: %s: %d: FinishedKORA_Statistics_ConnRecord_RemoveRecord (), "
-              "retVal=%ld",
-              now, sourcePath, __func__, 383, static_cast<long>(status));
-    Log::line("End: %s: %s: %s %d", now, sourcePath, __func__, 390);
+    log.line(removed, 383, static_cast<long>(status));
+    log.exit(390);
     return status == 0;
 }
 
 bool NetInfoRecordLogic::DeleteAll()
 {
-    Log::line("Start: %s: %s: %s %d", now, sourcePath, __func__, 410);
-    Log::line("=======> %s: %s: %s: %d: Calling KORA_Statistics_ConnRecord_RemoveRecord ()", now,
-              sourcePath, __func__, 415);
+    const Log::Operation log(request, Log::netInfoRecordLogic, __func__);
+    log.entry(410);
+    log.line(removing, 415);
     bool anyRemoved = false;
     const auto count = m_records.size();
     for (auto i = count; i > 0; --i) {
         // Always index 0, of which the SDK takes the first record that is left.
         const int status = KORA_Statistics_ConnRecord_RemoveRecord(0);
-        Log::line("<======= %s: %s: %s: %d: FinishedKORA_Statistics_ConnRecord_RemoveRecord (), "
-                  "retVal=%ld",
-                  now, sourcePath, __func__, 423, static_cast<long>(status));
+        log.line(removed, 423, static_cast<long>(status));
         anyRemoved = anyRemoved || status == 0;
     }
-    Log::line("End: %s: %s: %s %d", now, sourcePath, __func__, 431);
+    log.exit(431);
     return anyRemoved;
 }
 
@@ -200,7 +210,7 @@ void NetInfoRecordLogic::updateStatistics(const QDate &today)
 
 void NetInfoRecordLogic::convertTimeToString(qint64 seconds, QString &out)
 {
-    Log::line("%s: %s: %s: Entered", now, sourcePath, __func__);
+    Log::line("%s: %s: %s: Entered", Log::now, Log::netInfoRecordLogic, __func__);
     const qint64 rest = seconds % 3600;
     ShortText text;
     addTwoDigits(text, seconds / 3600);
@@ -209,7 +219,7 @@ void NetInfoRecordLogic::convertTimeToString(qint64 seconds, QString &out)
     text.add(':');
     addTwoDigits(text, rest % 60);
     out = text.toString();
-    Log::line("%s: %s: %s %d: Exit", now, sourcePath, __func__, 457);
+    Log::line("%s: %s: %s %d: Exit", Log::now, Log::netInfoRecordLogic, __func__, 457);
 }
 
 QString NetInfoRecordLogic::TransformUnits(double kilobytes)

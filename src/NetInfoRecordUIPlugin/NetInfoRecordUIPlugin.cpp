@@ -11,14 +11,11 @@
 #include <QByteArray>
 #include <QSysInfo>
 
-using Log::now;
-
 int NET_INFO_RECORD_VERSION = 257;
 
 namespace
 {
 
-const char sourcePath[] = "../../src/NetInfoRecordUIPlugin/NetInfoRecordUIPlugin";
 const char buildTime[] = __TIME__;
 
 // Not literals of the library's own memory, here and wherever a text goes to
@@ -35,13 +32,15 @@ enum HostEvent : unsigned int {
 
 enum ConnectionStatusValue : unsigned int { Disconnected = 0, Connected = 1 };
 
+// The exit line repeats the entry's wording: log readers rely on it.
+constexpr Log::Form startOfTwice{Log::startOf.entry, Log::startOf.entry, Log::Details::Place};
+
 // One for the whole module: a connection has been seen since the last summary.
 bool s_bWasConnected = false;
 
 } // namespace
 
-/// The text that older loaders of the toolkit check before they resolve the
-/// instance function.
+/// The text that older loaders of Qt check before they resolve the instance function.
 extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()
 {
     static const QByteArray text = "pattern=QT_PLUGIN_VERIFICATION_DATA\n"
@@ -55,77 +54,84 @@ extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()
 NetInfoRecordUIPlugin::NetInfoRecordUIPlugin()
 {
     // This one line has no colon after the path; log readers know it so.
-    Log::line("Start File: %s %s: %d: %s:", sourcePath, __func__, 48, buildTime);
+    const Log::Operation log(Log::startFile, Log::netInfoRecordUIPlugin, __func__, buildTime);
+    log.entry(48);
     m_pLogic = NetInfoRecordLogic::Instance();
     m_pHistoryDlg = ConnectionHistoryDlg::Instance();
-    Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 53, buildTime);
+    log.exit(53);
 }
 
 NetInfoRecordUIPlugin::~NetInfoRecordUIPlugin() = default;
 
 bool NetInfoRecordUIPlugin::ShowWindow(QWidget *parent, QRect &rect)
 {
-    Log::line("Start File: %s: %s: %d: %s:", sourcePath, __func__, 71, buildTime);
+    const Log::Operation log(Log::startFileColon, Log::netInfoRecordUIPlugin, __func__, buildTime);
+    log.entry(71);
     if (m_pHistoryDlg) {
         m_rcWindow = rect;
         m_pHistoryDlg->ShowWindow(parent, m_rcWindow);
     }
     m_bShown = true;
-    Log::line("End File: %s: %s: %d: %s:", sourcePath, __func__, 79, buildTime);
+    log.exit(79);
     return true;
 }
 
 bool NetInfoRecordUIPlugin::Init()
 {
-    Log::line("Start of %s: %s: %d: ", sourcePath, __func__, 114);
+    const Log::Operation log(Log::startOf, Log::netInfoRecordUIPlugin, __func__);
+    log.entry(114);
     if (m_pHistoryDlg)
         m_pHistoryDlg->Init();
-    Log::line("End of %s: %s: %d: ", sourcePath, __func__, 121);
+    log.exit(121);
     return true;
 }
 
 int NetInfoRecordUIPlugin::DoModal()
 {
-    Log::line("Start of %s: %s: %d: ", sourcePath, __func__, 173);
+    const Log::Operation log(Log::startOf, Log::netInfoRecordUIPlugin, __func__);
+    log.entry(173);
     ShowWindow(nullptr, m_rcWindow);
-    Log::line("End of %s: %s: %d: ", sourcePath, __func__, 177);
+    log.exit(177);
     return 0;
 }
 
 void NetInfoRecordUIPlugin::Hide()
 {
-    Log::line("Start of %s: %s: %d: ", sourcePath, __func__, 195);
+    const Log::Operation log(Log::startOf, Log::netInfoRecordUIPlugin, __func__);
+    log.entry(195);
     if (m_pHistoryDlg)
         m_pHistoryDlg->Hide();
-    Log::line("End of %s: %s: %d: ", sourcePath, __func__, 202);
+    log.exit(202);
 }
 
 void NetInfoRecordUIPlugin::FitSize(QRect &rect)
 {
-    Log::line("Start of %s: %s: %d: ", sourcePath, __func__, 219);
+    const Log::Operation log(Log::startOf, Log::netInfoRecordUIPlugin, __func__);
+    log.entry(219);
     if (m_pHistoryDlg) {
         m_rcWindow = rect;
-        // The caller's own rectangle goes on, unlike in ShowWindow; that is meant.
+        // The caller's own rectangle is handed on, unlike in ShowWindow; that is meant.
         m_pHistoryDlg->FitSize(rect);
     }
-    Log::line("End of %s: %s: %d: ", sourcePath, __func__, 225);
+    log.exit(225);
 }
 
 bool NetInfoRecordUIPlugin::ChangeLang(const QString &language)
 {
-    Log::line("Start of %s: %s: %d: ", sourcePath, __func__, 244);
+    const Log::Operation log(startOfTwice, Log::netInfoRecordUIPlugin, __func__);
+    log.entry(244);
     if (language.isEmpty()) {
-        Log::line("Empty String %s: %s: %d: ", sourcePath, __func__, 248);
+        log.line("Empty String %s: %s: %d: ", 248);
         return false;
     }
-    // The exit line repeats the entry wording: log readers rely on it.
-    Log::line("Start of %s: %s: %d: ", sourcePath, __func__, 252);
+    log.exit(252);
     return true;
 }
 
 unsigned int NetInfoRecordUIPlugin::Notify(unsigned int event, unsigned int param1, unsigned int)
 {
-    Log::line("Start of %s: %s: %d: ", sourcePath, __func__, 273);
+    const Log::Operation log(startOfTwice, Log::netInfoRecordUIPlugin, __func__);
+    log.entry(273);
     if (!m_pHistoryDlg)
         return 0;
     switch (event) {
@@ -141,19 +147,18 @@ unsigned int NetInfoRecordUIPlugin::Notify(unsigned int event, unsigned int para
     default:
         break;
     }
-    // The exit line repeats the entry wording: log readers rely on it.
-    Log::line("Start of %s: %s: %d: ", sourcePath, __func__, 313);
+    log.exit(313);
     return 0;
 }
 
 void NetInfoRecordUIPlugin::onConnectionReceived(unsigned int status)
 {
-    if (Log::isMissing(m_pLogic, sourcePath, __func__, 335) ||
-        Log::isMissing(m_pHistoryDlg, sourcePath, __func__, 336) || !hasDialupService())
+    const Log::Place log{Log::netInfoRecordUIPlugin, __func__};
+    if (log.isAnyMissing({m_pLogic, m_pHistoryDlg}, 335) || !hasDialupService())
         return;
     if (status == Connected)
         s_bWasConnected = true;
-    Log::line("Status after connection: %s %s %d", sourcePath, __func__, status);
+    Log::line("Status after connection: %s %s %d", log.path, log.function, status);
     if (status != Disconnected || !s_bWasConnected || m_bSuppressNotice)
         return;
 
@@ -175,30 +180,31 @@ void NetInfoRecordUIPlugin::onConnectionReceived(unsigned int status)
 /// nothing of that service is called.
 bool NetInfoRecordUIPlugin::hasDialupService() const
 {
-    const char function[] = "onConnectionReceived";
+    const Log::Place log{Log::netInfoRecordUIPlugin, "onConnectionReceived"};
     IPluginContainer *container = Startup::GetPluginContainer();
-    if (Log::isMissing(container, sourcePath, function, 346))
+    if (log.isMissing(container, 346))
         return false;
     QObject *dialup =
         container->GetPlugin(QLatin1String("92804312-432E-401F-96BB-1C20D852815D"), 16401);
-    if (Log::isMissing(dialup, sourcePath, function, 348))
+    if (log.isMissing(dialup, 348))
         return false;
     const void *service = dialup->qt_metacast("com.quorin.skylarkdialer.plugin.IDialupUIService");
-    return !Log::isMissing(service, sourcePath, function, 350);
+    return !log.isMissing(service, 350);
 }
 
 void NetInfoRecordUIPlugin::OnDestroy()
 {
-    Log::line("Start: %s %s: %d: %s:", sourcePath, __func__, 487, now);
+    const Log::Operation log(Log::start, Log::netInfoRecordUIPlugin, __func__);
+    log.entry(487);
     ConnectionHistoryDlg::Destroy();
     NetInfoRecordLogic::Destroy();
-    Log::line("End: %s %s: %d: %s:", sourcePath, __func__, 490, now);
+    log.exit(490);
 }
 
 void NetInfoRecordUIPlugin::UnSDKRegisterEvent()
 {
-    Log::line("%s: %s called", sourcePath, __func__);
-    Log::line("%s: %s exit", sourcePath, __func__);
+    Log::line("%s: %s called", Log::netInfoRecordUIPlugin, __func__);
+    Log::line("%s: %s exit", Log::netInfoRecordUIPlugin, __func__);
 }
 
 void NetInfoRecordUIPlugin::Release() {}

@@ -29,7 +29,7 @@ QString bounded(const char16_t (&field)[Size])
 }
 
 /// The number of a text that is one to fifteen ASCII digits and nothing else:
-/// the rule among these fields, read without the toolkit's care for others.
+/// the rule among these fields, read without Qt's care for others.
 template <std::size_t Size>
 std::optional<qint64> plainNumber(const char (&field)[Size])
 {

@@ -12,8 +12,8 @@ namespace
 
 constexpr int textLength = 14;
 
-// The years in which the toolkit and the C library agree about local time; for
-// later ones older versions of the toolkit take the rules of another year.
+// The years in which Qt and the C library agree about local time; for
+// later ones older versions of Qt take the rules of another year.
 constexpr int firstYear = 1971;
 constexpr int lastYear = 2036;
 constexpr std::time_t endOfAgreement = 2145916800; // of 2037, in UTC

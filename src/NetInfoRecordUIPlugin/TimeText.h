@@ -4,10 +4,9 @@
 #include <QDateTime>
 #include <QString>
 
-/// Local times as texts "yyyyMMddhhmmss". Both ways give exactly what the
-/// toolkit gives for this format (of() what it gives for the C locale), in a
-/// fraction of its time: the common cases are done here, and the toolkit is asked
-/// about all others.
+/// Local times as texts "yyyyMMddhhmmss". Both ways give exactly what Qt gives for this
+/// format (of() what it gives for the C locale), in a fraction of its time: the common
+/// cases are done here, and Qt is asked about all others.
 namespace TimeText
 {
 

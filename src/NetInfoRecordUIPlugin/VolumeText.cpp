@@ -16,7 +16,7 @@ QString VolumeText::of(double number, const char *unit)
     const bool isExact = !std::signbit(number) && number < limit && parts == std::floor(parts);
     const quint64 scaled = isExact ? static_cast<quint64>(parts) * 100 : 0;
     const quint64 rest = scaled % partsOfOne;
-    if (!isExact || rest == partsOfOne / 2) // the toolkit decides where a tie goes
+    if (!isExact || rest == partsOfOne / 2) // Qt decides where a tie goes
         return QString::asprintf("%.2f", number) + QLatin1String(unit);
 
     const quint64 hundredths = (scaled >> partBits) + (rest > partsOfOne / 2 ? 1 : 0);
