@@ -36,7 +36,7 @@ void *operator new(std::size_t size, const std::nothrow_t & /*tag*/) noexcept
 }
 
 /// What the window does when one of its parts cannot be created: it says so and
-/// goes on without.
+/// continues without.
 class tst_FailedCreations : public QObject
 {
     Q_OBJECT

@@ -29,7 +29,7 @@ bool isReadAlike(const QByteArray &text)
     const double actual = SdkText::real(field.text);
     bool isNumber = false;
     const double value = asText.toDouble(&isNumber);
-    const double expected = isNumber ? value : 0.0; // the toolkit's may be infinite
+    const double expected = isNumber ? value : 0.0; // Qt's may be infinite
     const bool isSameReal = actual == expected || (std::isnan(actual) && std::isnan(expected));
     if (SdkText::integer(field.text) == asText.toInt() && isSameReal &&
         std::signbit(actual) == std::signbit(expected))

@@ -51,8 +51,8 @@ bool isSameTime(const QDateTime &actual, const QDateTime &expected)
            actual.isDaylightTime() == expected.isDaylightTime() && actual == expected;
 }
 
-/// Whether the text is parsed as the toolkit does it; reports it otherwise. For
-/// an hour that comes twice the toolkit takes the one or the other, depending on
+/// Whether the text is parsed as Qt does it; reports it otherwise. For
+/// an hour that comes twice Qt takes the one or the other, depending on
 /// what it was asked before: then both of its answers are good.
 bool isParsedAlike(const QString &text)
 {
@@ -64,15 +64,15 @@ bool isParsedAlike(const QString &text)
     return false;
 }
 
-/// The same for writing; in far years the toolkit wavers likewise.
+/// The same for writing; in far years Qt wavers likewise.
 bool isWrittenAlike(quint32 seconds)
 {
-    const auto toolkitText = [seconds] {
+    const auto qtText = [seconds] {
         return QLocale::c().toString(QDateTime::fromSecsSinceEpoch(seconds), format);
     };
-    const QString expected = toolkitText();
+    const QString expected = qtText();
     const QString actual = TimeText::of(seconds);
-    if (actual == expected || actual == toolkitText())
+    if (actual == expected || actual == qtText())
         return true;
     qWarning() << "in" << qgetenv("TZ") << seconds << "gave" << actual << "and not" << expected;
     return false;
