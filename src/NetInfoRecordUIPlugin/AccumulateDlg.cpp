@@ -22,7 +22,7 @@ namespace
 {
 
 const char buildTime[] = __TIME__;
-constexpr Log::Place initPlace{Log::accumulateDlg, "init"};
+constexpr Log::Place initPlace(Log::accumulateDlg, "init");
 constexpr Log::Form listenerForm{
     "Entered: %s: %s: %d: %s:", "End: %s: %s: %d: %s:", Log::Details::PlaceThenTime};
 

@@ -28,7 +28,7 @@ AccumulateDlg::Figures AccumulateDlg::figuresOf(const AccumulateDialogRecord &re
 
 bool AccumulateDlg::isAnyLabelMissing(const char *function) const
 {
-    const Log::Place log{Log::accumulateDlg, function};
+    const Log::Place log(Log::accumulateDlg, function);
     return log.isAnyMissing({m_pUploadedData, m_pUploadedValue, m_pDownloadedValue,
                              m_pDownloadedData, m_pTransferTime, m_pTransferTimeValue},
                             __LINE__);

@@ -209,7 +209,7 @@ void ConnectionHistoryDlg::Init()
 
 bool ConnectionHistoryDlg::buildLayout()
 {
-    const Log::Place log{Log::connectionHistoryDlg, "Init"};
+    const Log::Place log(Log::connectionHistoryDlg, "Init");
     if (log.isAnyMissing({m_pConnectionTblTreeWidget, m_pContainerWidget}, 444))
         return false;
     m_pConnectionTblTreeWidget->setObjectName(QLatin1String("m_pConnectionTblTreeWidget"));

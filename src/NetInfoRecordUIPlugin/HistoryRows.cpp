@@ -139,7 +139,7 @@ void ConnectionHistoryDlg::ReleaseTable()
 /// that is missing; false if something is.
 bool ConnectionHistoryDlg::collectLinkedRecords()
 {
-    const Log::Place log{Log::connectionHistoryDlg, "ReleaseTable"};
+    const Log::Place log(Log::connectionHistoryDlg, "ReleaseTable");
     if (log.isAnyMissing({m_pConnectionTblTreeWidget, m_pRecordLogic}, __LINE__))
         return false;
     for (int row = 0; row < m_pConnectionTblTreeWidget->rowCount(); ++row) {

@@ -48,7 +48,7 @@ void ConnectionHistoryDlg::deleteSummary()
 /// Creates every object of the summary, then looks for the first missing one.
 bool ConnectionHistoryDlg::createSummary(QWidget *parent, SummaryLayouts &layouts)
 {
-    const Log::Place log{Log::connectionHistoryDlg, "ShowDialogOfLastConnectedRecord"};
+    const Log::Place log(Log::connectionHistoryDlg, "ShowDialogOfLastConnectedRecord");
     m_pLastRecordDlg =
         new (std::nothrow) ExtendDialog(parent, Qt::WindowCloseButtonHint, enWidgetTypeDialog);
     if (log.isMissing(m_pLastRecordDlg, 943))

@@ -70,6 +70,12 @@ inline constexpr char netInfoRecordUIPlugin[] =
 
 /// A function as the lines name it.
 struct Place {
+    constexpr Place(const char *sourcePath, const char *functionName)
+        : path(sourcePath)
+        , function(functionName)
+    {
+    }
+
     /// Whether `object` is missing, which is then logged as "Arg is NULL".
     bool isMissing(const void *object, int sourceLine) const
     {
@@ -90,8 +96,8 @@ struct Place {
         return false;
     }
 
-    const char *path;
-    const char *function;
+    const char *const path;
+    const char *const function;
 };
 
 /// What a line gives besides its words: the place is path, function and line number.
@@ -128,7 +134,7 @@ class Operation : public Place
 public:
     Operation(const Form &form, const char *sourcePath, const char *functionName,
               Time time = Time())
-        : Place{sourcePath, functionName}
+        : Place(sourcePath, functionName)
         , m_form(form)
         , m_time(time)
     {

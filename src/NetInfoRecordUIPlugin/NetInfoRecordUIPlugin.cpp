@@ -153,7 +153,7 @@ unsigned int NetInfoRecordUIPlugin::Notify(unsigned int event, unsigned int para
 
 void NetInfoRecordUIPlugin::onConnectionReceived(unsigned int status)
 {
-    const Log::Place log{Log::netInfoRecordUIPlugin, __func__};
+    const Log::Place log(Log::netInfoRecordUIPlugin, __func__);
     if (log.isAnyMissing({m_pLogic, m_pHistoryDlg}, 335) || !hasDialupService())
         return;
     if (status == Connected)
@@ -180,7 +180,7 @@ void NetInfoRecordUIPlugin::onConnectionReceived(unsigned int status)
 /// nothing of that service is called.
 bool NetInfoRecordUIPlugin::hasDialupService() const
 {
-    const Log::Place log{Log::netInfoRecordUIPlugin, "onConnectionReceived"};
+    const Log::Place log(Log::netInfoRecordUIPlugin, "onConnectionReceived");
     IPluginContainer *container = Startup::GetPluginContainer();
     if (log.isMissing(container, 346))
         return false;
