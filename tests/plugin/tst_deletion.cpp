@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "LoadedPlugin.h"
+#include "DeletionTest.h"
 #include "LogCapture.h"
 #include "ScriptedHost.h"
 
@@ -7,27 +7,19 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <memory>
-
 using scripted::Host;
 
-class tst_Deletion : public QObject
+/// What a deletion asks, and what it removes in which order.
+class tst_Deletion : public DeletionTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
-    void asksNothingWithoutASelectedRow();
-    void asksNothingForLessThanARow();
     void asksWithTheseArguments();
     void asksWithTheseArgumentsForAll();
     void changesNothingWhenDeclined_data();
     void changesNothingWhenDeclined();
     void deletesTheSelectedRows();
-    void keepsSelectedRowsThatAreHidden();
-    void keepsRowsThatCannotBeSelected();
     void removesTheHigherRowFirst();
     void removesTheHigherIdentifierFirst();
     void removesTheRowEvenWhereTheSdkKeepsIt();
@@ -38,88 +30,11 @@ private Q_SLOTS:
     void findsTheRowsAgainAfterASort();
     void deletesNothingWhenTheTableWasFilledMeanwhile();
     void deletesWhatIsLeftOfRowsThatTheHostRemovedMeanwhile();
-    void keepsTheSelectionOfRowsThatStay();
-    void keepsTheSelectionWhereNothingIsDeleted();
-    void asksNothingForARowThatLacksACell();
-    void deletesRowsOfWhichOneLacksACell();
-    void asksNothingForARowWhoseCellsSpanOthers();
     void survivesTheEndDuringTheQuestion_data();
     void survivesTheEndDuringTheQuestion();
     void deletesThousandsOfRows();
     void logsItsOperations();
-
-private:
-    void start(int records);
-    void selectRows(const QList<int> &rows);
-    void trigger(const char *slot);
-    QStringList profiles() const;
-    static QStringList removals() { return Host::instance().calls.filter("RemoveRecord"); }
-
-    std::unique_ptr<LoadedPlugin> m_plugin;
 };
-
-void tst_Deletion::init()
-{
-    Host::instance().reset();
-    Host::instance().answer = [](const scripted::MessageBox &) { return 1024; };
-}
-
-void tst_Deletion::cleanup()
-{
-    m_plugin.reset();
-}
-
-void tst_Deletion::start(int records)
-{
-    for (int i = 0; i < records; ++i)
-        Host::instance().records.append(scripted::record(QString::number(i),
-                                                         QByteArray::number(1600000000 + i * 60),
-                                                         "1700000000", "60", "1", "2"));
-    m_plugin = std::make_unique<LoadedPlugin>();
-    m_plugin->show();
-    Host::instance().calls.clear();
-}
-
-void tst_Deletion::selectRows(const QList<int> &rows)
-{
-    QItemSelection selection;
-    for (int row : rows)
-        selection.select(m_plugin->table()->model()->index(row, 0),
-                         m_plugin->table()->model()->index(row, 5));
-    m_plugin->table()->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-}
-
-void tst_Deletion::trigger(const char *slot)
-{
-    QVERIFY(QMetaObject::invokeMethod(m_plugin->historyWindow(), slot));
-}
-
-QStringList tst_Deletion::profiles() const
-{
-    QStringList result;
-    for (int row = 0; row < m_plugin->table()->rowCount(); ++row)
-        result.append(m_plugin->table()->item(row, 0)->text());
-    return result;
-}
-
-void tst_Deletion::asksNothingWithoutASelectedRow()
-{
-    start(3);
-    LogCapture log;
-    trigger("onDelete");
-    QVERIFY(Host::instance().calls.isEmpty());
-    QCOMPARE(m_plugin->table()->rowCount(), 3);
-    QCOMPARE(log.take().size(), 1); // the entry; no question, no exit line
-}
-
-void tst_Deletion::asksNothingForLessThanARow()
-{
-    start(3);
-    m_plugin->table()->setSelectionBehavior(QAbstractItemView::SelectItems);
-    m_plugin->table()->setRangeSelected(QTableWidgetSelectionRange(1, 0, 1, 4), true);
-    trigger("onDelete");
-    QVERIFY(Host::instance().calls.isEmpty());
-}
 
 void tst_Deletion::asksWithTheseArguments()
 {
@@ -203,29 +118,6 @@ void tst_Deletion::deletesTheSelectedRows()
     asked.sort();
     QCOMPARE(asked, removed);
     QCOMPARE(Host::instance().calls.filter("GetAll").size(), 0); // no reload
-}
-
-void tst_Deletion::keepsSelectedRowsThatAreHidden()
-{
-    start(5);
-    const QString hidden = profiles().at(2);
-    m_plugin->table()->setRowHidden(2, true);
-    m_plugin->table()->selectAll();
-    trigger("onDelete");
-    QCOMPARE(profiles(), QStringList{hidden});
-    QCOMPARE(removals().size(), 4);
-}
-
-void tst_Deletion::keepsRowsThatCannotBeSelected()
-{
-    start(5);
-    const QString kept = profiles().at(3);
-    for (int column = 0; column < 6; ++column)
-        m_plugin->table()->item(3, column)->setFlags(Qt::ItemIsEnabled);
-    m_plugin->table()->selectAll();
-    trigger("onDelete");
-    QCOMPARE(profiles(), QStringList{kept});
-    QCOMPARE(removals().size(), 4);
 }
 
 void tst_Deletion::removesTheHigherRowFirst()
@@ -361,65 +253,6 @@ void tst_Deletion::deletesWhatIsLeftOfRowsThatTheHostRemovedMeanwhile()
     trigger("onDelete");
     QCOMPARE(removals(), QStringList{QStringLiteral("RemoveRecord(%1)").arg(third)});
     QCOMPARE(m_plugin->table()->rowCount(), 3);
-}
-
-void tst_Deletion::keepsTheSelectionOfRowsThatStay()
-{
-    start(5);
-    m_plugin->table()->setRowHidden(3, true);
-    selectRows({1, 3});
-    trigger("onDelete");
-    m_plugin->table()->setRowHidden(2, false); // one row higher now
-    const QModelIndexList selected = m_plugin->table()->selectionModel()->selectedRows();
-    QCOMPARE(int(selected.size()), 1);
-    QCOMPARE(selected.first().row(), 2);
-}
-
-void tst_Deletion::keepsTheSelectionWhereNothingIsDeleted()
-{
-    start(6);
-    m_plugin->table()->setSelectionBehavior(QAbstractItemView::SelectItems);
-    QItemSelection column(m_plugin->table()->model()->index(0, 3),
-                          m_plugin->table()->model()->index(5, 3));
-    m_plugin->table()->selectionModel()->select(column, QItemSelectionModel::ClearAndSelect);
-    trigger("onDelete");
-    QCOMPARE(int(Host::instance().messageBoxes.size()), 1);
-    QVERIFY(removals().isEmpty());
-    QCOMPARE(m_plugin->table()->selectedItems().size(), 6);
-}
-
-void tst_Deletion::asksNothingForARowThatLacksACell()
-{
-    start(3);
-    delete m_plugin->table()->takeItem(1, 3);
-    selectRows({1});
-    trigger("onDelete");
-    QVERIFY(Host::instance().calls.isEmpty());
-    QCOMPARE(m_plugin->table()->rowCount(), 3);
-}
-
-void tst_Deletion::deletesRowsOfWhichOneLacksACell()
-{
-    start(3);
-    const QString kept = profiles().at(2);
-    delete m_plugin->table()->takeItem(1, 3);
-    selectRows({0, 1});
-    LogCapture log;
-    trigger("onDelete");
-    QVERIFY(log.take().filter(QStringLiteral("Arg is NULL")).isEmpty());
-    QCOMPARE(Host::instance().messageBoxes.size(), 1);
-    QCOMPARE(removals().size(), 2);
-    QCOMPARE(profiles(), QStringList{kept});
-}
-
-void tst_Deletion::asksNothingForARowWhoseCellsSpanOthers()
-{
-    start(3);
-    m_plugin->table()->setSpan(1, 3, 1, 2);
-    selectRows({1});
-    QCOMPARE(m_plugin->table()->selectedItems().size(), 5);
-    trigger("onDelete");
-    QVERIFY(Host::instance().calls.isEmpty());
 }
 
 void tst_Deletion::survivesTheEndDuringTheQuestion_data()
