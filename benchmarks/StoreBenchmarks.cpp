@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Benchmarks.h"
 #include "KoraStatistics.h"
-#include "StatisticsStore.h"
 #include "SyncCounter.h"
+#include "history/Store.h"
 
 #include <QTemporaryDir>
 
@@ -26,11 +26,11 @@ Function *sdkFunction(const char *name)
     return reinterpret_cast<Function *>(function);
 }
 
-std::vector<refhost::Connection> connections(int count)
+std::vector<history::Connection> connections(int count)
 {
-    std::vector<refhost::Connection> result(static_cast<std::size_t>(count));
+    std::vector<history::Connection> result(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
-        refhost::Connection &connection = result[static_cast<std::size_t>(i)];
+        history::Connection &connection = result[static_cast<std::size_t>(i)];
         connection.profile = "internet" + std::to_string(i % 7) + ".example";
         connection.startUtc = 1293836400 + std::int64_t{i} * 3600;
         connection.connectedSeconds = 30 + i % 3000;
@@ -50,7 +50,7 @@ public:
         : m_path(m_folder.filePath(QStringLiteral("connections.db")).toStdString())
     {
         qputenv("NETINFO_STORE", m_path.c_str());
-        auto store = refhost::StatisticsStore::openOrCreate(m_path);
+        auto store = history::Store::openOrCreate(m_path);
         if (!store || !store.value().addMissing(connections(count)))
             qFatal("The store in %s cannot be filled.", m_path.c_str());
     }

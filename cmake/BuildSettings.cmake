@@ -21,6 +21,17 @@ if(NETINFORECORD_SANITIZE)
     target_link_options(netinforecord_settings INTERFACE -fsanitize=${NETINFORECORD_SANITIZE})
 endif()
 
+# The code of one folder, linked into whatever needs it. Others include its headers
+# by the folder's name.
+function(netinforecord_folder_library target)
+    set_target_properties(${target} PROPERTIES
+        POSITION_INDEPENDENT_CODE ON
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${target} PRIVATE netinforecord_settings)
+endfunction()
+
 # A library or module of the product: hidden symbols, found by its siblings
 # through $ORIGIN, no other path kept in it.
 function(netinforecord_private_library target)
@@ -31,6 +42,13 @@ function(netinforecord_private_library target)
         INSTALL_RPATH "$ORIGIN")
     target_link_libraries(${target} PRIVATE netinforecord_settings)
     install(TARGETS ${target} LIBRARY DESTINATION ${NETINFORECORD_PRIVATE_LIBDIR})
+endfunction()
+
+# Lets a library give away what its exports.map names, and nothing else.
+function(netinforecord_exports target)
+    set(map ${CMAKE_CURRENT_SOURCE_DIR}/exports.map)
+    target_link_options(${target} PRIVATE LINKER:--version-script=${map})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})
 endfunction()
 
 # A program of the product: finds the libraries above relative to itself.

@@ -47,7 +47,7 @@ fuzz() {
     printf '%s\n' 'sdkrecord 2176' 'csv 2048' 'store 302' 'pppd 8192' |
         xargs -P 2 -L 1 bash -c '
             found=build/fuzz/tests/found/$0 corpus=(tests/fuzz/corpus/"$0")
-            [ "$0" != pppd ] || corpus+=(tests/refhost/connrecord/data)
+            [ "$0" != pppd ] || corpus+=(tests/formats/data)
             build/fuzz/tests/fuzz_"$0" -max_total_time="$FUZZ_SECONDS" -max_len="$1" \
                 -timeout=10 -rss_limit_mb=4096 -artifact_prefix="$found-" "$found" "${corpus[@]}" \
                 >"$found.log" 2>&1 || { tail -n 40 "$found.log" >&2; exit 255; }

@@ -8,6 +8,8 @@ build=build/style
 
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
+scripts/check-includes.py
+
 licences=$(reuse lint 2>&1) || {
     printf '%s\n' "$licences" >&2
     exit 1
@@ -24,7 +26,7 @@ mkdir -p "$clean"
 check() {
     local file=$1 build=$2 stamp
     stamp=$2/tidy/${file//\//_}
-    if [ -f "$stamp" ] && [ -z "$(find "$file" .clang-tidy host src refhost tests examples \
+    if [ -f "$stamp" ] && [ -z "$(find "$file" .clang-tidy host src refhost history usage formats recorder modem apps tests examples \
         -name '*.h' -newer "$stamp" -print -quit; find "$file" .clang-tidy -newer "$stamp")" ]; then
         return 0
     fi
@@ -32,6 +34,6 @@ check() {
 }
 export -f check
 # The longest first, so that no processor waits for it at the end.
-git ls-files 'src/*.cpp' 'refhost/*.cpp' 'examples/*.cpp' |
+git ls-files 'src/*.cpp' 'refhost/*.cpp' 'history/*.cpp' 'usage/*.cpp' 'formats/*.cpp' 'recorder/*.cpp' 'modem/*.cpp' 'apps/*.cpp' 'examples/*.cpp' |
     xargs ls -S |
     xargs -P "$(nproc)" -I{} bash -c 'check "$@"' check {} "$build"

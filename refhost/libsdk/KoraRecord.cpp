@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "KoraRecord.h"
 
-#include "ConnectionTable.h"
+#include "history/ConnectionTable.h"
 
 #include <utf8.h>
 
@@ -37,8 +37,8 @@ template <std::size_t Size>
 void writeTime(std::int64_t time, char (&field)[Size])
 {
     const bool isInSecondHalf =
-        time > std::numeric_limits<std::int32_t>::max() && time <= largestTime;
-    writeNumber(isInSecondHalf ? time - largestTime - 1 : time, field);
+        time > std::numeric_limits<std::int32_t>::max() && time <= history::largestTime;
+    writeNumber(isInSecondHalf ? time - history::largestTime - 1 : time, field);
 }
 
 template <std::size_t Size>
@@ -82,7 +82,7 @@ void writeProfile(std::string_view profile, char16_t (&field)[profileUnits + 1])
 
 } // namespace
 
-void fillRecord(const ConnectionRow &row, _KORA_ST_CONNRECORD &record)
+void fillRecord(const history::ConnectionRow &row, _KORA_ST_CONNRECORD &record)
 {
     writeProfile(row.profile(), record.szProfileName);
     writeTime(row.startUtc(), record.szStartTime);

@@ -10,7 +10,7 @@
 namespace
 {
 
-using refhost::StoreError;
+using history::StoreError;
 
 refhost::StatisticsSession &session()
 {
@@ -18,26 +18,26 @@ refhost::StatisticsSession &session()
     return theSession;
 }
 
-refhost::KoraStatus statusOf(StoreError::Kind kind)
+refhost::KoraStatus statusOf(history::StoreError::Kind kind)
 {
     switch (kind) {
-    case StoreError::Kind::CannotOpen:
+    case history::StoreError::Kind::CannotOpen:
         return refhost::KoraCannotOpen;
-    case StoreError::Kind::NotAStore:
+    case history::StoreError::Kind::NotAStore:
         return refhost::KoraNotAStore;
-    case StoreError::Kind::NewerStore:
+    case history::StoreError::Kind::NewerStore:
         return refhost::KoraNewerStore;
-    case StoreError::Kind::Damaged:
+    case history::StoreError::Kind::Damaged:
         return refhost::KoraDamaged;
-    case StoreError::Kind::Locked:
+    case history::StoreError::Kind::Locked:
         return refhost::KoraLocked;
-    case StoreError::Kind::WriteFailed:
+    case history::StoreError::Kind::WriteFailed:
         return refhost::KoraWriteFailed;
-    case StoreError::Kind::BadRecord:
+    case history::StoreError::Kind::BadRecord:
         return refhost::KoraBadArgument;
-    case StoreError::Kind::NoSuchRecord:
+    case history::StoreError::Kind::NoSuchRecord:
         return refhost::KoraNoSuchRecord;
-    case StoreError::Kind::SumTooLarge:
+    case history::StoreError::Kind::SumTooLarge:
         break; // the four functions add nothing up
     }
     return refhost::KoraCannotOpen;
@@ -48,7 +48,7 @@ void log(const char *sentence)
     std::fprintf(stderr, "refhost.sdk: %s\n", sentence);
 }
 
-int failed(const StoreError &error)
+int failed(const history::StoreError &error)
 {
     log(error.message.c_str());
     return statusOf(error.kind);

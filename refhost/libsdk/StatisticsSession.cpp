@@ -17,9 +17,9 @@ namespace refhost
 namespace
 {
 
-StoreFailure noSuchRecord(const std::string &path, const std::string &reason)
+history::StoreFailure noSuchRecord(const std::string &path, const std::string &reason)
 {
-    return {StoreError::Kind::NoSuchRecord, historyAt(path) + " " + reason};
+    return {history::StoreError::Kind::NoSuchRecord, history::historyAt(path) + " " + reason};
 }
 
 /// The records of a table as they are being collected, with their keys.
@@ -60,13 +60,13 @@ _KORA_ST_CONNRECORD *allocateRecords(std::int64_t count)
     return static_cast<_KORA_ST_CONNRECORD *>(records);
 }
 
-Listing listingOf(ConnectionTable &table)
+Listing listingOf(history::ConnectionTable &table)
 {
     const std::int64_t count = table.count();
     Listing listing;
     listing.list.records.reset(allocateRecords(count));
     listing.keys.reserve(static_cast<std::size_t>(count));
-    table.visitAll([&](const ConnectionRow &row) {
+    table.visitAll([&](const history::ConnectionRow &row) {
         // An index that disagrees with its table could yield more than was counted.
         if (listing.list.count == count)
             return;
@@ -78,12 +78,12 @@ Listing listingOf(ConnectionTable &table)
 
 } // namespace
 
-Result<RecordList> StatisticsSession::allRecords()
+history::Result<RecordList> StatisticsSession::allRecords()
 {
     const std::lock_guard<std::mutex> oneAtATime(m_mutex);
-    const std::string path = StatisticsStore::defaultPath();
-    return attempt(path, [&] {
-        StoreDatabase &store = database(path);
+    const std::string path = history::Store::defaultPath();
+    return history::attempt(path, [&] {
+        history::StoreDatabase &store = database(path);
         Listing listing = store.read(Listing(), listingOf);
         ListNumbering numbering;
         numbering.assign(std::move(listing.keys));
@@ -93,15 +93,15 @@ Result<RecordList> StatisticsSession::allRecords()
     });
 }
 
-Result<std::int64_t> StatisticsSession::removeRecord(int index)
+history::Result<std::int64_t> StatisticsSession::removeRecord(int index)
 {
     const std::lock_guard<std::mutex> oneAtATime(m_mutex);
-    const std::string path = StatisticsStore::defaultPath();
-    return attempt(path, [&] {
-        StoreDatabase &store = database(path);
+    const std::string path = history::Store::defaultPath();
+    return history::attempt(path, [&] {
+        history::StoreDatabase &store = database(path);
         const std::size_t place = placeOf(path, index);
         const std::int64_t key = m_numbering->keyAt(place);
-        const bool wasThere = store.write([&](ConnectionTable &table) {
+        const bool wasThere = store.write([&](history::ConnectionTable &table) {
             if (!(store.file() == m_listedFile))
                 throw noSuchRecord(path, "is not the one whose list was handed out; nothing was "
                                          "removed, fetch the list again.");
@@ -117,14 +117,15 @@ Result<std::int64_t> StatisticsSession::removeRecord(int index)
     });
 }
 
-Result<_KORA_ST_CONNRECORD> StatisticsSession::lastRecord()
+history::Result<_KORA_ST_CONNRECORD> StatisticsSession::lastRecord()
 {
     const std::lock_guard<std::mutex> oneAtATime(m_mutex);
-    const std::string path = StatisticsStore::defaultPath();
-    return attempt(path, [&] {
+    const std::string path = history::Store::defaultPath();
+    return history::attempt(path, [&] {
         _KORA_ST_CONNRECORD record = {};
-        const bool isThere = database(path).read(false, [&](ConnectionTable &table) {
-            return table.visitLast([&](const ConnectionRow &row) { fillRecord(row, record); });
+        const bool isThere = database(path).read(false, [&](history::ConnectionTable &table) {
+            return table.visitLast(
+                [&](const history::ConnectionRow &row) { fillRecord(row, record); });
         });
         if (!isThere)
             throw noSuchRecord(path, "has no finished connection yet; connect once, then ask "
@@ -133,10 +134,11 @@ Result<_KORA_ST_CONNRECORD> StatisticsSession::lastRecord()
     });
 }
 
-StoreDatabase &StatisticsSession::database(const std::string &path)
+history::StoreDatabase &StatisticsSession::database(const std::string &path)
 {
     if (!m_database || path != m_path) {
-        m_database = std::make_unique<StoreDatabase>(path, StoreDatabase::IfMissing::ReadAsEmpty);
+        m_database = std::make_unique<history::StoreDatabase>(
+            path, history::StoreDatabase::IfMissing::ReadAsEmpty);
         m_path = path;
     }
     return *m_database;

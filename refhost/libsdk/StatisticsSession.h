@@ -3,8 +3,8 @@
 
 #include "KoraStatistics.h"
 #include "ListNumbering.h"
-#include "Result.h"
-#include "StoreDatabase.h"
+#include "history/Result.h"
+#include "history/StoreDatabase.h"
 
 #include <cstdlib>
 #include <memory>
@@ -32,22 +32,22 @@ class StatisticsSession
 public:
     /// All records in the list's order; their places are the indices that
     /// removeRecord understands from then on.
-    Result<RecordList> allRecords();
+    history::Result<RecordList> allRecords();
     /// Removes the record that `index` means and returns its key. One that another
     /// process has removed is an error once and then counts as removed here.
-    Result<std::int64_t> removeRecord(int index);
-    Result<_KORA_ST_CONNRECORD> lastRecord();
+    history::Result<std::int64_t> removeRecord(int index);
+    history::Result<_KORA_ST_CONNRECORD> lastRecord();
 
 private:
-    StoreDatabase &database(const std::string &path);
+    history::StoreDatabase &database(const std::string &path);
     /// The place in the list last handed out whose record `index` means now.
     std::size_t placeOf(const std::string &path, int index);
 
     std::mutex m_mutex;
-    std::unique_ptr<StoreDatabase> m_database;
+    std::unique_ptr<history::StoreDatabase> m_database;
     std::string m_path;
     std::optional<ListNumbering> m_numbering;
-    std::optional<FileIdentity> m_listedFile;
+    std::optional<history::FileIdentity> m_listedFile;
 };
 
 } // namespace refhost

@@ -153,14 +153,14 @@
     </message>
 </context>
 <context>
-    <name>refhost::Application</name>
+    <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
         <translation>Die Erweiterung %1 konnte nicht starten. „refdialer --debug“ zeigt, wie weit sie kam.</translation>
     </message>
 </context>
 <context>
-    <name>refhost::CommandLine</name>
+    <name>refdialer::CommandLine</name>
     <message>
         <source>Use the history in FILE instead of your own, to show and to record.</source>
         <translation>Den Verlauf in DATEI statt des eigenen zeigen und dort aufzeichnen.</translation>
@@ -247,14 +247,14 @@
     </message>
 </context>
 <context>
-    <name>refhost::DemoStore</name>
+    <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
         <translation>Der Beispielverlauf %1 lässt sich nicht nach %2 kopieren: %3. Installieren Sie refdialer neu, oder schaffen Sie dort Platz.</translation>
     </message>
 </context>
 <context>
-    <name>refhost::MainWindow</name>
+    <name>refdialer::MainWindow</name>
     <message>
         <source>Connection history</source>
         <translation>Verbindungsverlauf</translation>
@@ -297,14 +297,14 @@
     </message>
 </context>
 <context>
-    <name>refhost::Picture</name>
+    <name>refdialer::Picture</name>
     <message>
         <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
         <translation>Das Bild %1 lässt sich nicht schreiben: %2. Nennen Sie eine Datei in einem Ordner, in den Sie schreiben dürfen.</translation>
     </message>
 </context>
 <context>
-    <name>refhost::PluginHandle</name>
+    <name>refdialer::PluginHandle</name>
     <message>
         <source>The plug-in %1 is not there.</source>
         <translation>Die Erweiterung %1 ist nicht vorhanden.</translation>
@@ -331,14 +331,14 @@
     </message>
 </context>
 <context>
-    <name>refhost::ServicePlugin</name>
+    <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
         <translation>Der Einwahldienst %1 lässt sich nicht laden: %2. Installieren Sie refdialer neu, oder lassen Sie den Dienst mit --no-dialup-service weg.</translation>
     </message>
 </context>
 <context>
-    <name>refhost::ConnectionRecorder</name>
+    <name>recorder::ConnectionRecorder</name>
     <message>
         <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
         <translation>Die Uhr des Systems zeigt eine Zeit, die der Verlauf nicht fassen kann. Verbindungen bekommen stattdessen %1 UTC; stellen Sie die Uhr.</translation>
@@ -365,7 +365,7 @@
     </message>
 </context>
 <context>
-    <name>refhost::RecorderLock</name>
+    <name>recorder::RecorderLock</name>
     <message>
         <source>it is not a file</source>
         <translation>keine gewöhnliche Datei</translation>
@@ -380,7 +380,7 @@
     </message>
 </context>
 <context>
-    <name>refhost::UnwrittenFile</name>
+    <name>recorder::UnwrittenFile</name>
     <message>
         <source>it is damaged or of another program</source>
         <translation>sie ist beschädigt oder stammt von einem anderen Programm</translation>
@@ -403,14 +403,14 @@
     </message>
 </context>
 <context>
-    <name>refhost::LinkMonitor</name>
+    <name>recorder::LinkMonitor</name>
     <message>
         <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
         <translation>Die Netzschnittstellen lassen sich nicht beobachten (%1), daher werden keine Verbindungen aufgezeichnet. Das wird alle zwei Sekunden von neuem versucht.</translation>
     </message>
 </context>
 <context>
-    <name>refhost::SettingsDialog</name>
+    <name>refdialer::SettingsDialog</name>
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
@@ -433,7 +433,7 @@
     </message>
 </context>
 <context>
-    <name>refhost::SortMenu</name>
+    <name>refdialer::SortMenu</name>
     <message>
         <source>&amp;Sort by</source>
         <translation>&amp;Sortieren nach</translation>
@@ -472,7 +472,7 @@
     </message>
 </context>
 <context>
-    <name>refhost::StateLine</name>
+    <name>refdialer::StateLine</name>
     <message>
         <source>Sample history. Changes are gone when the window closes.</source>
         <translation>Beispielverlauf. Änderungen sind fort, sobald das Fenster sich schließt.</translation>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "StatisticsStore.h"
+#include "history/Store.h"
 
 #include <cstdint>
 #include <string>
@@ -12,7 +12,7 @@ using ConnectionValues = std::tuple<std::int64_t, std::string, std::int64_t, std
                                     std::int64_t, std::int64_t, std::string, std::string>;
 
 /// By the start first, as stores list them.
-inline ConnectionValues valuesOf(const refhost::Connection &connection)
+inline ConnectionValues valuesOf(const history::Connection &connection)
 {
     return {connection.startUtc,         connection.profile,       connection.endUtc,
             connection.connectedSeconds, connection.uploadedBytes, connection.downloadedBytes,

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "StatisticsStore.h"
+#include "history/Store.h"
 
 #include <cstdint>
 
 /// The connection with this number as the writer records it; whoever reads the
 /// store knows from the number alone what must be there.
-inline refhost::Connection finishedConnection(std::int64_t number)
+inline history::Connection finishedConnection(std::int64_t number)
 {
-    refhost::Connection connection;
+    history::Connection connection;
     connection.profile = "connection " + std::to_string(number);
     connection.startUtc = number;
     connection.endUtc = number + 60;
@@ -20,9 +20,9 @@ inline refhost::Connection finishedConnection(std::int64_t number)
     return connection;
 }
 
-inline refhost::OpenConnection begunConnection(std::int64_t number)
+inline history::OpenConnection begunConnection(std::int64_t number)
 {
-    refhost::OpenConnection connection;
+    history::OpenConnection connection;
     connection.bootId = "boot";
     connection.interfaceIndex = number;
     connection.interfaceName = "wwan0";

@@ -3,7 +3,7 @@
 
 #include "ConnectionValues.h"
 #include "RecordedConnection.h"
-#include "StatisticsStore.h"
+#include "history/Store.h"
 
 #include <QList>
 #include <QStringList>
@@ -12,7 +12,7 @@
 
 #include <sys/stat.h>
 
-using namespace refhost;
+using namespace history;
 
 namespace
 {
@@ -90,7 +90,7 @@ QString StoreWitness::complaint(const QString &path) const
 
 QString StoreWitness::contentsComplaint(const QString &path) const
 {
-    const auto store = StatisticsStore::openForReading(path.toStdString());
+    const auto store = Store::openForReading(path.toStdString());
     if (!store)
         return QString::fromStdString(store.error().message);
     const auto list = store.value().list();

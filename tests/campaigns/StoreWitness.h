@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "StatisticsStore.h"
+#include "history/Store.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -27,9 +27,9 @@ public:
 
 private:
     QString contentsComplaint(const QString &path) const;
-    QString listComplaint(const std::vector<refhost::Connection> &list) const;
-    QString openComplaint(const std::vector<refhost::Connection> &list,
-                          const std::vector<refhost::OpenConnection> &open) const;
+    QString listComplaint(const std::vector<history::Connection> &list) const;
+    QString openComplaint(const std::vector<history::Connection> &list,
+                          const std::vector<history::OpenConnection> &open) const;
 
     QSet<std::int64_t> m_finished;
     QSet<std::int64_t> m_removing; ///< may be there or not

@@ -3,7 +3,7 @@
 // it is killed. Each line that it prints tells what the store has acknowledged, or
 // what it is asked to remove next.
 #include "RecordedConnection.h"
-#include "StatisticsStore.h"
+#include "history/Store.h"
 
 #include <sys/stat.h>
 
@@ -11,7 +11,7 @@
 #include <cstdlib>
 #include <string>
 
-using namespace refhost;
+using namespace history;
 
 namespace
 {
@@ -33,7 +33,7 @@ Value valueOrExit(Result<Value> result)
 }
 
 /// As a recorder does: begin, some checkpoints, finish.
-void recordLive(StatisticsStore &store, std::int64_t number)
+void recordLive(Store &store, std::int64_t number)
 {
     OpenConnection open = valueOrExit(store.begin(begunConnection(number)));
     tell("begun", number);
@@ -47,7 +47,7 @@ void recordLive(StatisticsStore &store, std::int64_t number)
     tell("finished", number);
 }
 
-void addAndRemove(StatisticsStore &store, std::int64_t number, std::int64_t &keyToRemove,
+void addAndRemove(Store &store, std::int64_t number, std::int64_t &keyToRemove,
                   std::int64_t &numberToRemove)
 {
     const std::int64_t key = valueOrExit(store.add(finishedConnection(number)));
@@ -68,7 +68,7 @@ int main(int argc, char *argv[])
     if (argc != 4)
         return EXIT_FAILURE;
     umask(static_cast<mode_t>(std::strtoul(argv[3], nullptr, 8)));
-    StatisticsStore store = valueOrExit(StatisticsStore::openOrCreate(argv[1]));
+    Store store = valueOrExit(Store::openOrCreate(argv[1]));
     std::int64_t keyToRemove = 0;
     std::int64_t numberToRemove = 0;
     for (std::int64_t number = std::atoll(argv[2]);; ++number) {

@@ -2,18 +2,18 @@
 #include "ImportedConnections.h"
 
 #include "ConnectionValues.h"
-#include "CsvFormat.h"
-#include "CsvReader.h"
 #include "Fuzz.h"
-#include "LineReader.h"
+#include "formats/CsvFormat.h"
+#include "formats/CsvReader.h"
+#include "formats/LineReader.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
 
 #include <algorithm>
 
-using refhost::Connection;
-using refhost::StatisticsStore;
+using history::Connection;
+using history::Store;
 
 namespace
 {
@@ -33,31 +33,31 @@ bool areSame(const std::vector<Connection> &a, const std::vector<Connection> &b)
 
 std::vector<Connection> throughCsv(const std::vector<Connection> &connections)
 {
-    QByteArray text = refhost::toCsv(connections);
+    QByteArray text = formats::toCsv(connections);
     QBuffer device(&text);
     device.open(QIODevice::ReadOnly);
-    refhost::LineReader lines(device);
+    formats::LineReader lines(device);
     try {
-        return refhost::connectionsFromCsv(lines, [](std::int64_t) {});
-    } catch (const refhost::CsvError &error) {
+        return formats::connectionsFromCsv(lines, [](std::int64_t) {});
+    } catch (const formats::CsvError &error) {
         fuzz::require(false, error.reason.c_str());
         return {};
     }
 }
 
 /// A store that is emptied after each use: making one costs more than using it.
-StatisticsStore &emptyStore()
+Store &emptyStore()
 {
     static const QTemporaryDir folder(QStringLiteral("/dev/shm/fuzz-XXXXXX"));
-    static auto store = StatisticsStore::openOrCreate(
-        folder.filePath(QStringLiteral("connections.db")).toStdString());
+    static auto store =
+        Store::openOrCreate(folder.filePath(QStringLiteral("connections.db")).toStdString());
     fuzz::require(static_cast<bool>(store), "there is a store");
     return store.value();
 }
 
 std::vector<Connection> throughStore(const std::vector<Connection> &connections)
 {
-    StatisticsStore &store = emptyStore();
+    Store &store = emptyStore();
     const auto added = store.addMissing(connections);
     fuzz::require(static_cast<bool>(added), "the store takes what the importer accepts");
     const auto listed = store.list();

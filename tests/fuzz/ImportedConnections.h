@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "StatisticsStore.h"
+#include "history/Store.h"
 
 #include <vector>
 
@@ -10,6 +10,6 @@ namespace fuzz
 
 /// Whether these connections, which an importer has accepted, come back from the
 /// store and from a CSV file as what they are.
-void requireLossless(const std::vector<refhost::Connection> &connections);
+void requireLossless(const std::vector<history::Connection> &connections);
 
 } // namespace fuzz

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Tables of arbitrary bytes through the importer of CSV files.
-#include "CsvFormat.h"
-#include "CsvReader.h"
 #include "Fuzz.h"
 #include "ImportedConnections.h"
-#include "LineReader.h"
+#include "formats/CsvFormat.h"
+#include "formats/CsvReader.h"
+#include "formats/LineReader.h"
 
 #include <QBuffer>
 
-using namespace refhost;
+using namespace formats;
 
 int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 {

@@ -2,13 +2,13 @@
 // System logs of arbitrary bytes through the importer of pppd's messages.
 #include "Fuzz.h"
 #include "ImportedConnections.h"
-#include "JoinedLog.h"
-#include "LineReader.h"
-#include "PppdConnections.h"
+#include "formats/JoinedLog.h"
+#include "formats/LineReader.h"
+#include "formats/PppdConnections.h"
 
 #include <QBuffer>
 
-using namespace refhost;
+using namespace formats;
 
 int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 {

@@ -5,7 +5,7 @@
 #include "ConnectionValues.h"
 #include "Fuzz.h"
 #include "KoraStatistics.h"
-#include "StatisticsStore.h"
+#include "history/Store.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -21,11 +21,11 @@
 #include <string>
 #include <vector>
 
-using refhost::Connection;
-using refhost::OpenConnection;
-using refhost::Result;
-using refhost::StatisticsStore;
-using refhost::StoreError;
+using history::Connection;
+using history::OpenConnection;
+using history::Result;
+using history::Store;
+using history::StoreError;
 
 namespace
 {
@@ -90,7 +90,7 @@ std::string makeStore()
 {
     const std::string path = folder().file("sample.db");
     {
-        auto store = StatisticsStore::openOrCreate(path);
+        auto store = Store::openOrCreate(path);
         fuzz::require(static_cast<bool>(store), "there is a store");
         for (int number = 0; number < 60; ++number)
             fuzz::require(static_cast<bool>(store.value().add(sampleConnection(number))), "added");
@@ -157,7 +157,7 @@ public:
         fuzz::require(found != m_values.end(), "what is removed was there");
         m_values.erase(found);
     }
-    void requireIn(const StatisticsStore &store) const
+    void requireIn(const Store &store) const
     {
         const auto listed = store.list();
         fuzz::require(static_cast<bool>(listed), "a sound store is still listed");
@@ -169,13 +169,13 @@ private:
     std::multiset<ConnectionValues> m_values;
 };
 
-void useStore(StatisticsStore &store, bool isSoundStore)
+void useStore(Store &store, bool isSoundStore)
 {
     const auto listed = store.list();
     requireSentence(listed);
     ExpectedList expected(listed ? listed.value() : std::vector<Connection>());
     requireSentence(store.listOpen());
-    requireSentence(store.totals({}, StatisticsStore::Profiles::Apart,
+    requireSentence(store.totals({}, Store::Profiles::Apart,
                                  [](std::int64_t) { return std::optional<int>(0); }));
     const auto begun = store.begin(sampleOpenConnection());
     requireSentence(begun);
@@ -243,7 +243,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     setenv("NETINFO_STORE", path.c_str(), 1);
     useFunctions();
     const bool isSoundStore = isSound(path, schema);
-    auto store = StatisticsStore::openOrCreate(path);
+    auto store = Store::openOrCreate(path);
     if (store)
         useStore(store.value(), isSoundStore);
     else if (store.error().kind == StoreError::Kind::NotAStore ||

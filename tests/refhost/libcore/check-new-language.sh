@@ -6,7 +6,7 @@ set -euo pipefail
 source=$1 copy=$2/sources build=$2/build qt=$3
 rm -rf "$copy"
 mkdir -p "$copy"
-cp -r "$source"/{CMakeLists.txt,cmake,docs,host,refhost,src,CHANGELOG.md,LICENSE} "$copy"
+cp -r "$source"/{CMakeLists.txt,apps,cmake,docs,formats,history,host,modem,recorder,refhost,src,usage,CHANGELOG.md,LICENSE} "$copy"
 
 sed -i '/^set(languages /s/)$/ fr)/' "$copy/refhost/libcore/CMakeLists.txt"
 cmake -G Ninja -S "$copy" -B "$build" -D QT_VERSION_MAJOR="$qt" \

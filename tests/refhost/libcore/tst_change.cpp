@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Change.h"
-#include "Host.h"
+#include "refhost/libcore/Host.h"
 
 #include <QLabel>
 #include <QTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CommonUtils.h"
-#include "Host.h"
-#include "TemporarySetting.h"
+#include "refhost/libcore/Host.h"
+#include "refhost/libcore/TemporarySetting.h"
 
 #include <QDialog>
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "Host.h"
-#include "PluginContainer.h"
 #include "Startup.h"
+#include "refhost/libcore/Host.h"
+#include "refhost/libcore/PluginContainer.h"
 
 #include <QTest>
 

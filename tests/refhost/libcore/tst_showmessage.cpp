@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BoxInput.h"
 #include "CommonUtils.h"
-#include "Host.h"
+#include "refhost/libcore/Host.h"
 
 #include <QPointer>
 #include <QPushButton>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Change.h"
-#include "Host.h"
-#include "Identifiers.h"
+#include "refhost/libcore/Host.h"
+#include "refhost/translations/Identifiers.h"
 
 #include <QDirIterator>
 #include <QProcess>
@@ -187,11 +187,11 @@ void TestTranslations::areCompleteAndUpToDate()
     const QTemporaryDir folder;
     const QString copy = folder.filePath("copy.ts");
     QVERIFY(QFile::copy(translationFile(language), copy));
-    QStringList sources{"translations/Identifiers.h"};
+    QStringList sources{"refhost/translations/Identifiers.h"};
     if (language != "en")
-        sources += {"libcore", "recorder", "refdialer"};
+        sources += {"refhost/libcore", "recorder", "apps/refdialer"};
     QProcess lupdate;
-    lupdate.setWorkingDirectory(PROJECT_SOURCES "/refhost");
+    lupdate.setWorkingDirectory(PROJECT_SOURCES);
     lupdate.start(LUPDATE, sources + QStringList({"-silent", "-ts", copy}));
     QVERIFY(lupdate.waitForFinished());
     QCOMPARE(lupdate.exitCode(), 0);

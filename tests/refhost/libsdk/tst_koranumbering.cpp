@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "KoraStatistics.h"
 
-#include "KoraStatus.h"
 #include "NamedStore.h"
-#include "StatisticsStore.h"
 #include "StorePeer.h"
 #include "StoreSamples.h"
+#include "history/Store.h"
+#include "refhost/libsdk/KoraStatus.h"
 
 #include <QTest>
 
 #include <array>
 #include <limits>
 
-using refhost::StatisticsStore;
+using history::Store;
 
 namespace
 {
@@ -86,7 +86,7 @@ void KoraNumberingTest::aPlaceThatIsGoneMeansTheNextRecordStillThere()
 
 void KoraNumberingTest::aConnectionRecordedMeanwhileSurvives()
 {
-    StatisticsStore store = storeWith(m_store->path(), numberedConnections(3));
+    Store store = storeWith(m_store->path(), numberedConnections(3));
     handOut();
     // It sorts before all others, so it would be the first in a newer list.
     QVERIFY(store.add(connection("meanwhile", 1, 2)));
@@ -191,7 +191,7 @@ void KoraNumberingTest::aRemovalThatFailedIsNotCounted()
 
 void KoraNumberingTest::theStoreItselfLeavesTheNumberingAlone()
 {
-    StatisticsStore store = storeWith(m_store->path(), numberedConnections(4));
+    Store store = storeWith(m_store->path(), numberedConnections(4));
     handOut();
     const auto listed = store.list();
     QVERIFY(listed);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "KoraStatistics.h"
 
-#include "KoraStatus.h"
 #include "NamedStore.h"
 #include "StoreSamples.h"
+#include "refhost/libsdk/KoraStatus.h"
 
 #include <QProcess>
 #include <QTest>
@@ -19,7 +19,7 @@
 #include <thread>
 #include <vector>
 
-using refhost::Connection;
+using history::Connection;
 
 namespace
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ListNumbering.h"
+#include "refhost/libsdk/ListNumbering.h"
 
 #include <QTest>
 

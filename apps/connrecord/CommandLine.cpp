@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: MIT
+#include "CommandLine.h"
+
+#include "ArgumentList.h"
+#include "Commands.h"
+#include "Complaint.h"
+#include "Failure.h"
+#include "HistoryFiles.h"
+#include "ImportCommand.h"
+#include "Output.h"
+#include "TotalsCommand.h"
+#include "formats/InputError.h"
+#include "history/Store.h"
+#include "usage/TextScanner.h"
+
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <functional>
+#include <iostream>
+#include <new>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace connrecord
+{
+
+namespace
+{
+
+constexpr const char *exitCodes = R"(Exit codes:
+  0  success
+  1  the request cannot be met: unknown key, refused value
+  2  the command line is wrong
+  3  the store cannot be used, or there is not enough memory
+  4  the input file is wrong or cannot be read
+  5  the output cannot be written)";
+
+ImportRequest::Format formatNamed(const std::string &name)
+{
+    if (name == "csv")
+        return ImportRequest::Format::Csv;
+    if (name == "pppd")
+        return ImportRequest::Format::Pppd;
+    throw CLI::ValidationError("--format", "it is csv or pppd, not " + name);
+}
+
+/// The file of no name is the folder that the program runs in, which nobody means.
+std::string checkFileName(const std::string &name)
+{
+    return name.empty() ? "the name of the file is empty" : std::string();
+}
+
+TotalsGroups groupsNamed(const std::string &names)
+{
+    if (names == "profile")
+        return {true, false};
+    if (names == "month")
+        return {false, true};
+    if (names == "profile,month" || names == "month,profile")
+        return {true, true};
+    throw CLI::ValidationError("--by", "it is profile, month or profile,month, not " + names);
+}
+
+/// Declares the commands, and remembers the one that the user chooses.
+class CommandLine
+{
+public:
+    CommandLine();
+
+    void parse(int argc, char **argv);
+    void run() const;
+    /// The text that the user has asked for instead of a command.
+    QByteArray textFor(const CLI::Success &helpOrVersion) const;
+
+private:
+    void checkCommandIsKnown() const;
+    CLI::App *addCommand(const char *name, const char *description);
+    void addList();
+    void addAdd();
+    void addRemove();
+    void addExport();
+    void addImport();
+    void addTotals();
+
+    CLI::App m_parser;
+    CommonRequest m_common;
+    AddRequest m_add;
+    std::vector<std::string> m_keys;
+    std::string m_outputPath = standardOutputPath;
+    ImportRequest m_import;
+    TotalsRequest m_totals;
+    std::function<void()> m_action;
+};
+
+CommandLine::CommandLine()
+    : m_parser("Shows and changes the history of mobile-broadband connections.", "connrecord")
+{
+    m_common.storePath = history::Store::defaultPath();
+    m_parser.add_option("--store", m_common.storePath, "The history's file")
+        ->type_name("FILE")
+        ->check(checkFileName)
+        ->default_str(m_common.storePath);
+    m_parser.set_version_flag("--version", "connrecord " CONNRECORD_VERSION);
+    m_parser.require_subcommand(1);
+    m_parser.fallthrough();
+    m_parser.footer(exitCodes);
+    addList();
+    addAdd();
+    addRemove();
+    addExport();
+    addImport();
+    addTotals();
+}
+
+void CommandLine::parse(int argc, char **argv)
+{
+    try {
+        m_parser.parse(argumentsFor(m_parser, argc, argv));
+    } catch (const CLI::RequiredError &) {
+        checkCommandIsKnown();
+        throw;
+    }
+}
+
+/// The parser itself would only tell that there is no command.
+void CommandLine::checkCommandIsKnown() const
+{
+    const std::vector<std::string> unknown = m_parser.remaining();
+    if (!m_parser.get_subcommands().empty())
+        return;
+    if (unknown.empty())
+        throw CLI::RequiredError("A command");
+    const std::string what = usage::startsWith(unknown.front(), "-") ? "option" : "command";
+    throw CLI::ParseError("There is no " + what + " \"" + unknown.front() + '"',
+                          CLI::ExitCodes::ExtrasError);
+}
+
+void CommandLine::run() const
+{
+    checkIsNotOfHistory(standardOutputPath, m_common.storePath);
+    m_action();
+}
+
+QByteArray CommandLine::textFor(const CLI::Success &helpOrVersion) const
+{
+    std::ostringstream text;
+    m_parser.exit(helpOrVersion, text);
+    return QByteArray::fromStdString(text.str());
+}
+
+CLI::App *CommandLine::addCommand(const char *name, const char *description)
+{
+    CLI::App *const command = m_parser.add_subcommand(name, description);
+    command->add_flag("--json", m_common.json, "Write JSON, for programs")->disable_flag_override();
+    command->footer(exitCodes);
+    return command;
+}
+
+void CommandLine::addList()
+{
+    CLI::App *const command = addCommand("list", "List all connections by their start");
+    command->callback([this] { m_action = [this] { listConnections(m_common); }; });
+}
+
+void CommandLine::addAdd()
+{
+    CLI::App *const command = addCommand("add", "Add one connection and write its key");
+    const auto option = [command](const char *name, auto &value, const char *type,
+                                  const char *description) {
+        return command->add_option(name, value, description)->type_name(type);
+    };
+    option("--profile", m_add.profile, "NAME", "Profile (APN)")->required();
+    option("--start", m_add.start, "TIME",
+           "Start, as 2024-05-31T18:30:00Z; local time without a zone")
+        ->required();
+    option("--end", m_add.end, "TIME", "End, in the same way")->required();
+    option("--up", m_add.uploadedBytes, "BYTES", "Bytes sent")->required();
+    option("--down", m_add.downloadedBytes, "BYTES", "Bytes received")->required();
+    option("--connected", m_add.connectedSeconds, "SECONDS",
+           "Connected time; the end minus the start without it");
+    option("--interface", m_add.interfaceName, "NAME", "Network interface");
+    command->callback([this] { m_action = [this] { addConnection(m_common, m_add); }; });
+}
+
+void CommandLine::addRemove()
+{
+    CLI::App *const command = addCommand("remove", "Remove connections, all of these or none");
+    command->add_option("KEY", m_keys, "Key of a connection, as list shows it")
+        ->type_name("")
+        ->required();
+    command->callback([this] { m_action = [this] { removeConnections(m_common, m_keys); }; });
+}
+
+void CommandLine::addExport()
+{
+    CLI::App *const command = addCommand("export", "Write all connections as CSV");
+    command->add_option("--output", m_outputPath, "Write to this file; - is standard output")
+        ->type_name("FILE")
+        ->check(checkFileName);
+    command->callback([this] { m_action = [this] { exportConnections(m_common, m_outputPath); }; });
+}
+
+void CommandLine::addImport()
+{
+    CLI::App *const command =
+        addCommand("import", "Add the connections of a file that are not there yet");
+    command
+        ->add_option_function<std::string>(
+            "--format", [this](const std::string &name) { m_import.format = formatNamed(name); },
+            "csv, as export writes it, or pppd, a system log")
+        ->type_name("csv|pppd")
+        ->required();
+    command
+        ->add_option("--profile", m_import.profile,
+                     "Profile for the connections of a log that shows no APN")
+        ->type_name("NAME");
+    command->add_option("--year", m_import.year, "Year of the last line of a log without years")
+        ->type_name("YYYY")
+        ->check(CLI::Range(1970, 2105).description(""));
+    command
+        ->add_option("FILE", m_import.paths, "The file, - is standard input; logs may be several")
+        ->type_name("")
+        ->check(checkFileName)
+        ->required();
+    command->callback([this] { m_action = [this] { importConnections(m_common, m_import); }; });
+}
+
+void CommandLine::addTotals()
+{
+    CLI::App *const command =
+        addCommand("totals", "Add up connections, each in the local month of its start");
+    command
+        ->add_option_function<std::string>(
+            "--by", [this](const std::string &names) { m_totals.groups = groupsNamed(names); },
+            "One sum for each of these; one in all without it")
+        ->type_name("profile|month|profile,month");
+    command
+        ->add_option("--from", m_totals.from,
+                     "First day counted, as 2024-05-31, in local time; by the start")
+        ->type_name("DATE");
+    command->add_option("--to", m_totals.to, "Last day counted, itself included")
+        ->type_name("DATE");
+    command->callback([this] { m_action = [this] { showTotals(m_common, m_totals); }; });
+}
+
+int complainOfUsage(const CLI::ParseError &error)
+{
+    const int code = complain(ExitCode::Usage, error.what());
+    std::cerr << "connrecord --help tells what is possible.\n";
+    return code;
+}
+
+void parseAndRun(int argc, char **argv)
+{
+    CommandLine commandLine;
+    try {
+        commandLine.parse(argc, argv);
+    } catch (const CLI::Success &helpOrVersion) {
+        return Output().write(commandLine.textFor(helpOrVersion));
+    }
+    commandLine.run();
+}
+
+} // namespace
+
+int runCommandLine(int argc, char **argv)
+{
+    // A destructor that finds no memory cannot pass it on to where the others are caught.
+    std::set_terminate(endWithSentence);
+    try {
+        parseAndRun(argc, argv);
+        return static_cast<int>(ExitCode::Success);
+    } catch (const CLI::ParseError &error) {
+        return complainOfUsage(error);
+    } catch (const Failure &failure) {
+        return complain(failure.exitCode(), failure.what());
+    } catch (const formats::InputError &error) {
+        return complain(ExitCode::Input, error.what());
+    } catch (const std::bad_alloc &) {
+        return complainOfMemory();
+    }
+}
+
+} // namespace connrecord

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "Commands.h"
+
+#include "ConnectionText.h"
+#include "HistoryFiles.h"
+#include "OptionValue.h"
+#include "Output.h"
+#include "StoreResult.h"
+#include "formats/CsvFormat.h"
+#include "formats/Utf8Text.h"
+#include "usage/CalendarTime.h"
+
+#include <cstdint>
+#include <limits>
+
+namespace connrecord
+{
+
+namespace
+{
+
+constexpr std::int64_t largestCount = std::numeric_limits<std::int64_t>::max();
+
+std::int64_t optionNumber(const std::string &option, const std::string &text, std::int64_t largest)
+{
+    return optionValue(option, text, [largest](const std::string &value) {
+        return formats::fieldNumber(value, largest);
+    });
+}
+
+const std::string &optionText(const std::string &option, const std::string &text)
+{
+    if (!formats::isUtf8(text))
+        throw Failure(ExitCode::Refused, "For " + option + ", the text is not UTF-8.");
+    return text;
+}
+
+history::Connection connectionFrom(const AddRequest &request)
+{
+    history::Connection connection;
+    connection.profile = optionText("--profile", request.profile);
+    connection.interfaceName = optionText("--interface", request.interfaceName);
+    connection.startUtc = optionValue("--start", request.start, formats::fieldTime);
+    connection.endUtc =
+        optionValue("--end", request.end, [start = connection.startUtc](const std::string &text) {
+            return formats::fieldEnd(text, start);
+        });
+    connection.connectedSeconds =
+        request.connectedSeconds
+            ? optionNumber("--connected", *request.connectedSeconds, history::largestDuration)
+            : connection.endUtc - connection.startUtc;
+    connection.uploadedBytes = optionNumber("--up", request.uploadedBytes, largestCount);
+    connection.downloadedBytes = optionNumber("--down", request.downloadedBytes, largestCount);
+    return connection;
+}
+
+std::vector<history::Connection> storedConnections(const CommonRequest &common)
+{
+    const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
+    return valueOrFailure(store.list());
+}
+
+/// Lines of a text would look like connections of their own.
+std::vector<history::Connection> onOneLineEach(std::vector<history::Connection> connections)
+{
+    for (history::Connection &connection : connections) {
+        for (std::string *const text :
+             {&connection.profile, &connection.ending, &connection.interfaceName})
+            *text = formats::printable(*text, formats::unlimited);
+    }
+    return connections;
+}
+
+} // namespace
+
+void listConnections(const CommonRequest &common)
+{
+    const std::vector<history::Connection> connections = storedConnections(common);
+    Output().write(common.json ? formats::jsonText(toJson(connections)) : toTable(connections));
+}
+
+void addConnection(const CommonRequest &common, const AddRequest &request)
+{
+    const history::Connection connection = connectionFrom(request);
+    auto store = valueOrFailure(history::Store::openOrCreate(common.storePath));
+    const qint64 key = valueOrFailure(store.add(connection));
+    Output().write(common.json ? formats::jsonText({{"key", key}})
+                               : QByteArray::number(key) + '\n');
+}
+
+void removeConnections(const CommonRequest &common, const std::vector<std::string> &keys)
+{
+    std::vector<std::int64_t> numbers;
+    numbers.reserve(keys.size());
+    for (const std::string &key : keys)
+        numbers.push_back(optionNumber("KEY", key, largestCount));
+    auto store = valueOrFailure(history::Store::openForReading(common.storePath));
+    valueOrFailure(store.remove(numbers));
+    if (common.json)
+        Output().write(formats::jsonText({{"removed", numbers}}));
+}
+
+void exportConnections(const CommonRequest &common, const std::string &outputPath)
+{
+    checkIsNotOfHistory(outputPath, common.storePath);
+    Output output(outputPath);
+    const std::vector<history::Connection> connections = storedConnections(common);
+    if (common.json)
+        output.write(formats::jsonText(toJson(connections)));
+    else
+        output.write(
+            formats::toCsv(output.isTerminal() ? onOneLineEach(connections) : connections));
+}
+
+} // namespace connrecord

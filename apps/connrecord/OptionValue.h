@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Failure.h"
+#include "formats/FieldValue.h"
+
+#include <string>
+
+namespace connrecord
+{
+
+/// The value of an option, read by `read`, one of the functions of FieldValue.h;
+/// what that one throws becomes a Failure that names the option.
+template <typename Read>
+auto optionValue(const std::string &option, const std::string &text, Read read)
+{
+    try {
+        return read(text);
+    } catch (const formats::FieldError &error) {
+        throw Failure(error.isMalformed ? ExitCode::Usage : ExitCode::Refused,
+                      "For " + option + ", " + error.reason + ".");
+    }
+}
+
+} // namespace connrecord

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "Output.h"
+
+#include "FilePlace.h"
+#include "ReplacementFile.h"
+#include "formats/Utf8Text.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+
+namespace connrecord
+{
+
+namespace
+{
+
+constexpr auto dontClose = QFileDevice::DontCloseHandle;
+
+/// What is at the path, links followed; 0 for nothing.
+mode_t modeAt(const std::string &path)
+{
+    struct stat status = {};
+    if (stat(path.c_str(), &status) == 0)
+        return status.st_mode;
+    if (errno != ENOENT)
+        throw std::system_error(errno, std::generic_category());
+    return 0;
+}
+
+} // namespace
+
+std::string outputName(const std::string &path)
+{
+    if (path == standardOutputPath)
+        return "standard output";
+    return '"' + formats::printable(path, formats::unlimited) + '"';
+}
+
+Output::Output(const std::string &path)
+    : m_name(outputName(path))
+{
+    try {
+        open(path);
+    } catch (const std::system_error &error) {
+        throw cannotWrite(error.code().message());
+    }
+}
+
+bool Output::isTerminal() const
+{
+    return !m_replacedFile && ::isatty(m_file.handle()) != 0;
+}
+
+void Output::write(const QByteArray &result)
+{
+    if (m_replacedFile)
+        replaceBy(result);
+    else
+        writeAll(isTerminal() ? formats::printableLines(result) : result);
+}
+
+void Output::open(const std::string &path)
+{
+    if (path == standardOutputPath)
+        return use(STDOUT_FILENO, dontClose);
+    if (const auto descriptor = descriptorAt(path))
+        return use(*descriptor, dontClose);
+    const mode_t present = modeAt(path);
+    // A disk is hardly what somebody means.
+    if (S_ISBLK(present))
+        throw cannotWrite("it is a block device");
+    if (present != 0 && !S_ISREG(present))
+        return openInPlace(path);
+    m_replacedFile = placeOf(path);
+}
+
+void Output::openInPlace(const std::string &path)
+{
+    const int descriptor = ::open(path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        throw std::system_error(errno, std::generic_category());
+    use(descriptor, QFileDevice::AutoCloseHandle);
+}
+
+void Output::use(int descriptor, QFileDevice::FileHandleFlags closing)
+{
+    if (!m_file.open(descriptor, QIODevice::WriteOnly, closing))
+        throw cannotWrite(m_file.errorString().toStdString());
+}
+
+void Output::writeAll(const QByteArray &bytes)
+{
+    if (m_file.write(bytes) != bytes.size() || !m_file.flush())
+        throw cannotWrite(m_file.errorString().toStdString());
+}
+
+void Output::replaceBy(const QByteArray &contents)
+{
+    try {
+        ReplacementFile replacement(*m_replacedFile);
+        use(replacement.descriptor(), dontClose);
+        writeAll(contents);
+        replacement.putInPlace();
+    } catch (const std::system_error &error) {
+        throw cannotWrite(error.code().message());
+    }
+}
+
+Failure Output::cannotWrite(const std::string &reason) const
+{
+    return {ExitCode::Output, m_name + " cannot be written: " + reason +
+                                  ". Check the disk, the folder and its permissions."};
+}
+
+} // namespace connrecord

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Failure.h"
+
+#include <QByteArray>
+#include <QFile>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace connrecord
+{
+
+/// Stands for standard output where the name of a file is asked for.
+inline constexpr const char *standardOutputPath = "-";
+
+/// The way a sentence names it.
+std::string outputName(const std::string &path);
+
+/// Where the result of a command goes. An ordinary file gets its place, and its
+/// earlier contents stay whole, until the new ones are; a new file is the user's
+/// alone. Everything else, such as a pipe, a terminal or what this process has
+/// open already (/dev/stdout), is written to where it is.
+class Output
+{
+public:
+    /// Opens what is not to be replaced. Throws Failure.
+    explicit Output(const std::string &path = standardOutputPath);
+
+    bool isTerminal() const;
+    /// Writes all of the result, lines of UTF-8, which is complete with it, or throws
+    /// Failure. A terminal gets them printable, everything else as they are.
+    void write(const QByteArray &result);
+
+private:
+    void open(const std::string &path);
+    void openInPlace(const std::string &path);
+    void use(int descriptor, QFileDevice::FileHandleFlags closing);
+    void writeAll(const QByteArray &bytes);
+    void replaceBy(const QByteArray &contents);
+    Failure cannotWrite(const std::string &reason) const;
+
+    const std::string m_name;
+    QFile m_file;
+    std::optional<std::filesystem::path> m_replacedFile;
+};
+
+} // namespace connrecord

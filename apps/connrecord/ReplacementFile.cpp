@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "ReplacementFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <system_error>
+
+namespace connrecord
+{
+
+namespace
+{
+
+void check(bool hasSucceeded)
+{
+    if (!hasSucceeded)
+        throw std::system_error(errno, std::generic_category());
+}
+
+} // namespace
+
+ReplacementFile::ReplacementFile(const std::filesystem::path &place)
+    : m_place(place)
+    , m_temporaryPath(place.parent_path() / ".connrecord-XXXXXX")
+{
+    // Its folder would let it be replaced although the user has protected it.
+    check(access(m_place.c_str(), W_OK) == 0 || errno == ENOENT);
+    m_descriptor = mkostemp(m_temporaryPath.data(), O_CLOEXEC);
+    check(m_descriptor >= 0);
+}
+
+ReplacementFile::~ReplacementFile()
+{
+    if (!m_temporaryPath.empty())
+        unlink(m_temporaryPath.c_str());
+    close(m_descriptor);
+}
+
+void ReplacementFile::putInPlace()
+{
+    keepPermissions();
+    check(fsync(m_descriptor) == 0);
+    check(rename(m_temporaryPath.c_str(), m_place.c_str()) == 0);
+    m_temporaryPath.clear();
+}
+
+void ReplacementFile::keepPermissions() const
+{
+    constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
+    struct stat present = {};
+    if (stat(m_place.c_str(), &present) == 0)
+        check(fchmod(m_descriptor, present.st_mode & permissions) == 0);
+}
+
+} // namespace connrecord

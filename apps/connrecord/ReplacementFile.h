@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace connrecord
+{
+
+/// The future contents of a file, beside it until they are whole. A new file is
+/// the user's alone; one that was there keeps its permissions. All of it throws
+/// std::system_error.
+class ReplacementFile
+{
+public:
+    /// For the file at `place`, which need not exist and is no link.
+    explicit ReplacementFile(const std::filesystem::path &place);
+    /// Removes what has not been put in place.
+    ~ReplacementFile();
+    ReplacementFile(const ReplacementFile &) = delete;
+    ReplacementFile &operator=(const ReplacementFile &) = delete;
+
+    /// Open for writing until the end of this object.
+    int descriptor() const { return m_descriptor; }
+    /// To be called when everything is written: what was there before is replaced
+    /// at once, and what replaces it is on the disk.
+    void putInPlace();
+
+private:
+    void keepPermissions() const;
+
+    const std::filesystem::path m_place;
+    std::string m_temporaryPath; ///< empty once it is in place
+    int m_descriptor;
+};
+
+} // namespace connrecord

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "Application.h"
+
+#include "DemoStore.h"
+#include "Failure.h"
+#include "MainWindow.h"
+#include "Picture.h"
+#include "PluginHandle.h"
+#include "Recording.h"
+#include "ServicePlugin.h"
+#include "SummaryChoice.h"
+#include "refhost/libcore/Host.h"
+
+#include "history/Store.h"
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace refdialer
+{
+
+Application::Application(Options options)
+    : m_options(std::move(options))
+{
+    QLoggingCategory::setFilterRules(m_options.isDebug ? QStringLiteral("default.debug=true")
+                                                       : QStringLiteral("default.debug=false"));
+    if (!m_options.language.isEmpty())
+        refhost::setLanguage(m_options.language);
+}
+
+Application::~Application()
+{
+    refhost::setPluginContainer(nullptr);
+}
+
+void Application::run()
+{
+    chooseStore();
+    if (!isFirst())
+        return;
+    checkStore();
+    loadDialupService();
+    startRecording();
+    startPlugin();
+    showWindow();
+}
+
+void Application::chooseStore()
+{
+    QString file;
+    if (m_options.isDemo) {
+        m_demoStore = std::make_unique<DemoStore>();
+        file = m_demoStore->file();
+    } else if (!m_options.storeFile.isEmpty()) {
+        file = QFileInfo(m_options.storeFile).absoluteFilePath();
+    }
+    if (!file.isEmpty())
+        qputenv("NETINFO_STORE", QFile::encodeName(file));
+    m_source = {QString::fromStdString(history::Store::defaultPath()), m_options.isDemo};
+}
+
+bool Application::isFirst()
+{
+    // What is shown for a moment or to try it out is nobody's other window.
+    if (m_options.isDemo || !m_options.pictureFile.isEmpty())
+        return true;
+    const SingleInstance::Outcome outcome = m_instance.claim(m_source.file);
+    if (outcome == SingleInstance::Outcome::OtherIsBusy)
+        qWarning("refdialer is running already, but busy; its window comes forward as soon as it "
+                 "can.");
+    return outcome == SingleInstance::Outcome::First;
+}
+
+// The plug-in shows a store that cannot be read as an empty history, so the
+// reason is told before that.
+void Application::checkStore() const
+{
+    const auto store = history::Store::openForReading(history::Store::defaultPath());
+    if (!store)
+        throw Failure{ExitCode::StoreNotUsable, QString::fromStdString(store.error().message)};
+    const auto connections = store.value().list();
+    if (!connections)
+        throw Failure{ExitCode::StoreNotUsable,
+                      QString::fromStdString(connections.error().message)};
+}
+
+void Application::loadDialupService()
+{
+    if (!m_options.hasDialupService)
+        return;
+    m_dialupService = std::make_unique<ServicePlugin>(ServicePlugin::dialupServiceFile());
+    m_container.add(m_dialupService->classId(), m_dialupService->root());
+}
+
+// Before the plug-in reads the history, so that it finds there what an earlier
+// run has left unfinished.
+void Application::startRecording()
+{
+    if (m_options.isDemo || !m_options.pictureFile.isEmpty())
+        return;
+    offerSummary();
+    m_recording = std::make_unique<Recording>(m_source.file, m_options.interfaceNames,
+                                              m_options.profile, m_state);
+    m_recording->start();
+}
+
+void Application::startPlugin()
+{
+    const QString file = m_options.pluginFile.isEmpty()
+                             ? PluginHandle::defaultFile()
+                             : QFileInfo(m_options.pluginFile).absoluteFilePath();
+    m_plugin = PluginHandle::load(file);
+    m_container.add(m_plugin->classId(), m_plugin->root());
+    refhost::setPluginContainer(&m_container);
+    if (!m_plugin->start())
+        throw Failure{ExitCode::PluginNotLoaded,
+                      tr("The plug-in %1 could not start. \"refdialer --debug\" shows how far it "
+                         "came.")
+                          .arg(file)};
+}
+
+void Application::showWindow()
+{
+    MainWindow window(*m_plugin, m_source, m_state);
+    refhost::setMainWindow(&window);
+    if (!m_options.pictureFile.isEmpty()) {
+        savePicture(window, m_options.pictureFile);
+        return;
+    }
+    QObject::connect(&m_instance, &SingleInstance::activated, &window, &MainWindow::comeForward);
+    window.show();
+    QCoreApplication::exec();
+}
+
+} // namespace refdialer

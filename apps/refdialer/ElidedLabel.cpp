@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "ElidedLabel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace refdialer
+{
+
+ElidedLabel::ElidedLabel(Qt::TextElideMode mode)
+    : m_mode(mode)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    // A text's width in whole pixels may be less than it takes.
+    m_widest = std::max(m_widest, fontMetrics().horizontalAdvance(text()) + 1);
+    return {m_widest, minimumSizeHint().height()};
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, fontMetrics().lineSpacing()};
+}
+
+bool ElidedLabel::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && shownText() != text()) {
+        // As markup, a long text is broken into lines and its own markup would act.
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                           QStringLiteral("<p>") + text().toHtmlEscaped() + QStringLiteral("</p>"),
+                           this);
+        return true;
+    }
+    if (event->type() == QEvent::FontChange)
+        m_widest = 0;
+    return QLabel::event(event);
+}
+
+void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect(),
+                          int(QStyle::visualAlignment(layoutDirection(), alignment())) |
+                              Qt::TextSingleLine,
+                          palette(), isEnabled(), shownText(), foregroundRole());
+}
+
+QString ElidedLabel::shownText() const
+{
+    return fontMetrics().elidedText(text(), m_mode, width());
+}
+
+} // namespace refdialer

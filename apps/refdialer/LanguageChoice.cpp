@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "LanguageChoice.h"
+
+#include "CommonUtils.h"
+#include "refhost/libcore/Host.h"
+
+namespace refdialer
+{
+
+namespace
+{
+
+const char *const settingsGroup = "refdialer";
+const char *const languageKey = "language";
+
+/// What the environment asks for when times are written, as "de_AT".
+QString timeLocaleName()
+{
+    for (const char *const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty())
+            return name.section(QLatin1Char('.'), 0, 0).section(QLatin1Char('@'), 0, 0);
+    }
+    return {};
+}
+
+QList<QLocale> allLocales()
+{
+    return QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+}
+
+} // namespace
+
+QString startLanguage()
+{
+    const QStringList available = refhost::availableLanguages();
+    QStringList wanted{CommonUtils::GetSettings(settingsGroup, languageKey)};
+    for (const QString &locale : QLocale::system().uiLanguages())
+        wanted.append(locale.section(QLatin1Char('-'), 0, 0));
+    for (const QString &language : wanted) {
+        if (available.contains(language))
+            return language;
+    }
+    return QStringLiteral("en");
+}
+
+bool storeLanguage(const QString &language)
+{
+    return refhost::storeSetting(settingsGroup, languageKey, language);
+}
+
+QLocale localeFor(const QString &language)
+{
+    const QString user = timeLocaleName();
+    const QString territory = QLatin1Char('_') + user.section(QLatin1Char('_'), 1);
+    if (territory.size() > 1) {
+        for (const QString &name : {language + territory, user}) {
+            // The toolkit answers to a name that it does not know with another locale.
+            if (QLocale(name).name() == name)
+                return QLocale(name);
+        }
+        for (const QLocale &locale : allLocales()) {
+            if (locale.name().endsWith(territory))
+                return locale;
+        }
+    }
+    return QLocale(language);
+}
+
+} // namespace refdialer

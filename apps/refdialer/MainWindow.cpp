@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow.h"
+
+#include "HistoryArea.h"
+#include "LanguageChoice.h"
+#include "LineState.h"
+#include "PluginHandle.h"
+#include "ProblemLine.h"
+#include "SettingsDialog.h"
+#include "SortMenu.h"
+#include "refhost/libcore/Host.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+namespace refdialer
+{
+
+namespace
+{
+
+// Wide enough for the six columns of the history beside a scroll bar.
+constexpr QSize defaultSize(780, 500);
+
+} // namespace
+
+MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state)
+    : m_plugin(plugin)
+    , m_area(new HistoryArea(plugin, source.file))
+{
+    auto *const content = new QWidget;
+    auto *const layout = new QVBoxLayout(content);
+    // The history brings margins of its own.
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(new StateLine(source, state));
+    layout->addWidget(m_area, 1);
+    layout->addWidget(new ProblemLine(state, content));
+    setCentralWidget(content);
+    createMenus();
+    retranslate();
+    resize(defaultSize);
+    m_area->showHistory();
+    m_area->sort(HistoryOrder());
+    connect(&state, &LineState::connected, this, [this] { m_plugin.tellConnected(); });
+    connect(&state, &LineState::disconnected, this, &MainWindow::showFinishedConnection);
+}
+
+MainWindow::~MainWindow()
+{
+    m_plugin.end();
+}
+
+void MainWindow::comeForward()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    // What the window waits for has the keyboard instead of it.
+    QWidget *const dialog = QApplication::activeModalWidget();
+    (dialog ? dialog : this)->activateWindow();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    m_plugin.end();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::createMenus()
+{
+    m_fileMenu = menuBar()->addMenu(QString());
+    m_settingsAction = m_fileMenu->addAction(QString());
+    m_settingsAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+,")));
+    connect(m_settingsAction, &QAction::triggered, this, &MainWindow::showSettings);
+    m_fileMenu->addSeparator();
+    m_quitAction = m_fileMenu->addAction(QString());
+    m_quitAction->setShortcut(QKeySequence::Quit);
+    connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
+
+    m_viewMenu = menuBar()->addMenu(QString());
+    m_historyAction = m_viewMenu->addAction(QString());
+    m_historyAction->setCheckable(true);
+    m_historyAction->setChecked(true);
+    connect(m_historyAction, &QAction::toggled, this, &MainWindow::setHistoryVisible);
+    m_sortMenu = new SortMenu(m_viewMenu);
+    m_viewMenu->addMenu(m_sortMenu);
+    connect(m_sortMenu, &SortMenu::orderChosen, m_area, &HistoryArea::sort);
+    m_refreshAction = m_viewMenu->addAction(QString());
+    m_refreshAction->setShortcut(QKeySequence(Qt::Key_F5));
+    connect(m_refreshAction, &QAction::triggered, m_area, &HistoryArea::refresh);
+    m_viewMenu->addSeparator();
+    m_viewMenu->setToolTipsVisible(true);
+    m_statisticsAction = m_viewMenu->addAction(QString());
+    m_statisticsAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+T")));
+    m_statisticsAction->setEnabled(m_plugin.hasStatistics());
+    connect(m_statisticsAction, &QAction::triggered, this, &MainWindow::showStatistics);
+}
+
+void MainWindow::retranslate()
+{
+    setLocale(localeFor(refhost::language()));
+    setWindowTitle(tr("Connection history"));
+    m_fileMenu->setTitle(tr("&File"));
+    m_settingsAction->setText(tr("&Settings…"));
+    m_quitAction->setText(tr("&Quit"));
+    m_viewMenu->setTitle(tr("&View"));
+    m_historyAction->setText(tr("&History"));
+    m_refreshAction->setText(tr("&Refresh"));
+    m_statisticsAction->setText(tr("S&tatistics…"));
+    if (!m_statisticsAction->isEnabled()) {
+        const QString reason = tr("The history plug-in in use has no statistics. Start refdialer "
+                                  "with one that has them: --plugin FILE.");
+        m_statisticsAction->setToolTip(reason);
+        m_statisticsAction->setStatusTip(reason);
+    }
+}
+
+void MainWindow::setHistoryVisible(bool isVisible)
+{
+    if (isVisible)
+        m_area->showHistory();
+    else
+        m_area->hideHistory();
+}
+
+void MainWindow::showFinishedConnection()
+{
+    // The plug-in knows of one connection at a time, and an end without a
+    // beginning before it means nothing to it; another one may have ended since.
+    m_plugin.tellConnected();
+    m_area->showFinishedConnection();
+}
+
+void MainWindow::showSettings()
+{
+    SettingsDialog dialog(this);
+    connect(&dialog, &SettingsDialog::languageChosen, this,
+            [this](const QString &language) { m_plugin.changeLanguage(language); });
+    dialog.exec();
+}
+
+void MainWindow::showStatistics()
+{
+    if (!m_plugin.showStatistics())
+        QMessageBox::warning(this, windowTitle(),
+                             tr("The history plug-in says that it has statistics but cannot be "
+                                "asked for them. Start refdialer with another one: --plugin "
+                                "FILE."));
+}
+
+} // namespace refdialer

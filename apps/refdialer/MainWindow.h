@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "StateLine.h"
+
+#include <QMainWindow>
+
+class QAction;
+class QMenu;
+
+namespace refdialer
+{
+
+class HistoryArea;
+class LineState;
+class PluginHandle;
+class SortMenu;
+
+/// The window: what is shown above, the plug-in's history below.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Shows the history of a plug-in that has been started, and tells it what
+    /// becomes of connections. Both outlive the window, which ends the plug-in
+    /// before its own area goes.
+    MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state);
+    ~MainWindow() override;
+
+    /// Shows itself above other windows and takes the keyboard.
+    void comeForward();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void createMenus();
+    void retranslate();
+    void setHistoryVisible(bool isVisible);
+    void showFinishedConnection();
+    void showSettings();
+    void showStatistics();
+
+    PluginHandle &m_plugin;
+    HistoryArea *m_area;
+    QMenu *m_fileMenu;
+    QAction *m_settingsAction;
+    QAction *m_quitAction;
+    QMenu *m_viewMenu;
+    QAction *m_historyAction;
+    SortMenu *m_sortMenu;
+    QAction *m_refreshAction;
+    QAction *m_statisticsAction;
+};
+
+} // namespace refdialer

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "Recording.h"
+
+#include "LineState.h"
+#include "recorder/ConnectionRecorder.h"
+
+namespace refdialer
+{
+
+Recording::Recording(const QString &storePath, const QStringList &interfaceNames,
+                     const QString &profile, LineState &state)
+    : m_state(state)
+    , m_recorder(new recorder::ConnectionRecorder(storePath, interfaceNames))
+{
+    QObject::connect(m_recorder, &recorder::ConnectionRecorder::connected, &m_state,
+                     &LineState::begin);
+    QObject::connect(m_recorder, &recorder::ConnectionRecorder::stateChanged, &m_state,
+                     &LineState::update);
+    QObject::connect(m_recorder, &recorder::ConnectionRecorder::disconnected, &m_state,
+                     [&state](const history::Connection &, qint64 id) { state.end(id); });
+    QObject::connect(m_recorder, &recorder::ConnectionRecorder::failed, &m_state,
+                     &LineState::setProblem);
+    QObject::connect(m_recorder, &recorder::ConnectionRecorder::succeeded, &m_state,
+                     [&state] { state.setProblem(QString()); });
+    QObject::connect(m_recorder, &recorder::ConnectionRecorder::started, &m_state,
+                     [&state] { state.setWatched(true); });
+    m_recorder->setProfileName(profile);
+    m_recorder->moveToThread(&m_thread);
+    QObject::connect(&m_thread, &QThread::finished, m_recorder, &QObject::deleteLater);
+    m_thread.start();
+}
+
+Recording::~Recording()
+{
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void Recording::start()
+{
+    bool hasStarted = false;
+    QMetaObject::invokeMethod(m_recorder, &recorder::ConnectionRecorder::start,
+                              Qt::BlockingQueuedConnection, &hasStarted);
+    m_state.setWatched(hasStarted);
+}
+
+} // namespace refdialer

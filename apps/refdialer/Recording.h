@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+#include <QThread>
+
+namespace recorder
+{
+class ConnectionRecorder;
+}
+
+namespace refdialer
+{
+
+class LineState;
+
+/// Records connections on a thread of its own, so that a store which another
+/// program keeps locked does not hold up the window.
+class Recording
+{
+public:
+    /// Records into the store at this path, under this profile or, if that is
+    /// empty, under the interfaces' names; `state`, which must live longer, is told
+    /// on its own thread what happens.
+    Recording(const QString &storePath, const QStringList &interfaceNames, const QString &profile,
+              LineState &state);
+    Recording(const Recording &) = delete;
+    Recording &operator=(const Recording &) = delete;
+    /// What is connected stays open in the store, for the next start to go on with.
+    ~Recording();
+
+    /// Returns when connections that an earlier run left open are settled in the
+    /// store. Whether recording is possible is told to the state, also later.
+    void start();
+
+private:
+    LineState &m_state;
+    recorder::ConnectionRecorder *m_recorder; ///< deleted on its thread, when that ends
+    QThread m_thread;
+};
+
+} // namespace refdialer

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+
+#include <nlohmann/json.hpp>
+
+namespace formats
+{
+
+/// A document for programs. Qt's own one would not do: Qt 5 has it
+/// turn large integers into doubles.
+using Json = nlohmann::json;
+
+/// The document's text, indented, ended by a line feed; what is not UTF-8 in it
+/// becomes U+FFFD.
+inline QByteArray jsonText(const Json &json)
+{
+    constexpr int indent = 4;
+    return QByteArray::fromStdString(
+               json.dump(indent, ' ', false, Json::error_handler_t::replace)) +
+           '\n';
+}
+
+} // namespace formats

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "Utf8Text.h"
+
+#include <QByteArrayList>
+#include <QVector>
+
+namespace formats
+{
+
+namespace
+{
+
+// A character in front keeps the decoder from taking a byte order mark away.
+QByteArray guarded(std::string_view text)
+{
+    QByteArray bytes(".");
+    bytes.append(text.data(), static_cast<int>(text.size()));
+    return bytes;
+}
+
+/// What Unicode does not know yet may be anything.
+bool isHarmless(uint character)
+{
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Other_PrivateUse:
+    case QChar::Other_NotAssigned:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return false;
+    default:
+        return true;
+    }
+}
+
+QString utf16(uint character)
+{
+    if (!QChar::requiresSurrogates(character))
+        return QChar(static_cast<ushort>(character));
+    return QString(QChar(QChar::highSurrogate(character))) + QChar(QChar::lowSurrogate(character));
+}
+
+QString escaped(uint character)
+{
+    if (character == '\n')
+        return QStringLiteral("\\n");
+    if (character == '\r')
+        return QStringLiteral("\\r");
+    if (character == '\t')
+        return QStringLiteral("\\t");
+    QString text;
+    for (const QChar unit : utf16(character))
+        text += QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+    return text;
+}
+
+} // namespace
+
+bool isUtf8(std::string_view text)
+{
+    return fromUtf8(text).toUtf8() == QByteArray(text.data(), static_cast<int>(text.size()));
+}
+
+QString fromUtf8(std::string_view text)
+{
+    const QByteArray bytes = guarded(text);
+    // With its length: a NUL does not end it.
+    return QString::fromUtf8(bytes.constData(), bytes.size()).mid(1);
+}
+
+std::string cleanedUtf8(std::string_view text)
+{
+    return fromUtf8(text).replace(QChar(u'\0'), QChar(QChar::ReplacementCharacter)).toStdString();
+}
+
+QString printable(const QString &text, int most)
+{
+    QString line;
+    for (const uint character : text.toUcs4()) {
+        if (line.size() >= most)
+            return line + QStringLiteral("…");
+        line += isHarmless(character) ? utf16(character) : escaped(character);
+    }
+    return line;
+}
+
+std::string printable(std::string_view text, int most)
+{
+    return printable(fromUtf8(text), most).toStdString();
+}
+
+QByteArray printableLines(const QByteArray &text)
+{
+    QByteArrayList lines = text.split('\n');
+    for (QByteArray &line : lines)
+        line = printable(fromUtf8({line.constData(), static_cast<std::size_t>(line.size())}),
+                         unlimited)
+                   .toUtf8();
+    return lines.join('\n');
+}
+
+} // namespace formats

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Result.h"
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace history
+{
+
+/// The last second that the store keeps, 2106-02-07 06:28:15 UTC, and the longest
+/// time connected: the callers of the statistics SDK count in 32 bits.
+constexpr std::int64_t largestTime = std::numeric_limits<std::uint32_t>::max();
+constexpr std::int64_t largestDuration = std::numeric_limits<std::int32_t>::max();
+
+/// The most bytes that a profile may have.
+constexpr std::size_t longestProfile = 1048576;
+
+/// One finished connection as the store keeps it. Times are seconds since
+/// 1970-01-01 00:00 UTC from 0 to largestTime, durations lie between 0 and
+/// largestDuration; byte counts are not negative. Texts are UTF-8.
+struct Connection {
+    std::int64_t key = 0; ///< given by the store, never used twice; 0 before that
+    std::string profile;  ///< at most longestProfile bytes
+    std::int64_t startUtc = 0;
+    std::int64_t endUtc = 0;
+    std::int64_t connectedSeconds = 0;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+    std::string ending = "normal"; ///< how it ended, at most 31 bytes
+    std::string interfaceName;     ///< network interface, at most 31 bytes; may be empty
+};
+
+/// A connection from the moment it begins until it is finished, as the store
+/// keeps it for the case that its recorder ends first. It belongs to one link of
+/// one run of the system: an interface of the same name that is made anew has
+/// another index, and after a restart the boot id is another one. Values have
+/// the units and ranges of Connection unless a line says otherwise.
+struct OpenConnection {
+    std::int64_t key = 0;            ///< given by the store, never used twice; 0 before that
+    std::string bootId;              ///< /proc/sys/kernel/random/boot_id
+    std::int64_t interfaceIndex = 0; ///< the kernel's number of the interface
+    std::string interfaceName;       ///< may change while the connection lasts
+    std::string linkMark;            ///< tells this connection of the link from later ones
+    std::string profile;             ///< may change while the connection lasts
+    std::int64_t startUtc = 0;
+    std::int64_t startBootMilliseconds = 0; ///< CLOCK_BOOTTIME at the start
+    /// What the interface's counters show minus this is what the connection has
+    /// moved: their values at the start, less (below 0 even) after a reset.
+    std::int64_t baseUploaded = 0;
+    std::int64_t baseDownloaded = 0;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+    std::int64_t updatedUtc = 0; ///< when these values were true
+    std::int64_t connectedSeconds = 0;
+    std::string ending = "normal"; ///< what it is to end with, unless something happens
+};
+
+/// What a link's counters showed when a recorder saw them last. A number of an
+/// interface means something in one run of the system only, its name in all of them.
+struct SeenLink {
+    std::string bootId;
+    std::int64_t interfaceIndex = 0;
+    std::string interfaceName;
+    std::int64_t uploaded = 0;
+    std::int64_t downloaded = 0;
+    std::int64_t seenUtc = 0; ///< in the range of Connection's times
+};
+
+/// Times from one second up to another one, which is outside, in seconds since
+/// 1970-01-01 00:00 UTC; all times unless set.
+struct TimeRange {
+    std::int64_t fromUtc = std::numeric_limits<std::int64_t>::min();
+    std::int64_t untilUtc = std::numeric_limits<std::int64_t>::max();
+};
+
+/// What the connections of one group add up to, exactly.
+struct Totals {
+    std::string profile; ///< empty if the profiles are not told apart
+    int period = 0;      ///< what Store::PeriodOf made of their starts
+    std::int64_t connections = 0;
+    std::int64_t connectedSeconds = 0;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+};
+
+/// The history of connections in one SQLite file. A store is used on one thread;
+/// several processes may use the same file at once. No operation throws.
+class Store
+{
+public:
+    /// The user's own store: $NETINFO_STORE if set, else connections.db in the
+    /// refdialer folder of $XDG_DATA_HOME (~/.local/share without it).
+    static std::string defaultPath();
+
+    /// Opens the store in `path` and creates it, mode 0600 in a folder of mode
+    /// 0700, if it is not there. A file that is not a store, is damaged or newer
+    /// is left as it is.
+    static Result<Store> openOrCreate(const std::string &path);
+    /// The same, and each change is on the disk before it is told to be done: not
+    /// even a power cut takes it back. A locked store is waited for a moment only, to
+    /// be tried again later, and said to be locked by the recorder when that has lasted.
+    static Result<Store> openForRecording(const std::string &path);
+    /// As openOrCreate, but a file that is not there is not made: until something else
+    /// creates it, the store reads as empty.
+    static Result<Store> openForReading(const std::string &path);
+    /// The same for who reads again and again: a locked store is waited for a moment only.
+    static Result<Store> openForWatching(const std::string &path);
+
+    Store(Store &&) noexcept;
+    Store &operator=(Store &&) noexcept;
+    ~Store();
+
+    /// The finished connections that start in `range`, by start time, then by key.
+    Result<std::vector<Connection>> list(const TimeRange &range = {}) const;
+
+    /// A number that stays the same as long as the finished connections do, on which
+    /// open ones have no part: the sum, modulo 2^64, of fingerprintOf() each of them.
+    /// Costs next to nothing while nobody has written to the file.
+    Result<std::uint64_t> fingerprint() const;
+    /// Of the connection's values and its key; the same within one process only.
+    static std::uint64_t fingerprintOf(const Connection &connection);
+
+    /// Stores one connection and returns its key.
+    Result<std::int64_t> add(const Connection &connection);
+
+    /// Told how many of the given connections have been looked at so far.
+    using Progress = std::function<void(std::size_t done)>;
+    /// Stores those of `connections` that are not in the store yet, all or none,
+    /// and returns how many that were. Equal connections are told apart by their
+    /// number: what is given three times is in the store three times afterwards,
+    /// so giving the same list again adds nothing.
+    Result<std::size_t> addMissing(const std::vector<Connection> &connections,
+                                   const Progress &progress = {});
+
+    /// What merge() has changed.
+    struct Merged {
+        std::size_t added = 0;
+        std::size_t completed = 0;
+    };
+    /// Takes over into `stored` what the given connection of that index knows more
+    /// about the same one; whether that was anything.
+    using Completion = std::function<bool(Connection &stored, std::size_t index)>;
+    /// Stores connections that were read from a log, all or none. A log may have lost
+    /// the beginning of a connection or not name its profile, so here those are the same
+    /// whose end, connected time and both byte counts are, unless both know their
+    /// interface and it is another one. As in addMissing(), their number counts.
+    /// `complete` is asked for each that is there with other contents; it leaves the
+    /// key, and what makes the two the same, as it is.
+    Result<Merged> merge(const std::vector<Connection> &connections, const Completion &complete,
+                         const Progress &progress = {});
+
+    /// Removes the connections with these keys, all or none.
+    Result<std::size_t> remove(const std::vector<std::int64_t> &keys);
+
+    /// Stores a connection that has begun. A link has one open connection at
+    /// most: if there is one already, of an earlier process or another one that
+    /// records the same link, nothing is stored. Returns what the store holds
+    /// then, with its key. It is in no list before it is finished.
+    Result<OpenConnection> begin(const OpenConnection &connection);
+    /// Brings an open connection up to date: its names, mark, base, totals, last update
+    /// and ending; by its key, which is returned, link and start.
+    /// With an `origin`, it keeps in the same transaction that this was taken over.
+    Result<std::int64_t> checkpoint(const OpenConnection &connection,
+                                    const std::string &origin = {});
+    /// Turns the open connection, known as for checkpoint(), into the finished one that
+    /// is given, both at once, and returns the finished one's key. If it is open no
+    /// longer, another process may have finished it: then the connection is added
+    /// unless one of the same interface and start is there, which gives 0.
+    /// An `origin` is kept as for checkpoint().
+    Result<std::int64_t> finish(const OpenConnection &open, const Connection &connection,
+                                const std::string &origin = {});
+    /// Whether a change of this origin has been made, so that it is not made twice.
+    Result<bool> wasTakenOver(const std::string &origin) const;
+    /// Forgets all origins, once there is nothing left to take over. Returns how many.
+    Result<std::int64_t> forgetOrigins();
+    /// The connections that have begun and not been finished, by key.
+    Result<std::vector<OpenConnection>> listOpen() const;
+
+    /// Each of begin(), checkpoint() and finish() keeps what the connection's link showed
+    /// at that update too. This keeps it of other links, forgets links of the same names
+    /// that are not there any more, and adds the connections that nobody has watched,
+    /// all or nothing; returns how many those were.
+    Result<std::size_t> see(const std::vector<SeenLink> &links,
+                            const std::vector<Connection> &unwatched = {});
+    /// What is known of links by earlier calls.
+    Result<std::vector<SeenLink>> listSeen() const;
+
+    /// Whether totals tell profiles apart, upper and lower case included.
+    enum class Profiles { Together, Apart };
+    /// The period that a connection counts in, wholly, by its start, in seconds
+    /// since 1970-01-01 00:00 UTC; nothing leaves the connection out.
+    using PeriodOf = std::function<std::optional<int>(std::int64_t startUtc)>;
+    /// The totals of the finished connections that start in `range`, by profile,
+    /// in the order of its bytes, then by period; groups without a connection are
+    /// left out. A sum that 64 bits do not hold is an error and never a number.
+    Result<std::vector<Totals>> totals(const TimeRange &range, Profiles profiles,
+                                       const PeriodOf &periodOf) const;
+
+private:
+    class Private;
+    explicit Store(std::unique_ptr<Private> d);
+    std::unique_ptr<Private> d;
+};
+
+} // namespace history

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace SQLite
+{
+class Database;
+}
+
+namespace history
+{
+
+/// Marks a database as a store: "RDCH" in the header's application_id.
+constexpr std::int32_t storeApplicationId = 0x52444348;
+
+/// The SQL of the upgrade steps: the first makes the tables, and each one after
+/// it turns version n into version n + 1. The version (user_version in the
+/// header) is the number of steps taken. A step that has been released is never
+/// changed, only new ones are added.
+using SchemaSteps = std::vector<const char *>;
+const SchemaSteps &storeSchema();
+
+/// Throws StoreFailure unless this version of the library can work with a store
+/// of that version.
+void checkSchemaVersion(const std::string &path, std::int32_t version);
+
+/// Throws StoreFailure unless the database is what some of the steps, from the first
+/// one on, have made of it, and SQLite::Exception.
+void checkSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps);
+
+/// Takes the steps that the database still lacks, all or none. Throws
+/// StoreFailure if it is somebody else's, newer, or holds what no step has made,
+/// SQLite::Exception.
+void upgradeSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps);
+
+} // namespace history

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "LinkTable.h"
+#include "history/Store.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace recorder
+{
+
+/// One moment on both clocks.
+struct Moment {
+    std::int64_t utcSeconds = 0;
+    std::int64_t bootMilliseconds = 0;
+};
+
+/// The nearest time that the store takes; a clock may have been set beyond it.
+std::int64_t storableSeconds(std::int64_t seconds);
+
+/// A connection while it lasts: what its link's counters and the clocks make of it.
+class LiveConnection
+{
+public:
+    /// All that it consists of, for another process to go on with.
+    struct State {
+        history::OpenConnection row;
+        std::string linkMark;
+        bool hasOwnProfile = false;
+        LinkCounters countersAtFirst;
+        LinkCounters totalsAtFirst;
+        Moment moment;
+        bool hasEnded = false;
+    };
+
+    /// One that begins now on a link whose counters showed `base` before.
+    LiveConnection(std::int64_t id, const std::string &bootId, const std::string &profile,
+                   const Link &link, const LinkCounters &base, const Moment &now);
+    /// One that another process has left; its id is 0.
+    explicit LiveConnection(const State &state);
+    State state() const;
+
+    /// Tells it from all others of this process.
+    std::int64_t id() const { return m_id; }
+    int linkIndex() const { return static_cast<int>(m_row.interfaceIndex); }
+    const history::OpenConnection &row() const { return m_row; }
+
+    /// It is in the store under this row's key now; if an earlier process has begun
+    /// it, it goes on with that one's start, totals and, unless one was set here,
+    /// profile. Whether that is so: then the row lacks what has happened since.
+    bool adopt(const history::OpenConnection &stored);
+    /// Leaves out what the link's counters showed up to these values, because it is
+    /// in another record, unless they had begun anew before this one began.
+    void leaveOut(const LinkCounters &counted);
+
+    void setProfile(const std::string &profile);
+    /// Takes over what the link is called and marked with.
+    void setLink(const Link &link);
+
+    /// Takes the link's counters as they are now. One that has gone backwards has
+    /// been reset: what it shows is a new base then, what had been counted stays,
+    /// and the connection is marked.
+    void advance(const LinkCounters &counters, const Moment &now);
+
+    /// It has ended, at the first of these moments; its final counters may still
+    /// be on their way.
+    void end(const Moment &now);
+    bool hasEnded() const { return m_end.has_value(); }
+    /// The finished connection; one without its final counters is "recovered".
+    history::Connection finished(bool hasFinalCounters) const;
+
+    /// Bytes per second since the last call, or since the beginning.
+    LinkCounters takeRate(const Moment &now);
+
+    // What the recorder still owes its listeners and the store.
+    bool isStateDue = false;
+    bool isCheckpointDue = false;
+
+private:
+    void updateTimes(const Moment &now);
+    void advanceTotals(const LinkCounters &counters);
+    void leaveOutUploaded(std::int64_t bytes);
+    void leaveOutDownloaded(std::int64_t bytes);
+
+    const std::int64_t m_id;
+    /// Until it is in the store, with the mark that the link had in the beginning:
+    /// an earlier process's row has that one.
+    history::OpenConnection m_row;
+    std::string m_linkMark; ///< at present
+    bool m_hasOwnProfile = false;
+    const LinkCounters m_countersAtFirst;
+    LinkCounters m_totalsAtFirst;
+    LinkCounters m_counters;
+    Moment m_moment; ///< of those
+    LinkCounters m_rateTotals;
+    std::int64_t m_rateMilliseconds = 0;
+    std::optional<Moment> m_end;
+};
+
+/// A connection that an earlier process had left open, as it was last known.
+history::Connection recovered(const history::OpenConnection &row);
+
+/// What its link's counters showed then.
+LinkCounters countersAtLastUpdate(const history::OpenConnection &row);
+
+} // namespace recorder

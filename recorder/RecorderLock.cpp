@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "RecorderLock.h"
+
+#include "LockFile.h"
+#include "history/FilesBesideStore.h"
+
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <system_error>
+
+namespace recorder
+{
+
+RecorderLock::RecorderLock(const QString &storePath)
+    : m_path(storePath + QLatin1String(history::recorderLockSuffix))
+{
+}
+
+RecorderLock::~RecorderLock()
+{
+    free();
+}
+
+RecorderLock::Outcome RecorderLock::take()
+{
+    std::optional<Outcome> outcome;
+    while (!outcome)
+        outcome = tryFile();
+    if (outcome == Outcome::Taken)
+        introduceHolder();
+    return *outcome;
+}
+
+void RecorderLock::free()
+{
+    if (!m_file.isOpen())
+        return;
+    // While the lock still holds, so that nobody else has it meanwhile.
+    if (isInPlace())
+        QFile::remove(m_path);
+    m_file.close();
+}
+
+std::optional<RecorderLock::Outcome> RecorderLock::tryFile()
+{
+    m_file.close();
+    const bool isOpen = open();
+    const int reason = errno;
+    const auto status = isOpen ? statusOf(m_file.handle()) : statusAt(fileName());
+    if (!status)
+        return fail(reason);
+    if (!S_ISREG(status->st_mode))
+        return refuse(tr("it is not a file"));
+    if (status->st_nlink > 1)
+        return refuse(tr("it is a hard link to another file"));
+    if (isOpen && isOwn(*status))
+        return lock();
+    return isOpen || reason == EACCES ? replace(*status) : fail(reason);
+}
+
+bool RecorderLock::open()
+{
+    const int descriptor = openLockFile(fileName());
+    return descriptor >= 0 && m_file.open(descriptor, QIODevice::ReadWrite | QIODevice::Unbuffered,
+                                          QFileDevice::AutoCloseHandle);
+}
+
+/// Nothing if its former holder has removed the file between opening and locking it.
+std::optional<RecorderLock::Outcome> RecorderLock::lock()
+{
+    // A umask can keep even the owner out of a new file.
+    if (fchmod(m_file.handle(), S_IRUSR | S_IWUSR) != 0)
+        return fail(errno);
+    if (flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0)
+        return isInPlace() ? std::make_optional(Outcome::Taken) : std::nullopt;
+    if (errno != EWOULDBLOCK)
+        return fail(errno);
+    return leaveToHolder();
+}
+
+/// What cannot be locked safely, another user's file or one that its owner may not
+/// open, would keep everybody from recording for ever. Nothing if it is gone.
+std::optional<RecorderLock::Outcome> RecorderLock::replace(const struct stat &status)
+{
+    switch (removeUnlocked(fileName(), status)) {
+    case Removal::Done:
+        return std::nullopt;
+    case Removal::Busy:
+        return leaveToHolder();
+    case Removal::NotOwnFolder:
+        break;
+    }
+    return isOwn(status) ? fail(EACCES) : refuse(tr("it belongs to another user"));
+}
+
+RecorderLock::Outcome RecorderLock::leaveToHolder()
+{
+    m_holder = m_file.isOpen() ? readHolder() : std::nullopt;
+    m_file.close();
+    return Outcome::HeldByAnother;
+}
+
+bool RecorderLock::isInPlace() const
+{
+    const auto locked = statusOf(m_file.handle());
+    const auto inPlace = statusAt(fileName());
+    return locked && inPlace && isSameFile(*locked, *inPlace);
+}
+
+std::string RecorderLock::fileName() const
+{
+    return QFile::encodeName(m_path).toStdString();
+}
+
+/// For the others' messages only: a full disk does not keep anybody from recording.
+void RecorderLock::introduceHolder()
+{
+    m_file.resize(0);
+    m_file.write(QByteArray::number(QCoreApplication::applicationPid()) + '\n' +
+                 QCoreApplication::applicationName().toUtf8() + '\n');
+}
+
+std::optional<RecorderLock::Holder> RecorderLock::readHolder()
+{
+    const qint64 process = m_file.readLine(32).trimmed().toLongLong();
+    const QString program = QString::fromUtf8(m_file.readLine(256).trimmed());
+    if (process <= 0 || program.isEmpty())
+        return std::nullopt;
+    return Holder{program, process};
+}
+
+RecorderLock::Outcome RecorderLock::fail(int systemError)
+{
+    m_error = QString::fromStdString(std::generic_category().message(systemError));
+    m_file.close();
+    return Outcome::Failed;
+}
+
+RecorderLock::Outcome RecorderLock::refuse(const QString &reason)
+{
+    m_error = reason;
+    m_file.close();
+    return Outcome::Refused;
+}
+
+} // namespace recorder

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QString>
+
+#include <optional>
+#include <string>
+
+struct stat;
+
+namespace recorder
+{
+
+/// Lets one recorder at a time have a store, within a process too. The lock is the
+/// kernel's, on a file that only tells others whose it is: it ends with its process,
+/// whatever is left in the file. Only a regular file of one's own is written to; where
+/// another user's stands in a folder of one's own and nobody holds it, it is replaced.
+class RecorderLock
+{
+    Q_DECLARE_TR_FUNCTIONS(recorder::RecorderLock)
+
+public:
+    /// Of this store, whose path has to be the one that all recorders know it by;
+    /// nothing is taken yet.
+    explicit RecorderLock(const QString &storePath);
+    /// Frees the lock.
+    ~RecorderLock();
+    RecorderLock(const RecorderLock &) = delete;
+    RecorderLock &operator=(const RecorderLock &) = delete;
+
+    /// Failed: the file cannot be made or opened. Refused: what stands there is no
+    /// lock file of one's own, and was left as it is. errorString() says why.
+    enum class Outcome { Taken, HeldByAnother, Failed, Refused };
+    /// Does not wait.
+    Outcome take();
+    void free();
+
+    struct Holder {
+        QString program;
+        qint64 process = 0;
+    };
+    /// Who holds it, after HeldByAnother; nothing if that one has not said so yet or
+    /// may not be asked.
+    std::optional<Holder> holder() const { return m_holder; }
+    QString path() const { return m_path; }
+    QString errorString() const { return m_error; }
+
+private:
+    /// One attempt; nothing if another one is due, for the file has changed.
+    std::optional<Outcome> tryFile();
+    bool open();
+    std::optional<Outcome> lock();
+    std::optional<Outcome> replace(const struct stat &status);
+    bool isInPlace() const;
+    std::string fileName() const;
+    void introduceHolder();
+    std::optional<Holder> readHolder();
+    Outcome leaveToHolder();
+    Outcome fail(int systemError);
+    Outcome refuse(const QString &reason);
+
+    const QString m_path;
+    QFile m_file;
+    std::optional<Holder> m_holder;
+    QString m_error;
+};
+
+} // namespace recorder

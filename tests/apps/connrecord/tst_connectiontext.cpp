@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "apps/connrecord/ConnectionText.h"
+#include "formats/JsonText.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+#include <limits>
+
+using namespace connrecord;
+using namespace formats;
+using namespace history;
+
+class ConnectionTextTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void givesTheHeaderAloneWithoutConnections();
+    void alignsTheColumns();
+    void keepsEachConnectionOnOneLine();
+    void alignsWideCharacters();
+    void showsVolumesAsTheHistoryWindowDoes_data();
+    void showsVolumesAsTheHistoryWindowDoes();
+    void writesExactIntegers_data();
+    void writesExactIntegers();
+    void writesEveryFieldAsJson();
+};
+
+namespace
+{
+
+Connection sample()
+{
+    Connection connection;
+    connection.key = 12;
+    connection.profile = "internet.example";
+    connection.startUtc = 1717180200;
+    connection.endUtc = 1717183800;
+    connection.connectedSeconds = 3590;
+    connection.uploadedBytes = 31981;
+    connection.downloadedBytes = 512;
+    connection.interfaceName = "ppp0";
+    return connection;
+}
+
+} // namespace
+
+void ConnectionTextTest::givesTheHeaderAloneWithoutConnections()
+{
+    QCOMPARE(toTable({}), QByteArray("KEY  PROFILE  START  END  CONNECTED  UPLOADED  DOWNLOADED  "
+                                     "ENDING  INTERFACE\n"));
+    QCOMPARE(jsonText(toJson(std::vector<Connection>())), QByteArray("[]\n"));
+}
+
+void ConnectionTextTest::alignsTheColumns()
+{
+    Connection other = sample();
+    other.key = 3;
+    other.profile = "a";
+    other.connectedSeconds = 360000;
+    other.uploadedBytes = 5368709120;
+    other.interfaceName = "";
+    QCOMPARE(
+        toTable({other, sample()}),
+        QByteArray("KEY  PROFILE           START                END                  CONNECTED  "
+                   "UPLOADED  DOWNLOADED  ENDING  INTERFACE\n"
+                   "  3  a                 2024-05-31 20:30:00  2024-05-31 21:30:00  100:00:00   "
+                   "5.00 GB     0.50 KB  normal\n"
+                   " 12  internet.example  2024-05-31 20:30:00  2024-05-31 21:30:00   00:59:50  "
+                   "31.23 KB     0.50 KB  normal  ppp0\n"));
+}
+
+void ConnectionTextTest::keepsEachConnectionOnOneLine()
+{
+    Connection connection = sample();
+    connection.profile = "a\nb\x1b[2J";
+    const QByteArray table = toTable({connection});
+    QCOMPARE(table.count('\n'), 2);
+    QVERIFY(table.contains("a\\nb\\u001b[2J "));
+    QVERIFY(!table.contains('\x1b'));
+}
+
+void ConnectionTextTest::alignsWideCharacters()
+{
+    Connection wide = sample();
+    wide.profile = "\xE7\xB6\xB2\xE8\xB7\xAF"; // two characters, four cells
+    Connection narrow = sample();
+    narrow.profile = "abcd";
+    const QList<QByteArray> lines = toTable({wide, narrow}).split('\n');
+    QVERIFY(lines[1].contains("\xE7\xB6\xB2\xE8\xB7\xAF     2024"));
+    QVERIFY(lines[2].contains("abcd     2024"));
+}
+
+void ConnectionTextTest::showsVolumesAsTheHistoryWindowDoes_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("nothing") << qint64(0) << "0.00 KB";
+    QTest::newRow("one byte") << qint64(1) << "0.00 KB";
+    QTest::newRow("half a kilobyte") << qint64(512) << "0.50 KB";
+    QTest::newRow("a byte below a megabyte") << qint64(1048575) << "1024.00 KB";
+    QTest::newRow("a megabyte") << qint64(1048576) << "1.00 MB";
+    QTest::newRow("a byte below a gigabyte") << qint64(1073741823) << "1024.00 MB";
+    QTest::newRow("a gigabyte") << qint64(1073741824) << "1.00 GB";
+    QTest::newRow("a terabyte and a half") << qint64(1649267441664) << "1536.00 GB";
+    QTest::newRow("the largest") << std::numeric_limits<qint64>::max() << "8589934592.00 GB";
+}
+
+void ConnectionTextTest::showsVolumesAsTheHistoryWindowDoes()
+{
+    QFETCH(qint64, bytes);
+    QTEST(volumeText(bytes), "text");
+}
+
+void ConnectionTextTest::writesExactIntegers_data()
+{
+    QTest::addColumn<qint64>("bytes");
+
+    QTest::newRow("0") << qint64(0);
+    QTest::newRow("the last that a double holds") << qint64(9007199254740992);
+    QTest::newRow("the first that a double does not hold") << qint64(9007199254740993);
+    QTest::newRow("one below the largest") << std::numeric_limits<qint64>::max() - 1;
+    QTest::newRow("the largest") << std::numeric_limits<qint64>::max();
+}
+
+void ConnectionTextTest::writesExactIntegers()
+{
+    QFETCH(qint64, bytes);
+    Connection connection = sample();
+    connection.uploadedBytes = bytes;
+    const QByteArray json = jsonText(toJson(std::vector<Connection>{connection}));
+    QVERIFY2(json.contains("\"uploaded_bytes\": " + QByteArray::number(bytes) + '\n'), json);
+}
+
+void ConnectionTextTest::writesEveryFieldAsJson()
+{
+    const QByteArray json = jsonText(toJson(std::vector<Connection>{sample()}));
+    const QJsonObject expected = {{"key", 12},
+                                  {"profile", "internet.example"},
+                                  {"start", "2024-05-31T18:30:00Z"},
+                                  {"end", "2024-05-31T19:30:00Z"},
+                                  {"connected_seconds", 3590},
+                                  {"uploaded_bytes", 31981},
+                                  {"downloaded_bytes", 512},
+                                  {"ending", "normal"},
+                                  {"interface", "ppp0"}};
+    QCOMPARE(QJsonDocument::fromJson(json).array(), QJsonArray{expected});
+}
+
+QTEST_GUILESS_MAIN(ConnectionTextTest)
+
+#include "tst_connectiontext.moc"

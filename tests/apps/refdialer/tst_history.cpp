@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "HistoryWindow.h"
+#include "refhost/libcore/Host.h"
+
+#include <QFile>
+#include <QTableWidget>
+#include <QTest>
+
+#include <memory>
+
+/// The built plug-in in our window, on a real store.
+class TestHistory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_history = std::make_unique<HistoryWindow>(); }
+    void cleanup() { m_history.reset(); }
+
+    void showsTheStoredConnectionsNewestFirst();
+    void showsTimesThat31BitsDoNotHold();
+    void showsAnEmptyTableBeforeThereIsAStore();
+    void speaksTheLanguageOfTheProgram();
+
+private:
+    QString cell(int row, int column) const { return m_history->column(column).at(row); }
+
+    std::unique_ptr<HistoryWindow> m_history;
+};
+
+void TestHistory::showsTheStoredConnectionsNewestFirst()
+{
+    QVERIFY(m_history->store({connection("first.example", 0), connection("third.example", 20),
+                              connection("second.example", 10)}));
+    QVERIFY(m_history->open());
+    QCOMPARE(m_history->shownProfiles(),
+             QStringList({"third.example", "second.example", "first.example"}));
+    const QTableWidget &table = m_history->table();
+    QCOMPARE(table.item(0, 1)->data(Qt::DisplayRole).toDateTime().toSecsSinceEpoch(),
+             connection("third.example", 20).startUtc);
+    QCOMPARE(cell(0, 3), QString("01:02:05"));
+    QCOMPARE(cell(0, 4), QString("2.00 KB"));
+    QCOMPARE(cell(0, 5), QString("5.00 MB"));
+    QVERIFY(table.isVisible());
+}
+
+void TestHistory::showsTimesThat31BitsDoNotHold()
+{
+    history::Connection last = connection("last.example", 0);
+    last.startUtc = 2147483648;
+    last.endUtc = history::largestTime;
+    QVERIFY(m_history->store({connection("first.example", 0), last}));
+    QVERIFY(m_history->open());
+    QCOMPARE(m_history->shownProfiles(), QStringList({"last.example", "first.example"}));
+    const auto shownTime = [this](int column) {
+        return m_history->table().item(0, column)->data(Qt::DisplayRole).toDateTime();
+    };
+    QCOMPARE(shownTime(1).toSecsSinceEpoch(), qint64(2147483648));
+    QCOMPARE(shownTime(2).toSecsSinceEpoch(), qint64(history::largestTime));
+}
+
+void TestHistory::showsAnEmptyTableBeforeThereIsAStore()
+{
+    QVERIFY(m_history->open());
+    QCOMPARE(m_history->table().rowCount(), 0);
+    QCOMPARE(m_history->table().horizontalHeaderItem(0)->text(), QString("Profile (APN)"));
+    QVERIFY(!QFile::exists(QString::fromStdString(m_history->storePath())));
+}
+
+void TestHistory::speaksTheLanguageOfTheProgram()
+{
+    QVERIFY(m_history->open());
+    QCOMPARE(m_history->table().horizontalHeaderItem(5)->text(), QString("Downloaded"));
+    QVERIFY(refhost::setLanguage("de"));
+    m_history->plugin().changeLanguage("de");
+    QCOMPARE(m_history->table().horizontalHeaderItem(5)->text(), QString("Empfangen"));
+}
+
+QTEST_MAIN(TestHistory)
+#include "tst_history.moc"

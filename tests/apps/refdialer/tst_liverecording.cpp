@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "HistoryWindow.h"
+#include "NetworkNamespace.h"
+#include "ShownText.h"
+#include "TunDevice.h"
+#include "VethPair.h"
+#include "apps/refdialer/Recording.h"
+#include "apps/refdialer/StateLine.h"
+#include "apps/refdialer/SummaryChoice.h"
+
+#include "ExtendDialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QTableWidget>
+#include <QTest>
+
+#include <memory>
+
+/// Real connections of interfaces in a network of this test's own, from the
+/// kernel to the window.
+class TestLiveRecording : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TestLiveRecording(QString obstacle)
+        : m_obstacle(std::move(obstacle))
+    {
+    }
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void showsAConnectionFromItsBeginningToItsEnd();
+    void showsOneThatWasThereBefore();
+    void showsADeletedInterfacesConnection();
+    void showsWhatAnEarlierRunLeftOpen();
+    void recordsANamedInterface();
+    void saysWhyItCannotRecord();
+
+private:
+    bool start(const QStringList &interfaceNames = {});
+    QString line() const;
+    QStringList summary() const;
+
+    const QString m_obstacle;
+    std::unique_ptr<HistoryWindow> m_history;
+    std::unique_ptr<refdialer::Recording> m_recording;
+};
+
+namespace
+{
+
+QString volume(qint64 bytes)
+{
+    return QString::asprintf("%.2f KB", double(bytes) / 1024);
+}
+
+} // namespace
+
+void TestLiveRecording::initTestCase()
+{
+    if (!m_obstacle.isEmpty())
+        QSKIP(qPrintable(m_obstacle), "");
+}
+
+void TestLiveRecording::init()
+{
+    m_history = std::make_unique<HistoryWindow>();
+    refdialer::offerSummary();
+}
+
+void TestLiveRecording::cleanup()
+{
+    m_recording.reset();
+    m_history.reset();
+}
+
+/// In the order of the program: the plug-in reads what the recording has settled.
+bool TestLiveRecording::start(const QStringList &interfaceNames)
+{
+    m_recording =
+        std::make_unique<refdialer::Recording>(QString::fromStdString(m_history->storePath()),
+                                               interfaceNames, QString(), m_history->state());
+    m_recording->start();
+    return m_history->open();
+}
+
+QString TestLiveRecording::line() const
+{
+    return shownText(*m_history->window().findChild<refdialer::StateLine *>());
+}
+
+QStringList TestLiveRecording::summary() const
+{
+    QStringList texts;
+    for (QWidget *const widget : QApplication::topLevelWidgets()) {
+        if (!dynamic_cast<ExtendDialog *>(widget))
+            continue;
+        for (const QLabel *const label : widget->findChildren<QLabel *>())
+            texts.append(label->text());
+    }
+    return texts;
+}
+
+void TestLiveRecording::showsAConnectionFromItsBeginningToItsEnd()
+{
+    const VethPair pair;
+    QVERIFY(pair.isMade());
+    QVERIFY(start());
+    QCOMPARE(line(), QString("Not connected"));
+    QVERIFY(pair.goUp());
+    QTRY_VERIFY2(line().startsWith("wwan0 | connected since "), qPrintable(line()));
+    QVERIFY(pair.upload(40, 1000));
+    QVERIFY(pair.download(25, 700));
+    const QString sent = volume(VethPair::bytesOf(40, 1000));
+    const QString received = volume(VethPair::bytesOf(25, 700));
+    QTRY_VERIFY2(line().contains("Sent: " + sent), qPrintable(line()));
+    QVERIFY(pair.upload(3, 999));
+    const QString sentInAll = volume(VethPair::bytesOf(40, 1000) + VethPair::bytesOf(3, 999));
+    QVERIFY(pair.goDown());
+    QTRY_COMPARE(line(), QString("Not connected"));
+    QCOMPARE(m_history->column(0), QStringList("wwan0"));
+    QCOMPARE(m_history->column(4), QStringList(sentInAll));
+    QCOMPARE(m_history->column(5), QStringList(received));
+    QVERIFY2(summary().contains(sentInAll), qPrintable(summary().join('\n')));
+    QVERIFY2(summary().contains(received), qPrintable(summary().join('\n')));
+}
+
+void TestLiveRecording::showsOneThatWasThereBefore()
+{
+    const VethPair pair;
+    QVERIFY(pair.goUp());
+    QVERIFY(start());
+    QTRY_VERIFY2(line().startsWith("wwan0 | connected since "), qPrintable(line()));
+    QVERIFY(pair.goDown());
+    QTRY_COMPARE(m_history->shownProfiles(), QStringList("wwan0"));
+    QVERIFY(!summary().isEmpty());
+}
+
+void TestLiveRecording::showsADeletedInterfacesConnection()
+{
+    QVERIFY(start());
+    qint64 sent = 0;
+    {
+        const TunDevice device;
+        QVERIFY(device.isMade() && device.goUp());
+        QTRY_VERIFY2(line().startsWith("ppp0 | connected since "), qPrintable(line()));
+        QVERIFY(device.upload(7, 500));
+        sent = TunDevice::bytesOf(7, 500);
+    }
+    QTRY_COMPARE(line(), QString("Not connected"));
+    QCOMPARE(m_history->column(0), QStringList("ppp0"));
+    QCOMPARE(m_history->column(4), QStringList(volume(sent)));
+}
+
+void TestLiveRecording::showsWhatAnEarlierRunLeftOpen()
+{
+    {
+        const VethPair pair;
+        QVERIFY(start());
+        QVERIFY(pair.goUp());
+        QTRY_VERIFY2(line().startsWith("wwan0 | connected since "), qPrintable(line()));
+        m_recording.reset();
+        m_history->close();
+    }
+    QVERIFY(start());
+    QCOMPARE(m_history->shownProfiles(), QStringList("wwan0"));
+    QVERIFY(summary().isEmpty());
+}
+
+void TestLiveRecording::recordsANamedInterface()
+{
+    const VethPair pair;
+    QVERIFY(start({"far0"}));
+    QVERIFY(pair.goUp());
+    QTRY_COMPARE(line().split('\n').size(), 2);
+    QVERIFY2(line().contains("far0 | connected since "), qPrintable(line()));
+}
+
+void TestLiveRecording::saysWhyItCannotRecord()
+{
+    QVERIFY(QDir().mkpath(QString::fromStdString(m_history->storePath())));
+    m_recording =
+        std::make_unique<refdialer::Recording>(QString::fromStdString(m_history->storePath()),
+                                               QStringList(), QString(), m_history->state());
+    m_recording->start();
+    QVERIFY(!m_history->state().isWatched());
+    QTRY_VERIFY(
+        m_history->state().problem().contains(QString::fromStdString(m_history->storePath())));
+}
+
+// The network has to be entered before there is a second thread.
+int main(int argc, char **argv)
+{
+    const QString obstacle = enterNetworkNamespace();
+    const QApplication application(argc, argv);
+    TestLiveRecording test(obstacle);
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_liverecording.moc"

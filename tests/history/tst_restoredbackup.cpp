@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+// A program that is killed leaves its log beside the store; what becomes of it when
+// the file is another one by then, and that it is never lost when it is not.
+#include "StorePeer.h"
+#include "StoreSamples.h"
+#include "history/Store.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+using history::Store;
+
+namespace
+{
+
+using Restorer = std::function<void(const QString &backup, const QString &path)>;
+
+void copyOver(const QString &from, const QString &to)
+{
+    writeFile(to, contentsOf(from));
+}
+
+void setWrittenLongAgo(const QString &path)
+{
+    const std::array<timespec, 2> times = {timespec{1000000000, 0}, timespec{1000000000, 0}};
+    QCOMPARE(utimensat(AT_FDCWD, qPrintable(path), times.data(), 0), 0);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Restorer)
+
+class RestoredBackupTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_path = m_folder->filePath("connections.db");
+        m_log = m_path + "-wal";
+        m_backup = m_folder->filePath("backup.db");
+    }
+    void cleanup() { m_folder.reset(); }
+
+    void aLogOfAFormerFileIsNotPlayed_data();
+    void aLogOfAFormerFileIsNotPlayed();
+    void aLogThatLeftAPageAsItWasIsNotPlayed();
+    void aLogIsPlayedIntoItsFile_data();
+    void aLogIsPlayedIntoItsFile();
+    void aLogIsPlayedOnWhereItWasInterrupted();
+    void aLogThatAnotherProgramHasPlayedIsNoObstacle();
+    void aLogIsPlayedWhereAPowerCutHasTakenTimesBack();
+    void aLogThatTheUserVouchesForIsPlayed();
+
+private:
+    /// A whole connection of a recorder, whose key will be `key`.
+    void record(StorePeer &peer, int key, int start)
+    {
+        QCOMPARE(peer.tell(QString("begin %1 %2").arg(m_path).arg(start)),
+                 QString("ok %1").arg(key));
+        QCOMPARE(peer.tell(QString("checkpoint %1 %2 500").arg(m_path).arg(key)),
+                 QString("ok %1").arg(key));
+        QVERIFY(
+            peer.tell(QString("finish %1 %2 %3").arg(m_path).arg(key).arg(start)).startsWith("ok"));
+    }
+
+    /// Files that are written in one tick of the clock have the same time.
+    void awaitTimeAfterTheLog()
+    {
+        const QString probe = m_folder->filePath("probe");
+        const auto isLater = [&] {
+            writeFile(probe, "now");
+            return QFileInfo(probe).lastModified() > QFileInfo(m_log).lastModified();
+        };
+        QTRY_VERIFY(isLater());
+    }
+
+    void checkThatTheLogIsRefused();
+
+    /// Makes a store, keeps a copy of it, and leaves it with a log in which there are
+    /// `count` connections more.
+    void leaveALog(int count)
+    {
+        storeWith(m_path.toStdString(), {connection("kept", 10000000, 10000001)});
+        copyOver(m_path, m_backup);
+        StorePeer peer;
+        QCOMPARE(peer.tell(QString("hold %1 %2").arg(m_path).arg(count)),
+                 QString("ok %1").arg(count));
+        peer.kill();
+        QVERIFY(QFileInfo(m_log).size() > 0);
+        awaitTimeAfterTheLog();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+    QString m_log;
+    QString m_backup;
+};
+
+void RestoredBackupTest::aLogOfAFormerFileIsNotPlayed_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<Restorer>("restore");
+    const Restorer renamed = [](const QString &backup, const QString &path) {
+        QVERIFY(QFile::remove(path));
+        QVERIFY(QFile::copy(backup, backup + ".copy"));
+        QVERIFY(QFile::rename(backup + ".copy", path));
+    };
+    const Restorer aged = [](const QString &backup, const QString &path) {
+        copyOver(backup, path);
+        setWrittenLongAgo(path);
+    };
+    QTest::newRow("a backup copied over it") << 2 << Restorer(copyOver);
+    QTest::newRow("a backup in its place") << 2 << renamed;
+    QTest::newRow("a backup with its old time") << 2 << aged;
+    // So much that the log was played into the former file, too.
+    QTest::newRow("a backup copied over a larger file") << 20000 << Restorer(copyOver);
+}
+
+void RestoredBackupTest::checkThatTheLogIsRefused()
+{
+    const QByteArray log = contentsOf(m_log);
+
+    for (const auto open : {Store::openForReading, Store::openForRecording}) {
+        const auto store = open(m_path.toStdString());
+        QCOMPARE(outcomeOf(store), QString("CannotOpen"));
+        const QString sentence = QString::fromStdString(store.error().message);
+        QVERIFY2(sentence.contains('"' + m_log + '"'), qPrintable(sentence));
+        QVERIFY2(sentence.contains("move the log away"), qPrintable(sentence));
+        QVERIFY2(sentence.contains("touch the log"), qPrintable(sentence));
+    }
+    QCOMPARE(contentsOf(m_path), contentsOf(m_backup));
+    QCOMPARE(contentsOf(m_log), log);
+}
+
+void RestoredBackupTest::aLogOfAFormerFileIsNotPlayed()
+{
+    QFETCH(int, count);
+    QFETCH(Restorer, restore);
+    leaveALog(count);
+    restore(m_backup, m_path);
+    checkThatTheLogIsRefused();
+    QVERIFY(QFile::rename(m_log, m_log + ".former"));
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("kept"));
+}
+
+/// An open connection that comes and goes leaves its page with the same bytes as the
+/// one before has left.
+void RestoredBackupTest::aLogThatLeftAPageAsItWasIsNotPlayed()
+{
+    storeWith(m_path.toStdString(), {connection("kept", 10000000, 10000001)});
+    StorePeer recorder;
+    record(recorder, 1, 1000);
+    copyOver(m_path, m_backup);
+    QCOMPARE(recorder.tell("hold " + m_path + " 0"), QString("ok 0"));
+    record(recorder, 2, 2000);
+    recorder.kill();
+    awaitTimeAfterTheLog();
+    copyOver(m_backup, m_path);
+    checkThatTheLogIsRefused();
+}
+
+void RestoredBackupTest::aLogIsPlayedIntoItsFile_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<Restorer>("change");
+    const Restorer none = [](const QString &, const QString &) {};
+    QTest::newRow("nothing was changed") << 2 << none;
+    QTest::newRow("it was large enough to be played in part") << 20000 << none;
+    QTest::newRow("the file has another mode") << 2 << Restorer([](auto &, const QString &path) {
+        QCOMPARE(chmod(qPrintable(path), 0640), 0);
+    });
+    QTest::newRow("both were copied back") << 2 << Restorer([](auto &, const QString &path) {
+        const QByteArray log = contentsOf(path + "-wal");
+        copyOver(path, path);
+        writeFile(path + "-wal", log);
+    });
+    QTest::newRow("both were copied into the place") << 2 << Restorer([](auto &, auto &path) {
+        for (const QString &each : {path + "-wal", path}) {
+            QVERIFY(QFile::copy(each, each + ".copy"));
+            QVERIFY(QFile::remove(each));
+            QVERIFY(QFile::rename(each + ".copy", each));
+        }
+    });
+    // Archives keep whole seconds, and the copies may be given the numbers of the originals.
+    QTest::newRow("both were put back with their old times")
+        << 2 << Restorer([](auto &, const QString &path) {
+               setWrittenLongAgo(path);
+               setWrittenLongAgo(path + "-wal");
+           });
+}
+
+void RestoredBackupTest::aLogIsPlayedIntoItsFile()
+{
+    QFETCH(int, count);
+    QFETCH(Restorer, change);
+    leaveALog(count);
+    change(m_backup, m_path);
+    const QString profiles = profilesIn(m_path.toStdString());
+    QCOMPARE(profiles.count("peer"), count);
+    QVERIFY(profiles.endsWith(" kept"));
+}
+
+void RestoredBackupTest::aLogIsPlayedOnWhereItWasInterrupted()
+{
+    leaveALog(2);
+    // The first page of the log comes into the file, as the first step of playing it.
+    const QByteArray frame = contentsOf(m_log).mid(32, 24 + 4096);
+    const int page = static_cast<unsigned char>(frame.at(3));
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek((page - 1) * 4096));
+    QCOMPARE(file.write(frame.mid(24)), qint64(4096));
+    file.close();
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("peer peer kept"));
+}
+
+/// What it writes itself does not say which file it is for.
+void RestoredBackupTest::aLogThatAnotherProgramHasPlayedIsNoObstacle()
+{
+    storeWith(m_path.toStdString(), {connection("kept", 10000000, 10000001)});
+    StorePeer peer;
+    QCOMPARE(peer.tell("hold " + m_path + " 2"), QString("ok 2"));
+    runSql(m_path.toStdString(), "PRAGMA wal_checkpoint; UPDATE connection SET profile = 'changed';"
+                                 "PRAGMA wal_checkpoint");
+    peer.kill();
+    QVERIFY(QFileInfo(m_log).size() > 0);
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("changed changed changed"));
+}
+
+void RestoredBackupTest::aLogIsPlayedWhereAPowerCutHasTakenTimesBack()
+{
+    storeWith(m_path.toStdString(), {connection("kept", 10000000, 10000001)});
+    StorePeer peer;
+    QCOMPARE(peer.tell("hold " + m_path + " 2"), QString("ok 2"));
+    // Times on the disk that are older than the one in the log.
+    runSql(m_path.toStdString(),
+           "UPDATE log_base SET file_written_ns = file_written_ns + 3600 * 1000000000");
+    peer.kill();
+    setWrittenLongAgo(m_path);
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("peer peer kept"));
+}
+
+void RestoredBackupTest::aLogThatTheUserVouchesForIsPlayed()
+{
+    leaveALog(2);
+    setWrittenLongAgo(m_path);
+    checkThatTheLogIsRefused();
+    QCOMPARE(utimensat(AT_FDCWD, qPrintable(m_log), nullptr, 0), 0);
+    QCOMPARE(profilesIn(m_path.toStdString()), QString("peer peer kept"));
+}
+
+QTEST_GUILESS_MAIN(RestoredBackupTest)
+
+#include "tst_restoredbackup.moc"

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recorder/SystemClock.h"
+
+/// Clocks that show what a test says.
+class FakeClock : public recorder::SystemClock
+{
+public:
+    std::int64_t utcSeconds() const override { return utc; }
+    std::int64_t bootMilliseconds() const override { return boot; }
+
+    void pass(std::int64_t milliseconds)
+    {
+        boot += milliseconds;
+        utc += milliseconds / 1000;
+    }
+
+    std::int64_t utc = 1700000000;
+    std::int64_t boot = 5000000;
+};

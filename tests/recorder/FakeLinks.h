@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recorder/LinkSource.h"
+
+#include <vector>
+
+/// A link of this index and name that is up and running, with these counters.
+recorder::LinkReport runningLink(int index, const std::string &name, std::int64_t uploaded,
+                                 std::int64_t downloaded);
+recorder::LinkReport downLink(int index, const std::string &name, std::int64_t uploaded,
+                              std::int64_t downloaded);
+recorder::LinkReport goneLink(int index, const std::string &name, std::int64_t uploaded,
+                              std::int64_t downloaded);
+recorder::AddressReport addressOn(int index);
+recorder::AddressReport addressGoneFrom(int index);
+
+/// News about links that a test makes up.
+class FakeLinks : public recorder::LinkSource
+{
+    Q_OBJECT
+
+public:
+    using LinkSource::LinkSource;
+
+    bool start() override;
+    std::vector<recorder::Link> links() const override { return m_table.links(); }
+    void requestCounters(int linkIndex) override { requests.push_back(linkIndex); }
+    /// Tells what was to come.
+    void catchUp() override;
+
+    void tell(const recorder::LinkNews &news);
+    /// All messages were lost; a new listing shows only these.
+    void relist(const std::vector<recorder::LinkNews> &news);
+
+    std::vector<recorder::LinkNews> atStart; ///< what the first listing shows
+    bool isBlind = false;                    ///< there is no first listing
+    std::vector<int> requests;
+    std::vector<recorder::LinkNews> toCome;
+
+private:
+    recorder::LinkTable m_table;
+};

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "RecordText.h"
+
+using history::Connection;
+using history::OpenConnection;
+using history::Store;
+
+QString textOf(const Connection &connection)
+{
+    return QStringLiteral("%1 up %2 down %3 %4")
+        .arg(QString::fromStdString(connection.interfaceName))
+        .arg(connection.uploadedBytes)
+        .arg(connection.downloadedBytes)
+        .arg(QString::fromStdString(connection.ending));
+}
+
+std::vector<Connection> connectionsIn(const QString &storePath)
+{
+    return Store::openForReading(storePath.toStdString()).value().list().value();
+}
+
+QStringList recordsIn(const QString &storePath)
+{
+    QStringList texts;
+    for (const Connection &each : connectionsIn(storePath))
+        texts.append(textOf(each));
+    return texts;
+}
+
+std::vector<OpenConnection> openRowsIn(const QString &storePath)
+{
+    const auto store = Store::openForReading(storePath.toStdString());
+    return store.value().listOpen().value();
+}
+
+QStringList recordsSeenBy(const QSignalSpy &disconnections)
+{
+    QStringList texts;
+    for (const QVariantList &arguments : disconnections)
+        texts.append(textOf(arguments.first().value<Connection>()));
+    return texts;
+}

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recorder/ConnectionRecorder.h"
+
+#include <QSignalSpy>
+#include <QStringList>
+
+/// "INTERFACE up UPLOADED down DOWNLOADED ENDING".
+QString textOf(const history::Connection &connection);
+/// The finished connections in the store at this path.
+std::vector<history::Connection> connectionsIn(const QString &storePath);
+QStringList recordsIn(const QString &storePath);
+std::vector<history::OpenConnection> openRowsIn(const QString &storePath);
+/// What a spy on disconnected() has seen.
+QStringList recordsSeenBy(const QSignalSpy &disconnections);

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "usage/CalendarTime.h"
+
+#include <QTest>
+
+using namespace usage;
+
+class CalendarTimeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsIsoTimes_data();
+    void readsIsoTimes();
+    void refusesWhatIsNoTime_data();
+    void refusesWhatIsNoTime();
+    void knowsTheHourThatComesTwice();
+    void writesUtcAndLocalTime();
+    void writesDurationsWithGrowingHours_data();
+    void writesDurationsWithGrowingHours();
+};
+
+void CalendarTimeTest::readsIsoTimes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<qint64>("utc");
+
+    QTest::newRow("UTC") << "2024-05-31T18:30:00Z" << qint64(1717180200);
+    QTest::newRow("an offset to the east") << "2024-05-31T20:30:00+02:00" << qint64(1717180200);
+    QTest::newRow("an offset without a colon") << "2024-05-31T20:30:00+0200" << qint64(1717180200);
+    QTest::newRow("an offset of hours alone") << "2024-05-31T20:30:00+02" << qint64(1717180200);
+    QTest::newRow("an offset to the west with minutes")
+        << "2024-05-31T15:00:00-03:30" << qint64(1717180200);
+    QTest::newRow("local time in summer") << "2024-05-31T20:30:00" << qint64(1717180200);
+    QTest::newRow("local time in winter") << "2024-01-31T19:30:00" << qint64(1706725800);
+    QTest::newRow("a space for the T") << "2024-05-31 20:30:00" << qint64(1717180200);
+    QTest::newRow("no seconds") << "2024-05-31T18:30Z" << qint64(1717180200);
+    QTest::newRow("a fraction is cut") << "2024-05-31T18:30:00.999Z" << qint64(1717180200);
+    QTest::newRow("a leap second is the one before it")
+        << "2016-12-31T23:59:60Z" << qint64(1483228799);
+    QTest::newRow("29 February of a leap year") << "2024-02-29T00:00:00Z" << qint64(1709164800);
+    QTest::newRow("before 1970") << "1969-12-31T23:59:59Z" << qint64(-1);
+}
+
+void CalendarTimeTest::readsIsoTimes()
+{
+    QFETCH(QString, text);
+    QFETCH(qint64, utc);
+    const auto read = utcFromIso(text.toStdString());
+    QVERIFY(read);
+    QCOMPARE(qint64(*read), utc);
+}
+
+void CalendarTimeTest::refusesWhatIsNoTime_data()
+{
+    QTest::addColumn<QString>("text");
+
+    for (const char *const text : {"",
+                                   "yesterday",
+                                   "2024-05-31",
+                                   "2024-05-31T",
+                                   "2024-05-31T18",
+                                   "2024-05-31T18:",
+                                   "2024-05-31T18:30:",
+                                   "2024-05-31T18:30:00.",
+                                   "2024-05-31T18:30:00 ",
+                                   "2024-05-31T18:30:00+2",
+                                   "2024-05-31T18:30:00+02:",
+                                   "2024-05-31T18:30:00ZZ",
+                                   "2024-02-30T18:30:00Z",
+                                   "2023-02-29T18:30:00Z",
+                                   "2024-13-01T18:30:00Z",
+                                   "2024-05-31T24:00:00Z",
+                                   "2024-05-31T18:60:00Z",
+                                   "24-05-31T18:30:00Z",
+                                   "0000-05-31T18:30:00Z",
+                                   "12024-05-31T18:30:00Z",
+                                   "2024-5-31T18:30:00Z"})
+        QTest::newRow(*text ? text : "nothing") << QString(text);
+}
+
+void CalendarTimeTest::refusesWhatIsNoTime()
+{
+    QFETCH(QString, text);
+    QVERIFY(!utcFromIso(text.toStdString()));
+}
+
+void CalendarTimeTest::knowsTheHourThatComesTwice()
+{
+    // On this day the clocks went from 03:00 back to 02:00 at 01:00 UTC.
+    const UtcSpan twice = utcSpan({2024, 10, 27, 2, 30, 0, std::nullopt});
+    QCOMPARE(twice.earliest, std::int64_t(1729989000));
+    QCOMPARE(twice.latest, std::int64_t(1729992600));
+
+    const UtcSpan once = utcSpan({2024, 10, 27, 3, 30, 0, std::nullopt});
+    QCOMPARE(once.earliest, once.latest);
+}
+
+void CalendarTimeTest::writesUtcAndLocalTime()
+{
+    QCOMPARE(utcText(1717180200), QString("2024-05-31T18:30:00Z"));
+    QCOMPARE(localText(1717180200), QString("2024-05-31 20:30:00"));
+    QCOMPARE(utcText(0), QString("1970-01-01T00:00:00Z"));
+    QCOMPARE(utcText(4294967295), QString("2106-02-07T06:28:15Z"));
+}
+
+void CalendarTimeTest::writesDurationsWithGrowingHours_data()
+{
+    QTest::addColumn<qint64>("seconds");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("nothing") << qint64(0) << "00:00:00";
+    QTest::newRow("the last second before an hour") << qint64(3599) << "00:59:59";
+    QTest::newRow("hours, minutes and seconds") << qint64(3723) << "01:02:03";
+    QTest::newRow("more than a day") << qint64(100 * 3600) << "100:00:00";
+    QTest::newRow("the longest") << qint64(2147483647) << "596523:14:07";
+}
+
+void CalendarTimeTest::writesDurationsWithGrowingHours()
+{
+    QFETCH(qint64, seconds);
+    QTEST(durationText(seconds), "text");
+}
+
+QTEST_GUILESS_MAIN(CalendarTimeTest)
+
+#include "tst_calendartime.moc"

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+#include "CalendarTime.h"
+
+#include <QDateTime>
+#include <QTimeZone>
+
+namespace usage
+{
+
+namespace
+{
+
+constexpr std::int64_t secondsPerHour = 3600;
+constexpr int someLeapYear = 2000;
+
+bool takeDate(TextScanner &scanner, CalendarTime &time)
+{
+    const auto year = scanner.takeNumber(4, 4);
+    if (!year || !scanner.take('-'))
+        return false;
+    const auto month = scanner.takeNumber(2, 2);
+    if (!month || !scanner.take('-'))
+        return false;
+    const auto day = scanner.takeNumber(2, 2);
+    if (!day)
+        return false;
+    time.year = *year;
+    time.month = *month;
+    time.day = *day;
+    return true;
+}
+
+/// ±hh, ±hhmm or ±hh:mm in seconds.
+std::optional<int> takeOffset(TextScanner &scanner)
+{
+    const int sign = scanner.take('-') ? -1 : 1;
+    if (sign == 1 && !scanner.take('+'))
+        return std::nullopt;
+    const auto hours = scanner.takeNumber(2, 2);
+    if (!hours)
+        return std::nullopt;
+    const bool minutesFollow = scanner.take(':');
+    const auto minutes = scanner.takeNumber(2, 2);
+    if (minutesFollow && !minutes)
+        return std::nullopt;
+    return sign * (*hours * 3600 + minutes.value_or(0) * 60);
+}
+
+/// Whether what stands here, Z, an offset or none, is a zone.
+bool takeZone(TextScanner &scanner, CalendarTime &time)
+{
+    if (scanner.takeAnyOf("Zz")) {
+        time.utcOffset = 0;
+        return true;
+    }
+    const std::string_view rest = scanner.rest();
+    if (rest.empty() || (rest.front() != '+' && rest.front() != '-'))
+        return true;
+    time.utcOffset = takeOffset(scanner);
+    return time.utcOffset.has_value();
+}
+
+QDate dateOf(const CalendarTime &time)
+{
+    return QDate(time.year, time.month, time.day);
+}
+
+QTime timeOfDay(const CalendarTime &time)
+{
+    return QTime(time.hour, time.minute, time.second);
+}
+
+CalendarTime calendarTime(const QDateTime &time)
+{
+    const QDate date = time.date();
+    const QTime clock = time.time();
+    return {date.year(),    date.month(),   date.day(), clock.hour(),
+            clock.minute(), clock.second(), {}};
+}
+
+bool isSameOnWallClock(std::int64_t utc, std::int64_t otherUtc)
+{
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(utc);
+    const QDateTime other = QDateTime::fromSecsSinceEpoch(otherUtc);
+    return time.time() == other.time() && time.date() == other.date();
+}
+
+} // namespace
+
+bool isValid(const CalendarTime &time)
+{
+    const int year = time.year == 0 ? someLeapYear : time.year;
+    return QDate::isValid(year, time.month, time.day) &&
+           QTime::isValid(time.hour, time.minute, time.second);
+}
+
+bool takeTimeOfDay(TextScanner &scanner, CalendarTime &time, bool secondsOptional)
+{
+    const auto hour = scanner.takeNumber(2, 2);
+    if (!hour || !scanner.take(':'))
+        return false;
+    const auto minute = scanner.takeNumber(2, 2);
+    if (!minute)
+        return false;
+    time.hour = *hour;
+    time.minute = *minute;
+    time.second = 0;
+    if (!scanner.take(':'))
+        return secondsOptional;
+    const auto second = scanner.takeNumber(2, 2);
+    if (!second)
+        return false;
+    // A leap second is told as the one before it, as the system's clock does.
+    time.second = *second == 60 ? 59 : *second;
+    return !scanner.takeAnyOf(".,") || !scanner.takeDigits().empty();
+}
+
+std::optional<CalendarTime> takeIsoTime(TextScanner &scanner)
+{
+    TextScanner ahead = scanner;
+    CalendarTime time;
+    if (!takeDate(ahead, time) || !ahead.takeAnyOf("Tt ") || !takeTimeOfDay(ahead, time, true) ||
+        !takeZone(ahead, time) || time.year == 0 || !isValid(time))
+        return std::nullopt;
+    scanner = ahead;
+    return time;
+}
+
+std::optional<std::int64_t> utcFromIso(std::string_view text)
+{
+    TextScanner scanner(text);
+    const auto time = takeIsoTime(scanner);
+    if (!time || !scanner.isAtEnd())
+        return std::nullopt;
+    return utcSpan(*time).earliest;
+}
+
+UtcSpan utcSpan(const CalendarTime &time)
+{
+    if (time.utcOffset) {
+        const QDateTime wallClock(dateOf(time), timeOfDay(time), QTimeZone::utc());
+        const std::int64_t utc = wallClock.toSecsSinceEpoch() - *time.utcOffset;
+        return {utc, utc};
+    }
+    const std::int64_t utc = QDateTime(dateOf(time), timeOfDay(time)).toSecsSinceEpoch();
+    if (isSameOnWallClock(utc, utc - secondsPerHour))
+        return {utc - secondsPerHour, utc};
+    if (isSameOnWallClock(utc, utc + secondsPerHour))
+        return {utc, utc + secondsPerHour};
+    return {utc, utc};
+}
+
+CalendarTime localCalendarTime(std::int64_t utc)
+{
+    return calendarTime(QDateTime::fromSecsSinceEpoch(utc));
+}
+
+CalendarTime utcCalendarTime(std::int64_t utc)
+{
+    CalendarTime time = calendarTime(QDateTime::fromSecsSinceEpoch(utc).toUTC());
+    time.utcOffset = 0;
+    return time;
+}
+
+QString utcText(std::int64_t utc)
+{
+    return QDateTime::fromSecsSinceEpoch(utc).toUTC().toString(Qt::ISODate);
+}
+
+QString localText(std::int64_t utc)
+{
+    return QDateTime::fromSecsSinceEpoch(utc).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+}
+
+QString durationText(std::int64_t seconds)
+{
+    const QLatin1Char zero('0');
+    return QStringLiteral("%1:%2:%3")
+        .arg(seconds / 3600, 2, 10, zero)
+        .arg(seconds / 60 % 60, 2, 10, zero)
+        .arg(seconds % 60, 2, 10, zero);
+}
+
+} // namespace usage
