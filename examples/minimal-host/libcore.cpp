@@ -72,7 +72,10 @@ ExtendDialog::~ExtendDialog() = default;
 
 void ExtendDialog::AddMainWidget(QWidget *widget)
 {
-    (new QVBoxLayout(this))->addWidget(widget);
+    // The statistics come back into the same frame each time that they are shown.
+    if (!layout())
+        new QVBoxLayout(this);
+    layout()->addWidget(widget);
 }
 
 void ExtendDialog::setWindowTitle(const QString &title)
