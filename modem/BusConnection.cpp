@@ -74,6 +74,8 @@ void BusConnection::start()
 
 void BusConnection::connectToBus()
 {
+    if (m_pendingCalls) // connected already
+        return;
     m_connection = QDBusConnection::connectToPeer(m_address, m_name);
     if (!m_connection.isConnected()) {
         qCDebug(log, "%s", qUtf8Printable(m_connection.lastError().message()));
@@ -81,7 +83,6 @@ void BusConnection::connectToBus()
         waitForSocket();
         return;
     }
-    m_socketWatcher.reset();
     m_pendingCalls = std::make_unique<QObject>();
     subscribe();
     greet();
@@ -102,8 +103,10 @@ void BusConnection::greet()
 {
     ask(busCall("Hello"), QStringLiteral("s"), [this](const QVariantList &reply) {
         m_isGreeted = !reply.isEmpty();
-        if (m_isGreeted)
-            emit connected();
+        if (!m_isGreeted)
+            return;
+        m_socketWatcher.reset();
+        emit connected();
     });
     for (const Subscription &subscription : m_subscriptions) {
         for (const QString &rule : subscription.rules)
@@ -164,9 +167,14 @@ void BusConnection::waitForSocket()
     QDir folder = QFileInfo(socket).dir();
     while (!folder.exists() && !folder.isRoot())
         folder = QFileInfo(folder.path()).dir();
-    m_socketWatcher = std::make_unique<QFileSystemWatcher>(QStringList(folder.path()));
+    const QStringList watched(folder.path());
+    if (m_socketWatcher && m_socketWatcher->directories() == watched)
+        return;
+    m_socketWatcher = std::make_unique<QFileSystemWatcher>(watched);
     connect(m_socketWatcher.get(), &QFileSystemWatcher::directoryChanged, &m_retry,
             qOverload<>(&QTimer::start));
+    // It may have come just before.
+    m_retry.start();
 }
 
 } // namespace modem
