@@ -21,6 +21,7 @@ namespace
 
 const QString modemPath = QStringLiteral("/org/freedesktop/ModemManager1/Modem/0");
 const QString secondPath = QStringLiteral("/org/freedesktop/ModemManager1/Modem/1");
+const QString thirdPath = QStringLiteral("/org/freedesktop/ModemManager1/Modem/2");
 const QString simPath = QStringLiteral("/org/freedesktop/ModemManager1/SIM/0");
 const QString bearerPath = QStringLiteral("/org/freedesktop/ModemManager1/Bearer/0");
 
@@ -172,9 +173,13 @@ void TestModems::followsModemsThatComeAndGo()
     QSignalSpy availability(m_modems.get(), &Modems::availabilityChanged);
     m_daemon->addModem(secondPath, modemWith("/", {}, "usb0"));
     QTRY_VERIFY(m_modems->port("usb0"));
+    // A third one, which never tells who it belongs to.
+    m_daemon->silentPaths.insert(simPath);
+    m_daemon->addModem(thirdPath, modemWith(simPath, {}, "usb1"));
     m_daemon->removeModem(modemPath);
     QTRY_VERIFY(!m_modems->port("wwan0"));
     QVERIFY(m_modems->port("usb0"));
+    QVERIFY(!m_modems->port("usb1"));
     QCOMPARE(availability.size(), 0);
 }
 
