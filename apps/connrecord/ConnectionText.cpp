@@ -4,6 +4,7 @@
 #include "TextTable.h"
 #include "formats/Utf8Text.h"
 #include "usage/CalendarTime.h"
+#include "usage/SizeText.h"
 
 namespace connrecord
 {
@@ -33,19 +34,6 @@ QString nameText(const std::string &name)
     return formats::printable(formats::fromUtf8(name), mostCharactersInCell);
 }
 
-QString volumeText(std::int64_t bytes)
-{
-    constexpr double kilobyte = 1024;
-    constexpr double megabyte = kilobyte * kilobyte;
-    constexpr double gigabyte = megabyte * kilobyte;
-    const auto size = static_cast<double>(bytes);
-    if (size < megabyte)
-        return QString::asprintf("%.2f KB", size / kilobyte);
-    if (size < gigabyte)
-        return QString::asprintf("%.2f MB", size / megabyte);
-    return QString::asprintf("%.2f GB", size / gigabyte);
-}
-
 QByteArray toTable(const std::vector<history::Connection> &connections)
 {
     using Alignment = TextTable::Alignment;
@@ -62,8 +50,9 @@ QByteArray toTable(const std::vector<history::Connection> &connections)
         table.addRow({QString::number(connection.key), nameText(connection.profile),
                       usage::localText(connection.startUtc), usage::localText(connection.endUtc),
                       usage::durationText(connection.connectedSeconds),
-                      volumeText(connection.uploadedBytes), volumeText(connection.downloadedBytes),
-                      nameText(connection.ending), nameText(connection.interfaceName)});
+                      usage::sizeText(connection.uploadedBytes),
+                      usage::sizeText(connection.downloadedBytes), nameText(connection.ending),
+                      nameText(connection.interfaceName)});
     return table.text().toUtf8();
 }
 

@@ -7,7 +7,6 @@
 #include <QByteArray>
 #include <QString>
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -16,8 +15,6 @@ namespace connrecord
 
 /// A name from the store as the tables show it: on one line, and cut if it is long.
 QString nameText(const std::string &name);
-/// Bytes in the unit that suits them, as the tables show them.
-QString volumeText(std::int64_t bytes);
 
 /// The connections as a table for people, times in local time.
 QByteArray toTable(const std::vector<history::Connection> &connections);

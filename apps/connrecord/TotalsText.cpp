@@ -5,6 +5,7 @@
 #include "TextTable.h"
 #include "formats/Utf8Text.h"
 #include "usage/CalendarTime.h"
+#include "usage/SizeText.h"
 
 namespace connrecord
 {
@@ -47,8 +48,8 @@ std::vector<QString> row(const history::Totals &totals, const TotalsGroups &grou
         cells.push_back(monthText(totals.period));
     cells.push_back(QString::number(totals.connections));
     cells.push_back(usage::durationText(totals.connectedSeconds));
-    cells.push_back(volumeText(totals.uploadedBytes));
-    cells.push_back(volumeText(totals.downloadedBytes));
+    cells.push_back(usage::sizeText(totals.uploadedBytes));
+    cells.push_back(usage::sizeText(totals.downloadedBytes));
     return cells;
 }
 

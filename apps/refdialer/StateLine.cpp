@@ -3,7 +3,7 @@
 
 #include "ElidedLabel.h"
 #include "LineState.h"
-#include "SizeText.h"
+#include "usage/SizeText.h"
 
 #include <QDir>
 #include <QEvent>
@@ -96,13 +96,15 @@ std::vector<QStringList> StateLine::rowTexts() const
 
 QStringList StateLine::textsFor(const recorder::ConnectionState &connection) const
 {
-    return {nameOf(connection),
-            tr("connected since %1")
-                .arg(locale().toString(connection.since.toLocalTime(), QLocale::ShortFormat)),
-            tr("Sent: %1 (%2)")
-                .arg(sizeText(connection.uploadedBytes), rateText(connection.uploadRate)),
-            tr("Received: %1 (%2)")
-                .arg(sizeText(connection.downloadedBytes), rateText(connection.downloadRate))};
+    return {
+        nameOf(connection),
+        tr("connected since %1")
+            .arg(locale().toString(connection.since.toLocalTime(), QLocale::ShortFormat)),
+        tr("Sent: %1 (%2)")
+            .arg(usage::sizeText(connection.uploadedBytes), usage::rateText(connection.uploadRate)),
+        tr("Received: %1 (%2)")
+            .arg(usage::sizeText(connection.downloadedBytes),
+                 usage::rateText(connection.downloadRate))};
 }
 
 /// The profile, with the interface where that alone does not tell which one is meant.

@@ -22,8 +22,6 @@ private slots:
     void alignsTheColumns();
     void keepsEachConnectionOnOneLine();
     void alignsWideCharacters();
-    void showsVolumesAsTheHistoryWindowDoes_data();
-    void showsVolumesAsTheHistoryWindowDoes();
     void writesExactIntegers_data();
     void writesExactIntegers();
     void writesEveryFieldAsJson();
@@ -92,28 +90,6 @@ void ConnectionTextTest::alignsWideCharacters()
     const QList<QByteArray> lines = toTable({wide, narrow}).split('\n');
     QVERIFY(lines[1].contains("\xE7\xB6\xB2\xE8\xB7\xAF     2024"));
     QVERIFY(lines[2].contains("abcd     2024"));
-}
-
-void ConnectionTextTest::showsVolumesAsTheHistoryWindowDoes_data()
-{
-    QTest::addColumn<qint64>("bytes");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("nothing") << qint64(0) << "0.00 KB";
-    QTest::newRow("one byte") << qint64(1) << "0.00 KB";
-    QTest::newRow("half a kilobyte") << qint64(512) << "0.50 KB";
-    QTest::newRow("a byte below a megabyte") << qint64(1048575) << "1024.00 KB";
-    QTest::newRow("a megabyte") << qint64(1048576) << "1.00 MB";
-    QTest::newRow("a byte below a gigabyte") << qint64(1073741823) << "1024.00 MB";
-    QTest::newRow("a gigabyte") << qint64(1073741824) << "1.00 GB";
-    QTest::newRow("a terabyte and a half") << qint64(1649267441664) << "1536.00 GB";
-    QTest::newRow("the largest") << std::numeric_limits<qint64>::max() << "8589934592.00 GB";
-}
-
-void ConnectionTextTest::showsVolumesAsTheHistoryWindowDoes()
-{
-    QFETCH(qint64, bytes);
-    QTEST(volumeText(bytes), "text");
 }
 
 void ConnectionTextTest::writesExactIntegers_data()

@@ -2,7 +2,6 @@
 #include "ShownText.h"
 #include "apps/refdialer/LineState.h"
 #include "apps/refdialer/ProblemLine.h"
-#include "apps/refdialer/SizeText.h"
 #include "apps/refdialer/StateLine.h"
 #include "refhost/libcore/Host.h"
 
@@ -31,8 +30,6 @@ private slots:
     void saysThatItIsASample();
     void saysThatThereIsNoConnection();
     void showsTheConnectionWhileItLasts();
-    void writesSizesAsTheHistoryDoes_data();
-    void writesSizesAsTheHistoryDoes();
     void showsEachConnection();
     void namesTheInterfaceWhereTwoShareAProfile();
     void keepsItsHeight();
@@ -108,37 +105,6 @@ void TestStateLine::showsTheConnectionWhileItLasts()
     QVERIFY2(shownText(line).contains("Sent: 2.00 KB"), qPrintable(shownText(line)));
     state.end(connection().id);
     QCOMPARE(shownText(line), QString("Not connected"));
-}
-
-void TestStateLine::writesSizesAsTheHistoryDoes_data()
-{
-    QTest::addColumn<qint64>("bytes");
-    QTest::addColumn<QString>("size");
-    QTest::addColumn<QString>("rate");
-    const qint64 kilobyte = 1024;
-    QTest::newRow("nothing") << qint64(0) << "0.00 KB"
-                             << "0 B/s";
-    QTest::newRow("less than a kilobyte") << qint64(1023) << "1.00 KB"
-                                          << "1023 B/s";
-    QTest::newRow("a kilobyte") << kilobyte << "1.00 KB"
-                                << "1.00 KB/s";
-    QTest::newRow("nearly a megabyte") << kilobyte * kilobyte - 1 << "1024.00 KB"
-                                       << "1024.00 KB/s";
-    QTest::newRow("a megabyte") << kilobyte * kilobyte << "1.00 MB"
-                                << "1.00 MB/s";
-    QTest::newRow("a gigabyte") << (kilobyte << 20) << "1.00 GB"
-                                << "1.00 GB/s";
-    QTest::newRow("a terabyte") << (kilobyte << 30) << "1024.00 GB"
-                                << "1024.00 GB/s";
-}
-
-void TestStateLine::writesSizesAsTheHistoryDoes()
-{
-    QFETCH(qint64, bytes);
-    QFETCH(QString, size);
-    QFETCH(QString, rate);
-    QCOMPARE(refdialer::sizeText(bytes), size);
-    QCOMPARE(refdialer::rateText(bytes), rate);
 }
 
 void TestStateLine::showsEachConnection()
