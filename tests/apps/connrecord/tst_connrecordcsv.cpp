@@ -29,6 +29,7 @@ private slots:
     void tellsTheWrongLineAndStoresNothing();
     void storesNothingOfAFileThatCannotBeReadToItsEnd_data();
     void storesNothingOfAFileThatCannotBeReadToItsEnd();
+    void takesOneFileOnly();
     void takesABlankLastLine();
     void refusesWhatWouldFillTheMemory();
     void tellsAFileThatCannotBeRead_data();
@@ -177,6 +178,14 @@ void ConnrecordCsvTest::storesNothingOfAFileThatCannotBeReadToItsEnd()
     QCOMPARE(result.output, QByteArray());
     QVERIFY2(result.error.contains("standard input cannot be read to its end"), result.error);
     QCOMPARE(exported(m_store), csvOf(0));
+}
+
+void ConnrecordCsvTest::takesOneFileOnly()
+{
+    const ConnrecordRun result =
+        connrecord({"--store", m_store, "import", "--format", "csv", "a", "b"});
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(result.error, QByteArray("connrecord: With --format csv, import takes one FILE.\n"));
 }
 
 void ConnrecordCsvTest::takesABlankLastLine()
