@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "LineReader.h"
 
+#include "InputError.h"
+
 #include <QIODevice>
 
 #include <algorithm>
@@ -47,6 +49,13 @@ std::string_view LineReader::takeBytes(std::uint64_t count)
         count -= length;
     }
     return m_line;
+}
+
+void LineReader::checkReadToTheEnd(const std::string &name) const
+{
+    if (m_hasFailed)
+        throw InputError(name + " cannot be read to its end: " +
+                         m_device.errorString().toStdString() + ". Nothing was imported.");
 }
 
 bool LineReader::hasBytes()

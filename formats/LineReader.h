@@ -31,6 +31,8 @@ public:
     std::int64_t bytesRead() const { return m_bytesRead; }
     /// Whether the lines ended because the device cannot be read.
     bool hasFailed() const { return m_hasFailed; }
+    /// Throws InputError in that case, with a sentence that names the source.
+    void checkReadToTheEnd(const std::string &name) const;
 
 private:
     bool hasBytes();

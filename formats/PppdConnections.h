@@ -2,9 +2,8 @@
 #pragma once
 
 #include "ApnTracker.h"
-#include "LogCompletion.h"
+#include "Imported.h"
 #include "PppdLog.h"
-#include "history/Store.h"
 
 #include <cstdint>
 #include <optional>
@@ -14,16 +13,6 @@
 
 namespace formats
 {
-
-/// What a log holds and no connection can be made of.
-struct Unusable {
-    std::string reason;
-    std::size_t count = 0;
-    std::size_t firstPlace = 0; ///< of the first such event
-    std::size_t firstFile = 0;  ///< the place of its file among those that were joined
-    std::int64_t firstLine = 0;
-    std::string firstText; ///< the beginning of that line
-};
 
 /// Puts the connections of a log together, each process of each host for itself.
 class PppdConnections

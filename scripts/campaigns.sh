@@ -44,14 +44,12 @@ fuzz() {
     export LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0
     export FUZZ_SECONDS=${FUZZ_SECONDS:-1800}
     # shellcheck disable=SC2016  # the inner shell expands them
-    printf '%s\n' 'sdkrecord 2176' 'csv 2048' 'store 302' 'pppd 8192' |
-        xargs -P 2 -L 1 bash -c '
-            found=build/fuzz/tests/found/$0 corpus=(tests/fuzz/corpus/"$0")
-            [ "$0" != pppd ] || corpus+=(tests/formats/data)
-            build/fuzz/tests/fuzz_"$0" -max_total_time="$FUZZ_SECONDS" -max_len="$1" \
-                -timeout=10 -rss_limit_mb=4096 -artifact_prefix="$found-" "$found" "${corpus[@]}" \
-                >"$found.log" 2>&1 || { tail -n 40 "$found.log" >&2; exit 255; }
-            printf "%s: %s\n" "$0" "$(grep -a "^Done" "$found.log")"'
+    xargs -a build/fuzz/tests/fuzzers -P 2 -L 1 bash -c '
+        found=build/fuzz/tests/found/$0
+        build/fuzz/tests/fuzz_"$0" -max_total_time="$FUZZ_SECONDS" -max_len="$1" \
+            -timeout=10 -rss_limit_mb=4096 -artifact_prefix="$found-" "$found" "${@:2}" \
+            >"$found.log" 2>&1 || { tail -n 40 "$found.log" >&2; exit 255; }
+        printf "%s: %s\n" "$0" "$(grep -a "^Done" "$found.log")"'
 }
 
 for campaign in "${campaigns[@]}"; do

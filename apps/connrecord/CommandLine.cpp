@@ -37,13 +37,33 @@ constexpr const char *exitCodes = R"(Exit codes:
   4  the input file is wrong or cannot be read
   5  the output cannot be written)";
 
-ImportRequest::Format formatNamed(const std::string &name)
+/// The names of the rows of a table, and what they are, for the option that takes one.
+template <typename Table>
+std::string choiceOf(const Table &table)
 {
-    if (name == "csv")
-        return ImportRequest::Format::Csv;
-    if (name == "pppd")
-        return ImportRequest::Format::Pppd;
-    throw CLI::ValidationError("--format", "it is csv or pppd, not " + name);
+    std::string names;
+    for (const auto &row : table)
+        names += (names.empty() ? "" : "|") + std::string(row.name);
+    return names;
+}
+
+template <typename Table>
+std::string helpOf(const Table &table)
+{
+    std::string text;
+    for (const auto &row : table)
+        text += (text.empty() ? "" : "; ") + std::string(row.name) + ": " + row.help;
+    return text;
+}
+
+/// The row that the option names.
+template <typename Table>
+auto chosenFrom(const Table &table, const std::string &option, const std::string &name)
+{
+    const auto *const row = formats::formatNamed(table, name);
+    if (!row)
+        throw CLI::ValidationError(option, "it is one of " + choiceOf(table) + ", not " + name);
+    return row;
 }
 
 /// The file of no name is the folder that the program runs in, which nobody means.
@@ -208,15 +228,20 @@ void CommandLine::addImport()
         addCommand("import", "Add the connections of a file that are not there yet");
     command
         ->add_option_function<std::string>(
-            "--format", [this](const std::string &name) { m_import.format = formatNamed(name); },
-            "csv, as export writes it, or pppd, a system log")
-        ->type_name("csv|pppd")
+            "--format",
+            [this](const std::string &name) {
+                m_import.format = chosenFrom(formats::importFormats, "--format", name);
+            },
+            helpOf(formats::importFormats))
+        ->type_name(choiceOf(formats::importFormats))
         ->required();
     command
-        ->add_option("--profile", m_import.profile,
+        ->add_option("--profile", m_import.options.profile,
                      "Profile for the connections of a log that shows no APN")
         ->type_name("NAME");
-    command->add_option("--year", m_import.year, "Year of the last line of a log without years")
+    command
+        ->add_option("--year", m_import.options.year,
+                     "Year of the last line of a log without years")
         ->type_name("YYYY")
         ->check(CLI::Range(1970, 2105).description(""));
     command

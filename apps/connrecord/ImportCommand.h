@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Commands.h"
+#include "formats/Formats.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,12 +11,9 @@ namespace connrecord
 {
 
 struct ImportRequest {
-    enum class Format { Csv, Pppd };
-
-    Format format = Format::Csv;
+    const formats::ImportFormat *format = nullptr;
     std::vector<std::string> paths; ///< "-": standard input; several logs are one
-    std::string profile;     ///< for connections of a pppd log that shows no APN; may be empty
-    std::optional<int> year; ///< of a log's last line, if that one shows none
+    formats::ImportOptions options;
 };
 
 /// Stores the connections of a file that the store does not have yet, all or
