@@ -1,48 +1,29 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ConnectionState.h"
 #include "LockPatience.h"
+#include "Problem.h"
 #include "history/Store.h"
 
-#include <QDateTime>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
 
 #include <chrono>
-#include <map>
 #include <memory>
 #include <optional>
-#include <set>
-#include <string>
-#include <vector>
 
 namespace recorder
 {
 
 class LinkSource;
-class LiveConnection;
-class RecordBook;
 class RecorderLock;
+class RecordingSession;
 class SystemClock;
-struct Link;
 struct LinkChange;
-struct FirstSight;
-struct LinkCounters;
-struct Moment;
-
-/// A connection that lasts, as it is at the moment.
-struct ConnectionState {
-    qint64 id = 0; ///< of this connection alone
-    QString profile;
-    QString interfaceName;
-    QDateTime since; ///< in UTC
-    qint64 uploadedBytes = 0;
-    qint64 downloadedBytes = 0;
-    qint64 uploadRate = 0; ///< bytes per second since the last report
-    qint64 downloadRate = 0;
-};
+struct SessionListener;
 
 /// How often a recorder does what nothing from outside sets off.
 struct RecorderIntervals {
@@ -58,8 +39,8 @@ struct RecorderIntervals {
 /// up, running and has an address (see Link::isConnected). Its record lies in the store from the
 /// first moment, is never more than five seconds behind and gets the kernel's
 /// final counters at the end. Connections that an earlier process left open are
-/// gone on with if their link is still connected, else closed at their last
-/// update and marked "recovered".
+/// resumed if their link is still connected, else closed at their last update and marked
+/// "recovered".
 ///
 /// An interface of that index is one link: one that is renamed stays the same,
 /// one that is made anew under the same name is another. Start and end are the
@@ -68,7 +49,7 @@ struct RecorderIntervals {
 /// and counts suspend.
 ///
 /// Of several recorders for one store the first one records; when it ends, another
-/// one goes on with what is connected.
+/// one resumes what is connected.
 ///
 /// Signals come from the event loop, never from within a call, one after the
 /// other. Everything happens on the thread that the recorder lives in, which may
@@ -87,9 +68,12 @@ public:
     ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
                        std::unique_ptr<LinkSource> links, std::unique_ptr<SystemClock> clock,
                        const RecorderIntervals &intervals = {}, QObject *parent = nullptr);
-    /// Leaves what is connected open in the store, as it is at this moment, for the
-    /// next start to go on with.
+    /// As end(), without anybody who could be told.
     ~ConnectionRecorder() override;
+
+    /// Leaves what is connected open in the store, as it is at this moment, for the
+    /// next start to resume, and watches no more. What could not be kept, if anything.
+    std::optional<Problem> end();
 
 public slots:
     /// Opens the store, settles what earlier processes left open, and begins to
@@ -110,9 +94,8 @@ signals:
     void disconnected(const history::Connection &connection, qint64 id);
     /// Once a second for each connection that lasts.
     void stateChanged(const recorder::ConnectionState &state);
-    /// One sentence for the user. What could not be written is kept and tried
-    /// again; each reason is told once.
-    void failed(const QString &reason);
+    /// What could not be written is kept and tried again; each problem is told once.
+    void failed(const recorder::Problem &problem);
     /// What could not be written is in the store now, or it records what it could not
     /// record at all.
     void succeeded();
@@ -120,33 +103,16 @@ signals:
 private:
     bool tryToStart();
     void tryAgain();
-    void handleChange(const LinkChange &change);
-    void handleLiveChange(LiveConnection &connection, const LinkChange &change);
-    void checkClock();
-    void begin(const Link &link, const LinkCounters &base);
-    void finish(LiveConnection &connection, bool hasFinalCounters);
-    void report(LiveConnection &connection);
-    void tick();
-    void requestCounters();
-    std::vector<FirstSight> firstSights() const;
-    history::SeenLink seen(const Link &link) const;
-    std::vector<history::SeenLink> idleLinks() const;
-    void keepIdleCounters();
-    bool openBook();
-    bool isWatched(const Link &link) const;
-    bool stillLasts(const history::OpenConnection &row);
-    QString knownPath() const;
+    bool openSession();
     bool lockStore();
-    static QString recordedByAnother(const RecorderLock &lock);
+    SessionListener listener();
+    QString knownPath() const;
+    void handleChange(const LinkChange &change);
     void giveUp();
-    void fail(const QString &reason);
-    void obstruct(const QString &reason);
+    void stop(const Problem &problem);
+    void fail(const Problem &problem);
+    void obstruct(const Problem &problem);
     void removeObstacle();
-    void stop(const QString &reason);
-    void catchUpWithLinks();
-    std::string profileFor(const std::string &interfaceName) const;
-    ConnectionState stateOf(LiveConnection &connection) const;
-    Moment now() const;
 
     const QString m_storePath;
     const QStringList m_interfaceNames;
@@ -154,23 +120,16 @@ private:
     LinkSource *const m_links; ///< a child
     const std::unique_ptr<SystemClock> m_clock;
     std::unique_ptr<RecorderLock> m_lock;
-    std::unique_ptr<RecordBook> m_book;
-    std::map<int, LiveConnection> m_live; ///< by the link's index
-    std::vector<Link> m_linksAtStart;
-    std::set<int> m_resumedLinks;              ///< watched for the connection that they have
-    std::vector<history::SeenLink> m_keptIdle; ///< what the store knows of links without one
-    std::string m_bootId;
+    std::unique_ptr<RecordingSession> m_session; ///< while it records
     LockPatience m_patience;
-    std::optional<std::int64_t> m_standIn; ///< for what the clock shows
-    QString m_obstacle;                    ///< why it cannot record, as it was told last
-    bool m_isLate = false;
+    std::optional<Problem> m_obstacle; ///< why it cannot record, as it was told last
+    bool m_isRecording = false;
+    bool m_isLate = false; ///< the first start is over
     QTimer m_timer;
     QTimer m_retryTimer;
-    int m_ticks = 0;
     std::int64_t m_lastId = 0;
 };
 
 } // namespace recorder
 
 Q_DECLARE_METATYPE(history::Connection)
-Q_DECLARE_METATYPE(recorder::ConnectionState)

@@ -20,7 +20,7 @@ namespace
 constexpr std::uint32_t singleRequest = 1;
 
 /// For the kernel's answer, which normally is there at once.
-constexpr int listingTimeoutMilliseconds = 5000;
+constexpr int dumpTimeoutMilliseconds = 5000;
 
 /// The error in the message, 0 if it only says that all is well.
 int errorIn(const nlmsghdr &message)
@@ -45,8 +45,8 @@ bool LinkMonitor::start()
     m_table.forgetAll();
     if (!open())
         return false;
-    while (m_stage == Stage::ListingLinks || m_stage == Stage::ListingAddresses) {
-        if (m_socket.waitForMessages(listingTimeoutMilliseconds))
+    while (m_stage == Stage::DumpingLinks || m_stage == Stage::DumpingAddresses) {
+        if (m_socket.waitForMessages(dumpTimeoutMilliseconds))
             receiveAll();
         else
             fail(ETIMEDOUT);
@@ -57,7 +57,7 @@ bool LinkMonitor::start()
     return true;
 }
 
-/// Begins to list everything on a new socket.
+/// Begins to dump everything on a new socket.
 bool LinkMonitor::open()
 {
     if (m_notifier) {
@@ -67,7 +67,7 @@ bool LinkMonitor::open()
     }
     const int error = m_socket.open();
     if (error == 0)
-        beginListing();
+        beginDump();
     else
         fail(error);
     return error == 0;
@@ -79,7 +79,7 @@ void LinkMonitor::watchSocket()
     connect(m_notifier, &QSocketNotifier::activated, this, &LinkMonitor::receiveAll);
 }
 
-/// What passes when it is done anew is not worth a word; what fails in the listing
+/// What passes when it is done anew is not worth a word; what fails in the dump
 /// that follows is.
 void LinkMonitor::resume(int systemError)
 {
@@ -96,7 +96,7 @@ void LinkMonitor::requestCounters(int linkIndex)
         m_socket.requestLink(linkIndex, singleRequest);
 }
 
-void LinkMonitor::catchUp()
+void LinkMonitor::deliverPending()
 {
     // The kernel answers before a request returns.
     if (m_stage == Stage::Watching)
@@ -109,32 +109,32 @@ void LinkMonitor::receiveAll()
     do {
         outcome = m_socket.receive([this](const nlmsghdr &message) { handle(message); });
         // Messages go on being lost until all that wait have been read, so the
-        // listing has to wait until then.
+        // dump has to wait until then.
         if (outcome == RouteSocket::Outcome::Overrun)
-            m_mustListAgain = true;
+            m_mustDumpAgain = true;
     } while (outcome == RouteSocket::Outcome::Received || outcome == RouteSocket::Outcome::Overrun);
     if (outcome == RouteSocket::Outcome::Failed)
         resume(errno);
-    else if (m_mustListAgain && m_stage == Stage::Watching)
-        beginListing();
+    else if (m_mustDumpAgain && m_stage == Stage::Watching)
+        beginDump();
 }
 
 void LinkMonitor::handle(const nlmsghdr &message)
 {
-    const bool isListing = m_stage == Stage::ListingLinks || m_stage == Stage::ListingAddresses;
-    if (isListing && message.nlmsg_seq == m_sequence)
-        handleListing(message);
+    const bool isDumping = m_stage == Stage::DumpingLinks || m_stage == Stage::DumpingAddresses;
+    if (isDumping && message.nlmsg_seq == m_sequence)
+        handleDump(message);
     else
         apply(message);
 }
 
-void LinkMonitor::handleListing(const nlmsghdr &message)
+void LinkMonitor::handleDump(const nlmsghdr &message)
 {
-    // Something changed in the middle of the listing, which may lack it.
+    // Something changed in the middle of the dump, which may lack it.
     if ((message.nlmsg_flags & NLM_F_DUMP_INTR) != 0)
-        m_mustListAgain = true;
+        m_mustDumpAgain = true;
     if (message.nlmsg_type == NLMSG_DONE)
-        continueListing();
+        continueDump();
     else if (errorIn(message) != 0)
         fail(errorIn(message));
     else
@@ -152,34 +152,34 @@ void LinkMonitor::apply(const nlmsghdr &message)
         emit linkChanged(*change);
 }
 
-void LinkMonitor::beginListing()
+void LinkMonitor::beginDump()
 {
-    m_mustListAgain = false;
-    m_table.beginListing();
-    m_stage = Stage::ListingLinks;
+    m_mustDumpAgain = false;
+    m_table.beginDump();
+    m_stage = Stage::DumpingLinks;
     const int error = m_socket.requestLinks(++m_sequence);
     if (error != 0)
         fail(error);
 }
 
-void LinkMonitor::continueListing()
+void LinkMonitor::continueDump()
 {
-    if (m_mustListAgain) {
-        beginListing();
-    } else if (m_stage == Stage::ListingAddresses) {
-        endListing();
+    if (m_mustDumpAgain) {
+        beginDump();
+    } else if (m_stage == Stage::DumpingAddresses) {
+        endDump();
     } else {
-        m_stage = Stage::ListingAddresses;
+        m_stage = Stage::DumpingAddresses;
         const int error = m_socket.requestAddresses(++m_sequence);
         if (error != 0)
             fail(error);
     }
 }
 
-void LinkMonitor::endListing()
+void LinkMonitor::endDump()
 {
     m_stage = Stage::Watching;
-    for (const LinkChange &change : m_table.endListing())
+    for (const LinkChange &change : m_table.endDump())
         emit linkChanged(change);
 }
 
@@ -188,9 +188,10 @@ void LinkMonitor::fail(int systemError)
     m_stage = Stage::Failed;
     if (m_notifier)
         m_notifier->setEnabled(false);
-    emit failed(tr("The network interfaces cannot be watched (%1), so connections are not "
-                   "recorded; that is tried again every other second.")
-                    .arg(QString::fromStdString(std::generic_category().message(systemError))));
+    Problem problem;
+    problem.kind = Problem::Kind::LinksUnwatchable;
+    problem.reason = QString::fromStdString(std::generic_category().message(systemError));
+    emit failed(problem);
 }
 
 } // namespace recorder

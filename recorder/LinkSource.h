@@ -2,9 +2,9 @@
 #pragma once
 
 #include "LinkTable.h"
+#include "Problem.h"
 
 #include <QObject>
-#include <QString>
 
 #include <vector>
 
@@ -28,12 +28,11 @@ public:
     virtual void requestCounters(int linkIndex) = 0;
 
     /// Tells of all that has happened until now, answers to requests included.
-    virtual void catchUp() = 0;
+    virtual void deliverPending() = 0;
 
 signals:
     void linkChanged(const recorder::LinkChange &change);
-    /// One sentence for the user.
-    void failed(const QString &reason);
+    void failed(const recorder::Problem &problem);
 };
 
 } // namespace recorder

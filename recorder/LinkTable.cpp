@@ -71,7 +71,7 @@ std::optional<LinkChange> LinkTable::apply(const LinkReport &report)
     link.isPpp = report.isPpp;
     link.carrierLosses = report.carrierLosses;
     link.counters = report.counters.value_or(link.counters);
-    link.listing = m_listing;
+    link.dump = m_dump;
     const LinkChange change = {link, report.isGone, report.counters.has_value()};
     if (report.isGone)
         m_links.erase(report.index);
@@ -97,13 +97,13 @@ Link &LinkTable::linkFor(const LinkReport &report)
     return found->second;
 }
 
-/// A link in the first complete listing may have lived long before, unless it is a
-/// PPP one, which is made for its connection. One that a later listing shows was
+/// A link in the first complete dump may have lived long before, unless it is a
+/// PPP one, which is made for its connection. One that a later dump shows was
 /// made while messages were lost. In both cases all that it has moved is new.
 LinkCounters LinkTable::countersBeforeFirstSight(const LinkReport &report) const
 {
     const bool isMadeForItsConnection = report.isPpp || m_knowsAll;
-    return m_isListing && isMadeForItsConnection ? LinkCounters()
+    return m_isDumping && isMadeForItsConnection ? LinkCounters()
                                                  : report.counters.value_or(LinkCounters());
 }
 
@@ -113,34 +113,34 @@ std::optional<LinkChange> LinkTable::apply(const AddressReport &report)
     if (found == m_links.end())
         return std::nullopt;
     Link &link = found->second;
-    // A listing tells of addresses after the links, long after they came.
-    if (!link.isConnected() && !m_isListing)
+    // A dump tells of addresses after the links, long after they came.
+    if (!link.isConnected() && !m_isDumping)
         link.idleCounters = link.counters;
     if (report.isThere)
-        link.addresses[report.address] = {report.isIpv6LinkLocal, report.createdAt, m_listing};
+        link.addresses[report.address] = {report.isIpv6LinkLocal, report.createdAt, m_dump};
     else
         link.addresses.erase(report.address);
     return LinkChange{link, false, false};
 }
 
-void LinkTable::beginListing()
+void LinkTable::beginDump()
 {
-    ++m_listing;
-    m_isListing = true;
+    ++m_dump;
+    m_isDumping = true;
 }
 
-std::vector<LinkChange> LinkTable::endListing()
+std::vector<LinkChange> LinkTable::endDump()
 {
-    m_isListing = false;
+    m_isDumping = false;
     m_knowsAll = true;
     std::vector<LinkChange> changes;
     for (auto entry = m_links.begin(); entry != m_links.end();) {
         Link &link = entry->second;
-        const bool isGone = link.listing != m_listing;
+        const bool isGone = link.dump != m_dump;
         const std::size_t addressesBefore = link.addresses.size();
         for (auto address = link.addresses.begin(); address != link.addresses.end();)
-            address = address->second.listing == m_listing ? std::next(address)
-                                                           : link.addresses.erase(address);
+            address =
+                address->second.dump == m_dump ? std::next(address) : link.addresses.erase(address);
         if (isGone || link.addresses.size() != addressesBefore)
             changes.push_back({link, isGone, false});
         entry = isGone ? m_links.erase(entry) : std::next(entry);
@@ -151,7 +151,7 @@ std::vector<LinkChange> LinkTable::endListing()
 void LinkTable::forgetAll()
 {
     m_links.clear();
-    m_isListing = false;
+    m_isDumping = false;
     m_knowsAll = false;
 }
 

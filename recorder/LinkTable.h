@@ -46,10 +46,10 @@ struct Link {
     struct Address {
         bool isIpv6LinkLocal = false;
         std::uint32_t createdAt = 0;
-        unsigned listing = 0; ///< see LinkTable
+        unsigned dump = 0; ///< see LinkTable
     };
     std::map<std::string, Address> addresses;
-    unsigned listing = 0;
+    unsigned dump = 0;
 };
 
 /// What has become of one link.
@@ -64,7 +64,7 @@ struct LinkChange {
 using DeviceTypes = std::function<std::string(int index, const std::string &name)>;
 
 /// The interfaces of the system, brought up to date message by message. While a
-/// full listing is being received, what it does not mention is found out: that
+/// full dump is being received, what it does not mention is found out: that
 /// went away while messages were lost.
 class LinkTable
 {
@@ -75,9 +75,9 @@ public:
     std::optional<LinkChange> apply(const LinkReport &report);
     std::optional<LinkChange> apply(const AddressReport &report);
 
-    void beginListing();
-    /// Forgets what the listing did not mention, and says so.
-    std::vector<LinkChange> endListing();
+    void beginDump();
+    /// Forgets what the dump did not mention, and says so.
+    std::vector<LinkChange> endDump();
 
     std::vector<Link> links() const;
     /// Knows nothing again, as in the beginning.
@@ -91,9 +91,9 @@ private:
 
     DeviceTypes m_deviceTypes;
     std::map<int, Link> m_links;
-    unsigned m_listing = 0;
-    bool m_isListing = false;
-    bool m_knowsAll = false; ///< a listing has been complete
+    unsigned m_dump = 0;
+    bool m_isDumping = false;
+    bool m_knowsAll = false; ///< a dump has been complete
 };
 
 } // namespace recorder

@@ -99,14 +99,14 @@ LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
                                const std::string &profile, const Link &link,
                                const LinkCounters &base, const Moment &now)
     : m_id(id)
-    , m_linkMark(link.connectionMark())
+    , m_connectionMark(link.connectionMark())
     , m_countersAtFirst(link.counters)
     , m_rateMilliseconds(now.bootMilliseconds)
 {
     m_row.bootId = bootId;
     m_row.interfaceIndex = link.index;
     m_row.interfaceName = link.name;
-    m_row.linkMark = m_linkMark;
+    m_row.linkMark = m_connectionMark;
     m_row.profile = profile;
     m_row.startUtc = storableSeconds(now.utcSeconds);
     m_row.startBootMilliseconds = now.bootMilliseconds;
@@ -122,7 +122,7 @@ LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
 LiveConnection::LiveConnection(const State &state)
     : m_id(0)
     , m_row(withinRange(state.row))
-    , m_linkMark(state.linkMark)
+    , m_connectionMark(state.connectionMark)
     , m_hasOwnProfile(state.hasOwnProfile)
     , m_countersAtFirst(state.countersAtFirst)
     , m_totalsAtFirst(state.totalsAtFirst)
@@ -134,20 +134,20 @@ LiveConnection::LiveConnection(const State &state)
 
 LiveConnection::State LiveConnection::state() const
 {
-    return {m_row,           m_linkMark, m_hasOwnProfile, m_countersAtFirst,
-            m_totalsAtFirst, m_moment,   hasEnded()};
+    return {m_row,           m_connectionMark, m_hasOwnProfile, m_countersAtFirst,
+            m_totalsAtFirst, m_moment,         hasEnded()};
 }
 
 bool LiveConnection::adopt(const history::OpenConnection &stored)
 {
     if (stored.startBootMilliseconds == m_row.startBootMilliseconds) {
         m_row.key = stored.key;
-        m_row.linkMark = m_linkMark;
+        m_row.linkMark = m_connectionMark;
         return false;
     }
     const history::OpenConnection own = std::exchange(m_row, withinRange(stored));
     m_row.interfaceName = own.interfaceName;
-    m_row.linkMark = m_linkMark;
+    m_row.linkMark = m_connectionMark;
     if (m_hasOwnProfile)
         m_row.profile = own.profile;
     // From the earlier process to this one's first look, and from there to now: the
@@ -218,9 +218,9 @@ void LiveConnection::setLink(const Link &link)
 {
     m_row.interfaceName = link.name;
     const std::string mark = link.connectionMark();
-    if (hasEnded() || !link.isConnected() || mark == m_linkMark)
+    if (hasEnded() || !link.isConnected() || mark == m_connectionMark)
         return;
-    m_linkMark = mark;
+    m_connectionMark = mark;
     // An old mark in the store would make another connection of this one.
     if (m_row.key != 0)
         m_row.linkMark = mark;
@@ -254,7 +254,7 @@ LinkCounters LiveConnection::takeRate(const Moment &now)
 void LiveConnection::updateTimes(const Moment &now)
 {
     m_moment = m_end.value_or(now);
-    // The start of a row gone on with is what the store knows it by, so it stays as it
+    // The start of a resumed row is what the store knows it by, so it stays as it
     // is even out of range.
     const std::int64_t start =
         std::clamp(m_row.startBootMilliseconds, std::int64_t{0}, m_moment.bootMilliseconds);
@@ -263,6 +263,11 @@ void LiveConnection::updateTimes(const Moment &now)
     m_row.updatedUtc = storableSeconds(m_moment.utcSeconds < m_row.startUtc
                                            ? m_row.startUtc + m_row.connectedSeconds
                                            : m_moment.utcSeconds);
+}
+
+bool areSameConnection(const history::OpenConnection &a, const history::OpenConnection &b)
+{
+    return a.linkMark == b.linkMark || a.startBootMilliseconds == b.startBootMilliseconds;
 }
 
 history::Connection recovered(const history::OpenConnection &row)

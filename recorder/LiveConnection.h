@@ -24,10 +24,10 @@ std::int64_t storableSeconds(std::int64_t seconds);
 class LiveConnection
 {
 public:
-    /// All that it consists of, for another process to go on with.
+    /// All that it consists of, for another process to resume.
     struct State {
         history::OpenConnection row;
-        std::string linkMark;
+        std::string connectionMark; ///< of the link, at present
         bool hasOwnProfile = false;
         LinkCounters countersAtFirst;
         LinkCounters totalsAtFirst;
@@ -48,7 +48,7 @@ public:
     const history::OpenConnection &row() const { return m_row; }
 
     /// It is in the store under this row's key now; if an earlier process has begun
-    /// it, it goes on with that one's start, totals and, unless one was set here,
+    /// it, it resumes that one's start, totals and, unless one was set here,
     /// profile. Whether that is so: then the row lacks what has happened since.
     bool adopt(const history::OpenConnection &stored);
     /// Leaves out what the link's counters showed up to these values, because it is
@@ -56,7 +56,7 @@ public:
     void leaveOut(const LinkCounters &counted);
 
     void setProfile(const std::string &profile);
-    /// Takes over what the link is called and marked with.
+    /// Takes over the link's name and connection mark.
     void setLink(const Link &link);
 
     /// Takes the link's counters as they are now. One that has gone backwards has
@@ -88,7 +88,7 @@ private:
     /// Until it is in the store, with the mark that the link had in the beginning:
     /// an earlier process's row has that one.
     history::OpenConnection m_row;
-    std::string m_linkMark; ///< at present
+    std::string m_connectionMark; ///< of the link, at present
     bool m_hasOwnProfile = false;
     const LinkCounters m_countersAtFirst;
     LinkCounters m_totalsAtFirst;
@@ -98,6 +98,10 @@ private:
     std::int64_t m_rateMilliseconds = 0;
     std::optional<Moment> m_end;
 };
+
+/// Whether two rows of the same link are of one connection: its mark may change while it
+/// lasts.
+bool areSameConnection(const history::OpenConnection &a, const history::OpenConnection &b);
 
 /// A connection that an earlier process had left open, as it was last known.
 history::Connection recovered(const history::OpenConnection &row);

@@ -3,6 +3,7 @@
 
 #include "LiveConnection.h"
 #include "LockPatience.h"
+#include "Problem.h"
 #include "UnwatchedTraffic.h"
 #include "UnwrittenFile.h"
 #include "history/Store.h"
@@ -34,7 +35,7 @@ public:
         std::function<void(const history::Connection &)>
             recovered; ///< the same, of an earlier process
         /// Once for each new reason, and for a locked store once that has lasted.
-        std::function<void(const history::StoreError &)> failed;
+        std::function<void(const Problem &)> failed;
         std::function<void()> succeeded; ///< the first time after that
     };
     /// Whether the connection that an earlier process has left open, in this run of
@@ -48,9 +49,9 @@ public:
     /// Settles what earlier processes left, with these links as they are found now.
     void settle(std::vector<FirstSight> sights);
 
-    /// Brings the store up to date with the connection. The first time, it goes
-    /// on with what the store has of the same one already. A store that is locked is
-    /// waited for once until the next catchUp().
+    /// Brings the store up to date with the connection. The first time, it resumes
+    /// what the store has of the same one already. A store that is locked is
+    /// waited for once until the next writePending().
     /// Whether it is.
     bool save(LiveConnection &connection);
     void finish(const LiveConnection &connection, bool hasFinalCounters);
@@ -59,9 +60,9 @@ public:
     bool see(const std::vector<history::SeenLink> &links);
     /// The end: these connections last. What cannot be written goes into the file; the
     /// reason if it is lost.
-    std::optional<history::StoreError> leave(std::vector<LiveConnection> lasting);
+    std::optional<Problem> leave(std::vector<LiveConnection> lasting);
 
-    /// Whether there is something that catchUp() has to write before anything else
+    /// Whether there is something that writePending() has to write before anything else
     /// is written, which is so in the beginning.
     bool isBehind() const { return !isSettled() || !m_unwritten.empty(); }
     /// Whether there is more to be written than the next checkpoint.
@@ -69,7 +70,7 @@ public:
     /// Finishes what earlier processes left open and does not last, as recovered at
     /// its last update, and records what links have moved since nobody watched them;
     /// then tries again what could not be written.
-    void catchUp();
+    void writePending();
 
 private:
     void readFile();

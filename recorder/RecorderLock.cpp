@@ -4,6 +4,8 @@
 #include "LockFile.h"
 #include "history/FilesBesideStore.h"
 
+#include <QCoreApplication>
+
 #include <sys/file.h>
 #include <sys/stat.h>
 
@@ -52,9 +54,9 @@ std::optional<RecorderLock::Outcome> RecorderLock::tryFile()
     if (!status)
         return fail(reason);
     if (!S_ISREG(status->st_mode))
-        return refuse(tr("it is not a file"));
+        return refuse(Problem::Obstacle::NotAFile);
     if (status->st_nlink > 1)
-        return refuse(tr("it is a hard link to another file"));
+        return refuse(Problem::Obstacle::HardLink);
     if (isOpen && isOwn(*status))
         return lock();
     return isOpen || reason == EACCES ? replace(*status) : fail(reason);
@@ -92,12 +94,14 @@ std::optional<RecorderLock::Outcome> RecorderLock::replace(const struct stat &st
     case Removal::NotOwnFolder:
         break;
     }
-    return isOwn(status) ? fail(EACCES) : refuse(tr("it belongs to another user"));
+    return isOwn(status) ? fail(EACCES) : refuse(Problem::Obstacle::OfAnotherUser);
 }
 
 RecorderLock::Outcome RecorderLock::leaveToHolder()
 {
-    m_holder = m_file.isOpen() ? readHolder() : std::nullopt;
+    setProblem(Problem::Kind::RecordedByAnother);
+    if (m_file.isOpen())
+        readHolder();
     m_file.close();
     return Outcome::HeldByAnother;
 }
@@ -122,27 +126,37 @@ void RecorderLock::introduceHolder()
                  QCoreApplication::applicationName().toUtf8() + '\n');
 }
 
-std::optional<RecorderLock::Holder> RecorderLock::readHolder()
+void RecorderLock::readHolder()
 {
     const qint64 process = m_file.readLine(32).trimmed().toLongLong();
     const QString program = QString::fromUtf8(m_file.readLine(256).trimmed());
     if (process <= 0 || program.isEmpty())
-        return std::nullopt;
-    return Holder{program, process};
+        return;
+    m_problem.process = process;
+    m_problem.program = program;
 }
 
 RecorderLock::Outcome RecorderLock::fail(int systemError)
 {
-    m_error = QString::fromStdString(std::generic_category().message(systemError));
+    setProblem(Problem::Kind::LockUnwritable);
+    m_problem.reason = QString::fromStdString(std::generic_category().message(systemError));
     m_file.close();
     return Outcome::Failed;
 }
 
-RecorderLock::Outcome RecorderLock::refuse(const QString &reason)
+RecorderLock::Outcome RecorderLock::refuse(Problem::Obstacle obstacle)
 {
-    m_error = reason;
+    setProblem(Problem::Kind::LockObstructed);
+    m_problem.obstacle = obstacle;
     m_file.close();
     return Outcome::Refused;
+}
+
+void RecorderLock::setProblem(Problem::Kind kind)
+{
+    m_problem = Problem();
+    m_problem.kind = kind;
+    m_problem.path = m_path;
 }
 
 } // namespace recorder

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCoreApplication>
+#include "Problem.h"
+
 #include <QFile>
 #include <QString>
 
@@ -19,8 +20,6 @@ namespace recorder
 /// another user's stands in a folder of one's own and nobody holds it, it is replaced.
 class RecorderLock
 {
-    Q_DECLARE_TR_FUNCTIONS(recorder::RecorderLock)
-
 public:
     /// Of this store, whose path has to be the one that all recorders know it by;
     /// nothing is taken yet.
@@ -31,21 +30,15 @@ public:
     RecorderLock &operator=(const RecorderLock &) = delete;
 
     /// Failed: the file cannot be made or opened. Refused: what stands there is no
-    /// lock file of one's own, and was left as it is. errorString() says why.
+    /// lock file of one's own, and was left as it is.
     enum class Outcome { Taken, HeldByAnother, Failed, Refused };
     /// Does not wait.
     Outcome take();
     void free();
 
-    struct Holder {
-        QString program;
-        qint64 process = 0;
-    };
-    /// Who holds it, after HeldByAnother; nothing if that one has not said so yet or
-    /// may not be asked.
-    std::optional<Holder> holder() const { return m_holder; }
-    QString path() const { return m_path; }
-    QString errorString() const { return m_error; }
+    /// Why it was not taken. Who holds it is not known if that one has not said so yet,
+    /// or may not be asked.
+    Problem problem() const { return m_problem; }
 
 private:
     /// One attempt; nothing if another one is due, for the file has changed.
@@ -56,15 +49,15 @@ private:
     bool isInPlace() const;
     std::string fileName() const;
     void introduceHolder();
-    std::optional<Holder> readHolder();
+    void readHolder();
     Outcome leaveToHolder();
     Outcome fail(int systemError);
-    Outcome refuse(const QString &reason);
+    Outcome refuse(Problem::Obstacle obstacle);
+    void setProblem(Problem::Kind kind);
 
     const QString m_path;
     QFile m_file;
-    std::optional<Holder> m_holder;
-    QString m_error;
+    Problem m_problem;
 };
 
 } // namespace recorder

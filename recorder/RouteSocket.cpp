@@ -15,7 +15,7 @@ namespace recorder
 namespace
 {
 
-/// Listings come in datagrams of at most half of that.
+/// Dumps come in datagrams of at most half of that.
 constexpr std::size_t datagramSize = 65536;
 
 /// Room for hundreds of messages, as far as the system grants it.

@@ -13,7 +13,7 @@ namespace recorder
 namespace
 {
 
-const QByteArray mark = QByteArrayLiteral("refdialer-unwritten 1 ");
+const QByteArray signature = QByteArrayLiteral("refdialer-unwritten 1 ");
 
 /// The fields of the file, each once, for writing and for reading.
 template <typename State, typename Visitor>
@@ -23,7 +23,7 @@ void visitFields(State &state, Visitor &visitor)
     visitor.text("boot_id", row.bootId);
     visitor.text("interface_name", row.interfaceName);
     visitor.text("first_link_mark", row.linkMark);
-    visitor.text("link_mark", state.linkMark);
+    visitor.text("link_mark", state.connectionMark);
     visitor.text("profile", row.profile);
     visitor.text("ending", row.ending);
     visitor.number("key", row.key);
@@ -136,14 +136,14 @@ QByteArray textOf(const std::vector<Unwritten> &connections)
     for (const Unwritten &each : connections)
         array.append(objectOf(each));
     const QByteArray body = QJsonDocument(array).toJson();
-    return mark + digestOf(body) + body;
+    return signature + digestOf(body) + body;
 }
 
 std::optional<std::vector<Unwritten>> unwrittenIn(const QByteArray &text)
 {
-    const auto headSize = mark.size() + digestOf({}).size();
+    const auto headSize = signature.size() + digestOf({}).size();
     const QByteArray body = text.mid(headSize);
-    if (text.left(headSize) != mark + digestOf(body))
+    if (text.left(headSize) != signature + digestOf(body))
         return std::nullopt;
     std::vector<Unwritten> connections;
     const QJsonArray entries = QJsonDocument::fromJson(body).array();

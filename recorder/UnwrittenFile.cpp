@@ -19,8 +19,6 @@
 namespace recorder
 {
 
-using history::StoreError;
-
 namespace
 {
 
@@ -43,29 +41,31 @@ bool standsAt(const QString &path)
     return statusOfPath(path).has_value();
 }
 
-/// A file of one's own, without waiting for the other end of a pipe; the reason if it is
-/// none.
-std::optional<QString> openToRead(const QString &path, QFile &file)
+Problem unreadable(const QString &path, Problem::Obstacle obstacle, const QString &reason = {})
+{
+    Problem problem;
+    problem.kind = Problem::Kind::UnwrittenUnreadable;
+    problem.path = path;
+    problem.obstacle = obstacle;
+    problem.reason = reason;
+    return problem;
+}
+
+/// A file of one's own, without waiting for the other end of a pipe; what keeps from
+/// reading it if it is none.
+std::optional<Problem> openToRead(const QString &path, QFile &file)
 {
     const auto status = statusOfPath(path);
     if (!status || !S_ISREG(status->st_mode))
-        return UnwrittenFile::tr("it is not a file");
+        return unreadable(path, Problem::Obstacle::NotAFile);
     const int descriptor = open(QFile::encodeName(path).constData(),
                                 O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0)
-        return QString::fromLocal8Bit(std::strerror(errno));
+        return unreadable(path, Problem::Obstacle::None,
+                          QString::fromLocal8Bit(std::strerror(errno)));
     if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        return file.errorString();
+        return unreadable(path, Problem::Obstacle::None, file.errorString());
     return std::nullopt;
-}
-
-StoreError damaged(const QString &path, const QString &reason)
-{
-    return {StoreError::Kind::Damaged,
-            UnwrittenFile::tr("\"%1\" may keep connections that are not in the history, but cannot "
-                              "be read (%2); it was left as it is, move it away.")
-                .arg(path, reason)
-                .toStdString()};
 }
 
 } // namespace
@@ -82,29 +82,30 @@ UnwrittenFile::Contents UnwrittenFile::read()
     for (Place &place : m_places) {
         if (!standsAt(place.path))
             continue;
-        const auto connections = readFrom(place.path);
-        place.isOurs = bool(connections);
-        if (!connections)
-            contents.refusals.push_back(connections.error());
-        else
-            std::copy(connections.value().begin(), connections.value().end(),
+        const Reading reading = readFrom(place.path);
+        const auto *const connections = std::get_if<std::vector<Unwritten>>(&reading);
+        place.isOurs = connections != nullptr;
+        if (connections)
+            std::copy(connections->begin(), connections->end(),
                       std::back_inserter(contents.connections));
+        else
+            contents.refusals.push_back(std::get<Problem>(reading));
     }
     return contents;
 }
 
-history::Result<std::vector<Unwritten>> UnwrittenFile::readFrom(const QString &path)
+UnwrittenFile::Reading UnwrittenFile::readFrom(const QString &path)
 {
     QFile file;
     if (const auto obstacle = openToRead(path, file))
-        return damaged(path, *obstacle);
-    const auto connections = unwrittenIn(file.read(maximumSize));
+        return *obstacle;
+    auto connections = unwrittenIn(file.read(maximumSize));
     if (!connections)
-        return damaged(path, tr("it is damaged or of another program"));
-    return *connections;
+        return unreadable(path, Problem::Obstacle::Damaged);
+    return std::move(*connections);
 }
 
-std::optional<history::StoreError> UnwrittenFile::write(std::vector<Unwritten> connections)
+std::optional<Problem> UnwrittenFile::write(std::vector<Unwritten> connections)
 {
     const auto place = std::find_if(m_places.begin(), m_places.end(), isFree);
     if (place == m_places.end())
@@ -117,8 +118,8 @@ std::optional<history::StoreError> UnwrittenFile::write(std::vector<Unwritten> c
     return std::nullopt;
 }
 
-std::optional<history::StoreError> UnwrittenFile::writeTo(const QString &path,
-                                                          std::vector<Unwritten> connections)
+std::optional<Problem> UnwrittenFile::writeTo(const QString &path,
+                                              std::vector<Unwritten> connections)
 {
     const std::string run = newIdentifier();
     for (Unwritten &each : connections) {
@@ -133,12 +134,11 @@ std::optional<history::StoreError> UnwrittenFile::writeTo(const QString &path,
                            file.write(textOf(connections)) >= 0 && file.commit();
     if (isWritten)
         return std::nullopt;
-    return history::StoreError{
-        history::StoreError::Kind::WriteFailed,
-        tr("\"%1\" cannot be written (%2), so connections that the history could "
-           "not take are lost; allow yourself to write there.")
-            .arg(path, file.errorString())
-            .toStdString()};
+    Problem problem;
+    problem.kind = Problem::Kind::UnwrittenUnwritable;
+    problem.path = path;
+    problem.reason = file.errorString();
+    return problem;
 }
 
 bool UnwrittenFile::remove()
@@ -161,13 +161,13 @@ bool UnwrittenFile::removeFrom(Place &place)
     return !place.isOurs;
 }
 
-history::StoreError UnwrittenFile::noPlace() const
+Problem UnwrittenFile::noPlace() const
 {
-    return {history::StoreError::Kind::WriteFailed,
-            tr("\"%1\" and \"%2\" are in the way, so connections that the history could not take "
-               "are lost; move them away.")
-                .arg(m_places.front().path, m_places.back().path)
-                .toStdString()};
+    Problem problem;
+    problem.kind = Problem::Kind::UnwrittenObstructed;
+    problem.path = m_places.front().path;
+    problem.otherPath = m_places.back().path;
+    return problem;
 }
 
 } // namespace recorder

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Problem.h"
 #include "Unwritten.h"
-#include "history/Result.h"
 
-#include <QCoreApplication>
 #include <QString>
 
 #include <array>
 #include <optional>
+#include <variant>
 #include <vector>
 
 namespace recorder
@@ -20,8 +20,6 @@ namespace recorder
 /// lock may use them.
 class UnwrittenFile
 {
-    Q_DECLARE_TR_FUNCTIONS(recorder::UnwrittenFile)
-
 public:
     /// Of this store, whose path has to be the one that all recorders know it by.
     explicit UnwrittenFile(const QString &storePath);
@@ -29,14 +27,14 @@ public:
     struct Contents {
         std::vector<Unwritten> connections; ///< in the order in which they were written
         /// Of what stands there and is something else, damaged or of a newer version.
-        std::vector<history::StoreError> refusals;
+        std::vector<Problem> refusals;
     };
     /// What is kept; nothing if there is no file.
     Contents read();
     /// Puts these into the file, mode 0600, in the place of what was read; those without
     /// an origin get one, and this recorder's run. The reason if that is not possible:
     /// then what was kept still is.
-    std::optional<history::StoreError> write(std::vector<Unwritten> connections);
+    std::optional<Problem> write(std::vector<Unwritten> connections);
     /// Removes what was read and written; whether none of it is there any more.
     bool remove();
 
@@ -46,12 +44,13 @@ private:
         bool isOurs = false; ///< what is there was read or written by this process
     };
 
-    static history::Result<std::vector<Unwritten>> readFrom(const QString &path);
-    static std::optional<history::StoreError> writeTo(const QString &path,
-                                                      std::vector<Unwritten> connections);
+    using Reading = std::variant<std::vector<Unwritten>, Problem>;
+
+    static Reading readFrom(const QString &path);
+    static std::optional<Problem> writeTo(const QString &path, std::vector<Unwritten> connections);
     static bool isFree(const Place &place);
     static bool removeFrom(Place &place);
-    history::StoreError noPlace() const;
+    Problem noPlace() const;
 
     std::array<Place, 2> m_places;
 };

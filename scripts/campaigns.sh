@@ -61,7 +61,7 @@ for campaign in "${campaigns[@]}"; do
         run clang tst_hostilehost 200000
         ;;
     kills) run qt5 'tst_(store|recorder)kills' 1000 ;;
-    reconnects) run qt5 tst_networkrecording 1000 ;;
+    reconnects) run qt5 tst_networklosses 1000 ;;
     fuzz) fuzz ;;
     texts) run qt5 '^tst_(time|sdk|volume)text$' 1000000 ;;
     abi)

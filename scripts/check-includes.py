@@ -19,8 +19,11 @@ KNOWN_TO = {
     "usage": ["history"],
     "formats": ["usage", "history"],
     "recorder": ["modem", "history"],
-    "apps/connrecord": ["formats", "usage", "recorder", "modem", "history"],
-    "apps/refdialer": ["host", "refhost/libcore", "formats", "usage", "recorder", "modem", "history"],
+    "apps/common": ["formats", "usage", "recorder", "modem", "history"],
+    "apps/connrecord": ["apps/common", "formats", "usage", "recorder", "modem", "history"],
+    "apps/refdialer": [
+        "host", "refhost/libcore", "apps/common", "formats", "usage", "recorder", "modem", "history",
+    ],
 }
 
 

@@ -2,6 +2,7 @@
 #include "Recording.h"
 
 #include "LineState.h"
+#include "apps/common/ProblemText.h"
 #include "recorder/ConnectionRecorder.h"
 
 namespace refdialer
@@ -19,7 +20,9 @@ Recording::Recording(const QString &storePath, const QStringList &interfaceNames
     QObject::connect(m_recorder, &recorder::ConnectionRecorder::disconnected, &m_state,
                      [&state](const history::Connection &, qint64 id) { state.end(id); });
     QObject::connect(m_recorder, &recorder::ConnectionRecorder::failed, &m_state,
-                     &LineState::setProblem);
+                     [&state](const recorder::Problem &problem) {
+                         state.setProblem(common::problemText(problem));
+                     });
     QObject::connect(m_recorder, &recorder::ConnectionRecorder::succeeded, &m_state,
                      [&state] { state.setProblem(QString()); });
     QObject::connect(m_recorder, &recorder::ConnectionRecorder::started, &m_state,
@@ -32,6 +35,11 @@ Recording::Recording(const QString &storePath, const QStringList &interfaceNames
 
 Recording::~Recording()
 {
+    std::optional<recorder::Problem> loss;
+    QMetaObject::invokeMethod(
+        m_recorder, [this] { return m_recorder->end(); }, Qt::BlockingQueuedConnection, &loss);
+    if (loss)
+        qWarning("%s", qUtf8Printable(common::problemText(*loss)));
     m_thread.quit();
     m_thread.wait();
 }

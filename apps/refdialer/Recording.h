@@ -26,7 +26,7 @@ public:
               LineState &state);
     Recording(const Recording &) = delete;
     Recording &operator=(const Recording &) = delete;
-    /// What is connected stays open in the store, for the next start to go on with.
+    /// What is connected stays open in the store, for the next start to resume.
     ~Recording();
 
     /// Returns when connections that an earlier run left open are settled in the

@@ -4,7 +4,7 @@
 #include "FailureReport.h"
 #include "LanguageChoice.h"
 #include "Options.h"
-#include "QuitOnSignal.h"
+#include "apps/common/QuitOnSignal.h"
 #include "refhost/libcore/Host.h"
 
 #include <QApplication>
@@ -35,7 +35,7 @@ int runWindow(const refdialer::Options &options, char **argv)
     // The toolkit takes --plugin and others for its own, so it sees none of them.
     int programNameOnly = 1;
     const QApplication application(programNameOnly, argv);
-    const refdialer::QuitOnSignal quitOnSignal;
+    const common::QuitOnSignal quitOnSignal;
     describeProgram();
     QApplication::setDesktopFileName(QStringLiteral(REFDIALER_APPLICATION_ID));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(REFDIALER_APPLICATION_ID)));

@@ -338,7 +338,7 @@
     </message>
 </context>
 <context>
-    <name>recorder::ConnectionRecorder</name>
+    <name>common::ProblemText</name>
     <message>
         <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
         <translation>Die Uhr des Systems zeigt eine Zeit, die der Verlauf nicht fassen kann. Verbindungen bekommen stattdessen %1 UTC; stellen Sie die Uhr.</translation>
@@ -363,9 +363,6 @@
         <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
         <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 steht der Sperre im Weg (%2). Verschieben Sie es an einen anderen Ort.</translation>
     </message>
-</context>
-<context>
-    <name>recorder::RecorderLock</name>
     <message>
         <source>it is not a file</source>
         <translation>keine gewöhnliche Datei</translation>
@@ -378,9 +375,6 @@
         <source>it belongs to another user</source>
         <translation>die Datei gehört jemand anderem</translation>
     </message>
-</context>
-<context>
-    <name>recorder::UnwrittenFile</name>
     <message>
         <source>it is damaged or of another program</source>
         <translation>sie ist beschädigt oder stammt von einem anderen Programm</translation>
@@ -394,16 +388,9 @@
         <translation>„%1“ enthält vielleicht Verbindungen, die im Verlauf fehlen, lässt sich aber nicht lesen (%2). Die Datei blieb, wie sie ist; verschieben Sie sie.</translation>
     </message>
     <message>
-        <source>it is not a file</source>
-        <translation>keine gewöhnliche Datei</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
         <translation>„%1“ und „%2“ sind im Weg, daher gehen Verbindungen verloren, die der Verlauf nicht aufnehmen konnte. Verschieben Sie beide.</translation>
     </message>
-</context>
-<context>
-    <name>recorder::LinkMonitor</name>
     <message>
         <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
         <translation>Die Netzschnittstellen lassen sich nicht beobachten (%1), daher werden keine Verbindungen aufgezeichnet. Das wird alle zwei Sekunden von neuem versucht.</translation>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "recorder/ConnectionRecorder.h"
 #include "recorder/SystemClock.h"
 
 /// Clocks that show what a test says.
@@ -19,3 +20,7 @@ public:
     std::int64_t utc = 1700000000;
     std::int64_t boot = 5000000;
 };
+
+/// Many times a second what a recorder does once: a test waits for it.
+constexpr recorder::RecorderIntervals shortIntervals = {std::chrono::milliseconds(10),
+                                                        std::chrono::milliseconds(20)};

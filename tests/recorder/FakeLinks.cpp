@@ -49,7 +49,7 @@ AddressReport addressGoneFrom(int index)
 bool FakeLinks::start()
 {
     if (!isBlind)
-        relist(atStart);
+        dumpAnew(atStart);
     return !isBlind;
 }
 
@@ -61,18 +61,18 @@ void FakeLinks::tell(const LinkNews &news)
         emit linkChanged(*change);
 }
 
-void FakeLinks::catchUp()
+void FakeLinks::deliverPending()
 {
     for (const LinkNews &news : toCome)
         tell(news);
     toCome.clear();
 }
 
-void FakeLinks::relist(const std::vector<LinkNews> &news)
+void FakeLinks::dumpAnew(const std::vector<LinkNews> &news)
 {
-    m_table.beginListing();
+    m_table.beginDump();
     for (const LinkNews &each : news)
         tell(each);
-    for (const recorder::LinkChange &change : m_table.endListing())
+    for (const recorder::LinkChange &change : m_table.endDump())
         emit linkChanged(change);
 }

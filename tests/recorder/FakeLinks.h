@@ -27,14 +27,14 @@ public:
     std::vector<recorder::Link> links() const override { return m_table.links(); }
     void requestCounters(int linkIndex) override { requests.push_back(linkIndex); }
     /// Tells what was to come.
-    void catchUp() override;
+    void deliverPending() override;
 
     void tell(const recorder::LinkNews &news);
-    /// All messages were lost; a new listing shows only these.
-    void relist(const std::vector<recorder::LinkNews> &news);
+    /// All messages were lost; a new dump shows only these.
+    void dumpAnew(const std::vector<recorder::LinkNews> &news);
 
-    std::vector<recorder::LinkNews> atStart; ///< what the first listing shows
-    bool isBlind = false;                    ///< there is no first listing
+    std::vector<recorder::LinkNews> atStart; ///< what the first dump shows
+    bool isBlind = false;                    ///< there is no first dump
     std::vector<int> requests;
     std::vector<recorder::LinkNews> toCome;
 

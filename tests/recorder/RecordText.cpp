@@ -40,3 +40,8 @@ QStringList recordsSeenBy(const QSignalSpy &disconnections)
         texts.append(textOf(arguments.first().value<Connection>()));
     return texts;
 }
+
+recorder::Problem lastProblemSeenBy(const QSignalSpy &failures)
+{
+    return failures.last().first().value<recorder::Problem>();
+}

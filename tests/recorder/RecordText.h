@@ -14,3 +14,5 @@ QStringList recordsIn(const QString &storePath);
 std::vector<history::OpenConnection> openRowsIn(const QString &storePath);
 /// What a spy on disconnected() has seen.
 QStringList recordsSeenBy(const QSignalSpy &disconnections);
+/// What a spy on failed() has seen last.
+recorder::Problem lastProblemSeenBy(const QSignalSpy &failures);

@@ -19,7 +19,9 @@ int main(int argc, char **argv)
         std::fflush(stdout);
     });
     QObject::connect(&recorder, &recorder::ConnectionRecorder::failed, &recorder,
-                     [](const QString &reason) { qWarning("%s", qPrintable(reason)); });
+                     [](const recorder::Problem &problem) {
+                         qWarning("%d: %s", int(problem.kind), qPrintable(problem.reason));
+                     });
     const QSocketNotifier inputEnd(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&inputEnd, &QSocketNotifier::activated, &QCoreApplication::quit);
     recorder.start();

@@ -63,12 +63,12 @@ private slots:
     void aListedConnectionBeginsNow();
     void aListedPppConnectionBeginsWithTheLink();
     void aLinkMadeWhileMessagesWereLostBeginsAtNothing();
-    void aListedConnectionBeginsNowThoughTheListingWasRepeated();
+    void aDumpedConnectionBeginsNowThoughTheDumpWasRepeated();
     void theMarkOfAConnectionChangesWithLineAndAddresses();
 
-    void aListingFindsALinkThatIsGone();
-    void aListingFindsAnAddressThatIsGone();
-    void aListingLeavesWhatItMentions();
+    void aDumpFindsALinkThatIsGone();
+    void aDumpFindsAnAddressThatIsGone();
+    void aDumpLeavesWhatItMentions();
 
 private:
     LinkChange tell(const LinkReport &report) { return m_table.apply(report).value(); }
@@ -248,40 +248,40 @@ void LinkTableTest::aConnectionThatGetsAnotherNameBeginsThere()
 
 void LinkTableTest::aListedConnectionBeginsNow()
 {
-    m_table.beginListing();
+    m_table.beginDump();
     tell(running(500));
     tell(address(true));
-    m_table.endListing();
+    m_table.endDump();
     QCOMPARE(base(), std::int64_t{500});
 }
 
 void LinkTableTest::aListedPppConnectionBeginsWithTheLink()
 {
-    m_table.beginListing();
+    m_table.beginDump();
     tell(running(500, true));
     tell(address(true));
-    m_table.endListing();
+    m_table.endDump();
     QCOMPARE(base(), std::int64_t{0});
 }
 
 void LinkTableTest::aLinkMadeWhileMessagesWereLostBeginsAtNothing()
 {
-    m_table.beginListing();
-    m_table.endListing();
-    m_table.beginListing();
+    m_table.beginDump();
+    m_table.endDump();
+    m_table.beginDump();
     tell(running(500));
     tell(address(true));
-    m_table.endListing();
+    m_table.endDump();
     QCOMPARE(base(), std::int64_t{0});
 }
 
-void LinkTableTest::aListedConnectionBeginsNowThoughTheListingWasRepeated()
+void LinkTableTest::aDumpedConnectionBeginsNowThoughTheDumpWasRepeated()
 {
-    m_table.beginListing();
-    m_table.beginListing();
+    m_table.beginDump();
+    m_table.beginDump();
     tell(running(500));
     tell(address(true));
-    m_table.endListing();
+    m_table.endDump();
     QCOMPARE(base(), std::int64_t{500});
 }
 
@@ -298,12 +298,12 @@ void LinkTableTest::theMarkOfAConnectionChangesWithLineAndAddresses()
     QVERIFY(tell(link).link.connectionMark() != mark);
 }
 
-void LinkTableTest::aListingFindsALinkThatIsGone()
+void LinkTableTest::aDumpFindsALinkThatIsGone()
 {
     tell(running(10));
     tell(address(true));
-    m_table.beginListing();
-    const auto changes = m_table.endListing();
+    m_table.beginDump();
+    const auto changes = m_table.endDump();
     QCOMPARE(changes.size(), std::size_t{1});
     QVERIFY(changes.front().isGone);
     QVERIFY(!changes.front().hasFreshCounters);
@@ -311,26 +311,26 @@ void LinkTableTest::aListingFindsALinkThatIsGone()
     QVERIFY(m_table.links().empty());
 }
 
-void LinkTableTest::aListingFindsAnAddressThatIsGone()
+void LinkTableTest::aDumpFindsAnAddressThatIsGone()
 {
     tell(running(10));
     tell(address(true));
-    m_table.beginListing();
+    m_table.beginDump();
     QVERIFY(tell(running(10)).link.isConnected());
-    const auto changes = m_table.endListing();
+    const auto changes = m_table.endDump();
     QCOMPARE(changes.size(), std::size_t{1});
     QVERIFY(!changes.front().isGone);
     QVERIFY(!changes.front().link.isConnected());
 }
 
-void LinkTableTest::aListingLeavesWhatItMentions()
+void LinkTableTest::aDumpLeavesWhatItMentions()
 {
     tell(running(10));
     tell(address(true));
-    m_table.beginListing();
+    m_table.beginDump();
     tell(running(10));
     tell(address(true));
-    QVERIFY(m_table.endListing().empty());
+    QVERIFY(m_table.endDump().empty());
     QVERIFY(m_table.links().front().isConnected());
 }
 

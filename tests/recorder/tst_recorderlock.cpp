@@ -17,6 +17,7 @@
 #include <thread>
 #include <vector>
 
+using recorder::Problem;
 using recorder::RecorderLock;
 
 using Outcome = RecorderLock::Outcome;
@@ -132,8 +133,8 @@ void RecorderLockTest::excludesOthersWhileItIsHeld()
     RecorderLock second(m_store);
     QCOMPARE(first.take(), Outcome::Taken);
     QCOMPARE(second.take(), Outcome::HeldByAnother);
-    QCOMPARE(second.holder()->process, QCoreApplication::applicationPid());
-    QCOMPARE(second.holder()->program, QCoreApplication::applicationName());
+    QCOMPARE(second.problem().process, QCoreApplication::applicationPid());
+    QCOMPARE(second.problem().program, QCoreApplication::applicationName());
     first.free();
     QCOMPARE(second.take(), Outcome::Taken);
 }
@@ -233,7 +234,7 @@ void RecorderLockTest::leavesAloneWhatIsNoLockFile()
     {
         RecorderLock lock(m_store);
         QCOMPARE(lock.take(), Outcome::Refused);
-        QVERIFY(!lock.errorString().isEmpty());
+        QVERIFY(lock.problem().obstacle != Problem::Obstacle::None);
     }
     QCOMPARE(textIn(other), QByteArray("text"));
     QCOMPARE(QFileInfo(other).permissions(), permissions);
@@ -267,7 +268,7 @@ void RecorderLockTest::leavesAnotherUsersLock()
         const AsNobody user;
         RecorderLock second(m_store);
         QCOMPARE(second.take(), Outcome::HeldByAnother);
-        QVERIFY(!second.holder());
+        QVERIFY(second.problem().program.isEmpty());
     }
     QCOMPARE(textIn(m_file), text);
     QCOMPARE(QFileInfo(m_file).ownerId(), 0U);
@@ -342,7 +343,8 @@ void RecorderLockTest::saysWhyItCannotBeTaken()
     const AsNobody user;
     RecorderLock lock(m_store);
     QCOMPARE(lock.take(), Outcome::Failed);
-    QCOMPARE(lock.errorString(), QStringLiteral("Permission denied"));
+    QCOMPARE(lock.problem().reason, QStringLiteral("Permission denied"));
+    QCOMPARE(lock.problem().path, m_file);
 }
 
 QTEST_GUILESS_MAIN(RecorderLockTest)

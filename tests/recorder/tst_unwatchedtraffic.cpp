@@ -4,7 +4,6 @@
 #include "FakeClock.h"
 #include "FakeLinks.h"
 #include "RecordText.h"
-#include "ShortIntervals.h"
 #include "StoreLock.h"
 
 #include <QTemporaryDir>

@@ -23,6 +23,7 @@ using history::Store;
 using recorder::ConnectionRecorder;
 using recorder::LinkNews;
 using recorder::LinkReport;
+using recorder::Problem;
 
 namespace
 {
@@ -320,11 +321,9 @@ void UnwrittenFileTest::leavesAFileThatItCannotReadAlone()
     putFile(text);
     start();
     QTRY_COMPARE(m_failures->size(), 1);
-    QCOMPARE(m_failures->first().first().toString(),
-             QStringLiteral("\"%1\" may keep connections that are not in the history, but cannot "
-                            "be read (it is damaged or of another program); it was left as it "
-                            "is, move it away.")
-                 .arg(filePath()));
+    QCOMPARE(lastProblemSeenBy(*m_failures).kind, Problem::Kind::UnwrittenUnreadable);
+    QCOMPARE(lastProblemSeenBy(*m_failures).path, filePath());
+    QCOMPARE(lastProblemSeenBy(*m_failures).obstacle, Problem::Obstacle::Damaged);
     isKeptInTheSecondFile();
     QCOMPARE(file(), text);
 }
@@ -358,7 +357,8 @@ void UnwrittenFileTest::leavesWhatIsNoFileAlone()
     QVERIFY(make(type, QFile::encodeName(filePath())));
     start();
     QTRY_COMPARE(m_failures->size(), 1);
-    QVERIFY(m_failures->first().first().toString().contains("(it is not a file)"));
+    QCOMPARE(lastProblemSeenBy(*m_failures).kind, Problem::Kind::UnwrittenUnreadable);
+    QCOMPARE(lastProblemSeenBy(*m_failures).obstacle, Problem::Obstacle::NotAFile);
     isKeptInTheSecondFile();
     QVERIFY(!QFileInfo(filePath()).isFile());
 }
@@ -379,12 +379,11 @@ void UnwrittenFileTest::saysSoWhereNothingCanBeKept()
     QTRY_COMPARE(m_failures->size(), 2);
     lock();
     m_links->tell(downLink(3, "wwan0", 5, 6));
-    const QString warning =
-        QStringLiteral("\"%1\" and \"%2\" are in the way, so connections that the history could "
-                       "not take are lost; move them away.")
-            .arg(filePath(), secondPath());
-    QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
-    end();
+    const auto loss = m_recorder->end();
+    QVERIFY(loss);
+    QCOMPARE(loss->kind, Problem::Kind::UnwrittenObstructed);
+    QCOMPARE(loss->path, filePath());
+    QCOMPARE(loss->otherPath, secondPath());
     QCOMPARE(file(), QByteArray("notes"));
 }
 

@@ -189,7 +189,7 @@ void TestTranslations::areCompleteAndUpToDate()
     QVERIFY(QFile::copy(translationFile(language), copy));
     QStringList sources{"refhost/translations/Identifiers.h"};
     if (language != "en")
-        sources += {"refhost/libcore", "recorder", "apps/refdialer"};
+        sources += {"refhost/libcore", "apps/common", "apps/refdialer"};
     QProcess lupdate;
     lupdate.setWorkingDirectory(PROJECT_SOURCES);
     lupdate.start(LUPDATE, sources + QStringList({"-silent", "-ts", copy}));

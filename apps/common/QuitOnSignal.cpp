@@ -8,7 +8,7 @@
 
 #include <cstdint>
 
-namespace refdialer
+namespace common
 {
 
 namespace
@@ -67,4 +67,4 @@ QuitOnSignal::~QuitOnSignal()
     wakeUpEvent = -1;
 }
 
-} // namespace refdialer
+} // namespace common

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "apps/refdialer/QuitOnSignal.h"
+#include "apps/common/QuitOnSignal.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -8,7 +8,7 @@
 #include <csignal>
 #include <memory>
 
-using refdialer::QuitOnSignal;
+using common::QuitOnSignal;
 
 namespace
 {

@@ -6,7 +6,7 @@
 #include <csignal>
 #include <map>
 
-namespace refdialer
+namespace common
 {
 
 /// While it lives, SIGINT, SIGTERM and SIGHUP end the event loop, so that the
@@ -26,4 +26,4 @@ private:
     std::map<int, struct sigaction> m_former; ///< by signal
 };
 
-} // namespace refdialer
+} // namespace common

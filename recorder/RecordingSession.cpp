@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: MIT
+#include "RecordingSession.h"
+
+#include "LinkSource.h"
+#include "SystemClock.h"
+
+#include <algorithm>
+
+namespace recorder
+{
+
+namespace
+{
+
+constexpr int ticksPerCheckpoint = 4;
+
+const Link *linkOf(const history::OpenConnection &row, const std::vector<Link> &links)
+{
+    const auto link = std::find_if(links.begin(), links.end(), [&row](const Link &each) {
+        return each.index == row.interfaceIndex && each.isConnected() &&
+               each.connectionMark() == row.linkMark;
+    });
+    return link == links.end() ? nullptr : &*link;
+}
+
+bool showTheSame(const history::SeenLink &a, const history::SeenLink &b)
+{
+    return a.interfaceIndex == b.interfaceIndex && a.interfaceName == b.interfaceName &&
+           a.uploaded == b.uploaded && a.downloaded == b.downloaded;
+}
+
+} // namespace
+
+RecordingSession::RecordingSession(history::Store store, const QString &storePath,
+                                   const std::string &bootId, const QStringList &interfaceNames,
+                                   const QString &profileName, Surroundings surroundings,
+                                   const SessionListener &listener)
+    : m_bootId(bootId)
+    , m_profileName(profileName)
+    , m_surroundings(surroundings)
+    , m_listener(listener)
+    , m_watched(interfaceNames)
+    , m_book(
+          std::move(store), UnwrittenFile(storePath), bootId, surroundings.clock,
+          [this](const history::OpenConnection &row) { return stillLasts(row); },
+          RecordBook::Listener{listener.disconnected, listener.recovered, listener.failed,
+                               listener.succeeded})
+{
+}
+
+void RecordingSession::begin()
+{
+    m_linksAtStart = m_surroundings.links.links();
+    m_book.settle(firstSights());
+    for (const Link &link : m_surroundings.links.links())
+        handleChange({link, false, false});
+}
+
+std::optional<Problem> RecordingSession::leave()
+{
+    // What has ended must not be left open, and what lasts is left as it is now.
+    for (auto &entry : m_live)
+        m_surroundings.links.requestCounters(entry.first);
+    m_surroundings.links.deliverPending();
+    finishWhatHasEnded();
+    std::vector<LiveConnection> lasting;
+    for (const auto &entry : m_live)
+        lasting.push_back(entry.second);
+    auto loss = m_book.leave(std::move(lasting));
+    m_book.see(idleLinks());
+    return loss;
+}
+
+std::optional<Problem> RecordingSession::endAll()
+{
+    for (auto &entry : m_live)
+        entry.second.end(now());
+    finishWhatHasEnded();
+    return m_book.leave({});
+}
+
+void RecordingSession::finishWhatHasEnded()
+{
+    std::vector<LiveConnection> ended;
+    for (const auto &entry : m_live) {
+        if (entry.second.hasEnded())
+            ended.push_back(entry.second);
+    }
+    for (LiveConnection &connection : ended)
+        finish(connection, false);
+}
+
+void RecordingSession::setProfileName(const QString &name)
+{
+    m_profileName = name;
+    for (auto &entry : m_live)
+        entry.second.setProfile(profileFor(entry.second.row().interfaceName));
+}
+
+void RecordingSession::handleChange(const LinkChange &change)
+{
+    const auto live = m_live.find(change.link.index);
+    if (live != m_live.end())
+        handleLiveChange(live->second, change);
+    else if (!change.isGone && change.link.isConnected() && m_watched.contains(change.link))
+        begin(change.link, change.link.idleCounters);
+}
+
+void RecordingSession::handleLiveChange(LiveConnection &connection, const LinkChange &change)
+{
+    const bool isStillConnected = !change.isGone && change.link.isConnected();
+    connection.setLink(change.link);
+    if (!isStillConnected)
+        connection.end(now());
+    if (change.hasFreshCounters)
+        connection.advance(change.link.counters, now());
+    if (!connection.hasEnded())
+        return report(connection);
+    if (!change.hasFreshCounters && !change.isGone)
+        return m_surroundings.links.requestCounters(change.link.index);
+    finish(connection, change.hasFreshCounters);
+    // What came back before the final counters of the former connection did
+    // begins where those end.
+    if (isStillConnected && m_watched.contains(change.link))
+        begin(change.link, change.link.counters);
+}
+
+/// Told once for each time that stands in for those that cannot be held.
+void RecordingSession::checkClock()
+{
+    const std::int64_t shown = m_surroundings.clock.utcSeconds();
+    const std::int64_t stored = storableSeconds(shown);
+    if (stored == shown) {
+        m_standIn.reset();
+    } else if (m_standIn != stored) {
+        m_standIn = stored;
+        Problem problem;
+        problem.kind = Problem::Kind::ClockOutOfRange;
+        problem.standInUtc = stored;
+        m_listener.failed(problem);
+    }
+}
+
+void RecordingSession::begin(const Link &link, const LinkCounters &base)
+{
+    checkClock();
+    const auto [live, isNew] = m_live.try_emplace(link.index, ++m_surroundings.lastId, m_bootId,
+                                                  profileFor(link.name), link, base, now());
+    LiveConnection &connection = live->second;
+    // What an earlier process has recorded may bear another profile.
+    if (!m_profileName.isEmpty())
+        connection.setProfile(m_profileName.toStdString());
+    m_book.save(connection);
+    m_listener.connected(stateOf(connection));
+}
+
+void RecordingSession::finish(LiveConnection &connection, bool hasFinalCounters)
+{
+    checkClock();
+    m_book.finish(connection, hasFinalCounters);
+    m_watched.forget(connection.linkIndex());
+    m_live.erase(connection.linkIndex());
+}
+
+void RecordingSession::report(LiveConnection &connection)
+{
+    if (connection.isCheckpointDue)
+        m_book.save(connection);
+    connection.isCheckpointDue = false;
+    if (connection.isStateDue)
+        m_listener.stateChanged(stateOf(connection));
+    connection.isStateDue = false;
+}
+
+void RecordingSession::tick()
+{
+    m_ticks = (m_ticks + 1) % ticksPerCheckpoint;
+    const bool isCheckpoint = m_ticks == 0 || m_book.isLate();
+    if (isCheckpoint) {
+        m_book.writePending();
+        keepIdleCounters();
+    }
+    for (auto &entry : m_live) {
+        entry.second.isStateDue = true;
+        entry.second.isCheckpointDue |= isCheckpoint;
+    }
+    requestCounters();
+}
+
+/// Of what is watched and up even without a connection: the next one begins
+/// with the counters known last, which must not be old then.
+void RecordingSession::requestCounters()
+{
+    for (const Link &link : m_surroundings.links.links()) {
+        if (m_live.count(link.index) != 0 || (link.isUp && m_watched.contains(link)))
+            m_surroundings.links.requestCounters(link.index);
+    }
+}
+
+std::vector<FirstSight> RecordingSession::firstSights() const
+{
+    const Moment moment = now();
+    const std::int64_t bootUtc = moment.utcSeconds - moment.bootMilliseconds / 1000;
+    std::vector<FirstSight> sights;
+    for (const Link &link : m_linksAtStart) {
+        if (m_watched.contains(link))
+            sights.push_back({seen(link), link.isConnected() ? link.idleCounters : link.counters,
+                              bootUtc, profileFor(link.name)});
+    }
+    return sights;
+}
+
+history::SeenLink RecordingSession::seen(const Link &link) const
+{
+    return {m_bootId,
+            link.index,
+            link.name,
+            link.counters.uploaded,
+            link.counters.downloaded,
+            storableSeconds(m_surroundings.clock.utcSeconds())};
+}
+
+std::vector<history::SeenLink> RecordingSession::idleLinks() const
+{
+    std::vector<history::SeenLink> idle;
+    for (const Link &link : m_surroundings.links.links()) {
+        if (m_live.count(link.index) == 0 && m_watched.contains(link))
+            idle.push_back(seen(link));
+    }
+    return idle;
+}
+
+/// What a link moves without a connection must not be taken later for what it moved
+/// while nothing recorded.
+void RecordingSession::keepIdleCounters()
+{
+    std::vector<history::SeenLink> idle = idleLinks();
+    const bool isKept =
+        std::equal(idle.begin(), idle.end(), m_keptIdle.begin(), m_keptIdle.end(), showTheSame);
+    if (!isKept && m_book.see(idle))
+        m_keptIdle = std::move(idle);
+}
+
+/// Asked late if the store was locked in the beginning: what was connected then and
+/// has ended since waits to resume the row.
+bool RecordingSession::stillLasts(const history::OpenConnection &row)
+{
+    const Link *const link = linkOf(row, m_linksAtStart);
+    if (!link)
+        return false;
+    if (m_watched.contains(*link))
+        return true;
+    // Renamed meanwhile, or watched only by the process before.
+    if (!linkOf(row, m_surroundings.links.links()))
+        return false;
+    m_watched.resume(link->index);
+    return true;
+}
+
+std::string RecordingSession::profileFor(const std::string &interfaceName) const
+{
+    return m_profileName.isEmpty() ? interfaceName : m_profileName.toStdString();
+}
+
+ConnectionState RecordingSession::stateOf(LiveConnection &connection) const
+{
+    const history::OpenConnection &row = connection.row();
+    const LinkCounters rate = connection.takeRate(now());
+    ConnectionState state;
+    state.id = connection.id();
+    state.profile = QString::fromStdString(row.profile);
+    state.interfaceName = QString::fromStdString(row.interfaceName);
+    state.since = QDateTime::fromSecsSinceEpoch(row.startUtc).toUTC();
+    state.uploadedBytes = row.uploadedBytes;
+    state.downloadedBytes = row.downloadedBytes;
+    state.uploadRate = rate.uploaded;
+    state.downloadRate = rate.downloaded;
+    return state;
+}
+
+Moment RecordingSession::now() const
+{
+    return {m_surroundings.clock.utcSeconds(), m_surroundings.clock.bootMilliseconds()};
+}
+
+} // namespace recorder
