@@ -15,7 +15,7 @@ struct YearTurns {
     std::vector<int> turns;
     /// The last run that is not of a clock that had just started anew.
     std::size_t lastTrusted = 0;
-    /// Whether a clock was set back that may as well have gone on for nearly a year.
+    /// Whether a clock was set back that may as well have run on for nearly a year.
     bool areUncertain = false;
 };
 

@@ -8,6 +8,7 @@
 #include "HistoryFiles.h"
 #include "ImportCommand.h"
 #include "Output.h"
+#include "RemoveCommand.h"
 #include "TotalsCommand.h"
 #include "formats/InputError.h"
 #include "history/Store.h"
@@ -97,6 +98,8 @@ public:
 private:
     void checkCommandIsKnown() const;
     CLI::App *addCommand(const char *name, const char *description);
+    static void addDays(CLI::App *command, DaysRequest &days);
+    void addSelection(CLI::App *command);
     void addList();
     void addAdd();
     void addRemove();
@@ -107,7 +110,8 @@ private:
     CLI::App m_parser;
     CommonRequest m_common;
     AddRequest m_add;
-    std::vector<std::string> m_keys;
+    SelectionRequest m_selection;
+    RemoveRequest m_removal;
     std::string m_outputPath = standardOutputPath;
     ImportRequest m_import;
     TotalsRequest m_totals;
@@ -178,10 +182,28 @@ CLI::App *CommandLine::addCommand(const char *name, const char *description)
     return command;
 }
 
+void CommandLine::addDays(CLI::App *command, DaysRequest &days)
+{
+    command
+        ->add_option("--from", days.from, "First day, as 2024-05-31, in local time; by the start")
+        ->type_name("DATE");
+    command->add_option("--to", days.to, "Last day, itself included")->type_name("DATE");
+}
+
+void CommandLine::addSelection(CLI::App *command)
+{
+    addDays(command, m_selection.days);
+    command->add_option("--profile", m_selection.profile, "Of this profile (APN) only")
+        ->type_name("NAME");
+    command->add_option("--limit", m_selection.limit, "That many at most, those that started last")
+        ->type_name("NUMBER");
+}
+
 void CommandLine::addList()
 {
-    CLI::App *const command = addCommand("list", "List all connections by their start");
-    command->callback([this] { m_action = [this] { listConnections(m_common); }; });
+    CLI::App *const command = addCommand("list", "List connections by their start");
+    addSelection(command);
+    command->callback([this] { m_action = [this] { listConnections(m_common, m_selection); }; });
 }
 
 void CommandLine::addAdd()
@@ -207,19 +229,27 @@ void CommandLine::addAdd()
 void CommandLine::addRemove()
 {
     CLI::App *const command = addCommand("remove", "Remove connections, all of these or none");
-    command->add_option("KEY", m_keys, "Key of a connection, as list shows it")
-        ->type_name("")
-        ->required();
-    command->callback([this] { m_action = [this] { removeConnections(m_common, m_keys); }; });
+    addSelection(command);
+    command->add_flag("--yes", m_removal.isAgreed, "Do not ask")->disable_flag_override();
+    command->add_flag("--dry-run", m_removal.isRehearsal, "Only show what would be removed")
+        ->disable_flag_override();
+    command->add_option("KEY", m_removal.keys, "Key of a connection, as list shows it")
+        ->type_name("");
+    command->callback([this] {
+        m_removal.selection = m_selection;
+        m_action = [this] { removeConnections(m_common, m_removal); };
+    });
 }
 
 void CommandLine::addExport()
 {
-    CLI::App *const command = addCommand("export", "Write all connections as CSV");
+    CLI::App *const command = addCommand("export", "Write connections as CSV");
+    addSelection(command);
     command->add_option("--output", m_outputPath, "Write to this file; - is standard output")
         ->type_name("FILE")
         ->check(checkFileName);
-    command->callback([this] { m_action = [this] { exportConnections(m_common, m_outputPath); }; });
+    command->callback(
+        [this] { m_action = [this] { exportConnections(m_common, m_selection, m_outputPath); }; });
 }
 
 void CommandLine::addImport()
@@ -261,12 +291,7 @@ void CommandLine::addTotals()
             "--by", [this](const std::string &names) { m_totals.groups = groupsNamed(names); },
             "One sum for each of these; one in all without it")
         ->type_name("profile|month|profile,month");
-    command
-        ->add_option("--from", m_totals.from,
-                     "First day counted, as 2024-05-31, in local time; by the start")
-        ->type_name("DATE");
-    command->add_option("--to", m_totals.to, "Last day counted, itself included")
-        ->type_name("DATE");
+    addDays(command, m_totals.days);
     command->callback([this] { m_action = [this] { showTotals(m_common, m_totals); }; });
 }
 

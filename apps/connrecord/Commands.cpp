@@ -21,13 +21,6 @@ namespace
 
 constexpr std::int64_t largestCount = std::numeric_limits<std::int64_t>::max();
 
-std::int64_t optionNumber(const std::string &option, const std::string &text, std::int64_t largest)
-{
-    return optionValue(option, text, [largest](const std::string &value) {
-        return formats::fieldNumber(value, largest);
-    });
-}
-
 const std::string &optionText(const std::string &option, const std::string &text)
 {
     if (!formats::isUtf8(text))
@@ -54,10 +47,11 @@ history::Connection connectionFrom(const AddRequest &request)
     return connection;
 }
 
-std::vector<history::Connection> storedConnections(const CommonRequest &common)
+std::vector<history::Connection> storedConnections(const CommonRequest &common,
+                                                   const SelectionRequest &selection)
 {
     const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
-    return valueOrFailure(store.list());
+    return selectedFrom(store, selection);
 }
 
 /// Lines of a text would look like connections of their own.
@@ -73,9 +67,14 @@ std::vector<history::Connection> onOneLineEach(std::vector<history::Connection> 
 
 } // namespace
 
-void listConnections(const CommonRequest &common)
+void listConnections(const CommonRequest &common, const SelectionRequest &selection)
 {
-    const std::vector<history::Connection> connections = storedConnections(common);
+    showConnections(common, storedConnections(common, selection));
+}
+
+void showConnections(const CommonRequest &common,
+                     const std::vector<history::Connection> &connections)
+{
     Output().write(common.json ? formats::jsonText(toJson(connections)) : toTable(connections));
 }
 
@@ -88,23 +87,12 @@ void addConnection(const CommonRequest &common, const AddRequest &request)
                                : QByteArray::number(key) + '\n');
 }
 
-void removeConnections(const CommonRequest &common, const std::vector<std::string> &keys)
-{
-    std::vector<std::int64_t> numbers;
-    numbers.reserve(keys.size());
-    for (const std::string &key : keys)
-        numbers.push_back(optionNumber("KEY", key, largestCount));
-    auto store = valueOrFailure(history::Store::openForReading(common.storePath));
-    valueOrFailure(store.remove(numbers));
-    if (common.json)
-        Output().write(formats::jsonText({{"removed", numbers}}));
-}
-
-void exportConnections(const CommonRequest &common, const std::string &outputPath)
+void exportConnections(const CommonRequest &common, const SelectionRequest &selection,
+                       const std::string &outputPath)
 {
     checkIsNotOfHistory(outputPath, common.storePath);
     Output output(outputPath);
-    const std::vector<history::Connection> connections = storedConnections(common);
+    const std::vector<history::Connection> connections = storedConnections(common, selection);
     if (common.json)
         output.write(formats::jsonText(toJson(connections)));
     else

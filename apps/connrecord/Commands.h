@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Selection.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,10 +30,13 @@ struct AddRequest {
     std::string interfaceName;
 };
 
-void listConnections(const CommonRequest &common);
+void listConnections(const CommonRequest &common, const SelectionRequest &selection);
+/// As a table, or as JSON.
+void showConnections(const CommonRequest &common,
+                     const std::vector<history::Connection> &connections);
 void addConnection(const CommonRequest &common, const AddRequest &request);
-void removeConnections(const CommonRequest &common, const std::vector<std::string> &keys);
 /// To the file of this name, or to standard output if it is "-".
-void exportConnections(const CommonRequest &common, const std::string &outputPath);
+void exportConnections(const CommonRequest &common, const SelectionRequest &selection,
+                       const std::string &outputPath);
 
 } // namespace connrecord

@@ -4,6 +4,7 @@
 #include "Failure.h"
 #include "formats/FieldValue.h"
 
+#include <cstdint>
 #include <string>
 
 namespace connrecord
@@ -20,6 +21,14 @@ auto optionValue(const std::string &option, const std::string &text, Read read)
         throw Failure(error.isMalformed ? ExitCode::Usage : ExitCode::Refused,
                       "For " + option + ", " + error.reason + ".");
     }
+}
+
+inline std::int64_t optionNumber(const std::string &option, const std::string &text,
+                                 std::int64_t largest)
+{
+    return optionValue(option, text, [largest](const std::string &value) {
+        return formats::fieldNumber(value, largest);
+    });
 }
 
 } // namespace connrecord

@@ -2,30 +2,14 @@
 #include "TotalsCommand.h"
 
 #include "ConnectionText.h"
-#include "OptionValue.h"
 #include "Output.h"
 #include "StoreResult.h"
-#include "usage/LocalDays.h"
 
 namespace connrecord
 {
 
 namespace
 {
-
-QDate optionDay(const std::string &option, const std::optional<std::string> &text)
-{
-    return text ? optionValue(option, *text, formats::fieldDay) : QDate();
-}
-
-usage::LocalDays daysOf(const TotalsRequest &request)
-{
-    const usage::LocalDays days{optionDay("--from", request.from), optionDay("--to", request.to)};
-    if (!days.first.isNull() && !days.last.isNull() && days.last < days.first)
-        throw Failure(ExitCode::Refused, "The last day, " + *request.to +
-                                             ", is before the first one, " + *request.from + ".");
-    return days;
-}
 
 history::Store::PeriodOf periodsOf(const usage::LocalDays &days, bool byMonth)
 {
@@ -40,7 +24,7 @@ history::Store::PeriodOf periodsOf(const usage::LocalDays &days, bool byMonth)
 std::vector<history::Totals> totalsOf(const CommonRequest &common, const TotalsRequest &request)
 {
     using Profiles = history::Store::Profiles;
-    const usage::LocalDays days = daysOf(request);
+    const usage::LocalDays days = daysOf(request.days);
     const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
     auto totals = valueOrFailure(store.totals(
         days.widerRange(), request.groups.byProfile ? Profiles::Apart : Profiles::Together,

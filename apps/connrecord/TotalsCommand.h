@@ -2,18 +2,15 @@
 #pragma once
 
 #include "Commands.h"
+#include "Selection.h"
 #include "TotalsText.h"
-
-#include <optional>
-#include <string>
 
 namespace connrecord
 {
 
 struct TotalsRequest {
     TotalsGroups groups;
-    std::optional<std::string> from; ///< first local day; from the beginning without it
-    std::optional<std::string> to;   ///< last local day; to the end without it
+    DaysRequest days;
 };
 
 /// Adds up the connections that start on these days. Throws Failure.

@@ -43,8 +43,8 @@ std::string clockText(long long seconds)
     return text;
 }
 
-/// Whether this is the volume in its unit, with two decimals; a tie is the
-/// toolkit's to round up or down.
+/// Whether this is the volume in its unit, with two decimals; a tie is
+/// for Qt to round up or down.
 bool isVolume(const std::string &text, long long bytes)
 {
     double size = static_cast<double>(bytes) / 1024;
@@ -61,7 +61,7 @@ bool isVolume(const std::string &text, long long bytes)
            std::abs(std::stod(text) - size) < 0.005 + 1e-9;
 }
 
-/// The toolkit takes a byte order mark at the start for what it is; what is behind
+/// Qt takes a byte order mark at the start for what it is; what is behind
 /// it then depends on the mark.
 bool hasByteOrderMark(const _KORA_ST_CONNRECORD &record)
 {

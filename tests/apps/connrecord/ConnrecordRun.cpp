@@ -28,9 +28,9 @@ ConnrecordRun connrecord(const QStringList &arguments, const QByteArray &input)
     return runProgram(connrecordProgram(), arguments, input);
 }
 
-ConnrecordRun onTerminal(const QString &command)
+ConnrecordRun onTerminal(const QString &command, const QByteArray &typed)
 {
-    return runProgram("script", {"--quiet", "--return", "--command", command, "/dev/null"});
+    return runProgram("script", {"--quiet", "--return", "--command", command, "/dev/null"}, typed);
 }
 
 void writeFile(const QString &path, const QByteArray &contents)

@@ -24,8 +24,9 @@ ConnrecordRun connrecord(const QStringList &arguments, const QByteArray &input =
 ConnrecordRun runProgram(const QString &program, const QStringList &arguments,
                          const QByteArray &input = {});
 
-/// Runs a shell's command in a terminal, whose contents are the output.
-ConnrecordRun onTerminal(const QString &command);
+/// Runs a shell's command in a terminal, whose contents are the output, those that are
+/// typed included.
+ConnrecordRun onTerminal(const QString &command, const QByteArray &typed = {});
 
 void writeFile(const QString &path, const QByteArray &contents);
 QByteArray readFile(const QString &path);

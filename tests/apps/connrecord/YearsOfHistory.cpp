@@ -93,7 +93,7 @@ QStringList rowsOfStatement(SQLite::Statement &statement)
     return rows;
 }
 
-/// The database's own reader of JSON keeps 64-bit integers in each toolkit version.
+/// The database's own reader of JSON keeps 64-bit integers in each version of Qt.
 QStringList rowsOfJson(const QByteArray &json)
 {
     const SQLite::Database memory(":memory:");

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ConnrecordRun.h"
+
+#include <QTemporaryDir>
+
+/// A new history of four connections: of "internet" with key 1 on 2024-05-01 and key 3 on
+/// 2024-06-01, of "Internet" with key 2 in the last second of May, and without a profile
+/// with key 4 on 2024-06-02; their first seconds and all times in Europe/Berlin.
+class SampleHistory
+{
+public:
+    SampleHistory();
+
+    const QString &path() const { return m_path; }
+    QString folder() const { return m_folder.path(); }
+    ConnrecordRun run(const QStringList &arguments) const;
+    /// Of the connections that are there.
+    QList<int> keys() const;
+
+private:
+    QTemporaryDir m_folder;
+    QString m_path;
+};
+
+/// Of the connections in what list --json tells.
+QList<int> keysOf(const ConnrecordRun &run);
