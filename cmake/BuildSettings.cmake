@@ -51,11 +51,8 @@ function(netinforecord_exports target)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})
 endfunction()
 
-# A program of the product: finds the libraries above relative to itself.
+# A program of the product.
 function(netinforecord_program target)
-    set_target_properties(${target} PROPERTIES
-        BUILD_WITH_INSTALL_RPATH ON
-        INSTALL_RPATH "$ORIGIN/${NETINFORECORD_LIBDIR_FROM_BINDIR}")
     target_link_libraries(${target} PRIVATE netinforecord_settings)
     install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
