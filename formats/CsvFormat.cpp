@@ -5,11 +5,13 @@
 #include "FieldValue.h"
 #include "LineReader.h"
 #include "Utf8Text.h"
+#include "history/ConnectionFields.h"
 #include "usage/CalendarTime.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
+#include <tuple>
+#include <type_traits>
 
 namespace formats
 {
@@ -17,29 +19,26 @@ namespace formats
 namespace
 {
 
-enum Column : std::size_t {
-    Profile,
-    Start,
-    End,
-    ConnectedSeconds,
-    UploadedBytes,
-    DownloadedBytes,
-    Ending,
-    Interface,
-    ColumnCount
-};
+using history::connectionFields;
+using history::forEachField;
+using history::KindOf;
+namespace kind = history::kind;
 
-constexpr std::array<const char *, ColumnCount> names = {
-    "profile",          "start",  "end",      "connected_seconds", "uploaded_bytes",
-    "downloaded_bytes", "ending", "interface"};
+constexpr std::size_t columnCount = std::tuple_size_v<decltype(connectionFields)>;
 
-constexpr std::size_t longestShortText = 31;
-constexpr std::int64_t largestByteCount = std::numeric_limits<std::int64_t>::max();
+using ColumnNames = std::array<const char *, columnCount>;
+
+const ColumnNames &columnNames()
+{
+    static const auto names = std::apply(
+        [](const auto &...field) { return ColumnNames{field.name...}; }, connectionFields);
+    return names;
+}
 
 std::string header()
 {
     std::string line;
-    for (const char *const name : names)
+    for (const char *const name : columnNames())
         line += (line.empty() ? "" : ",") + std::string(name);
     return line;
 }
@@ -54,14 +53,61 @@ std::string quoted(const std::string &text)
     return result + '"';
 }
 
+std::string cell(kind::Text /*kind*/, const std::string &text)
+{
+    return quoted(text);
+}
+
+std::string cell(kind::Time /*kind*/, std::int64_t utc)
+{
+    return usage::utcText(utc).toStdString();
+}
+
+std::string cell(kind::Amount /*kind*/, std::int64_t amount)
+{
+    return std::to_string(amount);
+}
+
 std::string line(const history::Connection &connection)
 {
-    return quoted(connection.profile) + ',' + usage::utcText(connection.startUtc).toStdString() +
-           ',' + usage::utcText(connection.endUtc).toStdString() + ',' +
-           std::to_string(connection.connectedSeconds) + ',' +
-           std::to_string(connection.uploadedBytes) + ',' +
-           std::to_string(connection.downloadedBytes) + ',' + quoted(connection.ending) + ',' +
-           quoted(connection.interfaceName) + '\n';
+    std::string line;
+    const char *separator = "";
+    forEachField(connectionFields, [&](const auto &field) {
+        line += separator + cell(KindOf<decltype(field)>(), connection.*field.member);
+        separator = ",";
+    });
+    return line + '\n';
+}
+
+// The value that a text stands for, of at most `maximum`. Of `connection`, the fields
+// before it have been read. They throw FieldError.
+
+std::string parsed(kind::Text /*kind*/, const std::string &text, std::int64_t maximum,
+                   const history::Connection & /*connection*/)
+{
+    if (text.size() > static_cast<std::size_t>(maximum))
+        throw FieldError{"the text has " + std::to_string(text.size()) + " bytes, at most " +
+                             std::to_string(maximum) + " are allowed",
+                         false};
+    return text;
+}
+
+std::int64_t parsed(kind::StartTime /*kind*/, const std::string &text, std::int64_t /*maximum*/,
+                    const history::Connection & /*connection*/)
+{
+    return fieldTime(text);
+}
+
+std::int64_t parsed(kind::EndTime /*kind*/, const std::string &text, std::int64_t /*maximum*/,
+                    const history::Connection &connection)
+{
+    return fieldEnd(text, connection.startUtc);
+}
+
+std::int64_t parsed(kind::Amount /*kind*/, const std::string &text, std::int64_t maximum,
+                    const history::Connection & /*connection*/)
+{
+    return fieldNumber(text, maximum);
 }
 
 /// One row of a file on its way to a connection.
@@ -80,12 +126,6 @@ public:
 private:
     [[noreturn]] void fail(std::size_t column, const std::string &reason) const;
     void checkBytes(std::size_t column) const;
-    const std::string &shortText(Column column) const;
-    template <typename Read>
-    std::int64_t value(Column column, Read read) const;
-    std::int64_t number(Column column, std::int64_t largest) const;
-    std::int64_t time(Column column) const;
-    std::int64_t endTime(std::int64_t startUtc) const;
 
     const CsvRow &m_row;
 };
@@ -93,24 +133,26 @@ private:
 history::Connection RowReader::connection() const
 {
     checkColumnCount();
-    for (std::size_t column = 0; column < ColumnCount; ++column)
+    for (std::size_t column = 0; column < columnCount; ++column)
         checkBytes(column);
     history::Connection connection;
-    connection.profile = m_row[Profile].text;
-    connection.startUtc = time(Start);
-    connection.endUtc = endTime(connection.startUtc);
-    connection.connectedSeconds = number(ConnectedSeconds, history::largestDuration);
-    connection.uploadedBytes = number(UploadedBytes, largestByteCount);
-    connection.downloadedBytes = number(DownloadedBytes, largestByteCount);
-    connection.ending = shortText(Ending);
-    connection.interfaceName = shortText(Interface);
+    std::size_t column = 0;
+    try {
+        forEachField(connectionFields, [&](const auto &field) {
+            connection.*field.member =
+                parsed(KindOf<decltype(field)>(), m_row[column].text, field.maximum, connection);
+            ++column;
+        });
+    } catch (const FieldError &error) {
+        fail(column, error.reason);
+    }
     return connection;
 }
 
 void RowReader::checkHeader() const
 {
-    for (std::size_t column = 0; column < ColumnCount; ++column) {
-        if (column >= m_row.size() || m_row[column].text != names[column])
+    for (std::size_t column = 0; column < columnCount; ++column) {
+        if (column >= m_row.size() || m_row[column].text != columnNames()[column])
             fail(column, "the first line has to be the header " + header());
     }
     checkColumnCount();
@@ -123,10 +165,10 @@ void RowReader::fail(std::size_t column, const std::string &reason) const
 
 void RowReader::checkColumnCount() const
 {
-    if (m_row.size() != ColumnCount)
-        fail(std::min<std::size_t>(m_row.size(), ColumnCount),
+    if (m_row.size() != columnCount)
+        fail(std::min<std::size_t>(m_row.size(), columnCount),
              "the line has " + std::to_string(m_row.size()) + " columns and should have " +
-                 std::to_string(ColumnCount));
+                 std::to_string(columnCount));
 }
 
 void RowReader::checkBytes(std::size_t column) const
@@ -136,40 +178,6 @@ void RowReader::checkBytes(std::size_t column) const
         fail(column, "the text holds a NUL byte");
     if (!isUtf8(text))
         fail(column, "the text is not UTF-8");
-}
-
-const std::string &RowReader::shortText(Column column) const
-{
-    const std::string &text = m_row[column].text;
-    if (text.size() > longestShortText)
-        fail(column, "the text has " + std::to_string(text.size()) + " bytes, at most " +
-                         std::to_string(longestShortText) + " are allowed");
-    return text;
-}
-
-template <typename Read>
-std::int64_t RowReader::value(Column column, Read read) const
-{
-    try {
-        return read(m_row[column].text);
-    } catch (const FieldError &error) {
-        fail(column, error.reason);
-    }
-}
-
-std::int64_t RowReader::number(Column column, std::int64_t largest) const
-{
-    return value(column, [largest](const std::string &text) { return fieldNumber(text, largest); });
-}
-
-std::int64_t RowReader::time(Column column) const
-{
-    return value(column, fieldTime);
-}
-
-std::int64_t RowReader::endTime(std::int64_t startUtc) const
-{
-    return value(End, [startUtc](const std::string &text) { return fieldEnd(text, startUtc); });
 }
 
 bool isBlank(const CsvRow &row)
@@ -190,7 +198,7 @@ void checkIsBlankEnd(CsvReader &reader, const CsvRow &firstBlank)
 
 std::string csvColumnName(std::size_t column)
 {
-    return column < names.size() ? names[column] : std::to_string(column + 1);
+    return column < columnCount ? columnNames()[column] : std::to_string(column + 1);
 }
 
 QByteArray toCsv(const std::vector<history::Connection> &connections)
@@ -203,7 +211,7 @@ QByteArray toCsv(const std::vector<history::Connection> &connections)
 
 std::vector<history::Connection> connectionsFromCsv(LineReader &lines, const ReadProgress &progress)
 {
-    CsvReader reader(lines, ColumnCount);
+    CsvReader reader(lines, columnCount);
     const auto firstRow = reader.next();
     if (!firstRow)
         throw CsvError{1, 0, "the file is empty, the first line has to be the header " + header()};

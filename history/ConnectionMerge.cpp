@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ConnectionMerge.h"
 
+#include "ConnectionFields.h"
+
 #include <algorithm>
 #include <map>
 #include <string>
@@ -20,20 +22,17 @@ auto identity(const Connection &connection)
                     connection.downloadedBytes);
 }
 
-auto rest(const Connection &connection)
+/// By what its end tells, then by interface and start.
+auto order(const Connection &connection)
 {
-    return std::tie(connection.interfaceName, connection.startUtc, connection.profile,
-                    connection.ending);
-}
-
-auto contents(const Connection &connection)
-{
-    return std::tuple_cat(identity(connection), rest(connection));
+    return std::tuple_cat(identity(connection),
+                          std::tie(connection.interfaceName, connection.startUtc),
+                          valuesOf(connection, connectionFields));
 }
 
 bool comesBefore(const Connection *left, const Connection *right)
 {
-    return contents(*left) < contents(*right);
+    return order(*left) < order(*right);
 }
 
 bool endsBefore(const Connection *left, const Connection *right)
@@ -130,11 +129,6 @@ Pointers inOrder(const std::vector<Connection> &connections)
 }
 
 } // namespace
-
-bool hasSameContents(const Connection &left, const Connection &right)
-{
-    return contents(left) == contents(right);
-}
 
 ConnectionMerge::ConnectionMerge(const std::vector<Connection> &given)
     : m_given(inOrder(given))

@@ -29,7 +29,4 @@ private:
     const Connection *m_first;
 };
 
-/// Whether nothing but the key tells the two apart.
-bool hasSameContents(const Connection &left, const Connection &right);
-
 } // namespace history

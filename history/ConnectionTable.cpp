@@ -7,8 +7,6 @@
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <string>
 #include <unordered_map>
@@ -19,59 +17,24 @@ namespace history
 namespace
 {
 
-/// A query for whole rows. It calls SQLite itself: the wrapper's columns share
-/// the ownership of their statement, which costs more than reading the value.
-class RowQuery
+constexpr const char *tableName = "connection";
+
+/// The rows that meet a condition, which may say their order.
+class ConnectionQuery : public RowQuery
 {
 public:
-    RowQuery(const SQLite::Database &database, const std::string &condition)
-        : m_database(database.getHandle())
+    ConnectionQuery(const SQLite::Database &database, const char *condition)
+        : RowQuery(database, selectionOf(connectionFields, tableName) + condition)
     {
-        const std::string sql =
-            "SELECT key, profile, start_utc, end_utc, connected_seconds, uploaded_bytes,"
-            " downloaded_bytes, ending, interface_name FROM connection " +
-            condition;
-        check(sqlite3_prepare_v2(m_database, sql.c_str(), -1, &m_statement, nullptr), SQLITE_OK);
-    }
-    ~RowQuery() { sqlite3_finalize(m_statement); }
-    RowQuery(const RowQuery &) = delete;
-    RowQuery &operator=(const RowQuery &) = delete;
-
-    void bind(int index, std::int64_t value)
-    {
-        check(sqlite3_bind_int64(m_statement, index, value), SQLITE_OK);
     }
 
-    /// Goes to the next row; false if there is none.
-    bool next()
-    {
-        const int code = sqlite3_step(m_statement);
-        if (code != SQLITE_ROW)
-            check(code, SQLITE_DONE);
-        return code == SQLITE_ROW;
-    }
-
-    ConnectionRow row() const { return ConnectionRow(m_statement); }
-
-private:
-    void check(int code, int expected) const
-    {
-        if (code != expected)
-            throw SQLite::Exception(m_database, code);
-    }
-
-    sqlite3 *m_database;
-    sqlite3_stmt *m_statement = nullptr;
+    ConnectionRow row() const { return ConnectionRow(RowQuery::row()); }
 };
 
 struct ContentsHash {
     std::size_t operator()(const Connection *connection) const
     {
-        std::size_t hash = std::hash<std::string>()(connection->profile);
-        for (const std::int64_t value : {connection->startUtc, connection->endUtc,
-                                         connection->uploadedBytes, connection->downloadedBytes})
-            hash = hash * 1099511628211U ^ std::hash<std::int64_t>()(value);
-        return hash;
+        return contentsFingerprintOf(*connection);
     }
 };
 
@@ -103,7 +66,7 @@ std::vector<Connection> storedCandidates(SQLite::Database &database,
     const auto [first, last] = std::minmax_element(
         given.begin(), given.end(),
         [](const Connection &left, const Connection &right) { return left.endUtc < right.endUtc; });
-    RowQuery query(database, "WHERE end_utc BETWEEN ? AND ?");
+    ConnectionQuery query(database, "WHERE end_utc BETWEEN ? AND ?");
     query.bind(1, first->endUtc);
     query.bind(2, last->endUtc);
     std::vector<Connection> candidates;
@@ -125,7 +88,7 @@ void subtractStored(SQLite::Database &database, const std::vector<Connection> &c
                             [](const Connection &left, const Connection &right) {
                                 return left.startUtc < right.startUtc;
                             });
-    RowQuery query(database, "WHERE start_utc BETWEEN ? AND ?");
+    ConnectionQuery query(database, "WHERE start_utc BETWEEN ? AND ?");
     query.bind(1, first->startUtc);
     query.bind(2, last->startUtc);
     while (query.next()) {
@@ -136,49 +99,23 @@ void subtractStored(SQLite::Database &database, const std::vector<Connection> &c
     }
 }
 
-/// To the first eight parameters, in the order of the table's columns.
-void bindContents(SQLite::Statement &statement, const Connection &connection)
+std::string insertion()
 {
-    statement.bind(1, connection.profile);
-    statement.bind(2, connection.startUtc);
-    statement.bind(3, connection.endUtc);
-    statement.bind(4, connection.connectedSeconds);
-    statement.bind(5, connection.uploadedBytes);
-    statement.bind(6, connection.downloadedBytes);
-    statement.bind(7, connection.ending);
-    statement.bind(8, connection.interfaceName);
+    return insertionOf(connectionFields, tableName);
+}
+
+std::string replacement()
+{
+    return std::string("UPDATE ") + tableName + " SET " + equationsOf(connectionFields, ", ") +
+           " WHERE key = ?";
+}
+
+std::string removal()
+{
+    return std::string("DELETE FROM ") + tableName + " WHERE key = ?";
 }
 
 } // namespace
-
-Connection ConnectionRow::toConnection() const
-{
-    Connection connection;
-    connection.key = key();
-    connection.profile = profile();
-    connection.startUtc = startUtc();
-    connection.endUtc = endUtc();
-    connection.connectedSeconds = connectedSeconds();
-    connection.uploadedBytes = uploadedBytes();
-    connection.downloadedBytes = downloadedBytes();
-    connection.ending = ending();
-    connection.interfaceName = interfaceName();
-    return connection;
-}
-
-std::int64_t ConnectionRow::integer(int column) const
-{
-    return sqlite3_column_int64(m_statement, column);
-}
-
-std::string_view ConnectionRow::text(int column) const
-{
-    const void *const start = sqlite3_column_text(m_statement, column);
-    const int size = sqlite3_column_bytes(m_statement, column);
-    return start
-               ? std::string_view(static_cast<const char *>(start), static_cast<std::size_t>(size))
-               : std::string_view();
-}
 
 ConnectionTable::ConnectionTable(SQLite::Database &database)
     : m_database(database)
@@ -190,23 +127,26 @@ std::int64_t ConnectionTable::count()
     return m_database.execAndGet("SELECT count(*) FROM connection").getInt64();
 }
 
-void ConnectionTable::visitAll(const Visitor &visitor)
-{
-    visit({}, visitor);
-}
-
 void ConnectionTable::visit(const TimeRange &range, const Visitor &visitor)
 {
-    RowQuery query(m_database, "WHERE start_utc >= ? AND start_utc < ? ORDER BY start_utc, key");
+    ConnectionQuery query(m_database,
+                          "WHERE start_utc >= ? AND start_utc < ? ORDER BY start_utc, key");
     query.bind(1, range.fromUtc);
     query.bind(2, range.untilUtc);
     while (query.next())
         visitor(query.row());
 }
 
+std::vector<Connection> ConnectionTable::list(const TimeRange &range)
+{
+    std::vector<Connection> connections;
+    visit(range, [&](const ConnectionRow &row) { connections.push_back(row.toConnection()); });
+    return connections;
+}
+
 bool ConnectionTable::visitLast(const Visitor &visitor)
 {
-    RowQuery query(m_database, "ORDER BY end_utc DESC, key DESC LIMIT 1");
+    ConnectionQuery query(m_database, "ORDER BY end_utc DESC, key DESC LIMIT 1");
     if (!query.next())
         return false;
     visitor(query.row());
@@ -220,7 +160,7 @@ std::uint64_t ConnectionTable::fingerprint()
         return m_fingerprint;
     m_fingerprintWrites.reset();
     m_fingerprint = 0;
-    RowQuery query(m_database, "");
+    ConnectionQuery query(m_database, "");
     while (query.next())
         m_fingerprint += fingerprintOf(query.row());
     m_fingerprintWrites = writesSoFar;
@@ -234,23 +174,17 @@ ConnectionTable::Writes ConnectionTable::writes()
 
 std::int64_t ConnectionTable::insert(const Connection &connection)
 {
-    SQLite::Statement &statement = prepared(
-        m_insertion, "INSERT INTO connection (profile, start_utc, end_utc, connected_seconds,"
-                     " uploaded_bytes, downloaded_bytes, ending, interface_name)"
-                     " VALUES (?, ?, ?, ?, ?, ?, ?, ?)");
-    bindContents(statement, connection);
+    SQLite::Statement &statement = prepared(m_insertion, insertion);
+    bindFields(statement, 1, connection, connectionFields);
     statement.exec();
     return m_database.getLastInsertRowid();
 }
 
 void ConnectionTable::update(const Connection &connection)
 {
-    SQLite::Statement &statement = prepared(
-        m_update, "UPDATE connection SET profile = ?, start_utc = ?, end_utc = ?,"
-                  " connected_seconds = ?, uploaded_bytes = ?, downloaded_bytes = ?, ending = ?,"
-                  " interface_name = ? WHERE key = ?");
-    bindContents(statement, connection);
-    statement.bind(9, connection.key);
+    SQLite::Statement &statement = prepared(m_update, replacement);
+    const int behind = bindFields(statement, 1, connection, connectionFields);
+    statement.bind(behind, connection.key);
     statement.exec();
 }
 
@@ -312,16 +246,16 @@ Store::Merged ConnectionTable::merge(const std::vector<Connection> &connections,
 
 bool ConnectionTable::remove(std::int64_t key)
 {
-    SQLite::Statement &statement = prepared(m_removal, "DELETE FROM connection WHERE key = ?");
+    SQLite::Statement &statement = prepared(m_removal, removal);
     statement.bind(1, key);
     return statement.exec() == 1;
 }
 
 SQLite::Statement &ConnectionTable::prepared(std::optional<SQLite::Statement> &statement,
-                                             const char *sql)
+                                             std::string (*sql)())
 {
     if (!statement)
-        statement.emplace(m_database, sql);
+        statement.emplace(m_database, sql());
     // Answers with the error of the call before, which that call has reported.
     statement->tryReset();
     return *statement;

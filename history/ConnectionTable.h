@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "RowQuery.h"
 #include "Store.h"
 
 #include <SQLiteCpp/Statement.h>
@@ -8,10 +9,9 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <string_view>
+#include <string>
 #include <utility>
-
-struct sqlite3_stmt;
+#include <vector>
 
 namespace SQLite
 {
@@ -25,28 +25,50 @@ namespace history
 class ConnectionRow
 {
 public:
-    explicit ConnectionRow(sqlite3_stmt *statement)
-        : m_statement(statement)
+    explicit ConnectionRow(const Row &row)
+        : m_row(row)
     {
     }
 
-    std::int64_t key() const { return integer(0); }
-    std::string_view profile() const { return text(1); }
-    std::int64_t startUtc() const { return integer(2); }
-    std::int64_t endUtc() const { return integer(3); }
-    std::int64_t connectedSeconds() const { return integer(4); }
-    std::int64_t uploadedBytes() const { return integer(5); }
-    std::int64_t downloadedBytes() const { return integer(6); }
-    std::string_view ending() const { return text(7); }
-    std::string_view interfaceName() const { return text(8); }
+    std::int64_t key() const { return m_row.integer(0); }
 
-    Connection toConnection() const;
+    /// The value of this member of Connection, a text as a std::string_view.
+    template <auto Member>
+    auto get() const
+    {
+        constexpr auto place = placeOf<Member>();
+        return m_row.value(std::get<place>(connectionFields), static_cast<int>(place) + 1);
+    }
+
+    /// Calls `visit` with the value of each field, in order.
+    template <typename Visit>
+    void forEachValue(Visit visit) const
+    {
+        int column = 0;
+        forEachField(connectionFields,
+                     [&](const auto &field) { visit(m_row.value(field, ++column)); });
+    }
+
+    Connection toConnection() const { return recordIn<Connection>(m_row, connectionFields); }
 
 private:
-    std::int64_t integer(int column) const;
-    std::string_view text(int column) const;
+    /// In connectionFields; a member that is not there does not compile.
+    template <auto Member>
+    static constexpr std::size_t placeOf()
+    {
+        std::size_t place = 0;
+        std::size_t found = std::tuple_size_v<decltype(connectionFields)>;
+        forEachField(connectionFields, [&](const auto &field) {
+            if constexpr (std::is_same_v<decltype(field.member), decltype(Member)>) {
+                if (field.member == Member)
+                    found = place;
+            }
+            ++place;
+        });
+        return found;
+    }
 
-    sqlite3_stmt *m_statement;
+    Row m_row;
 };
 
 /// The table of finished connections in an open database. Operations throw
@@ -59,10 +81,9 @@ public:
     using Visitor = std::function<void(const ConnectionRow &)>;
 
     std::int64_t count();
-    /// Every row by start time, then by key.
-    void visitAll(const Visitor &visitor);
-    /// Those of them that start in `range`.
+    /// The rows that start in `range` by start time, then by key.
     void visit(const TimeRange &range, const Visitor &visitor);
+    std::vector<Connection> list(const TimeRange &range);
     /// The row with the newest end, the one with the highest key among equals;
     /// false if there is none.
     bool visitLast(const Visitor &visitor);
@@ -91,7 +112,7 @@ private:
 
     Writes writes();
     void update(const Connection &connection);
-    SQLite::Statement &prepared(std::optional<SQLite::Statement> &statement, const char *sql);
+    SQLite::Statement &prepared(std::optional<SQLite::Statement> &statement, std::string (*sql)());
 
     SQLite::Database &m_database;
     std::optional<SQLite::Statement> m_insertion;

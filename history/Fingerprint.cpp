@@ -38,23 +38,31 @@ private:
     std::uint64_t m_value = 0;
 };
 
+Fingerprint contentsOf(const Connection &connection)
+{
+    Fingerprint fingerprint;
+    forEachField(connectionFields,
+                 [&](const auto &field) { fingerprint << connection.*field.member; });
+    return fingerprint;
+}
+
 } // namespace
 
 std::uint64_t fingerprintOf(const ConnectionRow &row)
 {
-    return (Fingerprint() << row.key() << row.profile() << row.startUtc() << row.endUtc()
-                          << row.connectedSeconds() << row.uploadedBytes() << row.downloadedBytes()
-                          << row.ending() << row.interfaceName())
-        .value();
+    Fingerprint fingerprint;
+    row.forEachValue([&](const auto &value) { fingerprint << value; });
+    return (fingerprint << row.key()).value();
 }
 
 std::uint64_t fingerprintOf(const Connection &connection)
 {
-    return (Fingerprint() << connection.key << connection.profile << connection.startUtc
-                          << connection.endUtc << connection.connectedSeconds
-                          << connection.uploadedBytes << connection.downloadedBytes
-                          << connection.ending << connection.interfaceName)
-        .value();
+    return (contentsOf(connection) << connection.key).value();
+}
+
+std::uint64_t contentsFingerprintOf(const Connection &connection)
+{
+    return contentsOf(connection).value();
 }
 
 } // namespace history

@@ -14,5 +14,7 @@ namespace history
 /// for a row and what it becomes, in one process only.
 std::uint64_t fingerprintOf(const ConnectionRow &row);
 std::uint64_t fingerprintOf(const Connection &connection);
+/// The same without the key.
+std::uint64_t contentsFingerprintOf(const Connection &connection);
 
 } // namespace history

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Connection.h"
 #include "Result.h"
 
 #include <cstdint>
@@ -13,65 +14,6 @@
 
 namespace history
 {
-
-/// The last second that the store keeps, 2106-02-07 06:28:15 UTC, and the longest
-/// time connected: the callers of the statistics SDK count in 32 bits.
-constexpr std::int64_t largestTime = std::numeric_limits<std::uint32_t>::max();
-constexpr std::int64_t largestDuration = std::numeric_limits<std::int32_t>::max();
-
-/// The most bytes that a profile may have.
-constexpr std::size_t longestProfile = 1048576;
-
-/// One finished connection as the store keeps it. Times are seconds since
-/// 1970-01-01 00:00 UTC from 0 to largestTime, durations lie between 0 and
-/// largestDuration; byte counts are not negative. Texts are UTF-8.
-struct Connection {
-    std::int64_t key = 0; ///< given by the store, never used twice; 0 before that
-    std::string profile;  ///< at most longestProfile bytes
-    std::int64_t startUtc = 0;
-    std::int64_t endUtc = 0;
-    std::int64_t connectedSeconds = 0;
-    std::int64_t uploadedBytes = 0;
-    std::int64_t downloadedBytes = 0;
-    std::string ending = "normal"; ///< how it ended, at most 31 bytes
-    std::string interfaceName;     ///< network interface, at most 31 bytes; may be empty
-};
-
-/// A connection from the moment it begins until it is finished, as the store
-/// keeps it for the case that its recorder ends first. It belongs to one link of
-/// one run of the system: an interface of the same name that is made anew has
-/// another index, and after a restart the boot id is another one. Values have
-/// the units and ranges of Connection unless a line says otherwise.
-struct OpenConnection {
-    std::int64_t key = 0;            ///< given by the store, never used twice; 0 before that
-    std::string bootId;              ///< /proc/sys/kernel/random/boot_id
-    std::int64_t interfaceIndex = 0; ///< the kernel's number of the interface
-    std::string interfaceName;       ///< may change while the connection lasts
-    std::string linkMark;            ///< tells this connection of the link from later ones
-    std::string profile;             ///< may change while the connection lasts
-    std::int64_t startUtc = 0;
-    std::int64_t startBootMilliseconds = 0; ///< CLOCK_BOOTTIME at the start
-    /// What the interface's counters show minus this is what the connection has
-    /// moved: their values at the start, less (below 0 even) after a reset.
-    std::int64_t baseUploaded = 0;
-    std::int64_t baseDownloaded = 0;
-    std::int64_t uploadedBytes = 0;
-    std::int64_t downloadedBytes = 0;
-    std::int64_t updatedUtc = 0; ///< when these values were true
-    std::int64_t connectedSeconds = 0;
-    std::string ending = "normal"; ///< what it is to end with, unless something happens
-};
-
-/// What a link's counters showed when a recorder saw them last. A number of an
-/// interface means something in one run of the system only, its name in all of them.
-struct SeenLink {
-    std::string bootId;
-    std::int64_t interfaceIndex = 0;
-    std::string interfaceName;
-    std::int64_t uploaded = 0;
-    std::int64_t downloaded = 0;
-    std::int64_t seenUtc = 0; ///< in the range of Connection's times
-};
 
 /// Times from one second up to another one, which is outside, in seconds since
 /// 1970-01-01 00:00 UTC; all times unless set.

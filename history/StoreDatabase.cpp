@@ -135,10 +135,7 @@ void StoreDatabase::connect()
             checkSchema(m_path, *m_database, storeSchema());
         else
             prepareForWriting();
-        m_table = std::make_unique<ConnectionTable>(*m_database);
-        m_openConnections = std::make_unique<OpenConnectionTable>(*m_database);
-        m_seenLinks = std::make_unique<SeenLinkTable>(*m_database);
-        m_origins = std::make_unique<OriginTable>(*m_database);
+        m_tables = std::make_unique<StoreTables>(*m_database, m_path);
         m_file = fileAt(m_path);
     } catch (const SQLite::Exception &exception) {
         const StoreFailure reason = failure(Access::Opening, exception);
@@ -188,10 +185,7 @@ void StoreDatabase::prepareForWriting()
 
 void StoreDatabase::close()
 {
-    m_table.reset();
-    m_openConnections.reset();
-    m_seenLinks.reset();
-    m_origins.reset();
+    m_tables.reset();
     m_logBase.reset();
     m_database.reset();
     m_file.reset();

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ConnectionTable.h"
 #include "LogBase.h"
-#include "OpenConnectionTable.h"
-#include "OriginTable.h"
-#include "SeenLinkTable.h"
 #include "StoreFailure.h"
 #include "StoreFile.h"
+#include "StoreTables.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
@@ -16,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace history
 {
@@ -46,30 +44,23 @@ public:
     /// is none and none is to be made.
     bool open();
 
-    /// The connections that are not finished yet; to be used by the operations
-    /// given to read() and write(), in whose transaction it then works.
-    OpenConnectionTable &openConnections() { return *m_openConnections; }
-    /// The same for the counters that were seen last.
-    SeenLinkTable &seenLinks() { return *m_seenLinks; }
-    OriginTable &origins() { return *m_origins; }
-
-    /// Calls `operation` with the table in one read transaction; without a file
-    /// the answer is `ifNotThere`.
-    template <typename Value, typename Operation>
-    Value read(Value ifNotThere, Operation operation)
+    /// Calls `operation` with the tables in one read transaction; without a file
+    /// the answer is an empty value.
+    template <typename Operation>
+    auto read(Operation operation) -> decltype(operation(std::declval<StoreTables &>()))
     {
         if (!open())
-            return ifNotThere;
+            return {};
         return translated(Access::Reading, [&] {
             SQLite::Transaction transaction(*m_database);
             checkVersion();
-            Value value = operation(*m_table);
+            auto value = operation(*m_tables);
             transaction.commit();
             return value;
         });
     }
 
-    /// Calls `operation` with the table in one write transaction, whose changes
+    /// Calls `operation` with the tables in one write transaction, whose changes
     /// stay only if it does not throw.
     template <typename Operation>
     auto write(Operation operation)
@@ -78,7 +69,7 @@ public:
         return translated(Access::Writing, [&] {
             SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
             checkVersion();
-            auto value = operation(*m_table);
+            auto value = operation(*m_tables);
             m_logBase->record();
             transaction.commit();
             return value;
@@ -113,10 +104,7 @@ private:
     Durability m_durability;
     LockWait m_lockWait;
     std::unique_ptr<SQLite::Database> m_database;
-    std::unique_ptr<ConnectionTable> m_table;
-    std::unique_ptr<OpenConnectionTable> m_openConnections;
-    std::unique_ptr<SeenLinkTable> m_seenLinks;
-    std::unique_ptr<OriginTable> m_origins;
+    std::unique_ptr<StoreTables> m_tables;
     std::unique_ptr<LogBase> m_logBase;
     std::optional<FileIdentity> m_file;
     bool m_isReadOnly = false;

@@ -15,12 +15,14 @@ TotalsSum::TotalsSum(std::string path, bool tellsProfilesApart)
 
 void TotalsSum::add(const ConnectionRow &row, int period)
 {
-    const std::string profile(m_tellsProfilesApart ? row.profile() : std::string_view());
+    const std::string profile(m_tellsProfilesApart ? row.get<&Connection::profile>()
+                                                   : std::string_view());
     Totals &totals = m_groups[{profile, period}];
     ++totals.connections;
-    increase(totals.connectedSeconds, row.connectedSeconds(), "seconds connected");
-    increase(totals.uploadedBytes, row.uploadedBytes(), "bytes sent");
-    increase(totals.downloadedBytes, row.downloadedBytes(), "bytes received");
+    increase(totals.connectedSeconds, row.get<&Connection::connectedSeconds>(),
+             "seconds connected");
+    increase(totals.uploadedBytes, row.get<&Connection::uploadedBytes>(), "bytes sent");
+    increase(totals.downloadedBytes, row.get<&Connection::downloadedBytes>(), "bytes received");
 }
 
 std::vector<Totals> TotalsSum::groups() const

@@ -8,18 +8,17 @@
 #include "StoreResult.h"
 #include "formats/CsvFormat.h"
 #include "formats/Utf8Text.h"
+#include "history/ConnectionFields.h"
 #include "usage/CalendarTime.h"
 
 #include <cstdint>
-#include <limits>
+#include <type_traits>
 
 namespace connrecord
 {
 
 namespace
 {
-
-constexpr std::int64_t largestCount = std::numeric_limits<std::int64_t>::max();
 
 const std::string &optionText(const std::string &option, const std::string &text)
 {
@@ -42,8 +41,10 @@ history::Connection connectionFrom(const AddRequest &request)
         request.connectedSeconds
             ? optionNumber("--connected", *request.connectedSeconds, history::largestDuration)
             : connection.endUtc - connection.startUtc;
-    connection.uploadedBytes = optionNumber("--up", request.uploadedBytes, largestCount);
-    connection.downloadedBytes = optionNumber("--down", request.downloadedBytes, largestCount);
+    connection.uploadedBytes =
+        optionNumber("--up", request.uploadedBytes, history::largestByteCount);
+    connection.downloadedBytes =
+        optionNumber("--down", request.downloadedBytes, history::largestByteCount);
     return connection;
 }
 
@@ -58,9 +59,11 @@ std::vector<history::Connection> storedConnections(const CommonRequest &common,
 std::vector<history::Connection> onOneLineEach(std::vector<history::Connection> connections)
 {
     for (history::Connection &connection : connections) {
-        for (std::string *const text :
-             {&connection.profile, &connection.ending, &connection.interfaceName})
-            *text = formats::printable(*text, formats::unlimited);
+        history::forEachField(history::connectionFields, [&](const auto &field) {
+            auto &value = connection.*field.member;
+            if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::string>)
+                value = formats::printable(value, formats::unlimited);
+        });
     }
     return connections;
 }

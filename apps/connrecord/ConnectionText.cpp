@@ -3,8 +3,11 @@
 
 #include "TextTable.h"
 #include "formats/Utf8Text.h"
+#include "history/ConnectionFields.h"
 #include "usage/CalendarTime.h"
 #include "usage/SizeText.h"
+
+#include <type_traits>
 
 namespace connrecord
 {
@@ -12,19 +15,70 @@ namespace connrecord
 namespace
 {
 
+using history::connectionFields;
+using history::forEachField;
+using history::KindOf;
+namespace kind = history::kind;
+using Alignment = TextTable::Alignment;
+
 constexpr int mostCharactersInCell = 60;
+
+QString cellText(kind::Text /*kind*/, const std::string &name)
+{
+    return nameText(name);
+}
+
+QString cellText(kind::Time /*kind*/, std::int64_t utc)
+{
+    return usage::localText(utc);
+}
+
+QString cellText(kind::Duration /*kind*/, std::int64_t seconds)
+{
+    return usage::durationText(seconds);
+}
+
+QString cellText(kind::Bytes /*kind*/, std::int64_t bytes)
+{
+    return usage::sizeText(bytes);
+}
+
+template <typename Kind, typename Value>
+formats::Json jsonValue(const Value &value)
+{
+    if constexpr (std::is_base_of_v<kind::Time, Kind>)
+        return usage::utcText(value).toStdString();
+    else
+        return value;
+}
+
+std::vector<TextTable::Column> columns()
+{
+    std::vector<TextTable::Column> columns = {{QStringLiteral("KEY"), Alignment::Right}};
+    forEachField(connectionFields, [&](const auto &field) {
+        constexpr bool isAmount = std::is_base_of_v<kind::Amount, KindOf<decltype(field)>>;
+        columns.push_back(
+            {QLatin1String(field.heading), isAmount ? Alignment::Right : Alignment::Left});
+    });
+    return columns;
+}
+
+std::vector<QString> cells(const history::Connection &connection)
+{
+    std::vector<QString> cells = {QString::number(connection.key)};
+    forEachField(connectionFields, [&](const auto &field) {
+        cells.push_back(cellText(KindOf<decltype(field)>(), connection.*field.member));
+    });
+    return cells;
+}
 
 formats::Json toJson(const history::Connection &connection)
 {
-    return {{"key", connection.key},
-            {"profile", connection.profile},
-            {"start", usage::utcText(connection.startUtc).toStdString()},
-            {"end", usage::utcText(connection.endUtc).toStdString()},
-            {"connected_seconds", connection.connectedSeconds},
-            {"uploaded_bytes", connection.uploadedBytes},
-            {"downloaded_bytes", connection.downloadedBytes},
-            {"ending", connection.ending},
-            {"interface", connection.interfaceName}};
+    formats::Json json = {{"key", connection.key}};
+    forEachField(connectionFields, [&](const auto &field) {
+        json[field.name] = jsonValue<KindOf<decltype(field)>>(connection.*field.member);
+    });
+    return json;
 }
 
 } // namespace
@@ -36,23 +90,9 @@ QString nameText(const std::string &name)
 
 QByteArray toTable(const std::vector<history::Connection> &connections)
 {
-    using Alignment = TextTable::Alignment;
-    TextTable table({{QStringLiteral("KEY"), Alignment::Right},
-                     {QStringLiteral("PROFILE"), Alignment::Left},
-                     {QStringLiteral("START"), Alignment::Left},
-                     {QStringLiteral("END"), Alignment::Left},
-                     {QStringLiteral("CONNECTED"), Alignment::Right},
-                     {QStringLiteral("UPLOADED"), Alignment::Right},
-                     {QStringLiteral("DOWNLOADED"), Alignment::Right},
-                     {QStringLiteral("ENDING"), Alignment::Left},
-                     {QStringLiteral("INTERFACE"), Alignment::Left}});
+    TextTable table(columns());
     for (const history::Connection &connection : connections)
-        table.addRow({QString::number(connection.key), nameText(connection.profile),
-                      usage::localText(connection.startUtc), usage::localText(connection.endUtc),
-                      usage::durationText(connection.connectedSeconds),
-                      usage::sizeText(connection.uploadedBytes),
-                      usage::sizeText(connection.downloadedBytes), nameText(connection.ending),
-                      nameText(connection.interfaceName)});
+        table.addRow(cells(connection));
     return table.text().toUtf8();
 }
 

@@ -80,10 +80,6 @@ void Application::checkStore() const
     const auto store = history::Store::openForReading(history::Store::defaultPath());
     if (!store)
         throw Failure{ExitCode::StoreNotUsable, QString::fromStdString(store.error().message)};
-    const auto connections = store.value().list();
-    if (!connections)
-        throw Failure{ExitCode::StoreNotUsable,
-                      QString::fromStdString(connections.error().message)};
 }
 
 void Application::loadDialupService()

@@ -84,14 +84,15 @@ void writeProfile(std::string_view profile, char16_t (&field)[profileUnits + 1])
 
 void fillRecord(const history::ConnectionRow &row, _KORA_ST_CONNRECORD &record)
 {
-    writeProfile(row.profile(), record.szProfileName);
-    writeTime(row.startUtc(), record.szStartTime);
-    writeTime(row.endUtc(), record.szEndTime);
-    writeNumber(row.connectedSeconds(), record.szDuration);
-    writeNumber(row.uploadedBytes(), record.szUploadBytes);
-    writeNumber(row.downloadedBytes(), record.szDownloadBytes);
-    writeText(row.ending(), record.szExtraText1);
-    writeText(row.interfaceName(), record.szExtraText2);
+    using history::Connection;
+    writeProfile(row.get<&Connection::profile>(), record.szProfileName);
+    writeTime(row.get<&Connection::startUtc>(), record.szStartTime);
+    writeTime(row.get<&Connection::endUtc>(), record.szEndTime);
+    writeNumber(row.get<&Connection::connectedSeconds>(), record.szDuration);
+    writeNumber(row.get<&Connection::uploadedBytes>(), record.szUploadBytes);
+    writeNumber(row.get<&Connection::downloadedBytes>(), record.szDownloadBytes);
+    writeText(row.get<&Connection::ending>(), record.szExtraText1);
+    writeText(row.get<&Connection::interfaceName>(), record.szExtraText2);
 }
 
 } // namespace refhost

@@ -60,13 +60,13 @@ _KORA_ST_CONNRECORD *allocateRecords(std::int64_t count)
     return static_cast<_KORA_ST_CONNRECORD *>(records);
 }
 
-Listing listingOf(history::ConnectionTable &table)
+Listing listingOf(history::StoreTables &tables)
 {
-    const std::int64_t count = table.count();
+    const std::int64_t count = tables.connections.count();
     Listing listing;
     listing.list.records.reset(allocateRecords(count));
     listing.keys.reserve(static_cast<std::size_t>(count));
-    table.visitAll([&](const history::ConnectionRow &row) {
+    tables.connections.visit({}, [&](const history::ConnectionRow &row) {
         // An index that disagrees with its table could yield more than was counted.
         if (listing.list.count == count)
             return;
@@ -84,7 +84,7 @@ history::Result<RecordList> StatisticsSession::allRecords()
     const std::string path = history::Store::defaultPath();
     return history::attempt(path, [&] {
         history::StoreDatabase &store = database(path);
-        Listing listing = store.read(Listing(), listingOf);
+        Listing listing = store.read(listingOf);
         ListNumbering numbering;
         numbering.assign(std::move(listing.keys));
         m_numbering = std::move(numbering);
@@ -101,11 +101,11 @@ history::Result<std::int64_t> StatisticsSession::removeRecord(int index)
         history::StoreDatabase &store = database(path);
         const std::size_t place = placeOf(path, index);
         const std::int64_t key = m_numbering->keyAt(place);
-        const bool wasThere = store.write([&](history::ConnectionTable &table) {
+        const bool wasThere = store.write([&](history::StoreTables &tables) {
             if (!(store.file() == m_listedFile))
                 throw noSuchRecord(path, "is not the one whose list was handed out; nothing was "
                                          "removed, fetch the list again.");
-            return table.remove(key);
+            return tables.connections.remove(key);
         });
         // Not before: the removal stands only when it is committed.
         m_numbering->markGone(place);
@@ -123,8 +123,8 @@ history::Result<_KORA_ST_CONNRECORD> StatisticsSession::lastRecord()
     const std::string path = history::Store::defaultPath();
     return history::attempt(path, [&] {
         _KORA_ST_CONNRECORD record = {};
-        const bool isThere = database(path).read(false, [&](history::ConnectionTable &table) {
-            return table.visitLast(
+        const bool isThere = database(path).read([&](history::StoreTables &tables) {
+            return tables.connections.visitLast(
                 [&](const history::ConnectionRow &row) { fillRecord(row, record); });
         });
         if (!isThere)

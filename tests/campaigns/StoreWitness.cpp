@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWitness.h"
 
-#include "ConnectionValues.h"
 #include "RecordedConnection.h"
+#include "history/ConnectionFields.h"
 #include "history/Store.h"
 
 #include <QList>
@@ -112,7 +112,7 @@ QString StoreWitness::listComplaint(const std::vector<Connection> &list) const
             return sentenceAbout("doubled", number);
         if (m_removed.contains(number))
             return sentenceAbout("there again after its removal", number);
-        if (valuesOf(connection) != valuesOf(finishedConnection(number)))
+        if (!hasSameContents(connection, finishedConnection(number)))
             return sentenceAbout("not what was recorded", number);
         seen.insert(number);
     }

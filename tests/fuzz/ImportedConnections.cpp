@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ImportedConnections.h"
 
-#include "ConnectionValues.h"
 #include "Fuzz.h"
 #include "formats/CsvFormat.h"
 #include "formats/CsvReader.h"
 #include "formats/LineReader.h"
+#include "history/ConnectionFields.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
@@ -20,15 +20,12 @@ namespace
 
 void sortByValue(std::vector<Connection> &connections)
 {
-    std::sort(connections.begin(), connections.end(),
-              [](const Connection &a, const Connection &b) { return valuesOf(a) < valuesOf(b); });
+    std::sort(connections.begin(), connections.end(), history::comesBeforeByContents);
 }
 
 bool areSame(const std::vector<Connection> &a, const std::vector<Connection> &b)
 {
-    return std::equal(
-        a.begin(), a.end(), b.begin(), b.end(),
-        [](const Connection &x, const Connection &y) { return valuesOf(x) == valuesOf(y); });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), history::hasSameContents);
 }
 
 std::vector<Connection> throughCsv(const std::vector<Connection> &connections)

@@ -2,9 +2,9 @@
 // A real store with bytes changed and its end cut, through everything that reads
 // and writes it. The input is a list of edits: two bytes for the size that is
 // left (any larger one leaves it whole), then three bytes for each change.
-#include "ConnectionValues.h"
 #include "Fuzz.h"
 #include "KoraStatistics.h"
+#include "history/ConnectionFields.h"
 #include "history/Store.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -141,6 +141,13 @@ bool isSound(const std::string &path, const std::string &schema)
     }
 }
 
+struct ByContents {
+    bool operator()(const Connection &left, const Connection &right) const
+    {
+        return history::comesBeforeByContents(left, right);
+    }
+};
+
 /// What was listed before, changed by what the store has acknowledged since.
 class ExpectedList
 {
@@ -148,25 +155,31 @@ public:
     explicit ExpectedList(const std::vector<Connection> &listed)
     {
         for (const Connection &each : listed)
-            m_values.insert(valuesOf(each));
+            m_connections.insert(each);
     }
-    void add(const Connection &connection) { m_values.insert(valuesOf(connection)); }
+    void add(const Connection &connection) { m_connections.insert(connection); }
     void remove(const Connection &connection)
     {
-        const auto found = m_values.find(valuesOf(connection));
-        fuzz::require(found != m_values.end(), "what is removed was there");
-        m_values.erase(found);
+        const auto found = m_connections.find(connection);
+        fuzz::require(found != m_connections.end(), "what is removed was there");
+        m_connections.erase(found);
     }
     void requireIn(const Store &store) const
     {
         const auto listed = store.list();
         fuzz::require(static_cast<bool>(listed), "a sound store is still listed");
-        fuzz::require(ExpectedList(listed.value()).m_values == m_values,
-                      "what was acknowledged is there, and nothing else");
+        fuzz::require(isSameAs(listed.value()), "what was acknowledged is there, and nothing else");
     }
 
 private:
-    std::multiset<ConnectionValues> m_values;
+    bool isSameAs(const std::vector<Connection> &listed) const
+    {
+        const std::multiset<Connection, ByContents> other(listed.begin(), listed.end());
+        return std::equal(other.begin(), other.end(), m_connections.begin(), m_connections.end(),
+                          history::hasSameContents);
+    }
+
+    std::multiset<Connection, ByContents> m_connections;
 };
 
 void useStore(Store &store, bool isSoundStore)

@@ -3,7 +3,9 @@
 
 #include "Store.h"
 
+#include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace SQLite
@@ -30,6 +32,22 @@ public:
     void replace(const SeenLink &link);
     /// Forgets other links of the same name, which are not there any more.
     void removeOthersOfTheName(const SeenLink &link);
+
+private:
+    SQLite::Database &m_database;
+};
+
+/// The table of what has been taken over from beside the store, by names of the
+/// caller's. Operations throw SQLite::Exception.
+class OriginTable
+{
+public:
+    explicit OriginTable(SQLite::Database &database);
+
+    void insert(const std::string &origin);
+    bool holds(const std::string &origin);
+    /// Returns how many there were.
+    std::int64_t clear();
 
 private:
     SQLite::Database &m_database;

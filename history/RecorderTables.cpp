@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "SeenLinkTable.h"
+#include "RecorderTables.h"
 
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
@@ -73,6 +73,30 @@ void SeenLinkTable::removeOthersOfTheName(const SeenLink &link)
     statement.bind(2, link.bootId);
     statement.bind(3, link.interfaceIndex);
     statement.exec();
+}
+
+OriginTable::OriginTable(SQLite::Database &database)
+    : m_database(database)
+{
+}
+
+void OriginTable::insert(const std::string &origin)
+{
+    SQLite::Statement statement(m_database, "INSERT INTO taken_over (id) VALUES (?)");
+    statement.bind(1, origin);
+    statement.exec();
+}
+
+bool OriginTable::holds(const std::string &origin)
+{
+    SQLite::Statement query(m_database, "SELECT 1 FROM taken_over WHERE id = ?");
+    query.bind(1, origin);
+    return query.executeStep();
+}
+
+std::int64_t OriginTable::clear()
+{
+    return m_database.exec("DELETE FROM taken_over");
 }
 
 } // namespace history

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ConnectionTable.h"
+#include "OpenConnectionTable.h"
+#include "RecorderTables.h"
+#include "Store.h"
+#include "StoreFailure.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace history
+{
+
+/// The tables of an open store, and what Store does with several of them at once. All
+/// of it is part of the transaction that it is called in. Operations throw
+/// SQLite::Exception and StoreFailure.
+class StoreTables
+{
+public:
+    /// For the history in `path`, which errors name.
+    StoreTables(SQLite::Database &database, std::string path);
+
+    ConnectionTable connections;
+    /// Apart from the finished ones.
+    OpenConnectionTable openConnections;
+    SeenLinkTable seenLinks;
+    OriginTable origins;
+
+    std::size_t remove(const std::vector<std::int64_t> &keys);
+    std::vector<Totals> totals(const TimeRange &range, Store::Profiles profiles,
+                               const Store::PeriodOf &periodOf);
+    OpenConnection begin(const OpenConnection &connection);
+    std::int64_t checkpoint(const OpenConnection &connection, const std::string &origin);
+    std::int64_t finish(const OpenConnection &open, const Connection &connection,
+                        const std::string &origin);
+    std::size_t see(const std::vector<SeenLink> &links, const std::vector<Connection> &unwatched);
+
+private:
+    void keepSeen(const OpenConnection &connection);
+    void keepOrigin(const std::string &origin);
+
+    std::string m_path;
+};
+
+/// The error for the key of no finished connection of this store.
+StoreFailure noSuchRecord(const std::string &path, std::int64_t key);
+
+} // namespace history
