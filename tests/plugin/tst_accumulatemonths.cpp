@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QTest>
 
+#include <utility>
+
 using scripted::Host;
 
 /// The months that the dialog counts, names and lists profiles of.
@@ -162,7 +164,7 @@ void tst_AccumulateMonths::listsRowsInTheirOrder()
     dlg()->showWindow(m_parent.get());
     QCOMPARE(profiles(), (QStringList{"t:IDS_COMBO_ALLAPN", "b", "IDS_OK", "a"}));
     QStringList names;
-    for (const AccumulateDialogRecord &record : qAsConst(dlg()->m_dialogRecords))
+    for (const AccumulateDialogRecord &record : std::as_const(dlg()->m_dialogRecords))
         names.append(record.profileName);
     QCOMPARE(names, (QStringList{"IDS_COMBO_ALLAPN", "b", "IDS_OK", "a"}));
     QVERIFY(!dlg()->m_pProfileSelectionComboBox->itemData(1).isValid());

@@ -12,6 +12,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <utility>
+
 using scripted::Host;
 
 namespace
@@ -216,7 +218,7 @@ void tst_HistoryTable::doesNotSort()
     for (int i = 0; i < count; ++i)
         hash.insert(i, i);
     QStringList expected;
-    for (int id : qAsConst(hash))
+    for (int id : std::as_const(hash))
         expected.append(QString::number(id));
     QStringList shown;
     for (int row = 0; row < count; ++row)
