@@ -13,7 +13,7 @@ run_packages=(fonts-dejavu-core)
 test_packages=(dbus-daemon sqlite3 man-db desktop-file-utils appstream iproute2 modemmanager python3-dbusmock xvfb x11-utils)
 clang_packages=(clang libclang-rt-dev)
 style_packages=(clang clang-format clang-tidy codespell reuse shellcheck)
-package_packages=(debhelper dpkg-dev lintian mmdebstrap)
+package_packages=(build-essential debhelper dpkg-dev lintian mmdebstrap)
 qt5_packages=(qtbase5-dev qttools5-dev qttools5-dev-tools libbenchmark-dev)
 
 say() {
