@@ -234,4 +234,14 @@ Result<std::vector<Totals>> Store::totals(const TimeRange &range, Profiles profi
     return d->read([&](StoreTables &tables) { return tables.totals(range, profiles, periodOf); });
 }
 
+Result<bool> Store::copyTo(const std::string &path) const
+{
+    return d->read([&](StoreTables &tables) { return tables.copyTo(path); });
+}
+
+Result<Examination> Store::examine() const
+{
+    return d->read([](StoreTables &tables) { return tables.examine(); });
+}
+
 } // namespace history

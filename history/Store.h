@@ -32,6 +32,13 @@ struct Totals {
     std::int64_t downloadedBytes = 0;
 };
 
+/// What a look at every record of a history has shown.
+struct Examination {
+    std::vector<std::string> problems; ///< sentences; none if it is sound
+    std::size_t connections = 0;
+    std::size_t openConnections = 0;
+};
+
 /// The history of connections in one SQLite file. A store is used on one thread;
 /// several processes may use the same file at once. No operation throws.
 class Store
@@ -144,6 +151,14 @@ public:
     /// left out. A sum that 64 bits do not hold is an error and never a number.
     Result<std::vector<Totals>> totals(const TimeRange &range, Profiles profiles,
                                        const PeriodOf &periodOf) const;
+
+    /// Writes a copy of the whole history, as it is at one moment, into the empty file
+    /// `path`, whoever writes to the history meanwhile; false without a history. If the
+    /// copy cannot be written, the error is of the kind WriteFailed.
+    Result<bool> copyTo(const std::string &path) const;
+    /// Looks at the whole file, each value included. A file that cannot be opened or read
+    /// is an error.
+    Result<Examination> examine() const;
 
 private:
     class Private;

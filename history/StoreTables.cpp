@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "StoreTables.h"
 
+#include "ConnectionCheck.h"
+#include "StoreUpkeep.h"
 #include "TotalsSum.h"
 
 #include <utility>
@@ -19,6 +21,16 @@ StoreFailure noSuchOpenConnection(const std::string &path, std::int64_t key)
                 "replaced."};
 }
 
+template <typename AnyConnection>
+void addProblem(Examination &result, const AnyConnection &connection)
+{
+    try {
+        check(connection);
+    } catch (const StoreFailure &failure) {
+        result.problems.push_back("Key " + std::to_string(connection.key) + ": " + failure.what());
+    }
+}
+
 } // namespace
 
 StoreFailure noSuchRecord(const std::string &path, std::int64_t key)
@@ -33,6 +45,7 @@ StoreTables::StoreTables(SQLite::Database &database, std::string path)
     , openConnections(database)
     , seenLinks(database)
     , origins(database)
+    , m_database(database)
     , m_path(std::move(path))
 {
 }
@@ -109,6 +122,26 @@ void StoreTables::keepOrigin(const std::string &origin)
 {
     if (!origin.empty())
         origins.insert(origin);
+}
+
+bool StoreTables::copyTo(const std::string &path)
+{
+    copyDatabase(m_database, m_path, path);
+    return true;
+}
+
+Examination StoreTables::examine()
+{
+    Examination result{damagesOf(m_database), 0, 0};
+    const std::vector<OpenConnection> open = openConnections.all();
+    result.openConnections = open.size();
+    for (const OpenConnection &connection : open)
+        addProblem(result, connection);
+    connections.visit(TimeRange(), [&](const ConnectionRow &row) {
+        ++result.connections;
+        addProblem(result, row.toConnection());
+    });
+    return result;
 }
 
 } // namespace history

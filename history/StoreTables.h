@@ -36,12 +36,16 @@ public:
     std::int64_t checkpoint(const OpenConnection &connection, const std::string &origin);
     std::int64_t finish(const OpenConnection &open, const Connection &connection,
                         const std::string &origin);
+    /// See Store::copyTo() and Store::examine().
+    bool copyTo(const std::string &path);
+    Examination examine();
     std::size_t see(const std::vector<SeenLink> &links, const std::vector<Connection> &unwatched);
 
 private:
     void keepSeen(const OpenConnection &connection);
     void keepOrigin(const std::string &origin);
 
+    SQLite::Database &m_database;
     std::string m_path;
 };
 

@@ -10,6 +10,7 @@
 #include "Output.h"
 #include "RemoveCommand.h"
 #include "TotalsCommand.h"
+#include "UpkeepCommands.h"
 #include "formats/InputError.h"
 #include "history/Store.h"
 #include "usage/TextScanner.h"
@@ -106,6 +107,8 @@ private:
     void addExport();
     void addImport();
     void addTotals();
+    void addBackup();
+    void addCheck();
 
     CLI::App m_parser;
     CommonRequest m_common;
@@ -136,6 +139,8 @@ CommandLine::CommandLine()
     addExport();
     addImport();
     addTotals();
+    addBackup();
+    addCheck();
 }
 
 void CommandLine::parse(int argc, char **argv)
@@ -293,6 +298,23 @@ void CommandLine::addTotals()
         ->type_name("profile|month|profile,month");
     addDays(command, m_totals.days);
     command->callback([this] { m_action = [this] { showTotals(m_common, m_totals); }; });
+}
+
+void CommandLine::addBackup()
+{
+    CLI::App *const command =
+        addCommand("backup", "Write a whole copy into a new file, also while recording");
+    command->add_option("FILE", m_outputPath, "The new file")
+        ->type_name("")
+        ->check(checkFileName)
+        ->required();
+    command->callback([this] { m_action = [this] { backUp(m_common, m_outputPath); }; });
+}
+
+void CommandLine::addCheck()
+{
+    CLI::App *const command = addCommand("check", "Tell whether the history's file is sound");
+    command->callback([this] { m_action = [this] { checkHistory(m_common); }; });
 }
 
 int complainOfUsage(const CLI::ParseError &error)

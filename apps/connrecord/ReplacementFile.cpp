@@ -49,6 +49,15 @@ void ReplacementFile::putInPlace()
     m_temporaryPath.clear();
 }
 
+void ReplacementFile::putInFreePlace()
+{
+    check(fsync(m_descriptor) == 0);
+    // Neither replaces a file that has come meanwhile; disks without links rename.
+    check(link(m_temporaryPath.c_str(), m_place.c_str()) == 0 ||
+          (errno == EPERM && renameat2(AT_FDCWD, m_temporaryPath.c_str(), AT_FDCWD, m_place.c_str(),
+                                       RENAME_NOREPLACE) == 0));
+}
+
 void ReplacementFile::keepPermissions() const
 {
     constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;

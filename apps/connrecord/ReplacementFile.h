@@ -22,9 +22,13 @@ public:
 
     /// Open for writing until the end of this object.
     int descriptor() const { return m_descriptor; }
+    /// Where the contents are until then.
+    const std::string &temporaryPath() const { return m_temporaryPath; }
     /// To be called when everything is written: what was there before is replaced
     /// at once, and what replaces it is on the disk.
     void putInPlace();
+    /// The same for a place that has to be free.
+    void putInFreePlace();
 
 private:
     void keepPermissions() const;
