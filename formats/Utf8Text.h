@@ -24,7 +24,7 @@ constexpr int unlimited = std::numeric_limits<int>::max();
 
 /// The text as one line that a terminal shows and does not obey: characters that
 /// control it, that are invisible or that Unicode gives no meaning are written as
-/// in JSON, such as \n, \u001b or \udb40\udc01; what is behind `most` characters is
+/// in JSON, such as `\n`, `\u001b` or `\udb40\udc01`; what is behind `most` characters is
 /// left out, with "…" in its place.
 QString printable(const QString &text, int most = 200);
 std::string printable(std::string_view text, int most = 200);

@@ -17,6 +17,7 @@ enum enWidgetType { enWidgetTypeDialog = 1 };
 class HOST_API ExtendDialog : public QDialog
 {
 public:
+    /// A frame over `parent`, which is its owner if it is not null.
     ExtendDialog(QWidget *parent, Qt::WindowFlags flags, enWidgetType type);
     ~ExtendDialog() override;
 

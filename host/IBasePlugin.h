@@ -19,6 +19,7 @@ public:
     virtual QString GetCLSID() = 0;
     /// Version word: major in the second-lowest byte, minor in the lowest.
     virtual int GetVersion() = 0;
+    /// Name for people, also the context of the plug-in's texts.
     virtual QString GetPluginName() = 0;
     /// Whether the host may unload the library while it runs.
     virtual bool IsAllowRelease() = 0;

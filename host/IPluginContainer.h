@@ -10,6 +10,8 @@
 class IPluginContainer
 {
 public:
+    /// The host's own.
+    ///@{
     virtual void Reserved1() = 0;
     virtual void Reserved2() = 0;
     virtual void Reserved3() = 0;
@@ -19,6 +21,7 @@ public:
     virtual void Reserved7() = 0;
     virtual void Reserved8() = 0;
     virtual void Reserved9() = 0;
+    ///@}
     /// Root object of the plug-in with this class identifier (GUID text without
     /// braces) and type code, or null. The container keeps the ownership.
     virtual QObject *GetPlugin(const QString &classId, int type) = 0;

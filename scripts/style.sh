@@ -18,6 +18,14 @@ git ls-files -z ':!tests/fuzz/corpus' ':!*.ts' ':!*.png' ':!*.svg' ':!*.desktop'
     xargs -0 codespell
 git ls-files -z '*.sh' run test .ci/run packaging/build-deb | xargs -0 shellcheck --external-sources
 
+# Reference of the headers; hosts find a description of everything they bring.
+mkdir -p build
+doxygen docs/Doxyfile
+{
+    cat docs/Doxyfile
+    printf '%s\n' 'INPUT = host' 'EXTRACT_ALL = NO' 'OUTPUT_DIRECTORY = build/reference/host'
+} | doxygen -
+
 cmake --preset style >/dev/null
 
 # A file that has not changed since it was last found clean is not asked again.
