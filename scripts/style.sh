@@ -9,6 +9,8 @@ build=build/style
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
 scripts/check-includes.py
+scripts/check-sizes.py
+scripts/check-version.sh
 
 licences=$(reuse lint 2>&1) || {
     printf '%s\n' "$licences" >&2
