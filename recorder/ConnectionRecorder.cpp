@@ -42,6 +42,7 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     , m_interfaceNames(interfaceNames)
     , m_links(links.release())
     , m_clock(std::move(clock))
+    , m_intervals(intervals)
     , m_timer(this)
     , m_retryTimer(this)
 {
@@ -50,8 +51,9 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     qRegisterMetaType<recorder::Problem>();
     m_links->setParent(this);
     connect(m_links, &LinkSource::failed, this, &ConnectionRecorder::stop);
+    m_timer.setObjectName(QStringLiteral("ticks"));
     m_timer.setInterval(intervals.tick);
-    connect(&m_timer, &QTimer::timeout, this, [this] { m_session->tick(); });
+    connect(&m_timer, &QTimer::timeout, this, &ConnectionRecorder::tick);
     m_retryTimer.setInterval(intervals.retry);
     connect(&m_retryTimer, &QTimer::timeout, this, &ConnectionRecorder::tryAgain);
 }
@@ -87,7 +89,7 @@ void ConnectionRecorder::tryAgain()
 
 bool ConnectionRecorder::tryToStart()
 {
-    if (!openSession() || !lockStore() || !m_links->start()) {
+    if (isAnothersTurn() || !openSession() || !lockStore() || !m_links->start()) {
         giveUp();
         return false;
     }
@@ -99,9 +101,24 @@ bool ConnectionRecorder::tryToStart()
     return true;
 }
 
+/// Who waits for another recorder to end opens the store only then.
+bool ConnectionRecorder::isAnothersTurn()
+{
+    return m_obstacle && m_obstacle->kind == Problem::Kind::RecordedByAnother && !lockStore();
+}
+
 void ConnectionRecorder::handleChange(const LinkChange &change)
 {
     m_session->handleChange(change);
+    if (!m_timer.isActive() && m_session->isBusy())
+        m_timer.start();
+}
+
+void ConnectionRecorder::tick()
+{
+    m_session->tick();
+    if (!m_session->isBusy())
+        m_timer.stop();
 }
 
 /// Who does not record or does not see the links must not settle what is open, for
@@ -132,6 +149,7 @@ bool ConnectionRecorder::openSession()
     m_patience.renew();
     m_session = std::make_unique<RecordingSession>(
         std::move(store.value()), knownPath(), bootId, m_interfaceNames, m_profileName,
+        m_intervals.ticksPerCheckpoint,
         RecordingSession::Surroundings{*m_links, *m_clock, m_lastId}, listener());
     return true;
 }
@@ -167,6 +185,8 @@ QString ConnectionRecorder::knownPath() const
 
 bool ConnectionRecorder::lockStore()
 {
+    if (m_lock)
+        return true;
     m_lock = std::make_unique<RecorderLock>(knownPath());
     const bool isTaken = m_lock->take() == RecorderLock::Outcome::Taken;
     if (!isTaken)

@@ -28,17 +28,19 @@ struct SessionListener;
 /// How often a recorder does what nothing from outside sets off.
 struct RecorderIntervals {
     /// From tick to tick: it asks for counters and tries again what it could not write.
-    /// With every fourth one, the store is brought up to date: it is to be at most five
-    /// seconds behind, and the kernel's answer and the writing take their time too.
     std::chrono::milliseconds tick = std::chrono::seconds(1);
     std::chrono::milliseconds retry = std::chrono::seconds(2); ///< of the start
+    /// With every so many ticks, the store is brought up to date: it is to be at most five
+    /// seconds behind, and the kernel's answer and the writing take their time too.
+    int ticksPerCheckpoint = 4;
 };
 
 /// Records the connections of mobile interfaces (see Link::isMobile) and of those
 /// that are named, by whichever of their names, to the byte: an interface is connected while it is
 /// up, running and has an address (see Link::isConnected). Its record lies in the store from the
-/// first moment, is never more than five seconds behind and gets the kernel's
-/// final counters at the end. Connections that an earlier process left open are
+/// first moment, is never more than five seconds behind what has been moved and gets the
+/// kernel's final counters at the end. Nothing is written while nothing is moved, and while
+/// no line is up nothing is done at all. Connections that an earlier process left open are
 /// resumed if their link is still connected, else closed at their last update and marked
 /// "recovered".
 ///
@@ -92,7 +94,7 @@ signals:
     /// The connection is finished in the store already; `id` is its state's, or 0 if
     /// an earlier process had left it open and start() could not settle that yet.
     void disconnected(const history::Connection &connection, qint64 id);
-    /// Once a second for each connection that lasts.
+    /// With each tick for each connection that lasts.
     void stateChanged(const recorder::ConnectionState &state);
     /// What could not be written is kept and tried again; each problem is told once.
     void failed(const recorder::Problem &problem);
@@ -108,6 +110,8 @@ private:
     SessionListener listener();
     QString knownPath() const;
     void handleChange(const LinkChange &change);
+    void tick();
+    bool isAnothersTurn();
     void giveUp();
     void stop(const Problem &problem);
     void fail(const Problem &problem);
@@ -125,7 +129,8 @@ private:
     std::optional<Problem> m_obstacle; ///< why it cannot record, as it was told last
     bool m_isRecording = false;
     bool m_isLate = false; ///< the first start is over
-    QTimer m_timer;
+    const RecorderIntervals m_intervals;
+    QTimer m_timer; ///< runs while there is something to watch
     QTimer m_retryTimer;
     std::int64_t m_lastId = 0;
 };

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 namespace recorder
@@ -190,6 +191,15 @@ void LiveConnection::leaveOutDownloaded(std::int64_t bytes)
     m_row.downloadedBytes -= bytes;
     m_totalsAtFirst.downloaded -= bytes;
     m_rateTotals.downloaded -= bytes;
+}
+
+bool LiveConnection::isUnsaved() const
+{
+    const auto contents = [](const history::OpenConnection &row) {
+        return std::tie(row.key, row.interfaceName, row.linkMark, row.profile, row.baseUploaded,
+                        row.baseDownloaded, row.uploadedBytes, row.downloadedBytes, row.ending);
+    };
+    return !m_saved || contents(*m_saved) != contents(m_row);
 }
 
 void LiveConnection::setProfile(const std::string &profile)

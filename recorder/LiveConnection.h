@@ -55,6 +55,11 @@ public:
     /// in another record, unless they had begun anew before this one began.
     void leaveOut(const LinkCounters &counted);
 
+    /// The row is in the store as it is now.
+    void markSaved() { m_saved = m_row; }
+    /// Whether the row says more than the store, but for the time that has passed.
+    bool isUnsaved() const;
+
     void setProfile(const std::string &profile);
     /// Takes over the link's name and connection mark.
     void setLink(const Link &link);
@@ -88,7 +93,8 @@ private:
     /// Until it is in the store, with the mark that the link had in the beginning:
     /// an earlier process's row has that one.
     history::OpenConnection m_row;
-    std::string m_connectionMark; ///< of the link, at present
+    std::optional<history::OpenConnection> m_saved; ///< the row as the store has it
+    std::string m_connectionMark;                   ///< of the link, at present
     bool m_hasOwnProfile = false;
     const LinkCounters m_countersAtFirst;
     LinkCounters m_totalsAtFirst;

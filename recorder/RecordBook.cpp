@@ -71,11 +71,13 @@ bool RecordBook::save(LiveConnection &connection)
     // Somebody has put another file in the store's place.
     if (!key && key.error().kind == history::StoreError::Kind::NoSuchRecord)
         key = begin(connection);
-    if (key)
-        succeed();
-    else
+    if (!key) {
         fail(key.error());
-    return bool(key);
+        return false;
+    }
+    connection.markSaved();
+    succeed();
+    return true;
 }
 
 history::Result<std::int64_t> RecordBook::begin(LiveConnection &connection)

@@ -12,8 +12,6 @@ namespace recorder
 namespace
 {
 
-constexpr int ticksPerCheckpoint = 4;
-
 const Link *linkOf(const history::OpenConnection &row, const std::vector<Link> &links)
 {
     const auto link = std::find_if(links.begin(), links.end(), [&row](const Link &each) {
@@ -33,10 +31,11 @@ bool showTheSame(const history::SeenLink &a, const history::SeenLink &b)
 
 RecordingSession::RecordingSession(history::Store store, const QString &storePath,
                                    const std::string &bootId, const QStringList &interfaceNames,
-                                   const QString &profileName, Surroundings surroundings,
-                                   const SessionListener &listener)
+                                   const QString &profileName, int ticksPerCheckpoint,
+                                   Surroundings surroundings, const SessionListener &listener)
     : m_bootId(bootId)
     , m_profileName(profileName)
+    , m_ticksPerCheckpoint(ticksPerCheckpoint)
     , m_surroundings(surroundings)
     , m_listener(listener)
     , m_watched(interfaceNames)
@@ -164,7 +163,7 @@ void RecordingSession::finish(LiveConnection &connection, bool hasFinalCounters)
 
 void RecordingSession::report(LiveConnection &connection)
 {
-    if (connection.isCheckpointDue)
+    if (connection.isCheckpointDue && connection.isUnsaved())
         m_book.save(connection);
     connection.isCheckpointDue = false;
     if (connection.isStateDue)
@@ -174,7 +173,7 @@ void RecordingSession::report(LiveConnection &connection)
 
 void RecordingSession::tick()
 {
-    m_ticks = (m_ticks + 1) % ticksPerCheckpoint;
+    m_ticks = (m_ticks + 1) % m_ticksPerCheckpoint;
     const bool isCheckpoint = m_ticks == 0 || m_book.isLate();
     if (isCheckpoint) {
         m_book.writePending();
@@ -185,6 +184,15 @@ void RecordingSession::tick()
         entry.second.isCheckpointDue |= isCheckpoint;
     }
     requestCounters();
+}
+
+bool RecordingSession::isBusy() const
+{
+    const std::vector<Link> links = m_surroundings.links.links();
+    const bool isAnyUp = std::any_of(links.begin(), links.end(), [this](const Link &link) {
+        return link.isUp && m_watched.contains(link);
+    });
+    return isAnyUp || !m_live.empty() || m_book.isLate() || !areIdleCountersKept(idleLinks());
 }
 
 /// Of what is watched and up even without a connection: the next one begins
@@ -230,14 +238,18 @@ std::vector<history::SeenLink> RecordingSession::idleLinks() const
     return idle;
 }
 
+bool RecordingSession::areIdleCountersKept(const std::vector<history::SeenLink> &idle) const
+{
+    return idle.empty() ||
+           std::equal(idle.begin(), idle.end(), m_keptIdle.begin(), m_keptIdle.end(), showTheSame);
+}
+
 /// What a link moves without a connection must not be taken later for what it moved
 /// while nothing recorded.
 void RecordingSession::keepIdleCounters()
 {
     std::vector<history::SeenLink> idle = idleLinks();
-    const bool isKept =
-        std::equal(idle.begin(), idle.end(), m_keptIdle.begin(), m_keptIdle.end(), showTheSame);
-    if (!isKept && m_book.see(idle))
+    if (!areIdleCountersKept(idle) && m_book.see(idle))
         m_keptIdle = std::move(idle);
 }
 

@@ -49,7 +49,8 @@ public:
     /// `storePath` is the one that all recorders know the store by.
     RecordingSession(history::Store store, const QString &storePath, const std::string &bootId,
                      const QStringList &interfaceNames, const QString &profileName,
-                     Surroundings surroundings, const SessionListener &listener);
+                     int ticksPerCheckpoint, Surroundings surroundings,
+                     const SessionListener &listener);
 
     /// Settles what earlier processes left open, and records the links from now on.
     void begin();
@@ -57,6 +58,9 @@ public:
     /// Asks for counters and tries again what could not be written; every few times, the
     /// store is brought up to date.
     void tick();
+    /// Whether there is anything for tick() to do: a line that is up, or something that is
+    /// not in the store yet.
+    bool isBusy() const;
     /// Names the profile of present and coming connections.
     void setProfileName(const QString &name);
 
@@ -78,6 +82,7 @@ private:
     std::vector<FirstSight> firstSights() const;
     history::SeenLink seen(const Link &link) const;
     std::vector<history::SeenLink> idleLinks() const;
+    bool areIdleCountersKept(const std::vector<history::SeenLink> &idle) const;
     void keepIdleCounters();
     bool stillLasts(const history::OpenConnection &row);
     std::string profileFor(const std::string &interfaceName) const;
@@ -86,6 +91,7 @@ private:
 
     const std::string m_bootId;
     QString m_profileName;
+    const int m_ticksPerCheckpoint;
     const Surroundings m_surroundings;
     const SessionListener m_listener;
     WatchedLinks m_watched;

@@ -2,6 +2,9 @@
 #include "RecorderTest.h"
 #include "StoreLock.h"
 
+#include <QFileInfo>
+#include <QTimer>
+
 using history::Connection;
 using history::OpenConnection;
 using recorder::ConnectionRecorder;
@@ -14,6 +17,8 @@ class RecordedRowsTest : public RecorderTest
 private slots:
     void aConnectionIsARowFromTheMomentItBegins();
     void bringsTheRowUpToDate();
+    void writesNothingWhileNothingIsMoved();
+    void asksForNothingWhileNoLineIsUp();
     void leavesTheRowOpenWhenTheProgramEnds();
     void takesWhatHasHappenedWhenTheProgramEnds();
     void writesTheRowAnewWhenTheFileIsReplaced();
@@ -64,6 +69,52 @@ void RecordedRowsTest::bringsTheRowUpToDate()
     QCOMPARE(rowAfterAnswer().downloadedBytes, std::int64_t{800});
     QCOMPARE(rowAfterAnswer().updatedUtc, std::int64_t{1700000005});
     QCOMPARE(rowAfterAnswer().connectedSeconds, std::int64_t{5});
+}
+
+/// However often the kernel is asked.
+void RecordedRowsTest::writesNothingWhileNothingIsMoved()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    const auto requestsAtFirst = m_links->requests.size();
+    const auto answerRequest = [this] {
+        m_clock->pass(1000);
+        m_links->tell(runningLink(3, "wwan0", 0, 0));
+        return m_links->requests.size();
+    };
+    // The first checkpoint keeps what other links show.
+    QTRY_VERIFY(answerRequest() > requestsAtFirst + 8);
+    const qint64 size = QFileInfo(m_path + "-wal").size();
+    const auto requestsBefore = m_links->requests.size();
+    QTRY_VERIFY(answerRequest() > requestsBefore + 20);
+    QCOMPARE(QFileInfo(m_path + "-wal").size(), size);
+    QCOMPARE(openRowsIn(m_path).front().updatedUtc, std::int64_t{1700000000});
+    const std::int64_t now = m_clock->utc;
+    QVERIFY(now > 1700000000);
+    m_recorder.reset();
+    QCOMPARE(openRowsIn(m_path).front().updatedUtc, now);
+}
+
+void RecordedRowsTest::asksForNothingWhileNoLineIsUp()
+{
+    QVERIFY(start());
+    const auto *const timer = m_recorder->findChild<QTimer *>(QStringLiteral("ticks"));
+    QVERIFY(timer);
+    QTRY_VERIFY(!timer->isActive());
+    connectLink(3, "wwan0", 0, 0);
+    QVERIFY(timer->isActive());
+    m_links->tell(downLink(3, "wwan0", 5, 6));
+    QTRY_VERIFY(!timer->isActive());
+    m_links->tell(downLink(3, "wwan0", 7, 8));
+    QVERIFY(timer->isActive());
+    QTRY_VERIFY(!timer->isActive());
+    connectLink(4, "eth0", 0, 0);
+    QVERIFY(!timer->isActive());
+    // What the link has shown without a connection is no traffic that nobody watched.
+    m_recorder.reset();
+    m_atStart = {downLink(3, "wwan0", 7, 8)};
+    QVERIFY(start());
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5 down 6 normal"));
 }
 
 void RecordedRowsTest::leavesTheRowOpenWhenTheProgramEnds()
