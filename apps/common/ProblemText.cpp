@@ -20,6 +20,7 @@ class ProblemText
 
 public:
     static QString of(const Problem &problem);
+    static QString ofInterface(const QString &name);
 
 private:
     static QString anotherRecorder(const Problem &problem);
@@ -67,6 +68,13 @@ QString ProblemText::of(const Problem &problem)
     return {};
 }
 
+QString ProblemText::ofInterface(const QString &name)
+{
+    return tr("There can be no network interface \"%1\": a name has at most 15 bytes, an "
+              "alternative one 127, and neither \"/\" nor white space.")
+        .arg(name);
+}
+
 QString ProblemText::anotherRecorder(const Problem &problem)
 {
     if (problem.program.isEmpty())
@@ -108,6 +116,11 @@ QString ProblemText::outOfRange(const Problem &problem)
 QString problemText(const Problem &problem)
 {
     return ProblemText::of(problem);
+}
+
+QString impossibleInterfaceText(const QString &name)
+{
+    return ProblemText::ofInterface(name);
 }
 
 } // namespace common

@@ -8,6 +8,7 @@
 #include "HistoryFiles.h"
 #include "ImportCommand.h"
 #include "Output.h"
+#include "RecordCommand.h"
 #include "RemoveCommand.h"
 #include "TotalsCommand.h"
 #include "UpkeepCommands.h"
@@ -85,6 +86,11 @@ TotalsGroups groupsNamed(const std::string &names)
     throw CLI::ValidationError("--by", "it is profile, month or profile,month, not " + names);
 }
 
+std::string checkName(const std::string &name)
+{
+    return name.empty() ? "the name is empty" : std::string();
+}
+
 /// Declares the commands, and remembers the one that the user chooses.
 class CommandLine
 {
@@ -99,6 +105,7 @@ public:
 private:
     void checkCommandIsKnown() const;
     CLI::App *addCommand(const char *name, const char *description);
+    CLI::App *addCommandWithoutResult(const char *name, const char *description);
     static void addDays(CLI::App *command, DaysRequest &days);
     void addSelection(CLI::App *command);
     void addList();
@@ -109,6 +116,7 @@ private:
     void addTotals();
     void addBackup();
     void addCheck();
+    void addRecord();
 
     CLI::App m_parser;
     CommonRequest m_common;
@@ -118,6 +126,7 @@ private:
     std::string m_outputPath = standardOutputPath;
     ImportRequest m_import;
     TotalsRequest m_totals;
+    RecordRequest m_record;
     std::function<void()> m_action;
 };
 
@@ -141,6 +150,7 @@ CommandLine::CommandLine()
     addTotals();
     addBackup();
     addCheck();
+    addRecord();
 }
 
 void CommandLine::parse(int argc, char **argv)
@@ -181,8 +191,14 @@ QByteArray CommandLine::textFor(const CLI::Success &helpOrVersion) const
 
 CLI::App *CommandLine::addCommand(const char *name, const char *description)
 {
-    CLI::App *const command = m_parser.add_subcommand(name, description);
+    CLI::App *const command = addCommandWithoutResult(name, description);
     command->add_flag("--json", m_common.json, "Write JSON, for programs")->disable_flag_override();
+    return command;
+}
+
+CLI::App *CommandLine::addCommandWithoutResult(const char *name, const char *description)
+{
+    CLI::App *const command = m_parser.add_subcommand(name, description);
     command->footer(exitCodes);
     return command;
 }
@@ -315,6 +331,25 @@ void CommandLine::addCheck()
 {
     CLI::App *const command = addCommand("check", "Tell whether the history's file is sound");
     command->callback([this] { m_action = [this] { checkHistory(m_common); }; });
+}
+
+void CommandLine::addRecord()
+{
+    CLI::App *const command = addCommandWithoutResult(
+        "record", "Record connections while they last, until a signal ends it");
+    command
+        ->add_option("--interface", m_record.interfaceNames,
+                     "A network interface to record besides mobile-broadband ones; several times "
+                     "for several")
+        ->type_name("NAME")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    command
+        ->add_option("--profile", m_record.profile,
+                     "Profile (APN) of what is recorded; the interface's name without it")
+        ->type_name("NAME")
+        ->check(checkName);
+    command->callback([this] { m_action = [this] { recordConnections(m_common, m_record); }; });
 }
 
 int complainOfUsage(const CLI::ParseError &error)

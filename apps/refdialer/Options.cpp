@@ -2,6 +2,7 @@
 #include "Options.h"
 
 #include "Failure.h"
+#include "apps/common/ProblemText.h"
 #include "recorder/InterfaceName.h"
 #include "refhost/libcore/Host.h"
 
@@ -142,9 +143,7 @@ void CommandLine::checkInterfaceNames(const QStringList &names)
 {
     for (const QString &name : names) {
         if (!recorder::canNameAnInterface(name))
-            refuse(tr("There can be no network interface \"%1\": a name has at most 15 bytes, an "
-                      "alternative one 127, and neither \"/\" nor white space.")
-                       .arg(name));
+            refuse(common::impossibleInterfaceText(name));
     }
 }
 

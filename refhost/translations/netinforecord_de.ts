@@ -210,10 +210,6 @@
         <translation>--demo und --store schließen einander aus: Das eine zeigt einen Beispielverlauf, das andere einen von Ihnen.</translation>
     </message>
     <message>
-        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
-        <translation>Eine Netzwerkschnittstelle „%1“ kann es nicht geben: Ein Name hat höchstens 15 Bytes, ein Alternativname 127, und weder „/“ noch Leerraum.</translation>
-    </message>
-    <message>
         <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
         <translation>Es gibt keine Texte in der Sprache „%1“, sondern nur: %2.</translation>
     </message>
@@ -339,6 +335,10 @@
 </context>
 <context>
     <name>common::ProblemText</name>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>Eine Netzwerkschnittstelle „%1“ kann es nicht geben: Ein Name hat höchstens 15 Bytes, ein Alternativname 127, und weder „/“ noch Leerraum.</translation>
+    </message>
     <message>
         <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
         <translation>Die Uhr des Systems zeigt eine Zeit, die der Verlauf nicht fassen kann. Verbindungen bekommen stattdessen %1 UTC; stellen Sie die Uhr.</translation>

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include "RecordCommand.h"
+
+#include "Complaint.h"
+#include "ServiceNotice.h"
+#include "StartupMemory.h"
+#include "StoreResult.h"
+#include "apps/common/ProblemText.h"
+#include "apps/common/QuitOnSignal.h"
+#include "formats/Utf8Text.h"
+#include "history/Store.h"
+#include "recorder/ConnectionRecorder.h"
+#include "recorder/InterfaceName.h"
+#include "recorder/LinkMonitor.h"
+#include "recorder/SystemClock.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <memory>
+
+namespace connrecord
+{
+
+namespace
+{
+
+using recorder::ConnectionRecorder;
+using recorder::ConnectionState;
+using recorder::Problem;
+
+/// Nobody looks at figures that change, so it wakes up as rarely as the store allows.
+constexpr recorder::RecorderIntervals intervals = {std::chrono::seconds(4), std::chrono::seconds(2),
+                                                   1};
+
+QStringList interfaceNames(const std::vector<std::string> &names)
+{
+    QStringList checked;
+    for (const std::string &name : names) {
+        const QString text = QString::fromStdString(name);
+        if (!formats::isUtf8(name) || !recorder::canNameAnInterface(text))
+            throw Failure(ExitCode::Usage, common::impossibleInterfaceText(text).toStdString());
+        checked << text;
+    }
+    return checked;
+}
+
+QString profileName(const std::string &name)
+{
+    if (!formats::isUtf8(name))
+        throw Failure(ExitCode::Refused, "For --profile, the text is not UTF-8.");
+    return QString::fromStdString(name);
+}
+
+std::string nameOf(const std::string &profile, const std::string &interfaceName)
+{
+    return profile == interfaceName ? interfaceName : profile + " (" + interfaceName + ')';
+}
+
+std::string textOf(const Problem &problem)
+{
+    if (problem.kind != Problem::Kind::RecordedByAnother)
+        return common::problemText(problem).toStdString();
+    const std::string another = problem.program.isEmpty()
+                                    ? "another program"
+                                    : "another " + problem.program.toStdString() + " (process " +
+                                          std::to_string(problem.process) + ')';
+    return "Connections are recorded by " + another +
+           " already; this one records them when that one has ended.";
+}
+
+/// Says what a recorder does, and how it is.
+class Reporter
+{
+public:
+    explicit Reporter(const ConnectionRecorder &recorder);
+
+    void tellOfStart(bool isRecording);
+
+private:
+    void tellOfBeginning(const ConnectionState &state);
+    void tellOfEnd(const history::Connection &connection, qint64 id);
+    void tellOfProblem(const Problem &problem);
+    void tellOfRecovery();
+    void showStatus() const;
+
+    bool m_isRecording = false;
+    std::string m_problem;
+    qint64 m_lasting = 0;
+};
+
+Reporter::Reporter(const ConnectionRecorder &recorder)
+{
+    const auto *const context = &recorder;
+    QObject::connect(context, &ConnectionRecorder::started, context, [this] { tellOfStart(true); });
+    QObject::connect(context, &ConnectionRecorder::connected, context,
+                     [this](const ConnectionState &state) { tellOfBeginning(state); });
+    QObject::connect(
+        context, &ConnectionRecorder::disconnected, context,
+        [this](const history::Connection &connection, qint64 id) { tellOfEnd(connection, id); });
+    QObject::connect(context, &ConnectionRecorder::failed, context,
+                     [this](const Problem &problem) { tellOfProblem(problem); });
+    QObject::connect(context, &ConnectionRecorder::succeeded, context,
+                     [this] { tellOfRecovery(); });
+}
+
+void Reporter::tellOfStart(bool isRecording)
+{
+    m_isRecording = isRecording;
+    if (isRecording)
+        warn("Recording connections.");
+    showStatus();
+}
+
+void Reporter::tellOfBeginning(const ConnectionState &state)
+{
+    ++m_lasting;
+    warn("Connected: " + nameOf(state.profile.toStdString(), state.interfaceName.toStdString()) +
+         '.');
+    showStatus();
+}
+
+void Reporter::tellOfEnd(const history::Connection &connection, qint64 id)
+{
+    // What an earlier process has left open did not begin here.
+    m_lasting -= id != 0 ? 1 : 0;
+    warn("Ended: " + nameOf(connection.profile, connection.interfaceName) + ", " +
+         std::to_string(connection.uploadedBytes) + " bytes sent, " +
+         std::to_string(connection.downloadedBytes) + " bytes received, " +
+         std::to_string(connection.connectedSeconds) + " s connected (" + connection.ending + ").");
+    showStatus();
+}
+
+void Reporter::tellOfProblem(const Problem &problem)
+{
+    m_problem = textOf(problem);
+    warn(m_problem);
+    showStatus();
+}
+
+void Reporter::tellOfRecovery()
+{
+    m_problem.clear();
+    warn("That is over; connections are recorded as they should be.");
+    showStatus();
+}
+
+void Reporter::showStatus() const
+{
+    if (!m_problem.empty())
+        tellStatus(m_problem);
+    else if (m_isRecording)
+        tellStatus("Recording; connections that last: " + std::to_string(m_lasting) + '.');
+}
+
+/// What is wrong with the store itself will not pass by waiting.
+void checkStore(const std::string &path)
+{
+    const auto store = valueOrFailure(history::Store::openForReading(path));
+    valueOrFailure(store.listOpen());
+}
+
+} // namespace
+
+void recordConnections(const CommonRequest &common, const RecordRequest &request)
+{
+    const QStringList names = interfaceNames(request.interfaceNames);
+    const QString profile = profileName(request.profile);
+    checkStore(common.storePath);
+    const ::common::QuitOnSignal quitOnSignal;
+    ConnectionRecorder recorder(QFile::decodeName(common.storePath.c_str()), names,
+                                std::make_unique<recorder::LinkMonitor>(),
+                                std::make_unique<recorder::SystemClock>(), intervals);
+    recorder.setProfileName(profile);
+    Reporter reporter(recorder);
+    reporter.tellOfStart(recorder.start());
+    tellReady();
+    giveBackStartupMemory();
+    QCoreApplication::exec();
+    tellStopping();
+    if (const auto loss = recorder.end())
+        throw Failure(ExitCode::Store, textOf(*loss));
+}
+
+} // namespace connrecord
