@@ -139,7 +139,8 @@ void TestChange::keepsTheLanguageWhenAnotherIsUnknown()
 
 void TestChange::namesEachLanguageInItself()
 {
-    QCOMPARE(refhost::availableLanguages(), QStringList({"de", "en"}));
+    for (const char *language : {"de", "en"})
+        QVERIFY(refhost::availableLanguages().contains(language));
     QCOMPARE(refhost::languageName("de"), QString("Deutsch"));
     QCOMPARE(refhost::languageName("en"), QString("English"));
     QCOMPARE(refhost::languageName("xx"), QString("xx"));
