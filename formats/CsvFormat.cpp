@@ -26,6 +26,8 @@ namespace kind = history::kind;
 
 constexpr std::size_t columnCount = std::tuple_size_v<decltype(connectionFields)>;
 
+constexpr std::size_t fewestColumns = std::tuple_size_v<decltype(history::identifyingFields)>;
+
 using ColumnNames = std::array<const char *, columnCount>;
 
 const ColumnNames &columnNames()
@@ -92,6 +94,16 @@ std::string parsed(kind::Text /*kind*/, const std::string &text, std::int64_t ma
     return text;
 }
 
+std::string parsed(kind::Roaming /*kind*/, const std::string &text, std::int64_t /*maximum*/,
+                   const history::Connection & /*connection*/)
+{
+    if (!history::isRoamingText(text))
+        throw FieldError{'"' + printable(text) + "\" is neither \"" + history::atHome +
+                             "\" nor \"" + history::abroad + "\" nor empty",
+                         true};
+    return text;
+}
+
 std::int64_t parsed(kind::StartTime /*kind*/, const std::string &text, std::int64_t /*maximum*/,
                     const history::Connection & /*connection*/)
 {
@@ -114,8 +126,10 @@ std::int64_t parsed(kind::Amount /*kind*/, const std::string &text, std::int64_t
 class RowReader
 {
 public:
-    explicit RowReader(const CsvRow &row)
+    /// For a file of so many columns.
+    RowReader(const CsvRow &row, std::size_t columns)
         : m_row(row)
+        , m_columns(columns)
     {
     }
 
@@ -128,17 +142,20 @@ private:
     void checkBytes(std::size_t column) const;
 
     const CsvRow &m_row;
+    const std::size_t m_columns;
 };
 
 history::Connection RowReader::connection() const
 {
     checkColumnCount();
-    for (std::size_t column = 0; column < columnCount; ++column)
+    for (std::size_t column = 0; column < m_columns; ++column)
         checkBytes(column);
     history::Connection connection;
     std::size_t column = 0;
     try {
         forEachField(connectionFields, [&](const auto &field) {
+            if (column == m_columns)
+                return;
             connection.*field.member =
                 parsed(KindOf<decltype(field)>(), m_row[column].text, field.maximum, connection);
             ++column;
@@ -151,7 +168,7 @@ history::Connection RowReader::connection() const
 
 void RowReader::checkHeader() const
 {
-    for (std::size_t column = 0; column < columnCount; ++column) {
+    for (std::size_t column = 0; column < m_columns; ++column) {
         if (column >= m_row.size() || m_row[column].text != columnNames()[column])
             fail(column, "the first line has to be the header " + header());
     }
@@ -165,10 +182,10 @@ void RowReader::fail(std::size_t column, const std::string &reason) const
 
 void RowReader::checkColumnCount() const
 {
-    if (m_row.size() != columnCount)
-        fail(std::min<std::size_t>(m_row.size(), columnCount),
+    if (m_row.size() != m_columns)
+        fail(std::min<std::size_t>(m_row.size(), m_columns),
              "the line has " + std::to_string(m_row.size()) + " columns and should have " +
-                 std::to_string(columnCount));
+                 std::to_string(m_columns));
 }
 
 void RowReader::checkBytes(std::size_t column) const
@@ -186,11 +203,11 @@ bool isBlank(const CsvRow &row)
 }
 
 /// Blank lines are nothing at the end of a file, and wrong before it.
-void checkIsBlankEnd(CsvReader &reader, const CsvRow &firstBlank)
+void checkIsBlankEnd(CsvReader &reader, const CsvRow &firstBlank, std::size_t columns)
 {
     while (const auto row = reader.next()) {
         if (!isBlank(*row))
-            RowReader(firstBlank).checkColumnCount();
+            RowReader(firstBlank, columns).checkColumnCount();
     }
 }
 
@@ -215,14 +232,16 @@ std::vector<history::Connection> connectionsFromCsv(LineReader &lines, const Rea
     const auto firstRow = reader.next();
     if (!firstRow)
         throw CsvError{1, 0, "the file is empty, the first line has to be the header " + header()};
-    RowReader(*firstRow).checkHeader();
+    // Files of earlier versions lack the last ones.
+    const std::size_t columns = std::clamp(firstRow->size(), fewestColumns, columnCount);
+    RowReader(*firstRow, columns).checkHeader();
     std::vector<history::Connection> connections;
     while (const auto row = reader.next()) {
         if (isBlank(*row)) {
-            checkIsBlankEnd(reader, *row);
+            checkIsBlankEnd(reader, *row, columns);
             break;
         }
-        connections.push_back(RowReader(*row).connection());
+        connections.push_back(RowReader(*row, columns).connection());
         progress(lines.bytesRead());
     }
     return connections;

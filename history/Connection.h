@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <vector>
 
 namespace history
 {
@@ -14,9 +15,25 @@ constexpr std::int64_t largestTime = std::numeric_limits<std::uint32_t>::max();
 constexpr std::int64_t largestDuration = std::numeric_limits<std::int32_t>::max();
 constexpr std::int64_t largestByteCount = std::numeric_limits<std::int64_t>::max();
 
-/// The most bytes that a profile and the shorter texts may have.
+/// The most bytes that a profile, an operator's name and the shorter texts may have.
 constexpr std::size_t longestProfile = 1048576;
+constexpr std::size_t longestOperator = 255;
 constexpr std::size_t longestShortText = 31;
+
+/// What a connection's roaming may say; empty if it is unknown.
+constexpr const char *atHome = "home";
+constexpr const char *abroad = "roaming";
+
+constexpr std::int64_t secondsPerHour = 3600;
+
+/// What a connection has moved in one hour of UTC, at home (or where that is unknown)
+/// or roaming.
+struct HourlyBytes {
+    std::int64_t hourUtc = 0; ///< its first second
+    bool isRoaming = false;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+};
 
 /// What finished and open connections have in common. Times are seconds since
 /// 1970-01-01 00:00 UTC from 0 to largestTime, durations lie between 0 and
@@ -32,6 +49,17 @@ struct ConnectionBase {
     /// How it ended, or is to end unless something happens; at most longestShortText bytes.
     std::string ending = "normal";
     std::string interfaceName; ///< network interface, as long at most; may be empty
+    // Whose it is, as far as known; what is unknown is empty.
+    std::string operatorName; ///< at most longestOperator bytes
+    std::string operatorCode; ///< MCC and MNC
+    std::string sim;          ///< its number (ICCID), which belongs in no log
+    std::string roaming;      ///< at the start: atHome or abroad
+    std::string technology;   ///< of access: "lte" ...
+    /// When its bytes moved; each hour once for home and once for roaming. All hours that
+    /// the store has of a connection add up to its byte counts, or there are none. What
+    /// is written are those that are given, in the place of what was known of them; the
+    /// others stay. In lists of finished connections they are left out.
+    std::vector<HourlyBytes> hours;
 };
 
 /// One finished connection as the store keeps it.

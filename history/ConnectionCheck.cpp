@@ -50,6 +50,28 @@ void checkValue(const std::string &whose, const char *field, const std::string &
                                " bytes, but may have 0 to " + std::to_string(maximum) + ".");
 }
 
+void checkHours(const std::string &whose, const std::vector<HourlyBytes> &hours)
+{
+    for (const HourlyBytes &each : hours) {
+        checkValue(whose, "hour", each.hourUtc, largestTime);
+        checkValue(whose, "number of bytes sent in an hour", each.uploadedBytes, largestByteCount);
+        checkValue(whose, "number of bytes received in an hour", each.downloadedBytes,
+                   largestByteCount);
+        if (each.hourUtc % secondsPerHour != 0)
+            throw StoreFailure(Kind::BadRecord, "An hour of " + whose + " begins at " +
+                                                    std::to_string(each.hourUtc) +
+                                                    ", which is not the beginning of an hour.");
+    }
+}
+
+void checkRoaming(const std::string &whose, const std::string &roaming)
+{
+    if (!isRoamingText(roaming))
+        throw StoreFailure(Kind::BadRecord, "The roaming of " + whose + ", \"" +
+                                                beginningOf(roaming) + "\", is neither \"" +
+                                                atHome + "\" nor \"" + abroad + "\" nor empty.");
+}
+
 template <typename AnyConnection, typename Fields>
 void checkFields(const std::string &whose, const AnyConnection &connection, const Fields &fields)
 {
@@ -57,6 +79,8 @@ void checkFields(const std::string &whose, const AnyConnection &connection, cons
         if (field.phrase)
             checkValue(whose, field.phrase, connection.*field.member, field.maximum);
     });
+    checkRoaming(whose, connection.roaming);
+    checkHours(whose, connection.hours);
 }
 
 } // namespace

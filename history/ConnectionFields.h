@@ -17,6 +17,12 @@ namespace kind
 struct Text {
     using Value = std::string;
 };
+struct Detail : Text { ///< empty if unknown; it tells no two connections apart
+};
+struct Sim : Detail { ///< shown to people by its end
+};
+struct Roaming : Detail {
+};
 struct Number { ///< any
     using Value = std::int64_t;
 };
@@ -79,7 +85,16 @@ constexpr auto connectionFields = std::make_tuple(
     field<kind::Text>(&Connection::ending, "ending", "ending", longestShortText, "ending",
                       "ENDING"),
     field<kind::Text>(&Connection::interfaceName, "interface_name", "interface", longestShortText,
-                      "interface", "INTERFACE"));
+                      "interface", "INTERFACE"),
+    field<kind::Detail>(&Connection::operatorName, "operator_name", "operator", longestOperator,
+                        "operator", "OPERATOR"),
+    field<kind::Detail>(&Connection::operatorCode, "operator_code", "operator code",
+                        longestShortText, "operator_code"),
+    field<kind::Sim>(&Connection::sim, "sim", "SIM", longestShortText, "sim", "SIM"),
+    field<kind::Roaming>(&Connection::roaming, "roaming", "roaming", longestShortText, "roaming",
+                         "ROAMING"),
+    field<kind::Detail>(&Connection::technology, "technology", "technology", longestShortText,
+                        "technology"));
 
 /// What makes an open connection the one that it is, for as long as it lasts.
 constexpr auto openIdentityFields = std::make_tuple(
@@ -100,6 +115,8 @@ using IsShared = std::is_same<typename AnyField::Owner, ConnectionBase>;
 template <typename AnyField>
 using IsStart = std::is_same<typename AnyField::Kind, kind::StartTime>;
 template <typename AnyField>
+using Identifies = std::negation<std::is_base_of<kind::Detail, typename AnyField::Kind>>;
+template <typename AnyField>
 using IsSharedAndChanges = std::conjunction<IsShared<AnyField>, std::negation<IsStart<AnyField>>>;
 
 /// Those of the fields whose types meet the condition.
@@ -118,6 +135,10 @@ constexpr auto chosenFrom(const std::tuple<Fields...> &fields)
         fields);
 }
 
+/// What two records have to agree in to be of the same connection, for whoever imports one
+/// of them: files of earlier versions know nothing of the details.
+constexpr auto identifyingFields = chosenFrom<Identifies>(connectionFields);
+
 /// Every value of an open connection but its key, and those that change while it lasts.
 constexpr auto openConnectionFields =
     std::tuple_cat(openIdentityFields, chosenFrom<IsShared>(connectionFields), openStateFields);
@@ -131,6 +152,12 @@ constexpr void forEachField(const Fields &fields, Visit visit)
     std::apply([&](const auto &...each) { (visit(each), ...); }, fields);
 }
 
+/// Whether a connection's roaming may say this.
+inline bool isRoamingText(const std::string &text)
+{
+    return text.empty() || text == atHome || text == abroad;
+}
+
 /// References to the values that the connection has in these fields, to be compared.
 template <typename AnyConnection, typename Fields>
 auto valuesOf(const AnyConnection &connection, const Fields &fields)
@@ -139,7 +166,13 @@ auto valuesOf(const AnyConnection &connection, const Fields &fields)
                       fields);
 }
 
-/// Whether nothing but the key tells the two apart.
+/// Whether nothing but the key and the details tells the two apart.
+inline bool isSame(const Connection &left, const Connection &right)
+{
+    return valuesOf(left, identifyingFields) == valuesOf(right, identifyingFields);
+}
+
+/// Whether nothing but the key and the hours tells the two apart.
 inline bool hasSameContents(const Connection &left, const Connection &right)
 {
     return valuesOf(left, connectionFields) == valuesOf(right, connectionFields);

@@ -27,7 +27,7 @@ auto order(const Connection &connection)
 {
     return std::tuple_cat(identity(connection),
                           std::tie(connection.interfaceName, connection.startUtc),
-                          valuesOf(connection, connectionFields));
+                          valuesOf(connection, identifyingFields));
 }
 
 bool comesBefore(const Connection *left, const Connection *right)
@@ -73,7 +73,7 @@ private:
         for (const Connection *const connection : m_given) {
             while (candidate != m_stored.end() && comesBefore(*candidate, connection))
                 stored.push_back(*candidate++);
-            if (candidate != m_stored.end() && hasSameContents(**candidate, *connection))
+            if (candidate != m_stored.end() && isSame(**candidate, *connection))
                 pairing(connection, *candidate++);
             else
                 given.push_back(connection);

@@ -34,14 +34,14 @@ public:
 struct ContentsHash {
     std::size_t operator()(const Connection *connection) const
     {
-        return contentsFingerprintOf(*connection);
+        return identityFingerprintOf(*connection);
     }
 };
 
 struct ContentsEqual {
     bool operator()(const Connection *left, const Connection *right) const
     {
-        return hasSameContents(*left, *right);
+        return isSame(*left, *right);
     }
 };
 
@@ -199,6 +199,7 @@ bool ConnectionTable::holds(const std::string &interfaceName, std::int64_t start
 }
 
 std::size_t ConnectionTable::insertMissing(const std::vector<Connection> &connections,
+                                           const Insertion &insertOne,
                                            const Store::Progress &progress)
 {
     if (connections.empty())
@@ -209,7 +210,7 @@ std::size_t ConnectionTable::insertMissing(const std::vector<Connection> &connec
     for (std::size_t i = 0; i < connections.size(); ++i) {
         std::size_t &missing = tally.at(&connections[i]);
         if (missing > 0) {
-            insert(connections[i]);
+            insertOne(connections[i]);
             --missing;
             ++inserted;
         }
@@ -220,7 +221,7 @@ std::size_t ConnectionTable::insertMissing(const std::vector<Connection> &connec
 }
 
 Store::Merged ConnectionTable::merge(const std::vector<Connection> &connections,
-                                     const Store::Completion &complete,
+                                     const Insertion &insertOne, const Store::Completion &complete,
                                      const Store::Progress &progress)
 {
     Store::Merged merged;
@@ -231,10 +232,10 @@ Store::Merged ConnectionTable::merge(const std::vector<Connection> &connections,
     const auto pairs = merge.pairsAmong(stored);
     for (std::size_t i = 0; i < connections.size(); ++i) {
         if (!pairs[i]) {
-            insert(connections[i]);
+            insertOne(connections[i]);
             ++merged.added;
         } else if (Connection known = *pairs[i];
-                   !hasSameContents(known, connections[i]) && complete(known, i)) {
+                   !isSame(known, connections[i]) && complete(known, i)) {
             update(known);
             ++merged.completed;
         }

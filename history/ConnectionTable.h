@@ -80,6 +80,9 @@ public:
 
     using Visitor = std::function<void(const ConnectionRow &)>;
 
+    /// Puts a connection that is missing into this table and what belongs to it elsewhere.
+    using Insertion = std::function<void(const Connection &connection)>;
+
     std::int64_t count();
     /// The rows that start in `range` by start time, then by key.
     void visit(const TimeRange &range, const Visitor &visitor);
@@ -99,9 +102,9 @@ public:
     /// Inserts those of `connections` that are not there yet; see
     /// Store::addMissing.
     std::size_t insertMissing(const std::vector<Connection> &connections,
-                              const Store::Progress &progress);
+                              const Insertion &insertOne, const Store::Progress &progress);
     /// Inserts and completes what a log tells; see Store::merge.
-    Store::Merged merge(const std::vector<Connection> &connections,
+    Store::Merged merge(const std::vector<Connection> &connections, const Insertion &insertOne,
                         const Store::Completion &complete, const Store::Progress &progress);
     /// Whether there was such a row to remove.
     bool remove(std::int64_t key);

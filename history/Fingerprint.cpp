@@ -38,11 +38,11 @@ private:
     std::uint64_t m_value = 0;
 };
 
-Fingerprint contentsOf(const Connection &connection)
+template <typename Fields>
+Fingerprint contentsOf(const Connection &connection, const Fields &fields)
 {
     Fingerprint fingerprint;
-    forEachField(connectionFields,
-                 [&](const auto &field) { fingerprint << connection.*field.member; });
+    forEachField(fields, [&](const auto &field) { fingerprint << connection.*field.member; });
     return fingerprint;
 }
 
@@ -57,12 +57,12 @@ std::uint64_t fingerprintOf(const ConnectionRow &row)
 
 std::uint64_t fingerprintOf(const Connection &connection)
 {
-    return (contentsOf(connection) << connection.key).value();
+    return (contentsOf(connection, connectionFields) << connection.key).value();
 }
 
-std::uint64_t contentsFingerprintOf(const Connection &connection)
+std::uint64_t identityFingerprintOf(const Connection &connection)
 {
-    return contentsOf(connection).value();
+    return contentsOf(connection, identifyingFields).value();
 }
 
 } // namespace history

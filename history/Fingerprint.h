@@ -14,7 +14,7 @@ namespace history
 /// for a row and what it becomes, in one process only.
 std::uint64_t fingerprintOf(const ConnectionRow &row);
 std::uint64_t fingerprintOf(const Connection &connection);
-/// The same without the key.
-std::uint64_t contentsFingerprintOf(const Connection &connection);
+/// Of what identifies it to an import alone.
+std::uint64_t identityFingerprintOf(const Connection &connection);
 
 } // namespace history

@@ -159,15 +159,14 @@ std::uint64_t Store::fingerprintOf(const Connection &connection)
 
 Result<std::int64_t> Store::add(const Connection &connection)
 {
-    return d->write(connection,
-                    [&](StoreTables &tables) { return tables.connections.insert(connection); });
+    return d->write(connection, [&](StoreTables &tables) { return tables.insert(connection); });
 }
 
 Result<std::size_t> Store::addMissing(const std::vector<Connection> &connections,
                                       const Progress &progress)
 {
     return d->write(connections, [&](StoreTables &tables) {
-        return tables.connections.insertMissing(connections, progress);
+        return tables.insertMissing(connections, progress);
     });
 }
 
@@ -175,7 +174,7 @@ Result<Store::Merged> Store::merge(const std::vector<Connection> &connections,
                                    const Completion &complete, const Progress &progress)
 {
     return d->write(connections, [&](StoreTables &tables) {
-        return tables.connections.merge(connections, complete, progress);
+        return tables.merge(connections, complete, progress);
     });
 }
 
@@ -214,7 +213,7 @@ Result<std::int64_t> Store::forgetOrigins()
 
 Result<std::vector<OpenConnection>> Store::listOpen() const
 {
-    return d->read([](StoreTables &tables) { return tables.openConnections.all(); });
+    return d->read([](StoreTables &tables) { return tables.listOpen(); });
 }
 
 Result<std::size_t> Store::see(const std::vector<SeenLink> &links,
@@ -226,6 +225,11 @@ Result<std::size_t> Store::see(const std::vector<SeenLink> &links,
 Result<std::vector<SeenLink>> Store::listSeen() const
 {
     return d->read([](StoreTables &tables) { return tables.seenLinks.all(); });
+}
+
+Result<std::vector<ConnectionHour>> Store::hours(const TimeRange &range) const
+{
+    return d->read([&](StoreTables &tables) { return tables.hours(range); });
 }
 
 Result<std::vector<Totals>> Store::totals(const TimeRange &range, Profiles profiles,

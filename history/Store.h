@@ -15,6 +15,22 @@
 namespace history
 {
 
+/// What a connection has moved in one hour, and whose it was.
+struct ConnectionHour {
+    std::int64_t key = 0;
+    bool isOpen = false; ///< the key is that of an open connection
+    std::string profile;
+    std::string operatorName;
+    std::string operatorCode;
+    std::string sim;
+    /// The hour's first second. A connection without hours is here once, at home, with all
+    /// its bytes and the second of its start.
+    std::int64_t utc = 0;
+    bool isRoaming = false;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+};
+
 /// Times from one second up to another one, which is outside, in seconds since
 /// 1970-01-01 00:00 UTC; all times unless set.
 struct TimeRange {
@@ -84,7 +100,8 @@ public:
     /// Stores those of `connections` that are not in the store yet, all or none,
     /// and returns how many that were. Equal connections are told apart by their
     /// number: what is given three times is in the store three times afterwards,
-    /// so giving the same list again adds nothing.
+    /// so giving the same list again adds nothing. Operator, SIM, roaming and technology
+    /// tell none apart, and nothing is changed in what is there.
     Result<std::size_t> addMissing(const std::vector<Connection> &connections,
                                    const Progress &progress = {});
 
@@ -115,6 +132,8 @@ public:
     Result<OpenConnection> begin(const OpenConnection &connection);
     /// Brings an open connection up to date: its names, mark, base, totals, last update
     /// and ending; by its key, which is returned, link and start.
+    /// Its hours are those that have changed; if what the store then has of them does not
+    /// add up to the byte counts, that is a BadRecord and nothing is changed.
     /// With an `origin`, it keeps in the same transaction that this was taken over.
     Result<std::int64_t> checkpoint(const OpenConnection &connection,
                                     const std::string &origin = {});
@@ -122,14 +141,15 @@ public:
     /// is given, both at once, and returns the finished one's key. If it is open no
     /// longer, another process may have finished it: then the connection is added
     /// unless one of the same interface and start is there, which gives 0.
-    /// An `origin` is kept as for checkpoint().
+    /// The open one's hours become the finished one's, whose own are those that have changed
+    /// since. An `origin` is kept as for checkpoint().
     Result<std::int64_t> finish(const OpenConnection &open, const Connection &connection,
                                 const std::string &origin = {});
     /// Whether a change of this origin has been made, so that it is not made twice.
     Result<bool> wasTakenOver(const std::string &origin) const;
     /// Forgets all origins, once there is nothing left to take over. Returns how many.
     Result<std::int64_t> forgetOrigins();
-    /// The connections that have begun and not been finished, by key.
+    /// The connections that have begun and not been finished, with their hours, by key.
     Result<std::vector<OpenConnection>> listOpen() const;
 
     /// Each of begin(), checkpoint() and finish() keeps what the connection's link showed
@@ -140,6 +160,9 @@ public:
                             const std::vector<Connection> &unwatched = {});
     /// What is known of links by earlier calls.
     Result<std::vector<SeenLink>> listSeen() const;
+
+    /// What has been moved in `range`, by time, of finished and of open connections.
+    Result<std::vector<ConnectionHour>> hours(const TimeRange &range = {}) const;
 
     /// Whether totals tell profiles apart, upper and lower case included.
     enum class Profiles { Together, Apart };

@@ -3,6 +3,8 @@
 
 #include "StoreSchema.h"
 
+#include <SQLiteCpp/Backup.h>
+
 #include <sqlite3.h>
 #include <utf8.h>
 
@@ -132,7 +134,7 @@ void StoreDatabase::connect()
         m_logBase = std::make_unique<LogBase>(*m_database, resolvedPath(m_path));
         checkLogBase();
         if (m_isReadOnly)
-            checkSchema(m_path, *m_database, storeSchema());
+            prepareForReading();
         else
             prepareForWriting();
         m_tables = std::make_unique<StoreTables>(*m_database, m_path);
@@ -167,6 +169,22 @@ void StoreDatabase::openFile()
     if (isLeftAlone)
         m_database->exec("PRAGMA locking_mode = EXCLUSIVE"); // the index in memory of its own
     distrustSchema(m_database->getHandle());
+}
+
+/// An earlier version's file that cannot be upgraded in its place is read from a copy in
+/// memory that is.
+void StoreDatabase::prepareForReading()
+{
+    checkSchema(m_path, *m_database, storeSchema());
+    if (!isOutdated(*m_database, storeSchema()))
+        return;
+    auto copy = std::make_unique<SQLite::Database>(":memory:",
+                                                   SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
+    SQLite::Backup(*copy, *m_database).executeStep();
+    distrustSchema(copy->getHandle());
+    upgradeSchema(m_path, *copy, storeSchema());
+    m_logBase.reset();
+    m_database = std::move(copy);
 }
 
 void StoreDatabase::prepareForWriting()

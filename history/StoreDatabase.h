@@ -94,6 +94,7 @@ private:
     void checkVersion();
     void connect();
     void openFile();
+    void prepareForReading();
     void prepareForWriting();
     void close();
     void openForWriting();

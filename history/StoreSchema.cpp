@@ -203,6 +203,35 @@ const SchemaSteps &storeSchema()
             log_inode INTEGER NOT NULL
         ) STRICT;
         )",
+        R"(
+        ALTER TABLE connection ADD COLUMN operator_name TEXT NOT NULL DEFAULT '';
+        ALTER TABLE connection ADD COLUMN operator_code TEXT NOT NULL DEFAULT '';
+        ALTER TABLE connection ADD COLUMN sim TEXT NOT NULL DEFAULT '';
+        ALTER TABLE connection ADD COLUMN roaming TEXT NOT NULL DEFAULT '';
+        ALTER TABLE connection ADD COLUMN technology TEXT NOT NULL DEFAULT '';
+        ALTER TABLE open_connection ADD COLUMN operator_name TEXT NOT NULL DEFAULT '';
+        ALTER TABLE open_connection ADD COLUMN operator_code TEXT NOT NULL DEFAULT '';
+        ALTER TABLE open_connection ADD COLUMN sim TEXT NOT NULL DEFAULT '';
+        ALTER TABLE open_connection ADD COLUMN roaming TEXT NOT NULL DEFAULT '';
+        ALTER TABLE open_connection ADD COLUMN technology TEXT NOT NULL DEFAULT '';
+        CREATE TABLE connection_hour (
+            connection INTEGER NOT NULL,
+            hour_utc INTEGER NOT NULL,
+            is_roaming INTEGER NOT NULL,
+            uploaded_bytes INTEGER NOT NULL,
+            downloaded_bytes INTEGER NOT NULL,
+            PRIMARY KEY (connection, hour_utc, is_roaming)
+        ) STRICT, WITHOUT ROWID;
+        CREATE INDEX connection_hour_by_hour ON connection_hour (hour_utc);
+        CREATE TABLE open_connection_hour (
+            connection INTEGER NOT NULL,
+            hour_utc INTEGER NOT NULL,
+            is_roaming INTEGER NOT NULL,
+            uploaded_bytes INTEGER NOT NULL,
+            downloaded_bytes INTEGER NOT NULL,
+            PRIMARY KEY (connection, hour_utc, is_roaming)
+        ) STRICT, WITHOUT ROWID;
+        )",
     };
     return steps;
 }
@@ -215,6 +244,11 @@ void checkSchemaVersion(const std::string &path, std::int32_t version)
 void checkSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps)
 {
     stepsTakenNow(path, database, steps);
+}
+
+bool isOutdated(SQLite::Database &database, const SchemaSteps &steps)
+{
+    return static_cast<std::size_t>(stateOf(database).version) < steps.size();
 }
 
 void upgradeSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps)

@@ -31,6 +31,9 @@ void checkSchemaVersion(const std::string &path, std::int32_t version);
 /// one on, have made of it, and SQLite::Exception.
 void checkSchema(const std::string &path, SQLite::Database &database, const SchemaSteps &steps);
 
+/// Whether it lacks steps that are known here; to be asked of one that is a store.
+bool isOutdated(SQLite::Database &database, const SchemaSteps &steps);
+
 /// Takes the steps that the database still lacks, all or none. Throws
 /// StoreFailure if it is somebody else's, newer, or holds what no step has made,
 /// SQLite::Exception.

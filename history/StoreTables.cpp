@@ -31,6 +31,37 @@ void addProblem(Examination &result, const AnyConnection &connection)
     }
 }
 
+void addHoursProblem(Examination &result, HourTable &hours, std::int64_t key)
+{
+    if (!hours.addUp(key))
+        result.problems.push_back("Key " + std::to_string(key) +
+                                  ": Its hours do not add up to its byte counts.");
+}
+
+StoreFailure wrongHours(const std::string &path)
+{
+    return {StoreError::Kind::BadRecord,
+            "The hours of the connection do not add up to its byte counts; nothing was changed "
+            "in " +
+                historyAt(path) + "."};
+}
+
+ConnectionHour hourIn(const Row &row)
+{
+    ConnectionHour hour;
+    hour.key = row.integer(0);
+    hour.isOpen = row.integer(1) != 0;
+    hour.profile = row.text(2);
+    hour.operatorName = row.text(3);
+    hour.operatorCode = row.text(4);
+    hour.sim = row.text(5);
+    hour.utc = row.integer(6);
+    hour.isRoaming = row.integer(7) != 0;
+    hour.uploadedBytes = row.integer(8);
+    hour.downloadedBytes = row.integer(9);
+    return hour;
+}
+
 } // namespace
 
 StoreFailure noSuchRecord(const std::string &path, std::int64_t key)
@@ -46,14 +77,43 @@ StoreTables::StoreTables(SQLite::Database &database, std::string path)
     , seenLinks(database)
     , origins(database)
     , m_database(database)
+    , m_hours(database, "connection")
+    , m_openHours(database, "open_connection")
     , m_path(std::move(path))
 {
+}
+
+std::int64_t StoreTables::insert(const Connection &connection)
+{
+    const std::int64_t key = connections.insert(connection);
+    writeHours(m_hours, key, connection.hours);
+    return key;
+}
+
+std::size_t StoreTables::insertMissing(const std::vector<Connection> &given,
+                                       const Store::Progress &progress)
+{
+    return connections.insertMissing(
+        given, [this](const Connection &missing) { insert(missing); }, progress);
+}
+
+Store::Merged StoreTables::merge(const std::vector<Connection> &given,
+                                 const Store::Completion &complete, const Store::Progress &progress)
+{
+    return connections.merge(
+        given, [this](const Connection &missing) { insert(missing); }, complete, progress);
+}
+
+bool StoreTables::remove(std::int64_t key)
+{
+    m_hours.remove(key);
+    return connections.remove(key);
 }
 
 std::size_t StoreTables::remove(const std::vector<std::int64_t> &keys)
 {
     for (const std::int64_t key : keys) {
-        if (!connections.remove(key))
+        if (!remove(key))
             throw noSuchRecord(m_path, key);
     }
     return keys.size();
@@ -70,12 +130,35 @@ std::vector<Totals> StoreTables::totals(const TimeRange &range, Store::Profiles 
     return sum.groups();
 }
 
+std::vector<ConnectionHour> StoreTables::hours(const TimeRange &range)
+{
+    RowQuery query(m_database, m_hours.selection(false) + " UNION ALL " +
+                                   m_openHours.selection(true) + " ORDER BY utc, 2, 1, 8");
+    query.bind(1, range.fromUtc);
+    query.bind(2, range.untilUtc);
+    std::vector<ConnectionHour> hours;
+    while (query.next())
+        hours.push_back(hourIn(query.row()));
+    return hours;
+}
+
+std::vector<OpenConnection> StoreTables::listOpen()
+{
+    std::vector<OpenConnection> open = openConnections.all();
+    for (OpenConnection &each : open)
+        each.hours = m_openHours.of(each.key);
+    return open;
+}
+
 OpenConnection StoreTables::begin(const OpenConnection &connection)
 {
-    if (auto earlier = openConnections.find(connection.bootId, connection.interfaceIndex))
+    if (auto earlier = openConnections.find(connection.bootId, connection.interfaceIndex)) {
+        earlier->hours = m_openHours.of(earlier->key);
         return *std::move(earlier);
+    }
     OpenConnection stored = connection;
     stored.key = openConnections.insert(connection);
+    writeHours(m_openHours, stored.key, stored.hours);
     keepSeen(connection);
     return stored;
 }
@@ -84,6 +167,7 @@ std::int64_t StoreTables::checkpoint(const OpenConnection &connection, const std
 {
     if (!openConnections.update(connection))
         throw noSuchOpenConnection(m_path, connection.key);
+    writeHours(m_openHours, connection.key, connection.hours);
     keepSeen(connection);
     keepOrigin(origin);
     return connection.key;
@@ -97,19 +181,31 @@ std::int64_t StoreTables::finish(const OpenConnection &open, const Connection &c
     if (!wasOpen && connections.holds(connection.interfaceName, connection.startUtc))
         return 0;
     keepSeen(open);
-    return connections.insert(connection);
+    const std::int64_t key = connections.insert(connection);
+    if (wasOpen)
+        m_hours.takeOver(m_openHours, open.key, key);
+    writeHours(m_hours, key, connection.hours);
+    return key;
 }
 
 std::size_t StoreTables::see(const std::vector<SeenLink> &links,
                              const std::vector<Connection> &unwatched)
 {
     for (const Connection &each : unwatched)
-        connections.insert(each);
+        insert(each);
     for (const SeenLink &link : links) {
         seenLinks.replace(link);
         seenLinks.removeOthersOfTheName(link);
     }
     return unwatched.size();
+}
+
+void StoreTables::writeHours(HourTable &table, std::int64_t key,
+                             const std::vector<HourlyBytes> &hours)
+{
+    table.replace(key, hours);
+    if (!table.addUp(key))
+        throw wrongHours(m_path);
 }
 
 void StoreTables::keepSeen(const OpenConnection &connection)
@@ -135,11 +231,14 @@ Examination StoreTables::examine()
     Examination result{damagesOf(m_database), 0, 0};
     const std::vector<OpenConnection> open = openConnections.all();
     result.openConnections = open.size();
-    for (const OpenConnection &connection : open)
+    for (const OpenConnection &connection : open) {
         addProblem(result, connection);
+        addHoursProblem(result, m_openHours, connection.key);
+    }
     connections.visit(TimeRange(), [&](const ConnectionRow &row) {
         ++result.connections;
         addProblem(result, row.toConnection());
+        addHoursProblem(result, m_hours, row.key());
     });
     return result;
 }

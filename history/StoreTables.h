@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ConnectionTable.h"
+#include "HourTable.h"
 #include "OpenConnectionTable.h"
 #include "RecorderTables.h"
 #include "Store.h"
@@ -29,9 +30,17 @@ public:
     SeenLinkTable seenLinks;
     OriginTable origins;
 
+    std::int64_t insert(const Connection &connection);
+    std::size_t insertMissing(const std::vector<Connection> &given,
+                              const Store::Progress &progress);
+    Store::Merged merge(const std::vector<Connection> &given, const Store::Completion &complete,
+                        const Store::Progress &progress);
+    bool remove(std::int64_t key);
     std::size_t remove(const std::vector<std::int64_t> &keys);
     std::vector<Totals> totals(const TimeRange &range, Store::Profiles profiles,
                                const Store::PeriodOf &periodOf);
+    std::vector<ConnectionHour> hours(const TimeRange &range);
+    std::vector<OpenConnection> listOpen();
     OpenConnection begin(const OpenConnection &connection);
     std::int64_t checkpoint(const OpenConnection &connection, const std::string &origin);
     std::int64_t finish(const OpenConnection &open, const Connection &connection,
@@ -45,7 +54,11 @@ private:
     void keepSeen(const OpenConnection &connection);
     void keepOrigin(const std::string &origin);
 
+    void writeHours(HourTable &table, std::int64_t key, const std::vector<HourlyBytes> &hours);
+
     SQLite::Database &m_database;
+    HourTable m_hours;
+    HourTable m_openHours;
     std::string m_path;
 };
 

@@ -28,6 +28,13 @@ QString cellText(kind::Text /*kind*/, const std::string &name)
     return nameText(name);
 }
 
+/// Enough to tell one's cards apart; the whole number is nobody else's business.
+QString cellText(kind::Sim /*kind*/, const std::string &number)
+{
+    constexpr int shownDigits = 4;
+    return nameText(number).right(shownDigits);
+}
+
 QString cellText(kind::Time /*kind*/, std::int64_t utc)
 {
     return usage::localText(utc);
@@ -56,6 +63,8 @@ std::vector<TextTable::Column> columns()
 {
     std::vector<TextTable::Column> columns = {{QStringLiteral("KEY"), Alignment::Right}};
     forEachField(connectionFields, [&](const auto &field) {
+        if (!field.heading)
+            return;
         constexpr bool isAmount = std::is_base_of_v<kind::Amount, KindOf<decltype(field)>>;
         columns.push_back(
             {QLatin1String(field.heading), isAmount ? Alignment::Right : Alignment::Left});
@@ -67,7 +76,8 @@ std::vector<QString> cells(const history::Connection &connection)
 {
     std::vector<QString> cells = {QString::number(connection.key)};
     forEachField(connectionFields, [&](const auto &field) {
-        cells.push_back(cellText(KindOf<decltype(field)>(), connection.*field.member));
+        if (field.heading)
+            cells.push_back(cellText(KindOf<decltype(field)>(), connection.*field.member));
     });
     return cells;
 }

@@ -105,7 +105,7 @@ history::Result<std::int64_t> StatisticsSession::removeRecord(int index)
             if (!(store.file() == m_listedFile))
                 throw noSuchRecord(path, "is not the one whose list was handed out; nothing was "
                                          "removed, fetch the list again.");
-            return tables.connections.remove(key);
+            return tables.remove(key);
         });
         // Not before: the removal stands only when it is committed.
         m_numbering->markGone(place);

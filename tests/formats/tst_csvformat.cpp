@@ -2,6 +2,7 @@
 #include "formats/CsvFormat.h"
 #include "formats/CsvReader.h"
 #include "formats/LineReader.h"
+#include "history/ConnectionFields.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -24,6 +25,7 @@ private slots:
     void passesOverBlankLinesAtTheEnd();
     void tellsWhatIsWrongWithALine_data();
     void tellsWhatIsWrongWithALine();
+    void tellsARoamingThatIsNone();
     void tellsAWrongHeader_data();
     void tellsAWrongHeader();
 };
@@ -31,8 +33,11 @@ private slots:
 namespace
 {
 
-const QByteArray header = "profile,start,end,connected_seconds,uploaded_bytes,downloaded_bytes,"
-                          "ending,interface\n";
+/// Of a file as earlier versions wrote it, without who a connection belongs to.
+const QByteArray earlierHeader =
+    "profile,start,end,connected_seconds,uploaded_bytes,downloaded_bytes,ending,interface\n";
+const QByteArray header =
+    earlierHeader.trimmed() + ",operator,operator_code,sim,roaming,technology\n";
 
 history::Connection sample()
 {
@@ -77,9 +82,9 @@ void CsvFormatTest::writesAHeaderAndOneRowForEachConnection()
     QCOMPARE(toCsv({}), header);
     QCOMPARE(toCsv({sample(), quoted}),
              header + "internet.example,2024-05-31T18:30:00Z,2024-05-31T19:30:00Z,3590,31981,"
-                      "20722,normal,ppp0\n"
+                      "20722,normal,ppp0,,,,,\n"
                       "\"a \"\"b\"\", c\",2024-05-31T18:30:00Z,2024-05-31T19:30:00Z,3590,31981,"
-                      "20722,normal,ppp0\n");
+                      "20722,normal,ppp0,,,,,\n");
 }
 
 void CsvFormatTest::readsBackWhatItHasWritten_data()
@@ -114,25 +119,23 @@ void CsvFormatTest::readsBackWhatItHasWritten()
     connection.downloadedBytes = number;
     connection.ending = std::string(31, ',');
     connection.interfaceName = "";
+    connection.operatorName = std::string(255, '"');
+    connection.operatorCode = "26201";
+    connection.sim = "89490200001234567890";
+    connection.roaming = history::abroad;
+    connection.technology = "lte";
 
     const std::vector<history::Connection> read = readBack(toCsv({connection, sample()}));
     QCOMPARE(read.size(), std::size_t(2));
     QCOMPARE(read[0].key, std::int64_t(0));
-    QCOMPARE(read[0].profile, connection.profile);
-    QCOMPARE(read[0].startUtc, connection.startUtc);
-    QCOMPARE(read[0].endUtc, connection.endUtc);
-    QCOMPARE(read[0].connectedSeconds, connection.connectedSeconds);
-    QCOMPARE(read[0].uploadedBytes, connection.uploadedBytes);
-    QCOMPARE(read[0].downloadedBytes, connection.downloadedBytes);
-    QCOMPARE(read[0].ending, connection.ending);
-    QCOMPARE(read[0].interfaceName, connection.interfaceName);
+    QVERIFY(history::hasSameContents(read[0], connection));
     QCOMPARE(read[1].profile, sample().profile);
 }
 
 void CsvFormatTest::readsTimesInOtherZones()
 {
     const auto read =
-        readBack(header + "x,2024-05-31T20:30:00+02:00,2024-05-31T21:30:00,1,2,3,normal,\n");
+        readBack(earlierHeader + "x,2024-05-31T20:30:00+02:00,2024-05-31T21:30:00,1,2,3,normal,\n");
     QCOMPARE(read.at(0).startUtc, std::int64_t(1717180200));
     QCOMPARE(read.at(0).endUtc, std::int64_t(1717183800));
 }
@@ -154,7 +157,7 @@ void CsvFormatTest::passesOverBlankLinesAtTheEnd()
     QCOMPARE(readBack(header + end).size(), std::size_t(0));
     const QString error =
         errorOf(toCsv({sample()}) + "\n\n" + toCsv({sample()}).mid(header.size()));
-    QCOMPARE(error, QString("3 start: the line has 1 columns and should have 8"));
+    QCOMPARE(error, QString("3 start: the line has 1 columns and should have 13"));
 }
 
 void CsvFormatTest::tellsWhatIsWrongWithALine_data()
@@ -166,7 +169,7 @@ void CsvFormatTest::tellsWhatIsWrongWithALine_data()
     QTest::newRow("a column too few") << start + "1,2,3,normal"
                                       << "3 interface: the line has 7 columns and should have 8";
     QTest::newRow("a column too many") << start + "1,2,3,normal,ppp0,more"
-                                       << "3 9: the line has more than 8 columns";
+                                       << "3 operator: the line has 9 columns and should have 8";
     QTest::newRow("an empty line")
         << QByteArray() << "3 start: the line has 1 columns and should have 8";
     QTest::newRow("a number with letters") << start + "1,2a,3,normal,"
@@ -219,8 +222,14 @@ void CsvFormatTest::tellsWhatIsWrongWithALine()
 {
     QFETCH(QByteArray, line);
     QFETCH(QString, error);
-    const QByteArray goodLine = toCsv({sample()}).mid(header.size());
-    QCOMPARE(errorOf(header + goodLine + line + '\n' + goodLine), error);
+    const QByteArray goodLine = toCsv({sample()}).mid(header.size()).replace(",,,,,\n", "\n");
+    QCOMPARE(errorOf(earlierHeader + goodLine + line + '\n' + goodLine), error);
+}
+
+void CsvFormatTest::tellsARoamingThatIsNone()
+{
+    QCOMPARE(errorOf(toCsv({sample()}).replace("ppp0,,,,,", "ppp0,,,,Home,")),
+             QString("2 roaming: \"Home\" is neither \"home\" nor \"roaming\" nor empty"));
 }
 
 void CsvFormatTest::tellsAWrongHeader_data()
@@ -236,7 +245,9 @@ void CsvFormatTest::tellsAWrongHeader_data()
     QTest::newRow("columns in another order")
         << QByteArray(header).replace("start,end", "end,start") << "1 start:";
     QTest::newRow("a column more")
-        << QByteArray(header).replace("interface", "interface,x") << "1 9:";
+        << QByteArray(header).replace("technology", "technology,x") << "1 14:";
+    QTest::newRow("a later column by another name")
+        << QByteArray(header).replace("roaming", "abroad") << "1 roaming:";
     QTest::newRow("binary contents") << QByteArray("\0\xFF\0\xFF", 4) << "1 profile:";
 }
 

@@ -207,7 +207,7 @@ void StoreFileTest::marksItsFile()
     makeStore(m_path);
     const QByteArray contents = contentsOf(m_path);
     QCOMPARE(contents.mid(68, 4), QByteArray("RDCH"));
-    QCOMPARE(contents.mid(60, 4), QByteArray("\0\0\0\4", 4));
+    QCOMPARE(contents.mid(60, 4), QByteArray("\0\0\0\5", 4));
 }
 
 void StoreFileTest::isWholeBeforeItsLog_data()

@@ -51,9 +51,9 @@ QByteArray readFile(const QString &path)
 QByteArray csvOf(int count)
 {
     QByteArray csv = "profile,start,end,connected_seconds,uploaded_bytes,downloaded_bytes,"
-                     "ending,interface\n";
+                     "ending,interface,operator,operator_code,sim,roaming,technology\n";
     for (int i = 0; i < count; ++i)
         csv += "internet.example,2024-05-31T18:30:00Z,2024-05-31T19:30:00Z,3600," +
-               QByteArray::number(i) + ",20722,normal,ppp0\n";
+               QByteArray::number(i) + ",20722,normal,ppp0,,,,,\n";
     return csv;
 }

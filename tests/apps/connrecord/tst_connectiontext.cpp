@@ -20,6 +20,7 @@ class ConnectionTextTest : public QObject
 private slots:
     void givesTheHeaderAloneWithoutConnections();
     void alignsTheColumns();
+    void showsTheEndOfASimAlone();
     void keepsEachConnectionOnOneLine();
     void alignsWideCharacters();
     void writesExactIntegers_data();
@@ -49,7 +50,7 @@ Connection sample()
 void ConnectionTextTest::givesTheHeaderAloneWithoutConnections()
 {
     QCOMPARE(toTable({}), QByteArray("KEY  PROFILE  START  END  CONNECTED  UPLOADED  DOWNLOADED  "
-                                     "ENDING  INTERFACE\n"));
+                                     "ENDING  INTERFACE  OPERATOR  SIM  ROAMING\n"));
     QCOMPARE(jsonText(toJson(std::vector<Connection>())), QByteArray("[]\n"));
 }
 
@@ -64,11 +65,28 @@ void ConnectionTextTest::alignsTheColumns()
     QCOMPARE(
         toTable({other, sample()}),
         QByteArray("KEY  PROFILE           START                END                  CONNECTED  "
-                   "UPLOADED  DOWNLOADED  ENDING  INTERFACE\n"
+                   "UPLOADED  DOWNLOADED  ENDING  INTERFACE  OPERATOR  SIM  ROAMING\n"
                    "  3  a                 2024-05-31 20:30:00  2024-05-31 21:30:00  100:00:00   "
                    "5.00 GB     0.50 KB  normal\n"
                    " 12  internet.example  2024-05-31 20:30:00  2024-05-31 21:30:00   00:59:50  "
                    "31.23 KB     0.50 KB  normal  ppp0\n"));
+}
+
+void ConnectionTextTest::showsTheEndOfASimAlone()
+{
+    Connection known = sample();
+    known.operatorName = "Operator";
+    known.operatorCode = "26201";
+    known.sim = "89490200001234567890";
+    known.roaming = history::abroad;
+    known.technology = "lte";
+    const QByteArray table = toTable({known});
+    QVERIFY2(table.endsWith("ppp0       Operator  7890  roaming\n"), table.constData());
+    const QByteArray json = jsonText(toJson({known}));
+    for (const char *const value : {"\"operator\": \"Operator\"", "\"operator_code\": \"26201\"",
+                                    "\"sim\": \"89490200001234567890\"", "\"roaming\": \"roaming\"",
+                                    "\"technology\": \"lte\""})
+        QVERIFY2(json.contains(value), value);
 }
 
 void ConnectionTextTest::keepsEachConnectionOnOneLine()
@@ -123,7 +141,12 @@ void ConnectionTextTest::writesEveryFieldAsJson()
                                   {"uploaded_bytes", 31981},
                                   {"downloaded_bytes", 512},
                                   {"ending", "normal"},
-                                  {"interface", "ppp0"}};
+                                  {"interface", "ppp0"},
+                                  {"operator", ""},
+                                  {"operator_code", ""},
+                                  {"sim", ""},
+                                  {"roaming", ""},
+                                  {"technology", ""}};
     QCOMPARE(QJsonDocument::fromJson(json).array(), QJsonArray{expected});
 }
 

@@ -94,7 +94,7 @@ void ConnrecordTest::listsAStoreThatDoesNotExistAsEmpty_data()
 
     QTest::newRow("list") << QStringList{"list"}
                           << QByteArray("KEY  PROFILE  START  END  CONNECTED  UPLOADED  "
-                                        "DOWNLOADED  ENDING  INTERFACE\n");
+                                        "DOWNLOADED  ENDING  INTERFACE  OPERATOR  SIM  ROAMING\n");
     QTest::newRow("list as JSON") << QStringList{"list", "--json"} << QByteArray("[]\n");
     QTest::newRow("export") << QStringList{"export"} << csvOf(0);
     QTest::newRow("export as JSON") << QStringList{"export", "--json"} << QByteArray("[]\n");
@@ -147,7 +147,12 @@ void ConnrecordTest::addsAndListsAConnection()
                                  {"uploaded_bytes", 31981},
                                  {"downloaded_bytes", 20722},
                                  {"ending", "normal"},
-                                 {"interface", "ppp0"}}));
+                                 {"interface", "ppp0"},
+                                 {"operator", ""},
+                                 {"operator_code", ""},
+                                 {"sim", ""},
+                                 {"roaming", ""},
+                                 {"technology", ""}}));
     const QByteArray row = run({"list"}).output.split('\n').at(1);
     QCOMPARE(row, QByteArray("  1  internet.example  2024-05-31 20:30:00  2024-05-31 21:30:00   "
                              "00:59:50  31.23 KB    20.24 KB  normal  ppp0"));

@@ -136,7 +136,7 @@ void ConnrecordCsvTest::readsStandardInput()
 void ConnrecordCsvTest::tellsTheWrongLineAndStoresNothing()
 {
     const QString path = m_folder->filePath("history.csv");
-    writeFile(path, csvOf(2) + "x,2024-05-31T18:30:00Z,2024-05-31T19:30:00Z,1,-2,3,normal,\n");
+    writeFile(path, csvOf(2) + "x,2024-05-31T18:30:00Z,2024-05-31T19:30:00Z,1,-2,3,normal,,,,,,\n");
     const ConnrecordRun result =
         connrecord({"--store", m_store, "import", "--format", "csv", path});
     QCOMPARE(result.exitCode, 4);

@@ -188,8 +188,9 @@ void ConnrecordLogFilesTest::readsTheJournal()
     QCOMPARE(m_log->import("-", {}, log).exitCode, 0);
     QCOMPARE(m_log->exported(),
              QByteArray("profile,start,end,connected_seconds,uploaded_bytes,downloaded_bytes,"
-                        "ending,interface\ninternet.example,2023-11-10T16:02:10Z,"
-                        "2023-11-10T16:03:09Z,60,7,8,modem hangup,ppp0\n"));
+                        "ending,interface,operator,operator_code,sim,roaming,technology\ninternet."
+                        "example,2023-11-10T16:02:10Z,"
+                        "2023-11-10T16:03:09Z,60,7,8,modem hangup,ppp0,,,,,\n"));
 }
 
 void ConnrecordLogFilesTest::survivesABrokenJournal()

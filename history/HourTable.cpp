@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "HourTable.h"
+
+#include "RowQuery.h"
+
+#include <SQLiteCpp/Column.h>
+#include <SQLiteCpp/Database.h>
+
+namespace history
+{
+
+namespace
+{
+
+constexpr const char *values = "hour_utc, is_roaming, uploaded_bytes, downloaded_bytes";
+
+} // namespace
+
+HourTable::HourTable(SQLite::Database &database, std::string connections)
+    : m_database(database)
+    , m_connections(std::move(connections))
+    , m_hours(m_connections + "_hour")
+{
+}
+
+std::vector<HourlyBytes> HourTable::of(std::int64_t key)
+{
+    RowQuery query(m_database, std::string("SELECT ") + values + " FROM " + m_hours +
+                                   " WHERE connection = ? ORDER BY hour_utc, is_roaming");
+    query.bind(1, key);
+    std::vector<HourlyBytes> hours;
+    while (query.next()) {
+        const Row row = query.row();
+        hours.push_back({row.integer(0), row.integer(1) != 0, row.integer(2), row.integer(3)});
+    }
+    return hours;
+}
+
+void HourTable::replace(std::int64_t key, const std::vector<HourlyBytes> &hours)
+{
+    if (hours.empty())
+        return;
+    if (!m_replacement)
+        m_replacement.emplace(m_database, "INSERT OR REPLACE INTO " + m_hours + " (connection, " +
+                                              values + ") VALUES (?, ?, ?, ?, ?)");
+    for (const HourlyBytes &each : hours) {
+        m_replacement->tryReset();
+        m_replacement->bind(1, key);
+        m_replacement->bind(2, each.hourUtc);
+        m_replacement->bind(3, each.isRoaming ? 1 : 0);
+        m_replacement->bind(4, each.uploadedBytes);
+        m_replacement->bind(5, each.downloadedBytes);
+        m_replacement->exec();
+    }
+}
+
+void HourTable::remove(std::int64_t key)
+{
+    SQLite::Statement statement(m_database, "DELETE FROM " + m_hours + " WHERE connection = ?");
+    statement.bind(1, key);
+    statement.exec();
+}
+
+void HourTable::takeOver(HourTable &other, std::int64_t from, std::int64_t to)
+{
+    SQLite::Statement statement(m_database, "INSERT INTO " + m_hours + " (connection, " + values +
+                                                ") SELECT ?, " + values + " FROM " + other.m_hours +
+                                                " WHERE connection = ?");
+    statement.bind(1, to);
+    statement.bind(2, from);
+    statement.exec();
+    other.remove(from);
+}
+
+bool HourTable::addUp(std::int64_t key)
+{
+    // A sum that does not fit is an error of SQLite's; total() would be a float.
+    if (!m_comparison)
+        m_comparison.emplace(m_database,
+                             "SELECT count(*) = 0 OR (sum(h.uploaded_bytes) = c.uploaded_bytes"
+                             " AND sum(h.downloaded_bytes) = c.downloaded_bytes) FROM " +
+                                 m_hours + " h JOIN " + m_connections +
+                                 " c ON c.key = h.connection WHERE h.connection = ?");
+    m_comparison->tryReset();
+    m_comparison->bind(1, key);
+    m_comparison->executeStep();
+    const bool isRight = m_comparison->getColumn(0).getInt() != 0;
+    m_comparison->tryReset(); // one that is being read holds its transaction open
+    return isRight;
+}
+
+std::string HourTable::selection(bool isOpen) const
+{
+    const std::string whose = std::string("SELECT c.key, ") + (isOpen ? "1" : "0") +
+                              ", profile, operator_name, operator_code, sim, ";
+    return whose + "hour_utc AS utc, is_roaming, h.uploaded_bytes, h.downloaded_bytes FROM " +
+           m_hours + " h JOIN " + m_connections +
+           " c ON c.key = h.connection WHERE hour_utc >= ?1 AND hour_utc < ?2 UNION ALL " + whose +
+           "start_utc, 0, uploaded_bytes, downloaded_bytes FROM " + m_connections +
+           " c WHERE start_utc >= ?1 AND start_utc < ?2 AND NOT EXISTS (SELECT 1 FROM " + m_hours +
+           " WHERE connection = c.key)";
+}
+
+} // namespace history
