@@ -30,20 +30,4 @@ doxygen docs/Doxyfile
 
 cmake --preset style >/dev/null
 
-# A file that has not changed since it was last found clean is not asked again.
-clean=$build/tidy
-mkdir -p "$clean"
-check() {
-    local file=$1 build=$2 stamp
-    stamp=$2/tidy/${file//\//_}
-    if [ -f "$stamp" ] && [ -z "$(find "$file" .clang-tidy host src refhost history usage formats recorder modem apps tests examples \
-        -name '*.h' -newer "$stamp" -print -quit; find "$file" .clang-tidy -newer "$stamp")" ]; then
-        return 0
-    fi
-    clang-tidy --quiet -p "$build" "$file" 2>/dev/null && touch "$stamp"
-}
-export -f check
-# The longest first, so that no processor waits for it at the end.
-git ls-files 'src/*.cpp' 'refhost/*.cpp' 'history/*.cpp' 'usage/*.cpp' 'formats/*.cpp' 'recorder/*.cpp' 'modem/*.cpp' 'apps/*.cpp' 'examples/*.cpp' |
-    xargs ls -S |
-    xargs -P "$(nproc)" -I{} bash -c 'check "$@"' check {} "$build"
+scripts/tidy.py $build src refhost history usage formats recorder modem apps examples
