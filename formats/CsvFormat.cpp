@@ -81,47 +81,6 @@ std::string line(const history::Connection &connection)
     return line + '\n';
 }
 
-// The value that a text stands for, of at most `maximum`. Of `connection`, the fields
-// before it have been read. They throw FieldError.
-
-std::string parsed(kind::Text /*kind*/, const std::string &text, std::int64_t maximum,
-                   const history::Connection & /*connection*/)
-{
-    if (text.size() > static_cast<std::size_t>(maximum))
-        throw FieldError{"the text has " + std::to_string(text.size()) + " bytes, at most " +
-                             std::to_string(maximum) + " are allowed",
-                         false};
-    return text;
-}
-
-std::string parsed(kind::Roaming /*kind*/, const std::string &text, std::int64_t /*maximum*/,
-                   const history::Connection & /*connection*/)
-{
-    if (!history::isRoamingText(text))
-        throw FieldError{'"' + printable(text) + "\" is neither \"" + history::atHome +
-                             "\" nor \"" + history::abroad + "\" nor empty",
-                         true};
-    return text;
-}
-
-std::int64_t parsed(kind::StartTime /*kind*/, const std::string &text, std::int64_t /*maximum*/,
-                    const history::Connection & /*connection*/)
-{
-    return fieldTime(text);
-}
-
-std::int64_t parsed(kind::EndTime /*kind*/, const std::string &text, std::int64_t /*maximum*/,
-                    const history::Connection &connection)
-{
-    return fieldEnd(text, connection.startUtc);
-}
-
-std::int64_t parsed(kind::Amount /*kind*/, const std::string &text, std::int64_t maximum,
-                    const history::Connection & /*connection*/)
-{
-    return fieldNumber(text, maximum);
-}
-
 /// One row of a file on its way to a connection.
 class RowReader
 {
@@ -156,8 +115,8 @@ history::Connection RowReader::connection() const
         forEachField(connectionFields, [&](const auto &field) {
             if (column == m_columns)
                 return;
-            connection.*field.member =
-                parsed(KindOf<decltype(field)>(), m_row[column].text, field.maximum, connection);
+            connection.*field.member = parsedValue(KindOf<decltype(field)>(), m_row[column].text,
+                                                   field.maximum, connection);
             ++column;
         });
     } catch (const FieldError &error) {

@@ -63,4 +63,42 @@ QDate fieldDay(const std::string &text)
     return date;
 }
 
+std::string parsedValue(history::kind::Text /*kind*/, const std::string &text, std::int64_t maximum,
+                        const history::Connection & /*connection*/)
+{
+    if (text.size() > static_cast<std::size_t>(maximum))
+        throw FieldError{"the text has " + std::to_string(text.size()) + " bytes, at most " +
+                             std::to_string(maximum) + " are allowed",
+                         false};
+    return text;
+}
+
+std::string parsedValue(history::kind::Roaming /*kind*/, const std::string &text,
+                        std::int64_t /*maximum*/, const history::Connection & /*connection*/)
+{
+    if (!history::isRoamingText(text))
+        throw FieldError{'"' + printable(text) + "\" is neither \"" + history::atHome +
+                             "\" nor \"" + history::abroad + "\" nor empty",
+                         true};
+    return text;
+}
+
+std::int64_t parsedValue(history::kind::StartTime /*kind*/, const std::string &text,
+                         std::int64_t /*maximum*/, const history::Connection & /*connection*/)
+{
+    return fieldTime(text);
+}
+
+std::int64_t parsedValue(history::kind::EndTime /*kind*/, const std::string &text,
+                         std::int64_t /*maximum*/, const history::Connection &connection)
+{
+    return fieldEnd(text, connection.startUtc);
+}
+
+std::int64_t parsedValue(history::kind::Amount /*kind*/, const std::string &text,
+                         std::int64_t maximum, const history::Connection & /*connection*/)
+{
+    return fieldNumber(text, maximum);
+}
+
 } // namespace formats

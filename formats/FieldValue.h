@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "history/ConnectionFields.h"
+
 #include <QDate>
 
 #include <cstdint>
@@ -27,5 +29,18 @@ std::int64_t fieldEnd(const std::string &text, std::int64_t startUtc);
 
 /// A day of the calendar as yyyy-MM-dd.
 QDate fieldDay(const std::string &text);
+
+/// The value of a connection's field of that kind, of at most `maximum`. Of `connection`, the
+/// fields before it have been read.
+std::string parsedValue(history::kind::Text /*kind*/, const std::string &text, std::int64_t maximum,
+                        const history::Connection & /*connection*/);
+std::string parsedValue(history::kind::Roaming /*kind*/, const std::string &text,
+                        std::int64_t /*maximum*/, const history::Connection & /*connection*/);
+std::int64_t parsedValue(history::kind::StartTime /*kind*/, const std::string &text,
+                         std::int64_t /*maximum*/, const history::Connection & /*connection*/);
+std::int64_t parsedValue(history::kind::EndTime /*kind*/, const std::string &text,
+                         std::int64_t /*maximum*/, const history::Connection &connection);
+std::int64_t parsedValue(history::kind::Amount /*kind*/, const std::string &text,
+                         std::int64_t maximum, const history::Connection & /*connection*/);
 
 } // namespace formats

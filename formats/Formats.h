@@ -2,10 +2,12 @@
 #pragma once
 
 #include "ImportReader.h"
+#include "JsonFormat.h"
 
 #include <array>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace formats
 {
@@ -19,9 +21,23 @@ struct ImportFormat {
     std::unique_ptr<ImportReader> (*reader)(const ImportOptions &options);
 };
 
-constexpr std::array<ImportFormat, 2> importFormats = {{
+constexpr std::array<ImportFormat, 3> importFormats = {{
     {"csv", "a file such as export writes", false, csvImport},
+    {"json", "a file such as export writes with the same format", false, jsonImport},
     {"pppd", "a system log with messages of pppd", true, pppdImport},
+}};
+
+/// A kind of file that can be exported.
+struct ExportFormat {
+    const char *name;
+    const char *help;
+    bool breaksLines; ///< a text with line breaks is on several lines
+    QByteArray (*text)(const std::vector<history::Connection> &connections);
+};
+
+constexpr std::array<ExportFormat, 2> exportFormats = {{
+    {"csv", "a table, without the bytes by the hour", true, toCsv},
+    {"json", "for programs, with the bytes by the hour", false, toJsonText},
 }};
 
 /// The table's row of that name; null if there is none.

@@ -49,6 +49,8 @@ public:
 
 /// Of tables as export writes them.
 std::unique_ptr<ImportReader> csvImport(const ImportOptions &options);
+/// Of connections as JSON.
+std::unique_ptr<ImportReader> jsonImport(const ImportOptions &options);
 /// Of system logs, several of which are one in the order of their time.
 std::unique_ptr<ImportReader> pppdImport(const ImportOptions &options);
 

@@ -11,6 +11,7 @@
 #include "RecordCommand.h"
 #include "RemoveCommand.h"
 #include "TotalsCommand.h"
+#include "TotalsText.h"
 #include "UpkeepCommands.h"
 #include "formats/InputError.h"
 #include "history/Store.h"
@@ -75,15 +76,13 @@ std::string checkFileName(const std::string &name)
     return name.empty() ? "the name of the file is empty" : std::string();
 }
 
-TotalsGroups groupsNamed(const std::string &names)
+usage::Grouping groupingNamed(const std::string &names)
 {
-    if (names == "profile")
-        return {true, false};
-    if (names == "month")
-        return {false, true};
-    if (names == "profile,month" || names == "month,profile")
-        return {true, true};
-    throw CLI::ValidationError("--by", "it is profile, month or profile,month, not " + names);
+    if (const auto grouping = groupingOf(names))
+        return *grouping;
+    throw CLI::ValidationError("--by", "it is profile, sim, operator, roaming and one of hour, "
+                                       "day, month and year, separated by commas, not " +
+                                           names);
 }
 
 std::string checkName(const std::string &name)
@@ -123,7 +122,8 @@ private:
     AddRequest m_add;
     SelectionRequest m_selection;
     RemoveRequest m_removal;
-    std::string m_outputPath = standardOutputPath;
+    ExportRequest m_export{{}, &formats::exportFormats.front(), standardOutputPath};
+    std::string m_copyPath;
     ImportRequest m_import;
     TotalsRequest m_totals;
     RecordRequest m_record;
@@ -205,8 +205,7 @@ CLI::App *CommandLine::addCommandWithoutResult(const char *name, const char *des
 
 void CommandLine::addDays(CLI::App *command, DaysRequest &days)
 {
-    command
-        ->add_option("--from", days.from, "First day, as 2024-05-31, in local time; by the start")
+    command->add_option("--from", days.from, "First day, as 2024-05-31, in local time")
         ->type_name("DATE");
     command->add_option("--to", days.to, "Last day, itself included")->type_name("DATE");
 }
@@ -216,6 +215,8 @@ void CommandLine::addSelection(CLI::App *command)
     addDays(command, m_selection.days);
     command->add_option("--profile", m_selection.profile, "Of this profile (APN) only")
         ->type_name("NAME");
+    command->add_option("--sim", m_selection.sim, "Of the SIM whose number ends so only")
+        ->type_name("NUMBER");
     command->add_option("--limit", m_selection.limit, "That many at most, those that started last")
         ->type_name("NUMBER");
 }
@@ -264,13 +265,26 @@ void CommandLine::addRemove()
 
 void CommandLine::addExport()
 {
-    CLI::App *const command = addCommand("export", "Write connections as CSV");
+    CLI::App *const command = addCommand("export", "Write connections to a file");
     addSelection(command);
-    command->add_option("--output", m_outputPath, "Write to this file; - is standard output")
+    command
+        ->add_option_function<std::string>(
+            "--format",
+            [this](const std::string &name) {
+                m_export.format = chosenFrom(formats::exportFormats, "--format", name);
+            },
+            helpOf(formats::exportFormats) + "; csv without it, json with --json")
+        ->type_name(choiceOf(formats::exportFormats))
+        ->excludes("--json");
+    command->add_option("--output", m_export.outputPath, "Write to this file; - is standard output")
         ->type_name("FILE")
         ->check(checkFileName);
-    command->callback(
-        [this] { m_action = [this] { exportConnections(m_common, m_selection, m_outputPath); }; });
+    command->callback([this] {
+        m_export.selection = m_selection;
+        if (m_common.json)
+            m_export.format = formats::formatNamed(formats::exportFormats, "json");
+        m_action = [this] { exportConnections(m_common, m_export); };
+    });
 }
 
 void CommandLine::addImport()
@@ -305,13 +319,19 @@ void CommandLine::addImport()
 
 void CommandLine::addTotals()
 {
-    CLI::App *const command =
-        addCommand("totals", "Add up connections, each in the local month of its start");
+    CLI::App *const command = addCommand("totals", "Add up bytes, each when it was moved");
     command
         ->add_option_function<std::string>(
-            "--by", [this](const std::string &names) { m_totals.groups = groupsNamed(names); },
-            "One sum for each of these; one in all without it")
-        ->type_name("profile|month|profile,month");
+            "--by", [this](const std::string &names) { m_totals.grouping = groupingNamed(names); },
+            "One sum for each of these and their combinations: profile, sim, operator, roaming, "
+            "and hour, day, month or year; one in all without it")
+        ->type_name("WHAT,...");
+    command
+        ->add_flag("--by-start", m_totals.countsAtStart,
+                   "Count finished connections, each wholly at its start, as the window does")
+        ->disable_flag_override();
+    command->add_flag("--finished", m_totals.isOfFinished, "Leave out connections that still last")
+        ->disable_flag_override();
     addDays(command, m_totals.days);
     command->callback([this] { m_action = [this] { showTotals(m_common, m_totals); }; });
 }
@@ -320,11 +340,11 @@ void CommandLine::addBackup()
 {
     CLI::App *const command =
         addCommand("backup", "Write a whole copy into a new file, also while recording");
-    command->add_option("FILE", m_outputPath, "The new file")
+    command->add_option("FILE", m_copyPath, "The new file")
         ->type_name("")
         ->check(checkFileName)
         ->required();
-    command->callback([this] { m_action = [this] { backUp(m_common, m_outputPath); }; });
+    command->callback([this] { m_action = [this] { backUp(m_common, m_copyPath); }; });
 }
 
 void CommandLine::addCheck()

@@ -6,13 +6,14 @@
 #include "OptionValue.h"
 #include "Output.h"
 #include "StoreResult.h"
-#include "formats/CsvFormat.h"
+#include "formats/Formats.h"
 #include "formats/Utf8Text.h"
 #include "history/ConnectionFields.h"
 #include "usage/CalendarTime.h"
 
 #include <cstdint>
 #include <type_traits>
+#include <unordered_map>
 
 namespace connrecord
 {
@@ -68,6 +69,21 @@ std::vector<history::Connection> onOneLineEach(std::vector<history::Connection> 
     return connections;
 }
 
+/// A connection without hours is given as one that counts at its start: if that is a whole
+/// hour, its bytes in that hour are the same.
+void addHours(const history::Store &store, std::vector<history::Connection> &connections)
+{
+    std::unordered_map<std::int64_t, history::Connection *> withKey;
+    for (history::Connection &connection : connections)
+        withKey[connection.key] = &connection;
+    for (const history::ConnectionHour &hour : valueOrFailure(store.hours())) {
+        const auto found = hour.isOpen ? withKey.end() : withKey.find(hour.key);
+        if (found != withKey.end() && hour.utc % history::secondsPerHour == 0)
+            found->second->hours.push_back(
+                {hour.utc, hour.isRoaming, hour.uploadedBytes, hour.downloadedBytes});
+    }
+}
+
 } // namespace
 
 void listConnections(const CommonRequest &common, const SelectionRequest &selection)
@@ -78,7 +94,7 @@ void listConnections(const CommonRequest &common, const SelectionRequest &select
 void showConnections(const CommonRequest &common,
                      const std::vector<history::Connection> &connections)
 {
-    Output().write(common.json ? formats::jsonText(toJson(connections)) : toTable(connections));
+    Output().write(common.json ? formats::toJsonText(connections) : toTable(connections));
 }
 
 void addConnection(const CommonRequest &common, const AddRequest &request)
@@ -90,17 +106,15 @@ void addConnection(const CommonRequest &common, const AddRequest &request)
                                : QByteArray::number(key) + '\n');
 }
 
-void exportConnections(const CommonRequest &common, const SelectionRequest &selection,
-                       const std::string &outputPath)
+void exportConnections(const CommonRequest &common, const ExportRequest &request)
 {
-    checkIsNotOfHistory(outputPath, common.storePath);
-    Output output(outputPath);
-    const std::vector<history::Connection> connections = storedConnections(common, selection);
-    if (common.json)
-        output.write(formats::jsonText(toJson(connections)));
-    else
-        output.write(
-            formats::toCsv(output.isTerminal() ? onOneLineEach(connections) : connections));
+    checkIsNotOfHistory(request.outputPath, common.storePath);
+    Output output(request.outputPath);
+    const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
+    auto connections = selectedFrom(store, request.selection);
+    addHours(store, connections);
+    const bool needsOneLineEach = request.format->breaksLines && output.isTerminal();
+    output.write(request.format->text(needsOneLineEach ? onOneLineEach(connections) : connections));
 }
 
 } // namespace connrecord

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Selection.h"
+#include "formats/Formats.h"
 
 #include <optional>
 #include <string>
@@ -30,13 +31,17 @@ struct AddRequest {
     std::string interfaceName;
 };
 
+struct ExportRequest {
+    SelectionRequest selection;
+    const formats::ExportFormat *format = &formats::exportFormats.front();
+    std::string outputPath; ///< "-" is standard output
+};
+
 void listConnections(const CommonRequest &common, const SelectionRequest &selection);
 /// As a table, or as JSON.
 void showConnections(const CommonRequest &common,
                      const std::vector<history::Connection> &connections);
 void addConnection(const CommonRequest &common, const AddRequest &request);
-/// To the file of this name, or to standard output if it is "-".
-void exportConnections(const CommonRequest &common, const SelectionRequest &selection,
-                       const std::string &outputPath);
+void exportConnections(const CommonRequest &common, const ExportRequest &request);
 
 } // namespace connrecord

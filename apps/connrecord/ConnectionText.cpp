@@ -28,11 +28,9 @@ QString cellText(kind::Text /*kind*/, const std::string &name)
     return nameText(name);
 }
 
-/// Enough to tell one's cards apart; the whole number is nobody else's business.
 QString cellText(kind::Sim /*kind*/, const std::string &number)
 {
-    constexpr int shownDigits = 4;
-    return nameText(number).right(shownDigits);
+    return simText(number);
 }
 
 QString cellText(kind::Time /*kind*/, std::int64_t utc)
@@ -48,15 +46,6 @@ QString cellText(kind::Duration /*kind*/, std::int64_t seconds)
 QString cellText(kind::Bytes /*kind*/, std::int64_t bytes)
 {
     return usage::sizeText(bytes);
-}
-
-template <typename Kind, typename Value>
-formats::Json jsonValue(const Value &value)
-{
-    if constexpr (std::is_base_of_v<kind::Time, Kind>)
-        return usage::utcText(value).toStdString();
-    else
-        return value;
 }
 
 std::vector<TextTable::Column> columns()
@@ -82,16 +71,13 @@ std::vector<QString> cells(const history::Connection &connection)
     return cells;
 }
 
-formats::Json toJson(const history::Connection &connection)
-{
-    formats::Json json = {{"key", connection.key}};
-    forEachField(connectionFields, [&](const auto &field) {
-        json[field.name] = jsonValue<KindOf<decltype(field)>>(connection.*field.member);
-    });
-    return json;
-}
-
 } // namespace
+
+QString simText(const std::string &number)
+{
+    constexpr int shownDigits = 4;
+    return nameText(number).right(shownDigits);
+}
 
 QString nameText(const std::string &name)
 {
@@ -104,14 +90,6 @@ QByteArray toTable(const std::vector<history::Connection> &connections)
     for (const history::Connection &connection : connections)
         table.addRow(cells(connection));
     return table.text().toUtf8();
-}
-
-formats::Json toJson(const std::vector<history::Connection> &connections)
-{
-    formats::Json array = formats::Json::array();
-    for (const history::Connection &connection : connections)
-        array.push_back(toJson(connection));
-    return array;
 }
 
 } // namespace connrecord

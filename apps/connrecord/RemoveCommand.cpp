@@ -6,6 +6,7 @@
 #include "OptionValue.h"
 #include "Output.h"
 #include "StoreResult.h"
+#include "formats/JsonText.h"
 
 #include <unistd.h>
 
@@ -43,8 +44,8 @@ Keys keysOf(const Connections &connections)
 void checkRequest(const RemoveRequest &request)
 {
     if (request.keys.empty() && request.selection.isAll())
-        throw Failure(ExitCode::Usage, "remove needs a KEY, or --from, --to, --profile or --limit "
-                                       "to say what is to be removed.");
+        throw Failure(ExitCode::Usage, "remove needs a KEY, or --from, --to, --profile, --sim or "
+                                       "--limit to say what is to be removed.");
     if (!request.keys.empty() && !request.selection.isAll())
         throw Failure(ExitCode::Usage, "remove takes KEYs or a selection, not both.");
 }

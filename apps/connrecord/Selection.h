@@ -24,9 +24,10 @@ usage::LocalDays daysOf(const DaysRequest &request);
 struct SelectionRequest {
     DaysRequest days; ///< of their starts
     std::optional<std::string> profile;
+    std::optional<std::string> sim;   ///< its number, or the end of it
     std::optional<std::string> limit; ///< that many at most, the ones that started last
 
-    bool isAll() const { return !days.from && !days.to && !profile && !limit; }
+    bool isAll() const { return !days.from && !days.to && !profile && !sim && !limit; }
 };
 
 /// Those of the finished connections, by start time, then by key. Throws Failure.

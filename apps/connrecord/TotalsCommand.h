@@ -3,17 +3,19 @@
 
 #include "Commands.h"
 #include "Selection.h"
-#include "TotalsText.h"
+#include "usage/Totals.h"
 
 namespace connrecord
 {
 
 struct TotalsRequest {
-    TotalsGroups groups;
+    usage::Grouping grouping;
     DaysRequest days;
+    bool countsAtStart = false; ///< wholly, and finished connections alone
+    bool isOfFinished = false;  ///< leaves out connections that last
 };
 
-/// Adds up the connections that start on these days. Throws Failure.
+/// Adds up what was moved on these days. Throws Failure.
 void showTotals(const CommonRequest &common, const TotalsRequest &request);
 
 } // namespace connrecord

@@ -3,9 +3,12 @@
 
 #include "ConnectionText.h"
 #include "TextTable.h"
-#include "formats/Utf8Text.h"
 #include "usage/CalendarTime.h"
 #include "usage/SizeText.h"
+
+#include <array>
+#include <string>
+#include <utility>
 
 namespace connrecord
 {
@@ -13,79 +16,151 @@ namespace connrecord
 namespace
 {
 
-QString monthText(int period)
+using usage::Grouping;
+using usage::Period;
+using usage::Sum;
+
+/// One thing that sums are told apart by, besides time.
+struct Property {
+    const char *name;
+    const char *heading;
+    bool Grouping::*isApart;
+    std::string (*value)(const Sum &);
+};
+
+constexpr std::array<Property, 4> properties = {{
+    {"profile", "PROFILE", &Grouping::byProfile, [](const Sum &sum) { return sum.profile; }},
+    {"sim", "SIM", &Grouping::bySim, [](const Sum &sum) { return sum.sim; }},
+    {"operator", "OPERATOR", &Grouping::byOperator,
+     [](const Sum &sum) { return sum.operatorName; }},
+    {"roaming", "ROAMING", &Grouping::byRoaming,
+     [](const Sum &sum) { return std::string(sum.isRoaming ? history::abroad : history::atHome); }},
+}};
+
+struct PeriodName {
+    const char *name;
+    const char *heading;
+    Period period;
+};
+
+constexpr std::array<PeriodName, 4> periods = {{
+    {"hour", "HOUR", Period::Hour},
+    {"day", "DAY", Period::Day},
+    {"month", "MONTH", Period::Month},
+    {"year", "YEAR", Period::Year},
+}};
+
+const PeriodName *nameOf(Period period)
 {
-    return QStringLiteral("%1-%2")
-        .arg(period / 100, 4, 10, QLatin1Char('0'))
-        .arg(period % 100, 2, 10, QLatin1Char('0'));
+    for (const PeriodName &each : periods) {
+        if (each.period == period)
+            return &each;
+    }
+    return nullptr;
+}
+
+/// Whether the name adds something to the grouping.
+bool addTo(Grouping &grouping, std::string_view name)
+{
+    for (const Property &property : properties) {
+        if (name == property.name)
+            return !std::exchange(grouping.*property.isApart, true);
+    }
+    for (const PeriodName &each : periods) {
+        if (name == each.name)
+            return std::exchange(grouping.period, each.period) == Period::All;
+    }
+    return false;
 }
 
 /// An empty name is told from one that is not shown.
-QString profileText(const std::string &profile)
+QString cellText(const Property &property, const Sum &sum)
 {
-    return profile.empty() ? QStringLiteral("\"\"") : nameText(profile);
+    const std::string value = property.value(sum);
+    if (value.empty())
+        return QStringLiteral("\"\"");
+    return property.isApart == &Grouping::bySim ? simText(value) : nameText(value);
 }
 
-TextTable tableFor(const TotalsGroups &groups)
+TextTable tableFor(const TotalsForm &form)
 {
     using Alignment = TextTable::Alignment;
     std::vector<TextTable::Column> columns;
-    if (groups.byProfile)
-        columns.push_back({QStringLiteral("PROFILE"), Alignment::Left});
-    if (groups.byMonth)
-        columns.push_back({QStringLiteral("MONTH"), Alignment::Left});
-    for (const char *const header : {"CONNECTIONS", "CONNECTED", "UPLOADED", "DOWNLOADED"})
-        columns.push_back({QString::fromLatin1(header), Alignment::Right});
+    for (const Property &property : properties) {
+        if (form.grouping.*property.isApart)
+            columns.push_back({QString::fromLatin1(property.heading), Alignment::Left});
+    }
+    if (const PeriodName *const period = nameOf(form.grouping.period))
+        columns.push_back({QString::fromLatin1(period->heading), Alignment::Left});
+    columns.push_back({QStringLiteral("CONNECTIONS"), Alignment::Right});
+    if (form.showsTimeConnected)
+        columns.push_back({QStringLiteral("CONNECTED"), Alignment::Right});
+    columns.push_back({QStringLiteral("UPLOADED"), Alignment::Right});
+    columns.push_back({QStringLiteral("DOWNLOADED"), Alignment::Right});
     return TextTable(std::move(columns));
 }
 
-std::vector<QString> row(const history::Totals &totals, const TotalsGroups &groups)
+std::vector<QString> row(const Sum &sum, const TotalsForm &form)
 {
     std::vector<QString> cells;
-    if (groups.byProfile)
-        cells.push_back(profileText(totals.profile));
-    if (groups.byMonth)
-        cells.push_back(monthText(totals.period));
-    cells.push_back(QString::number(totals.connections));
-    cells.push_back(usage::durationText(totals.connectedSeconds));
-    cells.push_back(usage::sizeText(totals.uploadedBytes));
-    cells.push_back(usage::sizeText(totals.downloadedBytes));
+    for (const Property &property : properties) {
+        if (form.grouping.*property.isApart)
+            cells.push_back(cellText(property, sum));
+    }
+    if (form.grouping.period != Period::All)
+        cells.push_back(usage::periodText(sum.period, form.grouping.period));
+    cells.push_back(QString::number(sum.connections));
+    if (form.showsTimeConnected)
+        cells.push_back(usage::durationText(sum.connectedSeconds));
+    cells.push_back(usage::sizeText(sum.uploadedBytes));
+    cells.push_back(usage::sizeText(sum.downloadedBytes));
     return cells;
 }
 
-formats::Json toJson(const history::Totals &totals, const TotalsGroups &groups)
+formats::Json toJson(const Sum &sum, const TotalsForm &form)
 {
-    formats::Json object = {{"connections", totals.connections},
-                            {"connected_seconds", totals.connectedSeconds},
-                            {"uploaded_bytes", totals.uploadedBytes},
-                            {"downloaded_bytes", totals.downloadedBytes}};
-    if (groups.byProfile)
-        object["profile"] = totals.profile;
-    if (groups.byMonth)
-        object["month"] = monthText(totals.period).toStdString();
+    formats::Json object = {{"connections", sum.connections},
+                            {"uploaded_bytes", sum.uploadedBytes},
+                            {"downloaded_bytes", sum.downloadedBytes}};
+    if (form.showsTimeConnected)
+        object["connected_seconds"] = sum.connectedSeconds;
+    for (const Property &property : properties) {
+        if (form.grouping.*property.isApart)
+            object[property.name] = property.value(sum);
+    }
+    if (const PeriodName *const period = nameOf(form.grouping.period))
+        object[period->name] = usage::periodText(sum.period, period->period).toStdString();
     return object;
 }
 
 } // namespace
 
-int periodOfMonth(const QDate &day)
+std::optional<Grouping> groupingOf(std::string_view names)
 {
-    return day.year() * 100 + day.month();
+    Grouping grouping;
+    for (;;) {
+        const std::size_t comma = names.find(',');
+        if (!addTo(grouping, names.substr(0, comma)))
+            return std::nullopt;
+        if (comma == std::string_view::npos)
+            return grouping;
+        names.remove_prefix(comma + 1);
+    }
 }
 
-QByteArray toTable(const std::vector<history::Totals> &totals, const TotalsGroups &groups)
+QByteArray toTable(const std::vector<Sum> &sums, const TotalsForm &form)
 {
-    TextTable table = tableFor(groups);
-    for (const history::Totals &each : totals)
-        table.addRow(row(each, groups));
+    TextTable table = tableFor(form);
+    for (const Sum &each : sums)
+        table.addRow(row(each, form));
     return table.text().toUtf8();
 }
 
-formats::Json toJson(const std::vector<history::Totals> &totals, const TotalsGroups &groups)
+formats::Json toJson(const std::vector<Sum> &sums, const TotalsForm &form)
 {
     formats::Json array = formats::Json::array();
-    for (const history::Totals &each : totals)
-        array.push_back(toJson(each, groups));
+    for (const Sum &each : sums)
+        array.push_back(toJson(each, form));
     return array;
 }
 

@@ -2,30 +2,32 @@
 #pragma once
 
 #include "formats/JsonText.h"
-#include "history/Store.h"
+#include "usage/Totals.h"
 
 #include <QByteArray>
-#include <QDate>
 
+#include <optional>
+#include <string_view>
 #include <vector>
 
 namespace connrecord
 {
 
-/// What totals are told apart by; together at most one for each pair.
-struct TotalsGroups {
-    bool byProfile = false;
-    bool byMonth = false;
+/// How totals are told.
+struct TotalsForm {
+    usage::Grouping grouping;
+    /// Of bytes that count when they moved, nobody knows for how long.
+    bool showsTimeConnected = false;
 };
 
-/// A month as the period of totals.
-int periodOfMonth(const QDate &day);
+/// The grouping that "profile,month" and the like name; nothing if they do not: a name
+/// that is none, twice the same one, or two parts of the calendar.
+std::optional<usage::Grouping> groupingOf(std::string_view names);
 
-/// The totals as a table for people, with a column for each thing they are told
-/// apart by.
-QByteArray toTable(const std::vector<history::Totals> &totals, const TotalsGroups &groups);
+/// The sums as a table for people, with a column for each thing they are told apart by.
+QByteArray toTable(const std::vector<usage::Sum> &sums, const TotalsForm &form);
 
-/// The totals for programs: exact integers, months as yyyy-MM.
-formats::Json toJson(const std::vector<history::Totals> &totals, const TotalsGroups &groups);
+/// The sums for programs: exact integers.
+formats::Json toJson(const std::vector<usage::Sum> &sums, const TotalsForm &form);
 
 } // namespace connrecord

@@ -119,7 +119,7 @@ YearsOfHistory::YearsOfHistory(const char *zone, int firstYear)
 
 QStringList YearsOfHistory::totalsTold(const QStringList &options)
 {
-    const ConnrecordRun run = connrecord(QStringList{"totals", "--json"} + options);
+    const ConnrecordRun run = connrecord(QStringList{"totals", "--by-start", "--json"} + options);
     if (run.exitCode != 0)
         return {QString::fromUtf8(run.error)};
     return rowsOfJson(run.output);

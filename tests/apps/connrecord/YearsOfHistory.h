@@ -18,7 +18,7 @@ class YearsOfHistory
 public:
     YearsOfHistory(const char *zone, int firstYear);
 
-    /// What "connrecord totals --json" with these options tells, one line for
+    /// What "connrecord totals --by-start --json" with these options tells, one line for
     /// each sum: profile|month|connections|seconds|sent|received.
     static QStringList totalsTold(const QStringList &options);
     /// The rows that a query on the store gives, their values joined in that way.

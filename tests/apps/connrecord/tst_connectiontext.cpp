@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "apps/connrecord/ConnectionText.h"
-#include "formats/JsonText.h"
+#include "formats/JsonFormat.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -11,7 +11,7 @@
 
 using namespace history;
 
-/// The program's sums over a real store.
+/// The program's sums over a real store, each connection counted at its start.
 class ConnrecordTotalsTest : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ private:
     void store(const std::vector<Connection> &connections) const;
     ConnrecordRun totals(const QStringList &options) const
     {
-        return connrecord(QStringList{"--store", m_store, "totals"} + options);
+        return connrecord(QStringList{"--store", m_store, "totals", "--by-start"} + options);
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -234,7 +234,11 @@ void ConnrecordTotalsTest::refusesWhatIsNoRequest_data()
     QTest::addColumn<QByteArray>("named");
 
     QTest::newRow("something else to tell apart")
-        << QStringList{"--by", "year"} << 2 << QByteArray("year");
+        << QStringList{"--by", "week"} << 2 << QByteArray("week");
+    QTest::newRow("twice the same")
+        << QStringList{"--by", "month,month"} << 2 << QByteArray("--by");
+    QTest::newRow("days and months") << QStringList{"--by", "month,day"} << 2 << QByteArray("--by");
+    QTest::newRow("a comma too many") << QStringList{"--by", "month,"} << 2 << QByteArray("--by");
     QTest::newRow("nothing to tell apart") << QStringList{"--by", ""} << 2 << QByteArray("--by");
     QTest::newRow("an argument too many") << QStringList{"internet"} << 2 << QByteArray("internet");
     QTest::newRow("days in the wrong order")

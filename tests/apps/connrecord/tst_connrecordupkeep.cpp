@@ -238,6 +238,9 @@ void ConnrecordUpkeepTest::saysThatAHistoryIsNotSound_data()
     QTest::newRow("a value out of its range")
         << QByteArray("UPDATE connection SET uploaded_bytes = -5 WHERE key = 3")
         << QByteArray("Key 3: The number of bytes sent of the connection is -5");
+    QTest::newRow("hours that do not add up")
+        << QByteArray("INSERT INTO connection_hour VALUES (3, 1717192800, 0, 4, 39)")
+        << QByteArray("Key 3: Its hours do not add up to its byte counts.");
     QTest::newRow("a page that nothing uses")
         << QByteArray("PRAGMA writable_schema = ON; CREATE TABLE other(a);"
                       "DELETE FROM sqlite_schema WHERE name = 'other'")

@@ -38,7 +38,7 @@ QString manualPart(const QString &macro, const QString &name)
 {
     const QString manual = QString::fromUtf8(readFile(MANUAL_FILE));
     const auto start = manual.indexOf('\n' + macro + ' ' + name + '\n');
-    return manual.mid(start, manual.indexOf("\n.S", start + 1) - start);
+    return manual.mid(start, manual.indexOf(QRegularExpression("\n\\.S[hs] "), start + 1) - start);
 }
 
 /// The sentence that the lines begin with, without their macros.
@@ -74,6 +74,7 @@ QStringList namesOf(const Formats &formats)
 void ManualTest::listsTheFormats()
 {
     QCOMPARE(listedFormats("import"), tableOf(formats::importFormats));
+    QCOMPARE(listedFormats("export"), tableOf(formats::exportFormats));
 }
 
 void ManualTest::showsTheChoiceOfFormats()

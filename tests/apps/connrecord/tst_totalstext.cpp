@@ -10,7 +10,7 @@
 
 using namespace connrecord;
 using namespace formats;
-using namespace history;
+using namespace usage;
 
 class TotalsTextTest : public QObject
 {
@@ -24,21 +24,31 @@ private slots:
     void writesJson_data();
     void writesJson();
     void writesTheLargestSumExactly();
+    void tellsEverythingApart();
 };
 
 namespace
 {
 
-Totals sample()
+Sum sample()
 {
-    Totals totals;
+    Sum totals;
     totals.profile = "internet";
-    totals.period = periodOfMonth(QDate(2024, 5, 31));
+    totals.period = 202405;
     totals.connections = 12;
     totals.connectedSeconds = 360005;
     totals.uploadedBytes = 31981;
     totals.downloadedBytes = 5368709120;
     return totals;
+}
+
+TotalsForm form(bool byProfile, bool byMonth)
+{
+    TotalsForm form;
+    form.grouping.byProfile = byProfile;
+    form.grouping.period = byMonth ? Period::Month : Period::All;
+    form.showsTimeConnected = true;
+    return form;
 }
 
 void addGroupRows()
@@ -66,22 +76,22 @@ void TotalsTextTest::hasAColumnForWhatIsToldApart()
 {
     QFETCH(bool, byProfile);
     QFETCH(bool, byMonth);
-    QTEST(toTable({sample()}, {byProfile, byMonth}), "text");
+    QTEST(toTable({sample()}, form(byProfile, byMonth)), "text");
 }
 
 void TotalsTextTest::showsAnEmptyProfile()
 {
-    Totals unnamed = sample();
+    Sum unnamed = sample();
     unnamed.profile.clear();
-    QVERIFY(toTable({unnamed}, {true, false}).contains("\n\"\"  "));
-    QVERIFY(jsonText(toJson({unnamed}, {true, false})).contains("\"profile\": \"\""));
+    QVERIFY(toTable({unnamed}, form(true, false)).contains("\n\"\"  "));
+    QVERIFY(jsonText(toJson({unnamed}, form(true, false))).contains("\"profile\": \"\""));
 }
 
 void TotalsTextTest::keepsEachSumOnOneLine()
 {
-    Totals odd = sample();
+    Sum odd = sample();
     odd.profile = "a\nb\x1b[2J";
-    const QByteArray table = toTable({odd}, {true, true});
+    const QByteArray table = toTable({odd}, form(true, true));
     QCOMPARE(table.count('\n'), 2);
     QVERIFY(table.contains("a\\nb\\u001b[2J "));
 }
@@ -107,17 +117,38 @@ void TotalsTextTest::writesJson()
 {
     QFETCH(bool, byProfile);
     QFETCH(bool, byMonth);
-    QTEST(jsonText(toJson({sample()}, {byProfile, byMonth})), "text");
+    QTEST(jsonText(toJson({sample()}, form(byProfile, byMonth))), "text");
 }
 
 void TotalsTextTest::writesTheLargestSumExactly()
 {
-    Totals large = sample();
+    Sum large = sample();
     large.uploadedBytes = std::numeric_limits<std::int64_t>::max();
     large.downloadedBytes = 9007199254740993;
-    const QByteArray json = jsonText(toJson({large}, {}));
+    const QByteArray json = jsonText(toJson({large}, form(false, false)));
     QVERIFY2(json.contains("\"uploaded_bytes\": 9223372036854775807\n"), json);
     QVERIFY2(json.contains("\"downloaded_bytes\": 9007199254740993,\n"), json);
+}
+
+void TotalsTextTest::tellsEverythingApart()
+{
+    Sum sum = sample();
+    sum.sim = "8949000000000001234";
+    sum.operatorName = "Example";
+    sum.isRoaming = true;
+    sum.period = 2024;
+    const auto grouping = groupingOf("year,roaming,operator,sim,profile");
+    QVERIFY(grouping);
+    QCOMPARE(
+        toTable({sum}, {*grouping, false}),
+        QByteArray("PROFILE   SIM   OPERATOR  ROAMING  YEAR  CONNECTIONS  UPLOADED  DOWNLOADED\n"
+                   "internet  1234  Example   roaming  2024           12  31.23 KB     5.00 GB\n"));
+    const QByteArray json = jsonText(toJson({sum}, {*grouping, false}));
+    for (const char *const member :
+         {"\"profile\": \"internet\"", "\"sim\": \"8949000000000001234\"",
+          "\"operator\": \"Example\"", "\"roaming\": \"roaming\"", "\"year\": \"2024\""})
+        QVERIFY2(json.contains(member), json);
+    QVERIFY(!json.contains("connected_seconds"));
 }
 
 QTEST_GUILESS_MAIN(TotalsTextTest)

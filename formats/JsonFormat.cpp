@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "JsonFormat.h"
+
+#include "FieldValue.h"
+#include "Utf8Text.h"
+#include "history/ConnectionFields.h"
+#include "usage/CalendarTime.h"
+
+#include <algorithm>
+#include <string>
+#include <tuple>
+#include <type_traits>
+
+namespace formats
+{
+
+namespace
+{
+
+using history::connectionFields;
+using history::forEachField;
+using history::HourlyBytes;
+using history::KindOf;
+namespace kind = history::kind;
+
+constexpr const char *keyName = "key";
+constexpr const char *hoursName = "hours";
+
+template <typename Kind, typename Value>
+Json jsonValue(const Value &value)
+{
+    if constexpr (std::is_base_of_v<kind::Time, Kind>)
+        return usage::utcText(value).toStdString();
+    else
+        return value;
+}
+
+Json hourJson(const HourlyBytes &hour)
+{
+    return {{"hour", usage::utcText(hour.hourUtc).toStdString()},
+            {"roaming", hour.isRoaming},
+            {"uploaded_bytes", hour.uploadedBytes},
+            {"downloaded_bytes", hour.downloadedBytes}};
+}
+
+Json toJson(const history::Connection &connection)
+{
+    Json json = {{keyName, connection.key}};
+    forEachField(connectionFields, [&](const auto &field) {
+        json[field.name] = jsonValue<KindOf<decltype(field)>>(connection.*field.member);
+    });
+    for (const HourlyBytes &hour : connection.hours)
+        json[hoursName].push_back(hourJson(hour));
+    return json;
+}
+
+[[noreturn]] void fail(const std::string &member, const std::string &reason)
+{
+    throw FieldError{"member \"" + printable(member) + "\": " + reason, true};
+}
+
+const Json &memberOf(const Json &json, const char *name)
+{
+    if (!json.is_object())
+        throw FieldError{"it is no object", true};
+    const auto found = json.find(name);
+    if (found == json.end())
+        fail(name, "it is missing");
+    return *found;
+}
+
+/// A text, or a number as the text that other formats have for it.
+std::string textOf(const Json &value, bool isNumber)
+{
+    if (isNumber ? !value.is_number() : !value.is_string())
+        throw FieldError{std::string("it is no ") + (isNumber ? "number" : "text"), true};
+    std::string text = isNumber ? value.dump() : value.get<std::string>();
+    if (text.find('\0') != std::string::npos)
+        throw FieldError{"the text holds a NUL character", true};
+    return text;
+}
+
+/// What `read` makes of the member's text; its error names the member.
+template <typename Read>
+auto memberValue(const Json &json, const char *name, bool isNumber, Read read)
+{
+    const Json &value = memberOf(json, name);
+    try {
+        return read(textOf(value, isNumber));
+    } catch (const FieldError &error) {
+        fail(name, error.reason);
+    }
+}
+
+std::int64_t bytesOf(const Json &json, const char *name)
+{
+    return memberValue(json, name, true, [](const std::string &text) {
+        return fieldNumber(text, history::largestByteCount);
+    });
+}
+
+HourlyBytes hourFrom(const Json &json)
+{
+    HourlyBytes hour;
+    hour.hourUtc = memberValue(json, "hour", false, fieldTime);
+    if (hour.hourUtc % history::secondsPerHour != 0)
+        fail("hour", "it is no whole hour of UTC");
+    const Json &roaming = memberOf(json, "roaming");
+    if (!roaming.is_boolean())
+        fail("roaming", "it is neither true nor false");
+    hour.isRoaming = roaming.get<bool>();
+    hour.uploadedBytes = bytesOf(json, "uploaded_bytes");
+    hour.downloadedBytes = bytesOf(json, "downloaded_bytes");
+    return hour;
+}
+
+bool comesBefore(const HourlyBytes &left, const HourlyBytes &right)
+{
+    return std::tie(left.hourUtc, left.isRoaming) < std::tie(right.hourUtc, right.isRoaming);
+}
+
+/// They have to be sorted.
+void checkHours(const history::Connection &connection)
+{
+    std::int64_t uploaded = 0;
+    std::int64_t downloaded = 0;
+    for (const HourlyBytes &hour : connection.hours) {
+        if (&hour != &connection.hours.front() && !comesBefore(*(&hour - 1), hour))
+            fail(hoursName, "an hour is there twice");
+        if (__builtin_add_overflow(uploaded, hour.uploadedBytes, &uploaded) ||
+            __builtin_add_overflow(downloaded, hour.downloadedBytes, &downloaded))
+            fail(hoursName, "the hours add up to more than 64 bits hold");
+    }
+    if (!connection.hours.empty() &&
+        (uploaded != connection.uploadedBytes || downloaded != connection.downloadedBytes))
+        fail(hoursName, "the hours do not add up to the bytes of the connection");
+}
+
+std::vector<HourlyBytes> hoursFrom(const Json &json)
+{
+    if (!json.is_array())
+        fail(hoursName, "it is no array");
+    std::vector<HourlyBytes> hours;
+    for (const Json &hour : json)
+        hours.push_back(hourFrom(hour));
+    std::sort(hours.begin(), hours.end(), comesBefore);
+    return hours;
+}
+
+void checkMembers(const Json &json)
+{
+    if (!json.is_object())
+        throw FieldError{"it is no object", true};
+    for (const auto &[name, value] : json.items()) {
+        bool isKnown = name == keyName || name == hoursName;
+        forEachField(connectionFields, [&isKnown, &name = name](const auto &field) {
+            isKnown |= name == field.name;
+        });
+        if (!isKnown)
+            fail(name, "a connection has no such member");
+    }
+}
+
+} // namespace
+
+Json toJson(const std::vector<history::Connection> &connections)
+{
+    Json array = Json::array();
+    for (const history::Connection &connection : connections)
+        array.push_back(toJson(connection));
+    return array;
+}
+
+QByteArray toJsonText(const std::vector<history::Connection> &connections)
+{
+    return jsonText(toJson(connections));
+}
+
+history::Connection connectionFromJson(const Json &json)
+{
+    checkMembers(json);
+    history::Connection connection;
+    forEachField(connectionFields, [&](const auto &field) {
+        using Kind = KindOf<decltype(field)>;
+        // Files of earlier versions know nothing of the details.
+        if (std::is_base_of_v<kind::Detail, Kind> && !json.contains(field.name))
+            return;
+        connection.*field.member = memberValue(
+            json, field.name, std::is_base_of_v<kind::Amount, Kind>, [&](const std::string &text) {
+                return parsedValue(Kind(), text, field.maximum, connection);
+            });
+    });
+    if (json.contains(hoursName))
+        connection.hours = hoursFrom(json[hoursName]);
+    checkHours(connection);
+    return connection;
+}
+
+} // namespace formats

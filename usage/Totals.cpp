@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "Totals.h"
+
+#include "LocalDays.h"
+
+#include <QDateTime>
+
+#include <cstdlib>
+#include <map>
+#include <set>
+#include <utility>
+
+namespace usage
+{
+
+namespace
+{
+
+/// Those that a group's sum has in common, in the order of the sums.
+using GroupKey = std::tuple<std::string, std::string, std::string, bool, std::int64_t>;
+
+std::int64_t startOfHour(std::int64_t utc)
+{
+    return utc - utc % history::secondsPerHour;
+}
+
+/// A number that rises from one period to the next.
+std::int64_t periodOf(std::int64_t utc, Period unit)
+{
+    switch (unit) {
+    case Period::All:
+        return 0;
+    case Period::Hour:
+        return startOfHour(utc);
+    case Period::Day:
+        return localDay(utc).toJulianDay();
+    case Period::Month:
+        return localDay(utc).year() * 100 + localDay(utc).month();
+    case Period::Year:
+        return localDay(utc).year();
+    }
+    return 0;
+}
+
+GroupKey groupOf(const CountedBytes &counted, const Grouping &grouping)
+{
+    const auto part = [](bool isApart, const std::string &text) {
+        return isApart ? text : std::string();
+    };
+    return {part(grouping.byProfile, counted.profile), part(grouping.bySim, counted.sim),
+            part(grouping.byOperator, counted.operatorName),
+            grouping.byRoaming && counted.isRoaming, periodOf(counted.utc, grouping.period)};
+}
+
+void increase(std::int64_t &sum, std::int64_t amount, const char *what)
+{
+    if (__builtin_add_overflow(sum, amount, &sum))
+        throw SumTooLarge(what);
+}
+
+void add(Sum &sum, const CountedBytes &counted)
+{
+    increase(sum.connectedSeconds, counted.connectedSeconds, "seconds connected");
+    increase(sum.uploadedBytes, counted.uploadedBytes, "bytes sent");
+    increase(sum.downloadedBytes, counted.downloadedBytes, "bytes received");
+}
+
+/// Hours are told by their offset from UTC: "+02:00".
+QString offsetText(int seconds)
+{
+    const int minutes = std::abs(seconds) / 60;
+    return QStringLiteral("%1%2:%3")
+        .arg(QLatin1Char(seconds < 0 ? '-' : '+'))
+        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
+        .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString hourText(std::int64_t utc)
+{
+    const QDateTime hour = QDateTime::fromSecsSinceEpoch(utc);
+    return hour.toString(QStringLiteral("yyyy-MM-ddTHH:mm")) + offsetText(hour.offsetFromUtc());
+}
+
+} // namespace
+
+CountedBytes countedWhenMoved(const history::ConnectionHour &hour)
+{
+    CountedBytes counted;
+    counted.key = hour.key;
+    counted.isOpen = hour.isOpen;
+    counted.profile = hour.profile;
+    counted.sim = hour.sim;
+    counted.operatorName = hour.operatorName.empty() ? hour.operatorCode : hour.operatorName;
+    counted.isRoaming = hour.isRoaming;
+    counted.utc = hour.utc;
+    counted.uploadedBytes = hour.uploadedBytes;
+    counted.downloadedBytes = hour.downloadedBytes;
+    return counted;
+}
+
+CountedBytes countedAtStart(const history::Connection &connection)
+{
+    CountedBytes counted;
+    counted.key = connection.key;
+    counted.profile = connection.profile;
+    counted.sim = connection.sim;
+    counted.operatorName =
+        connection.operatorName.empty() ? connection.operatorCode : connection.operatorName;
+    counted.isRoaming = connection.roaming == history::abroad;
+    counted.utc = connection.startUtc;
+    counted.connectedSeconds = connection.connectedSeconds;
+    counted.uploadedBytes = connection.uploadedBytes;
+    counted.downloadedBytes = connection.downloadedBytes;
+    return counted;
+}
+
+std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping &grouping)
+{
+    std::map<GroupKey, Sum> groups;
+    std::map<GroupKey, std::set<std::pair<bool, std::int64_t>>> connections;
+    for (const CountedBytes &each : counted) {
+        const GroupKey group = groupOf(each, grouping);
+        add(groups[group], each);
+        connections[group].emplace(each.isOpen, each.key);
+    }
+    std::vector<Sum> sums;
+    sums.reserve(groups.size());
+    for (auto &[group, sum] : groups) {
+        std::tie(sum.profile, sum.sim, sum.operatorName, sum.isRoaming, sum.period) = group;
+        sum.connections = static_cast<std::int64_t>(connections[group].size());
+        sums.push_back(std::move(sum));
+    }
+    return sums;
+}
+
+QString periodText(std::int64_t period, Period unit)
+{
+    const QLatin1Char zero('0');
+    switch (unit) {
+    case Period::All:
+        return {};
+    case Period::Hour:
+        return hourText(period);
+    case Period::Day:
+        return QDate::fromJulianDay(period).toString(Qt::ISODate);
+    case Period::Month:
+        return QStringLiteral("%1-%2")
+            .arg(period / 100, 4, 10, zero)
+            .arg(period % 100, 2, 10, zero);
+    case Period::Year:
+        return QStringLiteral("%1").arg(period, 4, 10, zero);
+    }
+    return {};
+}
+
+} // namespace usage
