@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "BusValues.h"
-#include "modem/BusAddress.h"
 #include "modem/Facts.h"
 
 #include <QTest>
@@ -46,8 +45,6 @@ private slots:
     void forgetsWhatIsNonsenseNow_data();
     void forgetsWhatIsNonsenseNow();
     void takesNoMoreBearersThanThereCanBe();
-    void readsTheAddressOfABus_data();
-    void readsTheAddressOfABus();
 };
 
 void TestModemFacts::readsAModem()
@@ -276,28 +273,6 @@ void TestModemFacts::takesNoMoreBearersThanThereCanBe()
     ModemFacts facts;
     update(facts, {{"Bearers", pathValues(many)}});
     QCOMPARE(facts.bearerPaths, many.mid(0, 64));
-}
-
-void TestModemFacts::readsTheAddressOfABus_data()
-{
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<bool>("isLocal");
-    QTest::addColumn<QString>("socket");
-    QTest::newRow("a file") << "unix:path=/run/bus,guid=12" << true << "/run/bus";
-    QTest::newRow("behind the guid") << "unix:guid=12,path=/run/bus" << true << "/run/bus";
-    QTest::newRow("escaped") << "unix:path=/run/a%20bus" << true << "/run/a bus";
-    QTest::newRow("two") << "unix:abstract=bus;unix:path=/run/bus" << true << "/run/bus";
-    QTest::newRow("a name") << "unix:abstract=/run/bus" << true << "";
-    QTest::newRow("another computer") << "tcp:host=example.org,port=1" << false << "";
-    QTest::newRow("one of both") << "unix:abstract=bus;tcp:host=example.org" << false << "";
-    QTest::newRow("nothing") << "" << false << "";
-}
-
-void TestModemFacts::readsTheAddressOfABus()
-{
-    QFETCH(const QString, address);
-    QTEST(modem::isLocalBusAddress(address), "isLocal");
-    QTEST(modem::socketOfBusAddress(address), "socket");
 }
 
 QTEST_GUILESS_MAIN(TestModemFacts)
