@@ -29,11 +29,12 @@ Connection connection(const char *profile, std::int64_t start, std::int64_t seco
 SampleHistory::SampleHistory()
     : m_path(m_folder.filePath("connections.db"))
 {
+    Connection withSim = connection("internet", 1717192800, 60, 4);
+    withSim.sim = "8949000000000001234";
     auto opened = Store::openOrCreate(m_path.toStdString());
     const bool isFilled =
         opened && opened.value().addMissing({connection("internet", 1714514400, 60, 1),
-                                             connection("Internet", 1717192799, 100000, 2),
-                                             connection("internet", 1717192800, 60, 4),
+                                             connection("Internet", 1717192799, 100000, 2), withSim,
                                              connection("", 1717279200, 60, 8)});
     if (!isFilled)
         qFatal("%s cannot be filled", qPrintable(m_path));

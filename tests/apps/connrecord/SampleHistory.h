@@ -7,7 +7,8 @@
 
 /// A new history of four connections: of "internet" with key 1 on 2024-05-01 and key 3 on
 /// 2024-06-01, of "Internet" with key 2 in the last second of May, and without a profile
-/// with key 4 on 2024-06-02; their first seconds and all times in Europe/Berlin.
+/// with key 4 on 2024-06-02, the third one of the SIM 8949000000000001234; their first seconds and
+/// all times in Europe/Berlin.
 class SampleHistory
 {
 public:

@@ -28,6 +28,9 @@ void ConnrecordSelectionTest::takesWhatIsSelected_data()
     QTest::newRow("a profile") << QStringList{"--profile", "internet"} << Keys{1, 3};
     QTest::newRow("no profile") << QStringList{"--profile="} << Keys{4};
     QTest::newRow("a profile that is not there") << QStringList{"--profile", "INTERNET"} << Keys{};
+    QTest::newRow("a SIM by its end") << QStringList{"--sim", "1234"} << Keys{3};
+    QTest::newRow("another SIM") << QStringList{"--sim", "8949"} << Keys{};
+    QTest::newRow("no SIM") << QStringList{"--sim="} << Keys{1, 2, 4};
     QTest::newRow("the last three") << QStringList{"--limit", "3"} << Keys{2, 3, 4};
     QTest::newRow("more than there are")
         << QStringList{"--limit", "9223372036854775807"} << Keys{1, 2, 3, 4};
