@@ -29,7 +29,8 @@ public:
     }
     Fingerprint &operator<<(std::string_view text)
     {
-        return *this << static_cast<std::int64_t>(std::hash<std::string_view>()(text));
+        const auto hash = text.empty() ? 0 : std::hash<std::string_view>()(text);
+        return *this << static_cast<std::int64_t>(hash);
     }
 
     std::uint64_t value() const { return m_value; }

@@ -16,8 +16,12 @@ std::int64_t Row::integer(int column) const
 
 std::string_view Row::text(int column) const
 {
-    const void *const start = sqlite3_column_text(m_statement, column);
+    // In UTF-8, which a text has here already, the size may be asked for first; most
+    // connections have some empty texts.
     const int size = sqlite3_column_bytes(m_statement, column);
+    if (size == 0)
+        return {};
+    const void *const start = sqlite3_column_text(m_statement, column);
     return start
                ? std::string_view(static_cast<const char *>(start), static_cast<std::size_t>(size))
                : std::string_view();
