@@ -5,6 +5,7 @@
 #include "RecorderLock.h"
 #include "RecordingSession.h"
 #include "SystemClock.h"
+#include "modem/Modems.h"
 
 #include <QFileInfo>
 
@@ -29,18 +30,21 @@ void later(QObject *sender, Emission emission)
 ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
                                        QObject *parent)
     : ConnectionRecorder(storePath, interfaceNames, std::make_unique<LinkMonitor>(),
-                         std::make_unique<SystemClock>(), RecorderIntervals(), parent)
+                         std::make_unique<modem::Modems>(), std::make_unique<SystemClock>(),
+                         RecorderIntervals(), parent)
 {
 }
 
 ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
                                        std::unique_ptr<LinkSource> links,
+                                       std::unique_ptr<modem::PortSource> ports,
                                        std::unique_ptr<SystemClock> clock,
                                        const RecorderIntervals &intervals, QObject *parent)
     : QObject(parent)
     , m_storePath(storePath)
     , m_interfaceNames(interfaceNames)
     , m_links(links.release())
+    , m_ports(ports.release())
     , m_clock(std::move(clock))
     , m_intervals(intervals)
     , m_timer(this)
@@ -50,6 +54,10 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     qRegisterMetaType<recorder::ConnectionState>();
     qRegisterMetaType<recorder::Problem>();
     m_links->setParent(this);
+    m_ports->setParent(this);
+    connect(m_ports, &modem::PortSource::changed, this, &ConnectionRecorder::handlePort);
+    connect(m_ports, &modem::PortSource::availabilityChanged, this,
+            &ConnectionRecorder::handleAllPorts);
     connect(m_links, &LinkSource::failed, this, &ConnectionRecorder::stop);
     m_timer.setObjectName(QStringLiteral("ticks"));
     m_timer.setInterval(intervals.tick);
@@ -76,6 +84,7 @@ bool ConnectionRecorder::start()
 {
     const bool hasStarted = tryToStart();
     m_isLate = true;
+    m_ports->start();
     if (!hasStarted)
         m_retryTimer.start();
     return hasStarted;
@@ -114,6 +123,22 @@ void ConnectionRecorder::handleChange(const LinkChange &change)
         m_timer.start();
 }
 
+void ConnectionRecorder::handlePort(const QString &interfaceName)
+{
+    if (!m_isRecording)
+        return;
+    m_session->handlePort(interfaceName);
+    if (!m_timer.isActive() && m_session->isBusy())
+        m_timer.start();
+}
+
+void ConnectionRecorder::handleAllPorts()
+{
+    const modem::PortSource::Ports ports = m_ports->ports();
+    for (const auto &port : ports)
+        handlePort(port.first);
+}
+
 void ConnectionRecorder::tick()
 {
     m_session->tick();
@@ -150,7 +175,7 @@ bool ConnectionRecorder::openSession()
     m_session = std::make_unique<RecordingSession>(
         std::move(store.value()), knownPath(), bootId, m_interfaceNames, m_profileName,
         m_intervals.ticksPerCheckpoint,
-        RecordingSession::Surroundings{*m_links, *m_clock, m_lastId}, listener());
+        RecordingSession::Surroundings{*m_links, *m_ports, *m_clock, m_lastId}, listener());
     return true;
 }
 

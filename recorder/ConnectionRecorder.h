@@ -15,6 +15,11 @@
 #include <memory>
 #include <optional>
 
+namespace modem
+{
+class PortSource;
+}
+
 namespace recorder
 {
 
@@ -35,9 +40,10 @@ struct RecorderIntervals {
     int ticksPerCheckpoint = 4;
 };
 
-/// Records the connections of mobile interfaces (see Link::isMobile) and of those
-/// that are named, by whichever of their names, to the byte: an interface is connected while it is
-/// up, running and has an address (see Link::isConnected). Its record lies in the store from the
+/// Records the connections of mobile interfaces (see Link::isMobile), of modems' data ports
+/// and of those that are named, by whichever of their names, to the byte: an interface is
+/// connected while it is up, running and has an address (see Link::isConnected), unless it is
+/// a modem's that no bearer uses. Its record lies in the store from the
 /// first moment, is never more than five seconds behind what has been moved and gets the
 /// kernel's final counters at the end. Nothing is written while nothing is moved, and while
 /// no line is up nothing is done at all. Connections that an earlier process left open are
@@ -66,10 +72,11 @@ public:
     /// Records into the store at `storePath`. Does nothing before start().
     explicit ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames = {},
                                 QObject *parent = nullptr);
-    /// The same with another source of news about links, other clocks and intervals.
+    /// The same with other sources of news about links and modems, other clocks and intervals.
     ConnectionRecorder(const QString &storePath, const QStringList &interfaceNames,
-                       std::unique_ptr<LinkSource> links, std::unique_ptr<SystemClock> clock,
-                       const RecorderIntervals &intervals = {}, QObject *parent = nullptr);
+                       std::unique_ptr<LinkSource> links, std::unique_ptr<modem::PortSource> ports,
+                       std::unique_ptr<SystemClock> clock, const RecorderIntervals &intervals = {},
+                       QObject *parent = nullptr);
     /// As end(), without anybody who could be told.
     ~ConnectionRecorder() override;
 
@@ -84,7 +91,7 @@ public slots:
     bool start();
 
     /// Names the profile of present and coming connections; with an empty name,
-    /// as in the beginning, each bears its interface's.
+    /// as in the beginning, each bears its modem's APN or, without one, its interface's name.
     void setProfileName(const QString &name);
 
 signals:
@@ -110,6 +117,8 @@ private:
     SessionListener listener();
     QString knownPath() const;
     void handleChange(const LinkChange &change);
+    void handlePort(const QString &interfaceName);
+    void handleAllPorts();
     void tick();
     bool isAnothersTurn();
     void giveUp();
@@ -121,7 +130,8 @@ private:
     const QString m_storePath;
     const QStringList m_interfaceNames;
     QString m_profileName;
-    LinkSource *const m_links; ///< a child
+    LinkSource *const m_links;        ///< a child
+    modem::PortSource *const m_ports; ///< a child
     const std::unique_ptr<SystemClock> m_clock;
     std::unique_ptr<RecorderLock> m_lock;
     std::unique_ptr<RecordingSession> m_session; ///< while it records

@@ -21,7 +21,7 @@ RecordBook::RecordBook(history::Store store, UnwrittenFile file, std::string boo
 
 void RecordBook::settle(std::vector<FirstSight> sights)
 {
-    m_firstSights = std::move(sights);
+    m_firstSights.insert(m_firstSights.end(), sights.begin(), sights.end());
     writePending();
 }
 

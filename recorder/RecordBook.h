@@ -46,7 +46,8 @@ public:
     RecordBook(history::Store store, UnwrittenFile file, std::string bootId,
                const SystemClock &clock, StillLasts stillLasts, Listener listener);
 
-    /// Settles what earlier processes left, with these links as they are found now.
+    /// Settles what earlier processes left, with these links as they are found now. Links
+    /// that are found later may be added.
     void settle(std::vector<FirstSight> sights);
 
     /// Brings the store up to date with the connection. The first time, it resumes

@@ -92,22 +92,50 @@ void RecordingSession::finishWhatHasEnded()
 void RecordingSession::setProfileName(const QString &name)
 {
     m_profileName = name;
-    for (auto &entry : m_live)
-        entry.second.setProfile(profileFor(entry.second.row().interfaceName));
+    for (auto &entry : m_live) {
+        const std::string &interfaceName = entry.second.row().interfaceName;
+        entry.second.setProfile(knownProfileFor(interfaceName).value_or(interfaceName));
+    }
 }
 
 void RecordingSession::handleChange(const LinkChange &change)
 {
+    if (change.isGone || !change.link.isConnected())
+        m_released.erase(change.link.index);
     const auto live = m_live.find(change.link.index);
     if (live != m_live.end())
         handleLiveChange(live->second, change);
-    else if (!change.isGone && change.link.isConnected() && m_watched.contains(change.link))
-        begin(change.link, change.link.idleCounters);
+    else if (!change.isGone && isConnected(change.link) && isWatched(change.link))
+        beginWhereNothingCounts(change.link);
+}
+
+void RecordingSession::handlePort(const QString &interfaceName)
+{
+    const std::string name = interfaceName.toStdString();
+    for (const Link &link : m_surroundings.links.links()) {
+        if (link.name != name || !isWatched(link))
+            continue;
+        const auto live = m_live.find(link.index);
+        if (live != m_live.end()) {
+            if (const auto profile = knownProfileFor(name))
+                live->second.setProfile(*profile);
+        } else {
+            noteSightOfPort(link);
+        }
+        handleChange({link, false, false});
+    }
+}
+
+/// One that is watched as a port alone was not among those that were there at first.
+void RecordingSession::noteSightOfPort(const Link &link)
+{
+    if (!m_watched.contains(link) && m_sightedPorts.insert(link.index).second)
+        m_book.settle({firstSightOf(link)});
 }
 
 void RecordingSession::handleLiveChange(LiveConnection &connection, const LinkChange &change)
 {
-    const bool isStillConnected = !change.isGone && change.link.isConnected();
+    const bool isStillConnected = !change.isGone && isConnected(change.link);
     connection.setLink(change.link);
     if (!isStillConnected)
         connection.end(now());
@@ -120,8 +148,37 @@ void RecordingSession::handleLiveChange(LiveConnection &connection, const LinkCh
     finish(connection, change.hasFreshCounters);
     // What came back before the final counters of the former connection did
     // begins where those end.
-    if (isStillConnected && m_watched.contains(change.link))
+    if (isStillConnected && isWatched(change.link))
         begin(change.link, change.link.counters);
+    else if (!change.isGone && change.link.isConnected())
+        m_released[change.link.index] = change.link.counters;
+}
+
+/// Before the connection, or where the one of the former bearer ended: what has been moved
+/// since then belongs to the new one.
+void RecordingSession::beginWhereNothingCounts(const Link &link)
+{
+    const auto released = m_released.find(link.index);
+    const LinkCounters base = released == m_released.end() ? link.idleCounters : released->second;
+    m_released.erase(link.index);
+    begin(link, base);
+}
+
+/// A modem's data port is watched whatever it is called.
+bool RecordingSession::isWatched(const Link &link) const
+{
+    return m_watched.contains(link) ||
+           m_surroundings.ports.port(QString::fromStdString(link.name)).has_value();
+}
+
+/// A link stays up and keeps its address when the bearer stops using it, so the modem has
+/// a say, as long as somebody knows what it says.
+bool RecordingSession::isConnected(const Link &link) const
+{
+    const auto port = m_surroundings.ports.port(QString::fromStdString(link.name));
+    const bool isUnused = m_surroundings.ports.isAvailable() ? port && !port->isConnected
+                                                             : m_released.count(link.index) != 0;
+    return link.isConnected() && !isUnused;
 }
 
 /// Told once for each time that stands in for those that cannot be held.
@@ -144,11 +201,11 @@ void RecordingSession::begin(const Link &link, const LinkCounters &base)
 {
     checkClock();
     const auto [live, isNew] = m_live.try_emplace(link.index, ++m_surroundings.lastId, m_bootId,
-                                                  profileFor(link.name), link, base, now());
+                                                  profileFor(link), link, base, now());
     LiveConnection &connection = live->second;
     // What an earlier process has recorded may bear another profile.
-    if (!m_profileName.isEmpty())
-        connection.setProfile(m_profileName.toStdString());
+    if (const auto profile = knownProfileFor(link.name))
+        connection.setProfile(*profile);
     m_book.save(connection);
     m_listener.connected(stateOf(connection));
 }
@@ -190,7 +247,7 @@ bool RecordingSession::isBusy() const
 {
     const std::vector<Link> links = m_surroundings.links.links();
     const bool isAnyUp = std::any_of(links.begin(), links.end(), [this](const Link &link) {
-        return link.isUp && m_watched.contains(link);
+        return link.isUp && isWatched(link);
     });
     return isAnyUp || !m_live.empty() || m_book.isLate() || !areIdleCountersKept(idleLinks());
 }
@@ -200,22 +257,26 @@ bool RecordingSession::isBusy() const
 void RecordingSession::requestCounters()
 {
     for (const Link &link : m_surroundings.links.links()) {
-        if (m_live.count(link.index) != 0 || (link.isUp && m_watched.contains(link)))
+        if (m_live.count(link.index) != 0 || (link.isUp && isWatched(link)))
             m_surroundings.links.requestCounters(link.index);
     }
 }
 
 std::vector<FirstSight> RecordingSession::firstSights() const
 {
-    const Moment moment = now();
-    const std::int64_t bootUtc = moment.utcSeconds - moment.bootMilliseconds / 1000;
     std::vector<FirstSight> sights;
     for (const Link &link : m_linksAtStart) {
-        if (m_watched.contains(link))
-            sights.push_back({seen(link), link.isConnected() ? link.idleCounters : link.counters,
-                              bootUtc, profileFor(link.name)});
+        if (isWatched(link))
+            sights.push_back(firstSightOf(link));
     }
     return sights;
+}
+
+FirstSight RecordingSession::firstSightOf(const Link &link) const
+{
+    const Moment moment = now();
+    return {seen(link), link.isConnected() ? link.idleCounters : link.counters,
+            moment.utcSeconds - moment.bootMilliseconds / 1000, profileFor(link)};
 }
 
 history::SeenLink RecordingSession::seen(const Link &link) const
@@ -232,7 +293,7 @@ std::vector<history::SeenLink> RecordingSession::idleLinks() const
 {
     std::vector<history::SeenLink> idle;
     for (const Link &link : m_surroundings.links.links()) {
-        if (m_live.count(link.index) == 0 && m_watched.contains(link))
+        if (m_live.count(link.index) == 0 && isWatched(link))
             idle.push_back(seen(link));
     }
     return idle;
@@ -269,9 +330,20 @@ bool RecordingSession::stillLasts(const history::OpenConnection &row)
     return true;
 }
 
-std::string RecordingSession::profileFor(const std::string &interfaceName) const
+std::string RecordingSession::profileFor(const Link &link) const
 {
-    return m_profileName.isEmpty() ? interfaceName : m_profileName.toStdString();
+    return knownProfileFor(link.name).value_or(link.name);
+}
+
+/// The user's word counts most, then the APN.
+std::optional<std::string> RecordingSession::knownProfileFor(const std::string &interfaceName) const
+{
+    if (!m_profileName.isEmpty())
+        return m_profileName.toStdString();
+    const auto port = m_surroundings.ports.port(QString::fromStdString(interfaceName));
+    if (!port || port->subscriber.apn.isEmpty())
+        return std::nullopt;
+    return port->subscriber.apn.toStdString();
 }
 
 ConnectionState RecordingSession::stateOf(LiveConnection &connection) const

@@ -5,6 +5,7 @@
 #include "LiveConnection.h"
 #include "RecordBook.h"
 #include "WatchedLinks.h"
+#include "modem/PortSource.h"
 
 #include <QString>
 #include <QStringList>
@@ -13,6 +14,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -42,6 +44,7 @@ public:
     /// What it works with; all of it must live longer.
     struct Surroundings {
         LinkSource &links;
+        const modem::PortSource &ports;
         const SystemClock &clock;
         std::int64_t &lastId; ///< of the connections of this process
     };
@@ -55,6 +58,8 @@ public:
     /// Settles what earlier processes left open, and records the links from now on.
     void begin();
     void handleChange(const LinkChange &change);
+    /// What is known of the modem's data port of this name has changed.
+    void handlePort(const QString &interfaceName);
     /// Asks for counters and tries again what could not be written; every few times, the
     /// store is brought up to date.
     void tick();
@@ -74,18 +79,24 @@ public:
 private:
     void handleLiveChange(LiveConnection &connection, const LinkChange &change);
     void checkClock();
+    void beginWhereNothingCounts(const Link &link);
     void begin(const Link &link, const LinkCounters &base);
     void finish(LiveConnection &connection, bool hasFinalCounters);
     void finishWhatHasEnded();
     void report(LiveConnection &connection);
     void requestCounters();
+    bool isWatched(const Link &link) const;
+    bool isConnected(const Link &link) const;
+    void noteSightOfPort(const Link &link);
+    FirstSight firstSightOf(const Link &link) const;
     std::vector<FirstSight> firstSights() const;
     history::SeenLink seen(const Link &link) const;
     std::vector<history::SeenLink> idleLinks() const;
     bool areIdleCountersKept(const std::vector<history::SeenLink> &idle) const;
     void keepIdleCounters();
     bool stillLasts(const history::OpenConnection &row);
-    std::string profileFor(const std::string &interfaceName) const;
+    std::string profileFor(const Link &link) const;
+    std::optional<std::string> knownProfileFor(const std::string &interfaceName) const;
     ConnectionState stateOf(LiveConnection &connection) const;
     Moment now() const;
 
@@ -97,6 +108,10 @@ private:
     WatchedLinks m_watched;
     RecordBook m_book;
     std::map<int, LiveConnection> m_live; ///< by the link's index
+    /// What links showed when their bearers stopped using them, by index, for as long as
+    /// the kernel takes them for connected.
+    std::map<int, LinkCounters> m_released;
+    std::set<int> m_sightedPorts; ///< indexes of links that are watched as modems' ports
     std::vector<Link> m_linksAtStart;
     std::vector<history::SeenLink> m_keptIdle; ///< what the store knows of links without one
     std::optional<std::int64_t> m_standIn;     ///< for what the clock shows

@@ -9,6 +9,7 @@
 #include "apps/common/QuitOnSignal.h"
 #include "formats/Utf8Text.h"
 #include "history/Store.h"
+#include "modem/Modems.h"
 #include "recorder/ConnectionRecorder.h"
 #include "recorder/InterfaceName.h"
 #include "recorder/LinkMonitor.h"
@@ -170,6 +171,7 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
     const ::common::QuitOnSignal quitOnSignal;
     ConnectionRecorder recorder(QFile::decodeName(common.storePath.c_str()), names,
                                 std::make_unique<recorder::LinkMonitor>(),
+                                std::make_unique<modem::Modems>(),
                                 std::make_unique<recorder::SystemClock>(), intervals);
     recorder.setProfileName(profile);
     Reporter reporter(recorder);

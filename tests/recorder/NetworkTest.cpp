@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "NetworkTest.h"
 
+#include "FakePorts.h"
 #include "recorder/LinkMonitor.h"
 #include "recorder/SystemClock.h"
 
@@ -55,7 +56,7 @@ bool NetworkTest::startWithDeviceTypes(const QString &folder)
 {
     return start(std::make_unique<ConnectionRecorder>(
         m_path, QStringList(), std::make_unique<LinkMonitor>(folder.toStdString()),
-        std::make_unique<SystemClock>()));
+        std::make_unique<FakePorts>(), std::make_unique<SystemClock>()));
 }
 
 bool NetworkTest::start(std::unique_ptr<ConnectionRecorder> recorder)

@@ -45,11 +45,14 @@ bool RecorderTest::start(const QStringList &interfaceNames)
 {
     auto links = std::make_unique<FakeLinks>();
     auto clock = std::make_unique<FakeClock>(m_clockAtStart);
+    auto ports = std::make_unique<FakePorts>();
     m_links = links.get();
     m_clock = clock.get();
+    m_ports = ports.get();
     m_links->atStart = m_atStart;
-    m_recorder = std::make_unique<ConnectionRecorder>(m_path, interfaceNames, std::move(links),
-                                                      std::move(clock), shortIntervals);
+    m_recorder =
+        std::make_unique<ConnectionRecorder>(m_path, interfaceNames, std::move(links),
+                                             std::move(ports), std::move(clock), shortIntervals);
     m_connections = std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::connected);
     m_disconnections =
         std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::disconnected);

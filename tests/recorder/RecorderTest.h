@@ -3,6 +3,7 @@
 
 #include "FakeClock.h"
 #include "FakeLinks.h"
+#include "FakePorts.h"
 #include "RecordText.h"
 #include "recorder/ConnectionRecorder.h"
 
@@ -46,6 +47,7 @@ protected:
     FakeClock m_clockAtStart;
     FakeLinks *m_links = nullptr; ///< the recorder's
     FakeClock *m_clock = nullptr; ///< the recorder's
+    FakePorts *m_ports = nullptr; ///< the recorder's
     std::unique_ptr<recorder::ConnectionRecorder> m_recorder;
     std::unique_ptr<QSignalSpy> m_connections;
     std::unique_ptr<QSignalSpy> m_disconnections;

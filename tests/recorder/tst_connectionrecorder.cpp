@@ -252,8 +252,8 @@ void ConnectionRecorderTest::worksOnAThreadOfItsOwn()
     QThread thread;
     auto links = std::make_unique<FakeLinks>();
     links->atStart = {runningLink(3, "ppp0", 10, 20), addressOn(3)};
-    auto *const recorder =
-        new ConnectionRecorder(m_path, {}, std::move(links), std::make_unique<FakeClock>());
+    auto *const recorder = new ConnectionRecorder(
+        m_path, {}, std::move(links), std::make_unique<FakePorts>(), std::make_unique<FakeClock>());
     QSignalSpy connections(recorder, &ConnectionRecorder::connected);
     recorder->moveToThread(&thread);
     QObject::connect(&thread, &QThread::started, recorder, &ConnectionRecorder::start);

@@ -3,6 +3,7 @@
 
 #include "FakeClock.h"
 #include "FakeLinks.h"
+#include "FakePorts.h"
 #include "RecordText.h"
 
 #include <QCoreApplication>
@@ -87,8 +88,8 @@ void RecorderDiskTest::recordsOnceThereIsSpaceAndSaysSo()
     auto source = std::make_unique<FakeLinks>();
     FakeLinks *const links = source.get();
     links->atStart = {runningLink(3, "ppp0", 0, 0), addressOn(3)};
-    ConnectionRecorder recorder(m_path, {}, std::move(source), std::make_unique<FakeClock>(),
-                                shortIntervals);
+    ConnectionRecorder recorder(m_path, {}, std::move(source), std::make_unique<FakePorts>(),
+                                std::make_unique<FakeClock>(), shortIntervals);
     QSignalSpy failures(&recorder, &ConnectionRecorder::failed);
     QSignalSpy successes(&recorder, &ConnectionRecorder::succeeded);
     recorder.start();

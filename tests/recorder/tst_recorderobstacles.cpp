@@ -230,6 +230,7 @@ void RecorderObstaclesTest::settlesNothingWhileItCannotSeeTheLinks()
     auto links = std::make_unique<FakeLinks>();
     links->isBlind = true;
     auto recorder = std::make_unique<ConnectionRecorder>(m_path, QStringList(), std::move(links),
+                                                         std::make_unique<FakePorts>(),
                                                          std::make_unique<FakeClock>());
     QVERIFY(!recorder->start());
     recorder.reset();

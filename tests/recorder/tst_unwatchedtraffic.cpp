@@ -3,6 +3,7 @@
 
 #include "FakeClock.h"
 #include "FakeLinks.h"
+#include "FakePorts.h"
 #include "RecordText.h"
 #include "StoreLock.h"
 
@@ -85,9 +86,9 @@ void UnwatchedTrafficTest::start(const std::vector<LinkNews> &links,
     auto source = std::make_unique<FakeLinks>();
     m_links = source.get();
     m_links->atStart = links;
-    m_recorder =
-        std::make_unique<ConnectionRecorder>(m_path, interfaceNames, std::move(source),
-                                             std::make_unique<FakeClock>(m_clock), shortIntervals);
+    m_recorder = std::make_unique<ConnectionRecorder>(
+        m_path, interfaceNames, std::move(source), std::make_unique<FakePorts>(),
+        std::make_unique<FakeClock>(m_clock), shortIntervals);
     QVERIFY(m_recorder->start());
 }
 

@@ -3,6 +3,7 @@
 
 #include "FakeClock.h"
 #include "FakeLinks.h"
+#include "FakePorts.h"
 #include "RecordText.h"
 #include "StoreLock.h"
 
@@ -120,6 +121,7 @@ void UnwrittenFileTest::start(const std::vector<LinkNews> &links)
     m_links = source.get();
     m_links->atStart = links;
     m_recorder = std::make_unique<ConnectionRecorder>(m_path, QStringList(), std::move(source),
+                                                      std::make_unique<FakePorts>(),
                                                       std::make_unique<FakeClock>(m_clock));
     m_failures = std::make_unique<QSignalSpy>(m_recorder.get(), &ConnectionRecorder::failed);
     QVERIFY(m_recorder->start());

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "RecorderTest.h"
+
+using history::Connection;
+
+/// What the recorder makes of a modem's news about its data port.
+class RecordedPortsTest : public RecorderTest
+{
+    Q_OBJECT
+
+private slots:
+    void theApnIsTheProfile();
+    void anApnThatIsKnownLateIsTheProfileToo();
+    void theUsersProfileCountsMore();
+    void anInterfaceWithoutAModemKeepsItsName();
+    void recordsAPortWhateverItIsCalled();
+    void endsWhenTheBearerStopsUsingThePort();
+    void countsEveryByteOnceOverBearersOfOneLink();
+    void waitsForTheBearer();
+    void lastsWhenTheDaemonEnds();
+    void staysEndedWhenTheDaemonEnds();
+    void tellsWhatAPortMovedUnwatched();
+
+private:
+    std::string profileOfOpenRow() const { return openRowsIn(m_path).front().profile; }
+};
+
+void RecordedPortsTest::theApnIsTheProfile()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, "internet.example");
+    connectLink(3, "wwan0", 0, 0);
+    QCOMPARE(profileOfOpenRow(), std::string("internet.example"));
+    m_links->tell(downLink(3, "wwan0", 1, 2));
+    QCOMPARE(firstRecord().profile, std::string("internet.example"));
+}
+
+void RecordedPortsTest::anApnThatIsKnownLateIsTheProfileToo()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    QCOMPARE(profileOfOpenRow(), std::string("wwan0"));
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, "internet.example");
+    m_links->tell(downLink(3, "wwan0", 1, 2));
+    QCOMPARE(firstRecord().profile, std::string("internet.example"));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 1 down 2 normal"));
+}
+
+void RecordedPortsTest::theUsersProfileCountsMore()
+{
+    QVERIFY(start());
+    m_recorder->setProfileName("mine");
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, "internet.example");
+    connectLink(3, "wwan0", 0, 0);
+    QCOMPARE(profileOfOpenRow(), std::string("mine"));
+}
+
+void RecordedPortsTest::anInterfaceWithoutAModemKeepsItsName()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan1", true, "internet.example");
+    connectLink(3, "wwan0", 0, 0);
+    QCOMPARE(profileOfOpenRow(), std::string("wwan0"));
+}
+
+void RecordedPortsTest::recordsAPortWhateverItIsCalled()
+{
+    QVERIFY(start());
+    connectLink(3, "enx0c5b8f279a64", 100, 200);
+    QVERIFY(openRowsIn(m_path).empty());
+    m_ports->comeAvailable();
+    m_ports->tell("enx0c5b8f279a64", true, "internet.example");
+    QTRY_COMPARE(m_connections->size(), 1);
+    m_links->tell(downLink(3, "enx0c5b8f279a64", 105, 206));
+    QCOMPARE(recordsIn(m_path), QStringList("enx0c5b8f279a64 up 5 down 6 normal"));
+}
+
+void RecordedPortsTest::endsWhenTheBearerStopsUsingThePort()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("usb0", true, "internet.example");
+    connectLink(3, "usb0", 100, 200);
+    m_links->requests.clear();
+    m_clock->pass(7000);
+    m_ports->tell("usb0", false);
+    QCOMPARE(m_links->requests, std::vector<int>{3});
+    m_clock->pass(2000);
+    m_links->tell(runningLink(3, "usb0", 150, 260));
+    QCOMPARE(recordsIn(m_path), QStringList("usb0 up 50 down 60 normal"));
+    const Connection ended = firstRecord();
+    QCOMPARE(ended.connectedSeconds, std::int64_t{7});
+    QCOMPARE(ended.profile, std::string("internet.example"));
+    QVERIFY(openRowsIn(m_path).empty());
+}
+
+/// The link itself stays as it is all the time.
+void RecordedPortsTest::countsEveryByteOnceOverBearersOfOneLink()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("usb0", true, "first");
+    connectLink(3, "usb0", 100, 200);
+    m_ports->tell("usb0", false);
+    m_links->tell(runningLink(3, "usb0", 150, 260));
+    m_links->tell(runningLink(3, "usb0", 150, 260));
+    m_ports->tell("usb0", true, "second");
+    m_links->tell(downLink(3, "usb0", 157, 268));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"usb0 up 50 down 60 normal", "usb0 up 7 down 8 normal"}));
+    QCOMPARE(connectionsIn(m_path).back().profile, std::string("second"));
+}
+
+void RecordedPortsTest::waitsForTheBearer()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", false);
+    connectLink(3, "wwan0", 100, 200);
+    QVERIFY(openRowsIn(m_path).empty());
+    m_links->tell(runningLink(3, "wwan0", 101, 202));
+    m_ports->tell("wwan0", true, "internet.example");
+    m_links->tell(downLink(3, "wwan0", 110, 220));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 10 down 20 normal"));
+}
+
+void RecordedPortsTest::lastsWhenTheDaemonEnds()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("enx0c5b8f279a64", true, "internet.example");
+    connectLink(3, "enx0c5b8f279a64", 100, 200);
+    m_ports->goAway();
+    m_links->tell(runningLink(3, "enx0c5b8f279a64", 103, 204));
+    QVERIFY(recordsIn(m_path).isEmpty());
+    m_links->tell(downLink(3, "enx0c5b8f279a64", 105, 206));
+    QCOMPARE(recordsIn(m_path), QStringList("enx0c5b8f279a64 up 5 down 6 normal"));
+    QCOMPARE(firstRecord().profile, std::string("internet.example"));
+}
+
+void RecordedPortsTest::staysEndedWhenTheDaemonEnds()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, "internet.example");
+    connectLink(3, "wwan0", 100, 200);
+    m_ports->tell("wwan0", false);
+    m_links->tell(runningLink(3, "wwan0", 150, 260));
+    m_ports->goAway();
+    m_links->tell(runningLink(3, "wwan0", 150, 260));
+    QVERIFY(openRowsIn(m_path).empty());
+    m_links->tell(downLink(3, "wwan0", 150, 260));
+    m_links->tell(runningLink(3, "wwan0", 150, 260));
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+}
+
+void RecordedPortsTest::tellsWhatAPortMovedUnwatched()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("usb0", true, "internet.example");
+    connectLink(3, "usb0", 100, 200);
+    m_links->tell(downLink(3, "usb0", 150, 260));
+    m_recorder.reset();
+    m_clockAtStart.pass(60000);
+    m_atStart = {runningLink(3, "usb0", 250, 460), addressOn(3)};
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("usb0", true, "internet.example");
+    m_links->tell(downLink(3, "usb0", 255, 466));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"usb0 up 50 down 60 normal", "usb0 up 100 down 200 not watched",
+                          "usb0 up 5 down 6 normal"}));
+}
+
+QTEST_GUILESS_MAIN(RecordedPortsTest)
+
+#include "tst_recordedports.moc"
