@@ -75,7 +75,7 @@ std::optional<Problem> ConnectionRecorder::end()
 {
     m_retryTimer.stop();
     const bool wasRecording = std::exchange(m_isRecording, false);
-    auto loss = wasRecording ? m_session->leave() : std::nullopt;
+    const auto loss = wasRecording ? m_session->leave() : std::nullopt;
     giveUp();
     return loss;
 }

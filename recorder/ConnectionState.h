@@ -13,6 +13,9 @@ struct ConnectionState {
     qint64 id = 0; ///< of this connection alone
     QString profile;
     QString interfaceName;
+    QString operatorName; ///< empty if it is not known, as the SIM
+    QString sim;          ///< its number, which belongs in no log
+    bool isRoaming = false;
     QDateTime since; ///< in UTC
     qint64 uploadedBytes = 0;
     qint64 downloadedBytes = 0;

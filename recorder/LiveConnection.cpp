@@ -78,15 +78,33 @@ std::int64_t perSecond(std::int64_t bytes, std::int64_t milliseconds)
 history::Connection finishedFrom(const history::OpenConnection &row, const std::string &ending)
 {
     history::Connection connection;
-    connection.profile = row.profile;
-    connection.startUtc = row.startUtc;
+    static_cast<history::ConnectionBase &>(connection) = row;
+    connection.key = 0;
     connection.endUtc = row.updatedUtc;
-    connection.connectedSeconds = row.connectedSeconds;
-    connection.uploadedBytes = row.uploadedBytes;
-    connection.downloadedBytes = row.downloadedBytes;
     connection.ending = ending;
-    connection.interfaceName = row.interfaceName;
     return connection;
+}
+
+/// Takes over what is known and fits into the store.
+void learn(std::string &known, const QString &text, std::size_t maximumBytes)
+{
+    const std::string bytes = text.toStdString();
+    if (!bytes.empty() && bytes.size() <= maximumBytes)
+        known = bytes;
+}
+
+/// What a connection has learned of its owner counts more than what its row had before.
+void keepOwner(history::OpenConnection &row, const history::OpenConnection &own)
+{
+    using history::ConnectionBase;
+    for (std::string ConnectionBase::*const text :
+         {&ConnectionBase::operatorName, &ConnectionBase::operatorCode, &ConnectionBase::sim,
+          &ConnectionBase::technology}) {
+        if (!(own.*text).empty())
+            row.*text = own.*text;
+    }
+    if (row.roaming.empty())
+        row.roaming = own.roaming;
 }
 
 } // namespace
@@ -98,7 +116,8 @@ std::int64_t storableSeconds(std::int64_t seconds)
 
 LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
                                const std::string &profile, const Link &link,
-                               const LinkCounters &base, const Moment &now)
+                               const LinkCounters &base, const Moment &now,
+                               const modem::Subscriber &owner)
     : m_id(id)
     , m_connectionMark(link.connectionMark())
     , m_countersAtFirst(link.counters)
@@ -116,6 +135,7 @@ LiveConnection::LiveConnection(std::int64_t id, const std::string &bootId,
     m_row.baseUploaded = std::min(base.uploaded, link.counters.uploaded);
     m_row.baseDownloaded = std::min(base.downloaded, link.counters.downloaded);
     m_row.ending = endedNormally;
+    setOwner(owner);
     advance(link.counters, now);
     m_totalsAtFirst = {m_row.uploadedBytes, m_row.downloadedBytes};
 }
@@ -125,12 +145,15 @@ LiveConnection::LiveConnection(const State &state)
     , m_row(withinRange(state.row))
     , m_connectionMark(state.connectionMark)
     , m_hasOwnProfile(state.hasOwnProfile)
+    , m_isRoaming(state.row.roaming == history::abroad)
+    , m_hours(m_row)
     , m_countersAtFirst(state.countersAtFirst)
     , m_totalsAtFirst(state.totalsAtFirst)
     , m_counters(countersAtLastUpdate(state.row))
     , m_moment(state.moment)
     , m_end(state.hasEnded ? std::make_optional(state.moment) : std::nullopt)
 {
+    m_row.hours = m_hours.hours();
 }
 
 LiveConnection::State LiveConnection::state() const
@@ -151,6 +174,9 @@ bool LiveConnection::adopt(const history::OpenConnection &stored)
     m_row.linkMark = m_connectionMark;
     if (m_hasOwnProfile)
         m_row.profile = own.profile;
+    keepOwner(m_row, own);
+    m_hours = HourlySplit(m_row);
+    m_hours.add(own.hours);
     // From the earlier process to this one's first look, and from there to now: the
     // counters may have been reset in both times.
     advanceTotals(m_countersAtFirst);
@@ -163,6 +189,7 @@ bool LiveConnection::adopt(const history::OpenConnection &stored)
     m_rateTotals.uploaded += m_row.uploadedBytes - own.uploadedBytes;
     m_rateTotals.downloaded += m_row.downloadedBytes - own.downloadedBytes;
     updateTimes(m_moment);
+    splitByHour();
     return true;
 }
 
@@ -175,6 +202,7 @@ void LiveConnection::leaveOut(const LinkCounters &counted)
         excess(counted.uploaded, m_countersAtFirst.uploaded, m_totalsAtFirst.uploaded));
     leaveOutDownloaded(
         excess(counted.downloaded, m_countersAtFirst.downloaded, m_totalsAtFirst.downloaded));
+    splitByHour();
 }
 
 void LiveConnection::leaveOutUploaded(std::int64_t bytes)
@@ -193,11 +221,33 @@ void LiveConnection::leaveOutDownloaded(std::int64_t bytes)
     m_rateTotals.downloaded -= bytes;
 }
 
+history::OpenConnection LiveConnection::unsavedRow() const
+{
+    history::OpenConnection row = m_row;
+    if (m_saved)
+        row.hours = m_hours.changedSince(m_saved->hours);
+    return row;
+}
+
+void LiveConnection::setOwner(const modem::Subscriber &owner)
+{
+    learn(m_row.operatorName, owner.operatorName, history::longestOperator);
+    learn(m_row.operatorCode, owner.operatorCode, history::longestShortText);
+    learn(m_row.sim, owner.sim, history::longestShortText);
+    learn(m_row.technology, owner.technology, history::longestShortText);
+    if (owner.roaming == modem::Roaming::Unknown)
+        return;
+    m_isRoaming = owner.roaming == modem::Roaming::Roaming;
+    if (m_row.roaming.empty())
+        m_row.roaming = m_isRoaming ? history::abroad : history::atHome;
+}
+
 bool LiveConnection::isUnsaved() const
 {
     const auto contents = [](const history::OpenConnection &row) {
         return std::tie(row.key, row.interfaceName, row.linkMark, row.profile, row.baseUploaded,
-                        row.baseDownloaded, row.uploadedBytes, row.downloadedBytes, row.ending);
+                        row.baseDownloaded, row.uploadedBytes, row.downloadedBytes, row.ending,
+                        row.operatorName, row.operatorCode, row.sim, row.roaming, row.technology);
     };
     return !m_saved || contents(*m_saved) != contents(m_row);
 }
@@ -213,6 +263,14 @@ void LiveConnection::advance(const LinkCounters &counters, const Moment &now)
     m_counters = counters;
     advanceTotals(counters);
     updateTimes(now);
+    splitByHour();
+}
+
+void LiveConnection::splitByHour()
+{
+    m_hours.follow({m_row.uploadedBytes, m_row.downloadedBytes},
+                   storableSeconds(m_moment.utcSeconds), m_isRoaming);
+    m_row.hours = m_hours.hours();
 }
 
 void LiveConnection::advanceTotals(const LinkCounters &counters)

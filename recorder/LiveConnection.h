@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "HourlySplit.h"
 #include "LinkTable.h"
 #include "history/Store.h"
+#include "modem/DataPort.h"
 
 #include <cstdint>
 #include <optional>
@@ -37,7 +39,8 @@ public:
 
     /// One that begins now on a link whose counters showed `base` before.
     LiveConnection(std::int64_t id, const std::string &bootId, const std::string &profile,
-                   const Link &link, const LinkCounters &base, const Moment &now);
+                   const Link &link, const LinkCounters &base, const Moment &now,
+                   const modem::Subscriber &owner = {});
     /// One that another process has left; its id is 0.
     explicit LiveConnection(const State &state);
     State state() const;
@@ -55,12 +58,17 @@ public:
     /// in another record, unless they had begun anew before this one began.
     void leaveOut(const LinkCounters &counted);
 
+    /// What of the row the store lacks, once it is there.
+    history::OpenConnection unsavedRow() const;
     /// The row is in the store as it is now.
     void markSaved() { m_saved = m_row; }
     /// Whether the row says more than the store, but for the time that has passed.
     bool isUnsaved() const;
 
     void setProfile(const std::string &profile);
+    /// Whose it is, as far as that is known. Bytes count as roaming, or not, from now on.
+    void setOwner(const modem::Subscriber &owner);
+    bool isRoaming() const { return m_isRoaming; }
     /// Takes over the link's name and connection mark.
     void setLink(const Link &link);
 
@@ -85,6 +93,7 @@ public:
 
 private:
     void updateTimes(const Moment &now);
+    void splitByHour();
     void advanceTotals(const LinkCounters &counters);
     void leaveOutUploaded(std::int64_t bytes);
     void leaveOutDownloaded(std::int64_t bytes);
@@ -96,6 +105,8 @@ private:
     std::optional<history::OpenConnection> m_saved; ///< the row as the store has it
     std::string m_connectionMark;                   ///< of the link, at present
     bool m_hasOwnProfile = false;
+    bool m_isRoaming = false;
+    HourlySplit m_hours; ///< of the row
     const LinkCounters m_countersAtFirst;
     LinkCounters m_totalsAtFirst;
     LinkCounters m_counters;

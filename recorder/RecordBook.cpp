@@ -67,7 +67,8 @@ bool RecordBook::save(LiveConnection &connection)
     // An unfinished row of the same link would be taken for this connection's.
     if (isBehind() || m_isLocked)
         return false;
-    auto key = connection.row().key == 0 ? begin(connection) : m_store.checkpoint(connection.row());
+    auto key =
+        connection.row().key == 0 ? begin(connection) : m_store.checkpoint(connection.unsavedRow());
     // Somebody has put another file in the store's place.
     if (!key && key.error().kind == history::StoreError::Kind::NoSuchRecord)
         key = begin(connection);

@@ -112,17 +112,46 @@ void RecordingSession::handleChange(const LinkChange &change)
 void RecordingSession::handlePort(const QString &interfaceName)
 {
     const std::string name = interfaceName.toStdString();
+    countUntilNow(name);
     for (const Link &link : m_surroundings.links.links()) {
         if (link.name != name || !isWatched(link))
             continue;
         const auto live = m_live.find(link.index);
-        if (live != m_live.end()) {
-            if (const auto profile = knownProfileFor(name))
-                live->second.setProfile(*profile);
-        } else {
+        if (live != m_live.end())
+            setOwner(live->second);
+        else
             noteSightOfPort(link);
-        }
         handleChange({link, false, false});
+    }
+}
+
+void RecordingSession::setOwner(LiveConnection &connection)
+{
+    const std::string interfaceName = connection.row().interfaceName;
+    if (const auto profile = knownProfileFor(interfaceName))
+        connection.setProfile(*profile);
+    connection.setOwner(ownerOf(interfaceName));
+    connection.isCheckpointDue = true;
+}
+
+modem::Subscriber RecordingSession::ownerOf(const std::string &interfaceName) const
+{
+    const auto port = m_surroundings.ports.port(QString::fromStdString(interfaceName));
+    return port ? port->subscriber : modem::Subscriber();
+}
+
+/// What has been moved before roaming begins or ends belongs to what was before.
+void RecordingSession::countUntilNow(const std::string &interfaceName)
+{
+    const modem::Roaming roaming = ownerOf(interfaceName).roaming;
+    const bool willRoam = roaming == modem::Roaming::Roaming;
+    for (const auto &[index, connection] : m_live) {
+        if (connection.row().interfaceName == interfaceName && connection.isRoaming() != willRoam &&
+            roaming != modem::Roaming::Unknown) {
+            m_surroundings.links.requestCounters(index);
+            m_surroundings.links.deliverPending();
+            return;
+        }
     }
 }
 
@@ -200,8 +229,9 @@ void RecordingSession::checkClock()
 void RecordingSession::begin(const Link &link, const LinkCounters &base)
 {
     checkClock();
-    const auto [live, isNew] = m_live.try_emplace(link.index, ++m_surroundings.lastId, m_bootId,
-                                                  profileFor(link), link, base, now());
+    const auto [live, isNew] =
+        m_live.try_emplace(link.index, ++m_surroundings.lastId, m_bootId, profileFor(link), link,
+                           base, now(), ownerOf(link.name));
     LiveConnection &connection = live->second;
     // What an earlier process has recorded may bear another profile.
     if (const auto profile = knownProfileFor(link.name))
@@ -340,10 +370,8 @@ std::optional<std::string> RecordingSession::knownProfileFor(const std::string &
 {
     if (!m_profileName.isEmpty())
         return m_profileName.toStdString();
-    const auto port = m_surroundings.ports.port(QString::fromStdString(interfaceName));
-    if (!port || port->subscriber.apn.isEmpty())
-        return std::nullopt;
-    return port->subscriber.apn.toStdString();
+    const std::string apn = ownerOf(interfaceName).apn.toStdString();
+    return apn.empty() ? std::nullopt : std::make_optional(apn);
 }
 
 ConnectionState RecordingSession::stateOf(LiveConnection &connection) const
@@ -354,6 +382,9 @@ ConnectionState RecordingSession::stateOf(LiveConnection &connection) const
     state.id = connection.id();
     state.profile = QString::fromStdString(row.profile);
     state.interfaceName = QString::fromStdString(row.interfaceName);
+    state.operatorName = QString::fromStdString(row.operatorName);
+    state.sim = QString::fromStdString(row.sim);
+    state.isRoaming = connection.isRoaming();
     state.since = QDateTime::fromSecsSinceEpoch(row.startUtc).toUTC();
     state.uploadedBytes = row.uploadedBytes;
     state.downloadedBytes = row.downloadedBytes;

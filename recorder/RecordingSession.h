@@ -87,6 +87,9 @@ private:
     void requestCounters();
     bool isWatched(const Link &link) const;
     bool isConnected(const Link &link) const;
+    void countUntilNow(const std::string &interfaceName);
+    void setOwner(LiveConnection &connection);
+    modem::Subscriber ownerOf(const std::string &interfaceName) const;
     void noteSightOfPort(const Link &link);
     FirstSight firstSightOf(const Link &link) const;
     std::vector<FirstSight> firstSights() const;

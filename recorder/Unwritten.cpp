@@ -42,6 +42,12 @@ void visitFields(State &state, Visitor &visitor)
     visitor.number("first_downloaded_total", state.totalsAtFirst.downloaded);
     visitor.number("moment_utc", state.moment.utcSeconds);
     visitor.number("moment_boot_ms", state.moment.bootMilliseconds);
+    visitor.newText("operator", row.operatorName);
+    visitor.newText("operator_code", row.operatorCode);
+    visitor.newText("sim", row.sim);
+    visitor.newText("roaming", row.roaming);
+    visitor.newText("technology", row.technology);
+    visitor.newHours("hours", row.hours);
     visitor.flag("has_own_profile", state.hasOwnProfile);
     visitor.flag("has_ended", state.hasEnded);
 }
@@ -53,6 +59,16 @@ public:
     void text(const char *name, const std::string &value)
     {
         object[QLatin1String(name)] = QString::fromStdString(value);
+    }
+    void newText(const char *name, const std::string &value) { text(name, value); }
+    void newHours(const char *name, const std::vector<history::HourlyBytes> &hours)
+    {
+        QJsonArray array;
+        for (const history::HourlyBytes &hour : hours)
+            array.append(QJsonArray{QString::number(hour.hourUtc), hour.isRoaming,
+                                    QString::number(hour.uploadedBytes),
+                                    QString::number(hour.downloadedBytes)});
+        object[QLatin1String(name)] = array;
     }
     void number(const char *name, std::int64_t value)
     {
@@ -75,6 +91,21 @@ public:
     {
         isComplete &= field(name).isString();
         value = field(name).toString().toStdString();
+    }
+    // What files of earlier versions do not have.
+    void newText(const char *name, std::string &value)
+    {
+        value = field(name).toString().toStdString();
+    }
+    void newHours(const char *name, std::vector<history::HourlyBytes> &hours)
+    {
+        const QJsonArray array = field(name).toArray();
+        for (const auto &each : array) {
+            const QJsonArray hour = each.toArray();
+            hours.push_back({hour.at(0).toString().toLongLong(), hour.at(1).toBool(),
+                             hour.at(2).toString().toLongLong(),
+                             hour.at(3).toString().toLongLong()});
+        }
     }
     void number(const char *name, std::int64_t &value)
     {

@@ -3,6 +3,26 @@
 
 using history::Connection;
 
+namespace
+{
+
+/// That in which the fake clock begins.
+constexpr std::int64_t firstHour = 1700000000 / history::secondsPerHour * history::secondsPerHour;
+
+modem::Subscriber subscriberOf(modem::Roaming roaming)
+{
+    modem::Subscriber subscriber;
+    subscriber.apn = QStringLiteral("internet.example");
+    subscriber.operatorName = QStringLiteral("Example Mobile");
+    subscriber.operatorCode = QStringLiteral("00101");
+    subscriber.sim = QStringLiteral("8949000000000000001");
+    subscriber.technology = QStringLiteral("lte");
+    subscriber.roaming = roaming;
+    return subscriber;
+}
+
+} // namespace
+
 /// What the recorder makes of a modem's news about its data port.
 class RecordedPortsTest : public RecorderTest
 {
@@ -20,8 +40,13 @@ private slots:
     void lastsWhenTheDaemonEnds();
     void staysEndedWhenTheDaemonEnds();
     void tellsWhatAPortMovedUnwatched();
+    void keepsWhoseAConnectionIs();
+    void tellsHomeAndRoamingApartWithoutAnEnd();
+    void tellsTheHoursApart();
+    void resumesTheHours();
 
 private:
+    QStringList hours() const;
     std::string profileOfOpenRow() const { return openRowsIn(m_path).front().profile; }
 };
 
@@ -175,6 +200,88 @@ void RecordedPortsTest::tellsWhatAPortMovedUnwatched()
     QCOMPARE(recordsIn(m_path),
              QStringList({"usb0 up 50 down 60 normal", "usb0 up 100 down 200 not watched",
                           "usb0 up 5 down 6 normal"}));
+}
+
+/// "HOUR home|roaming UPLOADED DOWNLOADED", hours counted from that of the clock's start.
+QStringList RecordedPortsTest::hours() const
+{
+    const auto store = history::Store::openForReading(m_path.toStdString());
+    const auto all = store.value().hours();
+    QStringList texts;
+    for (const history::ConnectionHour &hour : all.value())
+        texts << QStringLiteral("%1 %2 %3 %4")
+                     .arg((hour.utc - firstHour) / history::secondsPerHour)
+                     .arg(hour.isRoaming ? "roaming" : "home")
+                     .arg(hour.uploadedBytes)
+                     .arg(hour.downloadedBytes);
+    return texts;
+}
+
+void RecordedPortsTest::keepsWhoseAConnectionIs()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, subscriberOf(modem::Roaming::Roaming));
+    connectLink(3, "wwan0", 0, 0);
+    m_links->tell(downLink(3, "wwan0", 1, 2));
+    const Connection record = firstRecord();
+    QCOMPARE(record.profile, std::string("internet.example"));
+    QCOMPARE(record.operatorName, std::string("Example Mobile"));
+    QCOMPARE(record.operatorCode, std::string("00101"));
+    QCOMPARE(record.sim, std::string("8949000000000000001"));
+    QCOMPARE(record.roaming, std::string(history::abroad));
+    QCOMPARE(record.technology, std::string("lte"));
+    QCOMPARE(hours(), QStringList("0 roaming 1 2"));
+}
+
+void RecordedPortsTest::tellsHomeAndRoamingApartWithoutAnEnd()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, subscriberOf(modem::Roaming::Home));
+    connectLink(3, "wwan0", 0, 0);
+    // What the kernel has counted by then is from home.
+    m_links->toCome = {runningLink(3, "wwan0", 10, 20)};
+    m_ports->tell("wwan0", true, subscriberOf(modem::Roaming::Roaming));
+    m_links->tell(downLink(3, "wwan0", 11, 22));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 11 down 22 normal"));
+    QCOMPARE(firstRecord().roaming, std::string(history::atHome));
+    QCOMPARE(hours(), QStringList({"0 home 10 20", "0 roaming 1 2"}));
+}
+
+void RecordedPortsTest::tellsTheHoursApart()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    m_links->tell(runningLink(3, "wwan0", 10, 20));
+    // A checkpoint between the hours must not lose what comes before or after it.
+    const auto isInStore = [this] {
+        m_links->tell(runningLink(3, "wwan0", 10, 20));
+        return openRowsIn(m_path).front().uploadedBytes == 10;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isInStore(), checkpointTimeout);
+    m_clock->pass(3600000);
+    m_links->tell(runningLink(3, "wwan0", 15, 26));
+    m_clock->pass(7200000);
+    m_links->tell(downLink(3, "wwan0", 16, 28));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 16 down 28 normal"));
+    QCOMPARE(hours(), QStringList({"0 home 10 20", "1 home 5 6", "3 home 1 2"}));
+}
+
+/// Also where the row is of a version that knew no hours: these count at its start.
+void RecordedPortsTest::resumesTheHours()
+{
+    addRow(rowOf(recorder::currentBootId(), 3));
+    m_atStart = {runningLink(3, "wwan0", 1010, 2020), addressOn(3)};
+    QVERIFY(start());
+    m_links->toCome = {runningLink(3, "wwan0", 1011, 2022)};
+    m_recorder.reset();
+    m_clockAtStart.pass(3600000);
+    m_atStart = {runningLink(3, "wwan0", 1020, 2030), addressOn(3)};
+    QVERIFY(start());
+    m_links->tell(downLink(3, "wwan0", 1021, 2032));
+    QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 1011 down 2012 normal"));
+    QCOMPARE(hours(), QStringList({"-1 home 100 200", "0 home 901 1802", "1 home 10 10"}));
 }
 
 QTEST_GUILESS_MAIN(RecordedPortsTest)
