@@ -17,6 +17,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QTimer>
 
 #include <memory>
 
@@ -177,7 +178,8 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
     Reporter reporter(recorder);
     reporter.tellOfStart(recorder.start());
     tellReady();
-    giveBackStartupMemory();
+    // The bus of the modems has been looked for by then.
+    QTimer::singleShot(intervals.tick, &recorder, giveBackStartupMemory);
     QCoreApplication::exec();
     tellStopping();
     if (const auto loss = recorder.end())
