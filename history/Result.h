@@ -20,7 +20,6 @@ struct StoreError {
         WriteFailed,  ///< disk full or read-only while writing; nothing was changed
         BadRecord,    ///< a value outside its range
         NoSuchRecord, ///< the record to remove is not there
-        SumTooLarge,  ///< a sum that 64 bits do not hold
     };
 
     Kind kind;

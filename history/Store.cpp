@@ -232,12 +232,6 @@ Result<std::vector<ConnectionHour>> Store::hours(const TimeRange &range) const
     return d->read([&](StoreTables &tables) { return tables.hours(range); });
 }
 
-Result<std::vector<Totals>> Store::totals(const TimeRange &range, Profiles profiles,
-                                          const PeriodOf &periodOf) const
-{
-    return d->read([&](StoreTables &tables) { return tables.totals(range, profiles, periodOf); });
-}
-
 Result<bool> Store::copyTo(const std::string &path) const
 {
     return d->read([&](StoreTables &tables) { return tables.copyTo(path); });

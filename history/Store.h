@@ -38,16 +38,6 @@ struct TimeRange {
     std::int64_t untilUtc = std::numeric_limits<std::int64_t>::max();
 };
 
-/// What the connections of one group add up to, exactly.
-struct Totals {
-    std::string profile; ///< empty if the profiles are not told apart
-    int period = 0;      ///< what Store::PeriodOf made of their starts
-    std::int64_t connections = 0;
-    std::int64_t connectedSeconds = 0;
-    std::int64_t uploadedBytes = 0;
-    std::int64_t downloadedBytes = 0;
-};
-
 /// What a look at every record of a history has shown.
 struct Examination {
     std::vector<std::string> problems; ///< sentences; none if it is sound
@@ -163,17 +153,6 @@ public:
 
     /// What has been moved in `range`, by time, of finished and of open connections.
     Result<std::vector<ConnectionHour>> hours(const TimeRange &range = {}) const;
-
-    /// Whether totals tell profiles apart, upper and lower case included.
-    enum class Profiles { Together, Apart };
-    /// The period that a connection counts in, wholly, by its start, in seconds
-    /// since 1970-01-01 00:00 UTC; nothing leaves the connection out.
-    using PeriodOf = std::function<std::optional<int>(std::int64_t startUtc)>;
-    /// The totals of the finished connections that start in `range`, by profile,
-    /// in the order of its bytes, then by period; groups without a connection are
-    /// left out. A sum that 64 bits do not hold is an error and never a number.
-    Result<std::vector<Totals>> totals(const TimeRange &range, Profiles profiles,
-                                       const PeriodOf &periodOf) const;
 
     /// Writes a copy of the whole history, as it is at one moment, into the empty file
     /// `path`, whoever writes to the history meanwhile; false without a history. If the

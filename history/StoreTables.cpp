@@ -3,7 +3,6 @@
 
 #include "ConnectionCheck.h"
 #include "StoreUpkeep.h"
-#include "TotalsSum.h"
 
 #include <utility>
 
@@ -117,17 +116,6 @@ std::size_t StoreTables::remove(const std::vector<std::int64_t> &keys)
             throw noSuchRecord(m_path, key);
     }
     return keys.size();
-}
-
-std::vector<Totals> StoreTables::totals(const TimeRange &range, Store::Profiles profiles,
-                                        const Store::PeriodOf &periodOf)
-{
-    TotalsSum sum(m_path, profiles == Store::Profiles::Apart);
-    connections.visit(range, [&](const ConnectionRow &row) {
-        if (const auto period = periodOf(row.get<&Connection::startUtc>()))
-            sum.add(row, *period);
-    });
-    return sum.groups();
 }
 
 std::vector<ConnectionHour> StoreTables::hours(const TimeRange &range)

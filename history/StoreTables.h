@@ -37,8 +37,6 @@ public:
                         const Store::Progress &progress);
     bool remove(std::int64_t key);
     std::size_t remove(const std::vector<std::int64_t> &keys);
-    std::vector<Totals> totals(const TimeRange &range, Store::Profiles profiles,
-                               const Store::PeriodOf &periodOf);
     std::vector<ConnectionHour> hours(const TimeRange &range);
     std::vector<OpenConnection> listOpen();
     OpenConnection begin(const OpenConnection &connection);

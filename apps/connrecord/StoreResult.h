@@ -13,8 +13,7 @@ namespace connrecord
 inline ExitCode exitCodeOf(const history::StoreError &error)
 {
     const bool isRefused = error.kind == history::StoreError::Kind::BadRecord ||
-                           error.kind == history::StoreError::Kind::NoSuchRecord ||
-                           error.kind == history::StoreError::Kind::SumTooLarge;
+                           error.kind == history::StoreError::Kind::NoSuchRecord;
     return isRefused ? ExitCode::Refused : ExitCode::Store;
 }
 

@@ -37,8 +37,6 @@ refhost::KoraStatus statusOf(history::StoreError::Kind kind)
         return refhost::KoraBadArgument;
     case history::StoreError::Kind::NoSuchRecord:
         return refhost::KoraNoSuchRecord;
-    case history::StoreError::Kind::SumTooLarge:
-        break; // the four functions add nothing up
     }
     return refhost::KoraCannotOpen;
 }

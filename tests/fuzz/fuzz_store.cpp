@@ -188,8 +188,7 @@ void useStore(Store &store, bool isSoundStore)
     requireSentence(listed);
     ExpectedList expected(listed ? listed.value() : std::vector<Connection>());
     requireSentence(store.listOpen());
-    requireSentence(store.totals({}, Store::Profiles::Apart,
-                                 [](std::int64_t) { return std::optional<int>(0); }));
+    requireSentence(store.hours());
     const auto begun = store.begin(sampleOpenConnection());
     requireSentence(begun);
     if (begun) {

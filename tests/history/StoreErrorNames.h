@@ -24,8 +24,6 @@ inline const char *nameOf(history::StoreError::Kind kind)
         return "BadRecord";
     case Kind::NoSuchRecord:
         return "NoSuchRecord";
-    case Kind::SumTooLarge:
-        return "SumTooLarge";
     }
     return "unknown";
 }
