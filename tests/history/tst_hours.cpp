@@ -254,7 +254,8 @@ void HoursTest::agreeWithAModel()
     for (const history::TimeRange &range :
          {history::TimeRange(), history::TimeRange{middle, middle + 86400}}) {
         std::map<std::tuple<std::int64_t, bool>, std::int64_t> stored;
-        for (const auto &each : store.hours(range).value()) {
+        const auto hours = store.hours(range);
+        for (const auto &each : hours.value()) {
             if (each.uploadedBytes > 0)
                 stored[{each.utc, each.isRoaming}] += each.uploadedBytes;
         }
