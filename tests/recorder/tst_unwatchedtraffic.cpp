@@ -156,8 +156,15 @@ void UnwatchedTrafficTest::isFoundAfterARowThatAnOlderVersionLeft()
     start({runningLink(3, "wwan0", 1000, 2000), addressOn(3), downLink(4, "wwan1", 5, 6)});
     m_links->toCome = {runningLink(3, "wwan0", 1100, 2200)};
     end();
-    runSql("DROP TABLE seen_link; DROP TABLE taken_over; DROP TABLE log_base;"
-           " PRAGMA user_version = 2");
+    QByteArray downgrade = "DROP TABLE seen_link; DROP TABLE taken_over; DROP TABLE log_base;"
+                           "DROP TABLE connection_hour; DROP TABLE open_connection_hour;"
+                           "PRAGMA user_version = 2;";
+    for (const QByteArray column :
+         {"operator_name", "operator_code", "sim", "roaming", "technology"}) {
+        for (const QByteArray table : {"connection", "open_connection"})
+            downgrade += "ALTER TABLE " + table + " DROP COLUMN " + column + ';';
+    }
+    runSql(downgrade.constData());
     LinkReport again = runningLink(3, "wwan0", 1150, 2260);
     again.carrierLosses = 1;
     start({again, addressOn(3), downLink(4, "wwan1", 7, 8)});
