@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DataPlan.h"
 
+#include "CalendarTime.h"
 #include "LocalDays.h"
 #include "SaturatingMath.h"
 
@@ -10,7 +11,7 @@ namespace usage
 namespace
 {
 
-constexpr std::int64_t withoutPace = 24 * 3600;
+constexpr std::int64_t withoutPace = secondsPerDay;
 
 /// Used by the part of the period that has gone, rounded down.
 std::optional<std::int64_t> paceOf(const PeriodUse &use, std::int64_t utc)
