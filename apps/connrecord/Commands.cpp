@@ -21,13 +21,6 @@ namespace connrecord
 namespace
 {
 
-const std::string &optionText(const std::string &option, const std::string &text)
-{
-    if (!formats::isUtf8(text))
-        throw Failure(ExitCode::Refused, "For " + option + ", the text is not UTF-8.");
-    return text;
-}
-
 history::Connection connectionFrom(const AddRequest &request)
 {
     history::Connection connection;

@@ -2,6 +2,7 @@
 #include "ImportCommand.h"
 
 #include "Complaint.h"
+#include "OptionValue.h"
 #include "Output.h"
 #include "ProgressLine.h"
 #include "StoreResult.h"
@@ -110,8 +111,7 @@ formats::Json reportJson(const formats::Imported &imported, const history::Store
 
 void checkRequest(const ImportRequest &request)
 {
-    if (!formats::isUtf8(request.options.profile))
-        throw Failure(ExitCode::Refused, "For --profile, the text is not UTF-8.");
+    optionText("--profile", request.options.profile);
     if (request.paths.size() > 1 && !request.format->takesSeveralFiles)
         throw Failure(ExitCode::Usage, std::string("With --format ") + request.format->name +
                                            ", import takes one FILE.");

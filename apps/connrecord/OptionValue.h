@@ -3,6 +3,7 @@
 
 #include "Failure.h"
 #include "formats/FieldValue.h"
+#include "formats/Utf8Text.h"
 
 #include <cstdint>
 #include <string>
@@ -29,6 +30,14 @@ inline std::int64_t optionNumber(const std::string &option, const std::string &t
     return optionValue(option, text, [largest](const std::string &value) {
         return formats::fieldNumber(value, largest);
     });
+}
+
+/// The text that the option gives, which has to be UTF-8.
+inline const std::string &optionText(const std::string &option, const std::string &text)
+{
+    if (!formats::isUtf8(text))
+        throw Failure(ExitCode::Refused, "For " + option + ", the text is not UTF-8.");
+    return text;
 }
 
 } // namespace connrecord

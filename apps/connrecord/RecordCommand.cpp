@@ -2,6 +2,7 @@
 #include "RecordCommand.h"
 
 #include "Complaint.h"
+#include "OptionValue.h"
 #include "ServiceNotice.h"
 #include "StartupMemory.h"
 #include "StoreResult.h"
@@ -45,13 +46,6 @@ QStringList interfaceNames(const std::vector<std::string> &names)
         checked << text;
     }
     return checked;
-}
-
-QString profileName(const std::string &name)
-{
-    if (!formats::isUtf8(name))
-        throw Failure(ExitCode::Refused, "For --profile, the text is not UTF-8.");
-    return QString::fromStdString(name);
 }
 
 std::string nameOf(const std::string &profile, const std::string &interfaceName)
@@ -167,7 +161,7 @@ void checkStore(const std::string &path)
 void recordConnections(const CommonRequest &common, const RecordRequest &request)
 {
     const QStringList names = interfaceNames(request.interfaceNames);
-    const QString profile = profileName(request.profile);
+    const QString profile = QString::fromStdString(optionText("--profile", request.profile));
     checkStore(common.storePath);
     const ::common::QuitOnSignal quitOnSignal;
     ConnectionRecorder recorder(QFile::decodeName(common.storePath.c_str()), names,
