@@ -31,13 +31,14 @@ constexpr std::array<ImportFormat, 3> importFormats = {{
 struct ExportFormat {
     const char *name;
     const char *help;
-    bool breaksLines; ///< a text with line breaks is on several lines
+    bool breaksLines;  ///< a text with line breaks is on several lines
+    bool carriesHours; ///< of the connections, which have to be given then
     QByteArray (*text)(const std::vector<history::Connection> &connections);
 };
 
 constexpr std::array<ExportFormat, 2> exportFormats = {{
-    {"csv", "a table, without the bytes by the hour", true, toCsv},
-    {"json", "for programs, with the bytes by the hour", false, toJsonText},
+    {"csv", "a table, without the bytes by the hour", true, false, toCsv},
+    {"json", "for programs, with the bytes by the hour", false, true, toJsonText},
 }};
 
 /// The table's row of that name; null if there is none.

@@ -50,7 +50,7 @@ std::vector<history::Connection> storedConnections(const CommonRequest &common,
 }
 
 /// Lines of a text would look like connections of their own.
-std::vector<history::Connection> onOneLineEach(std::vector<history::Connection> connections)
+void putOnOneLineEach(std::vector<history::Connection> &connections)
 {
     for (history::Connection &connection : connections) {
         history::forEachField(history::connectionFields, [&](const auto &field) {
@@ -59,7 +59,6 @@ std::vector<history::Connection> onOneLineEach(std::vector<history::Connection> 
                 value = formats::printable(value, formats::unlimited);
         });
     }
-    return connections;
 }
 
 /// A connection without hours is given as one that counts at its start: if that is a whole
@@ -105,9 +104,11 @@ void exportConnections(const CommonRequest &common, const ExportRequest &request
     Output output(request.outputPath);
     const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
     auto connections = selectedFrom(store, request.selection);
-    addHours(store, connections);
-    const bool needsOneLineEach = request.format->breaksLines && output.isTerminal();
-    output.write(request.format->text(needsOneLineEach ? onOneLineEach(connections) : connections));
+    if (request.format->carriesHours)
+        addHours(store, connections);
+    if (request.format->breaksLines && output.isTerminal())
+        putOnOneLineEach(connections);
+    output.write(request.format->text(connections));
 }
 
 } // namespace connrecord
