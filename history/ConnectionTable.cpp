@@ -99,26 +99,14 @@ void subtractStored(SQLite::Database &database, const std::vector<Connection> &c
     }
 }
 
-std::string insertion()
-{
-    return insertionOf(connectionFields, tableName);
-}
-
-std::string replacement()
-{
-    return std::string("UPDATE ") + tableName + " SET " + equationsOf(connectionFields, ", ") +
-           " WHERE key = ?";
-}
-
-std::string removal()
-{
-    return std::string("DELETE FROM ") + tableName + " WHERE key = ?";
-}
-
 } // namespace
 
 ConnectionTable::ConnectionTable(SQLite::Database &database)
     : m_database(database)
+    , m_insertion(database, insertionOf(connectionFields, tableName))
+    , m_update(database, std::string("UPDATE ") + tableName + " SET " +
+                             equationsOf(connectionFields, ", ") + " WHERE key = ?")
+    , m_removal(database, std::string("DELETE FROM ") + tableName + " WHERE key = ?")
 {
 }
 
@@ -174,7 +162,7 @@ ConnectionTable::Writes ConnectionTable::writes()
 
 std::int64_t ConnectionTable::insert(const Connection &connection)
 {
-    SQLite::Statement &statement = prepared(m_insertion, insertion);
+    SQLite::Statement &statement = m_insertion.ready();
     bindFields(statement, 1, connection, connectionFields);
     statement.exec();
     return m_database.getLastInsertRowid();
@@ -182,7 +170,7 @@ std::int64_t ConnectionTable::insert(const Connection &connection)
 
 void ConnectionTable::update(const Connection &connection)
 {
-    SQLite::Statement &statement = prepared(m_update, replacement);
+    SQLite::Statement &statement = m_update.ready();
     const int behind = bindFields(statement, 1, connection, connectionFields);
     statement.bind(behind, connection.key);
     statement.exec();
@@ -247,19 +235,9 @@ Store::Merged ConnectionTable::merge(const std::vector<Connection> &connections,
 
 bool ConnectionTable::remove(std::int64_t key)
 {
-    SQLite::Statement &statement = prepared(m_removal, removal);
+    SQLite::Statement &statement = m_removal.ready();
     statement.bind(1, key);
     return statement.exec() == 1;
-}
-
-SQLite::Statement &ConnectionTable::prepared(std::optional<SQLite::Statement> &statement,
-                                             std::string (*sql)())
-{
-    if (!statement)
-        statement.emplace(m_database, sql());
-    // Answers with the error of the call before, which that call has reported.
-    statement->tryReset();
-    return *statement;
 }
 
 } // namespace history

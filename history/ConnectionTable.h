@@ -115,12 +115,11 @@ private:
 
     Writes writes();
     void update(const Connection &connection);
-    SQLite::Statement &prepared(std::optional<SQLite::Statement> &statement, std::string (*sql)());
 
     SQLite::Database &m_database;
-    std::optional<SQLite::Statement> m_insertion;
-    std::optional<SQLite::Statement> m_update;
-    std::optional<SQLite::Statement> m_removal;
+    PreparedStatement m_insertion;
+    PreparedStatement m_update;
+    PreparedStatement m_removal;
     std::uint64_t m_fingerprint = 0;
     std::optional<Writes> m_fingerprintWrites; ///< before which it was made
 };

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "HourTable.h"
 
-#include "RowQuery.h"
-
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
 
@@ -20,6 +18,14 @@ HourTable::HourTable(SQLite::Database &database, std::string connections)
     : m_database(database)
     , m_connections(std::move(connections))
     , m_hours(m_connections + "_hour")
+    , m_replacement(database, "INSERT OR REPLACE INTO " + m_hours + " (connection, " + values +
+                                  ") VALUES (?, ?, ?, ?, ?)")
+    , m_removal(database, "DELETE FROM " + m_hours + " WHERE connection = ?")
+    // A sum that does not fit is an error of SQLite's; total() would be a float.
+    , m_comparison(database, "SELECT count(*) = 0 OR (sum(h.uploaded_bytes) = c.uploaded_bytes"
+                             " AND sum(h.downloaded_bytes) = c.downloaded_bytes) FROM " +
+                                 m_hours + " h JOIN " + m_connections +
+                                 " c ON c.key = h.connection WHERE h.connection = ?")
 {
 }
 
@@ -38,25 +44,20 @@ std::vector<HourlyBytes> HourTable::of(std::int64_t key)
 
 void HourTable::replace(std::int64_t key, const std::vector<HourlyBytes> &hours)
 {
-    if (hours.empty())
-        return;
-    if (!m_replacement)
-        m_replacement.emplace(m_database, "INSERT OR REPLACE INTO " + m_hours + " (connection, " +
-                                              values + ") VALUES (?, ?, ?, ?, ?)");
     for (const HourlyBytes &each : hours) {
-        m_replacement->tryReset();
-        m_replacement->bind(1, key);
-        m_replacement->bind(2, each.hourUtc);
-        m_replacement->bind(3, each.isRoaming ? 1 : 0);
-        m_replacement->bind(4, each.uploadedBytes);
-        m_replacement->bind(5, each.downloadedBytes);
-        m_replacement->exec();
+        SQLite::Statement &statement = m_replacement.ready();
+        statement.bind(1, key);
+        statement.bind(2, each.hourUtc);
+        statement.bind(3, each.isRoaming ? 1 : 0);
+        statement.bind(4, each.uploadedBytes);
+        statement.bind(5, each.downloadedBytes);
+        statement.exec();
     }
 }
 
 void HourTable::remove(std::int64_t key)
 {
-    SQLite::Statement statement(m_database, "DELETE FROM " + m_hours + " WHERE connection = ?");
+    SQLite::Statement &statement = m_removal.ready();
     statement.bind(1, key);
     statement.exec();
 }
@@ -74,18 +75,11 @@ void HourTable::takeOver(HourTable &other, std::int64_t from, std::int64_t to)
 
 bool HourTable::addUp(std::int64_t key)
 {
-    // A sum that does not fit is an error of SQLite's; total() would be a float.
-    if (!m_comparison)
-        m_comparison.emplace(m_database,
-                             "SELECT count(*) = 0 OR (sum(h.uploaded_bytes) = c.uploaded_bytes"
-                             " AND sum(h.downloaded_bytes) = c.downloaded_bytes) FROM " +
-                                 m_hours + " h JOIN " + m_connections +
-                                 " c ON c.key = h.connection WHERE h.connection = ?");
-    m_comparison->tryReset();
-    m_comparison->bind(1, key);
-    m_comparison->executeStep();
-    const bool isRight = m_comparison->getColumn(0).getInt() != 0;
-    m_comparison->tryReset(); // one that is being read holds its transaction open
+    SQLite::Statement &statement = m_comparison.ready();
+    statement.bind(1, key);
+    statement.executeStep();
+    const bool isRight = statement.getColumn(0).getInt() != 0;
+    statement.tryReset(); // one that is being read holds its transaction open
     return isRight;
 }
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "RowQuery.h"
 #include "Store.h"
 
-#include <SQLiteCpp/Statement.h>
-
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -45,8 +43,9 @@ private:
     SQLite::Database &m_database;
     std::string m_connections;
     std::string m_hours;
-    std::optional<SQLite::Statement> m_replacement;
-    std::optional<SQLite::Statement> m_comparison;
+    PreparedStatement m_replacement;
+    PreparedStatement m_removal;
+    PreparedStatement m_comparison;
 };
 
 } // namespace history

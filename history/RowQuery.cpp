@@ -64,4 +64,13 @@ void RowQuery::check(int code, int expected) const
         throw SQLite::Exception(m_database, code);
 }
 
+SQLite::Statement &PreparedStatement::ready()
+{
+    if (!m_statement)
+        m_statement.emplace(m_database, m_sql);
+    // Answers with the error of the call before, which that call has reported.
+    m_statement->tryReset();
+    return *m_statement;
+}
+
 } // namespace history

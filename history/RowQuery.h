@@ -6,8 +6,10 @@
 #include <SQLiteCpp/Statement.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -70,6 +72,24 @@ private:
 
     sqlite3 *m_database;
     sqlite3_stmt *m_statement = nullptr;
+};
+
+/// A statement for many calls, compiled at the first one and ready to be bound at each.
+class PreparedStatement
+{
+public:
+    PreparedStatement(SQLite::Database &database, std::string sql)
+        : m_database(database)
+        , m_sql(std::move(sql))
+    {
+    }
+
+    SQLite::Statement &ready();
+
+private:
+    SQLite::Database &m_database;
+    std::string m_sql;
+    std::optional<SQLite::Statement> m_statement;
 };
 
 /// "first, second, third": what `textOf` makes of each field.

@@ -85,7 +85,9 @@ StoreTables::StoreTables(SQLite::Database &database, std::string path)
 std::int64_t StoreTables::insert(const Connection &connection)
 {
     const std::int64_t key = connections.insert(connection);
-    writeHours(m_hours, key, connection.hours);
+    // A new one without them has none to add up.
+    if (!connection.hours.empty())
+        writeHours(m_hours, key, connection.hours);
     return key;
 }
 
