@@ -103,7 +103,7 @@ HourlyBytes hourFrom(const Json &json)
 {
     HourlyBytes hour;
     hour.hourUtc = memberValue(json, "hour", false, fieldTime);
-    if (hour.hourUtc % history::secondsPerHour != 0)
+    if (history::startOfHour(hour.hourUtc) != hour.hourUtc)
         fail("hour", "it is no whole hour of UTC");
     const Json &roaming = memberOf(json, "roaming");
     if (!roaming.is_boolean())

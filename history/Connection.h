@@ -26,6 +26,12 @@ constexpr const char *abroad = "roaming";
 
 constexpr std::int64_t secondsPerHour = 3600;
 
+/// The first second of that second's hour of UTC.
+constexpr std::int64_t startOfHour(std::int64_t utc)
+{
+    return utc - utc % secondsPerHour;
+}
+
 /// What a connection has moved in one hour of UTC, at home (or where that is unknown)
 /// or roaming.
 struct HourlyBytes {

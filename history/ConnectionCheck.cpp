@@ -57,7 +57,7 @@ void checkHours(const std::string &whose, const std::vector<HourlyBytes> &hours)
         checkValue(whose, "number of bytes sent in an hour", each.uploadedBytes, largestByteCount);
         checkValue(whose, "number of bytes received in an hour", each.downloadedBytes,
                    largestByteCount);
-        if (each.hourUtc % secondsPerHour != 0)
+        if (startOfHour(each.hourUtc) != each.hourUtc)
             throw StoreFailure(Kind::BadRecord, "An hour of " + whose + " begins at " +
                                                     std::to_string(each.hourUtc) +
                                                     ", which is not the beginning of an hour.");

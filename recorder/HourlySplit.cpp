@@ -76,7 +76,7 @@ std::vector<HourlyBytes> HourlySplit::changedSince(const std::vector<HourlyBytes
 
 HourlyBytes &HourlySplit::hourAt(std::int64_t utc, bool isRoaming)
 {
-    const std::int64_t start = utc - utc % history::secondsPerHour;
+    const std::int64_t start = history::startOfHour(utc);
     const auto found = std::find_if(m_hours.begin(), m_hours.end(), [&](const HourlyBytes &each) {
         return each.hourUtc == start && each.isRoaming == isRoaming;
     });

@@ -19,9 +19,17 @@ namespace
 /// Those that a group's sum has in common, in the order of the sums.
 using GroupKey = std::tuple<std::string, std::string, std::string, bool, std::int64_t>;
 
-std::int64_t startOfHour(std::int64_t utc)
+/// One group's sum, and what is in it, each connection once.
+struct Group {
+    Sum sum;
+    std::set<std::pair<bool, std::int64_t>> connections;
+};
+
+/// The name, or the code where that is all that is known.
+template <typename Source>
+const std::string &operatorOf(const Source &source)
 {
-    return utc - utc % history::secondsPerHour;
+    return source.operatorName.empty() ? source.operatorCode : source.operatorName;
 }
 
 /// A number that rises from one period to the next.
@@ -31,11 +39,13 @@ std::int64_t periodOf(std::int64_t utc, Period unit)
     case Period::All:
         return 0;
     case Period::Hour:
-        return startOfHour(utc);
+        return history::startOfHour(utc);
     case Period::Day:
         return localDay(utc).toJulianDay();
-    case Period::Month:
-        return localDay(utc).year() * 100 + localDay(utc).month();
+    case Period::Month: {
+        const QDate day = localDay(utc);
+        return day.year() * 100 + day.month();
+    }
     case Period::Year:
         return localDay(utc).year();
     }
@@ -90,7 +100,7 @@ CountedBytes countedWhenMoved(const history::ConnectionHour &hour)
     counted.isOpen = hour.isOpen;
     counted.profile = hour.profile;
     counted.sim = hour.sim;
-    counted.operatorName = hour.operatorName.empty() ? hour.operatorCode : hour.operatorName;
+    counted.operatorName = operatorOf(hour);
     counted.isRoaming = hour.isRoaming;
     counted.utc = hour.utc;
     counted.uploadedBytes = hour.uploadedBytes;
@@ -104,8 +114,7 @@ CountedBytes countedAtStart(const history::Connection &connection)
     counted.key = connection.key;
     counted.profile = connection.profile;
     counted.sim = connection.sim;
-    counted.operatorName =
-        connection.operatorName.empty() ? connection.operatorCode : connection.operatorName;
+    counted.operatorName = operatorOf(connection);
     counted.isRoaming = connection.roaming == history::abroad;
     counted.utc = connection.startUtc;
     counted.connectedSeconds = connection.connectedSeconds;
@@ -116,18 +125,18 @@ CountedBytes countedAtStart(const history::Connection &connection)
 
 std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping &grouping)
 {
-    std::map<GroupKey, Sum> groups;
-    std::map<GroupKey, std::set<std::pair<bool, std::int64_t>>> connections;
+    std::map<GroupKey, Group> groups;
     for (const CountedBytes &each : counted) {
-        const GroupKey group = groupOf(each, grouping);
-        add(groups[group], each);
-        connections[group].emplace(each.isOpen, each.key);
+        Group &group = groups[groupOf(each, grouping)];
+        add(group.sum, each);
+        group.connections.emplace(each.isOpen, each.key);
     }
     std::vector<Sum> sums;
     sums.reserve(groups.size());
-    for (auto &[group, sum] : groups) {
-        std::tie(sum.profile, sum.sim, sum.operatorName, sum.isRoaming, sum.period) = group;
-        sum.connections = static_cast<std::int64_t>(connections[group].size());
+    for (auto &[key, group] : groups) {
+        Sum &sum = group.sum;
+        std::tie(sum.profile, sum.sim, sum.operatorName, sum.isRoaming, sum.period) = key;
+        sum.connections = static_cast<std::int64_t>(group.connections.size());
         sums.push_back(std::move(sum));
     }
     return sums;

@@ -70,7 +70,7 @@ void addHours(const history::Store &store, std::vector<history::Connection> &con
         withKey[connection.key] = &connection;
     for (const history::ConnectionHour &hour : valueOrFailure(store.hours())) {
         const auto found = hour.isOpen ? withKey.end() : withKey.find(hour.key);
-        if (found != withKey.end() && hour.utc % history::secondsPerHour == 0)
+        if (found != withKey.end() && history::startOfHour(hour.utc) == hour.utc)
             found->second->hours.push_back(
                 {hour.utc, hour.isRoaming, hour.uploadedBytes, hour.downloadedBytes});
     }
