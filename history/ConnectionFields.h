@@ -119,6 +119,13 @@ using Identifies = std::negation<std::is_base_of<kind::Detail, typename AnyField
 template <typename AnyField>
 using IsSharedAndChanges = std::conjunction<IsShared<AnyField>, std::negation<IsStart<AnyField>>>;
 
+/// What time alone changes.
+template <typename AnyField>
+using IsOfClock = std::disjunction<std::is_base_of<kind::Time, typename AnyField::Kind>,
+                                   std::is_base_of<kind::Duration, typename AnyField::Kind>>;
+template <typename AnyField>
+using IsNotOfClock = std::negation<IsOfClock<AnyField>>;
+
 /// Those of the fields whose types meet the condition.
 template <template <typename> class Condition, typename... Fields>
 constexpr auto chosenFrom(const std::tuple<Fields...> &fields)
@@ -144,6 +151,8 @@ constexpr auto openConnectionFields =
     std::tuple_cat(openIdentityFields, chosenFrom<IsShared>(connectionFields), openStateFields);
 constexpr auto openProgressFields =
     std::tuple_cat(chosenFrom<IsSharedAndChanges>(connectionFields), openStateFields);
+/// Those of these that do not change by the passing of time alone.
+constexpr auto openContentFields = chosenFrom<IsNotOfClock>(openProgressFields);
 
 /// Calls `visit` with each of the fields, in order.
 template <typename Fields, typename Visit>

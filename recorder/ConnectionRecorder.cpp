@@ -119,8 +119,7 @@ bool ConnectionRecorder::isAnothersTurn()
 void ConnectionRecorder::handleChange(const LinkChange &change)
 {
     m_session->handleChange(change);
-    if (!m_timer.isActive() && m_session->isBusy())
-        m_timer.start();
+    tickIfBusy();
 }
 
 void ConnectionRecorder::handlePort(const QString &interfaceName)
@@ -128,6 +127,11 @@ void ConnectionRecorder::handlePort(const QString &interfaceName)
     if (!m_isRecording)
         return;
     m_session->handlePort(interfaceName);
+    tickIfBusy();
+}
+
+void ConnectionRecorder::tickIfBusy()
+{
     if (!m_timer.isActive() && m_session->isBusy())
         m_timer.start();
 }

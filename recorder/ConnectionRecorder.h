@@ -120,6 +120,7 @@ private:
     void handlePort(const QString &interfaceName);
     void handleAllPorts();
     void tick();
+    void tickIfBusy();
     bool isAnothersTurn();
     void giveUp();
     void stop(const Problem &problem);

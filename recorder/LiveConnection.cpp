@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "LiveConnection.h"
 
+#include "history/ConnectionFields.h"
+
 #include <algorithm>
 #include <limits>
-#include <tuple>
 #include <utility>
 
 namespace recorder
@@ -244,12 +245,9 @@ void LiveConnection::setOwner(const modem::Subscriber &owner)
 
 bool LiveConnection::isUnsaved() const
 {
-    const auto contents = [](const history::OpenConnection &row) {
-        return std::tie(row.key, row.interfaceName, row.linkMark, row.profile, row.baseUploaded,
-                        row.baseDownloaded, row.uploadedBytes, row.downloadedBytes, row.ending,
-                        row.operatorName, row.operatorCode, row.sim, row.roaming, row.technology);
-    };
-    return !m_saved || contents(*m_saved) != contents(m_row);
+    using history::openContentFields;
+    return !m_saved || m_saved->key != m_row.key ||
+           valuesOf(*m_saved, openContentFields) != valuesOf(m_row, openContentFields);
 }
 
 void LiveConnection::setProfile(const std::string &profile)
