@@ -3,11 +3,11 @@
 #include "history/StoreSchema.h"
 
 #include "StoreSamples.h"
+#include "StoreTestCase.h"
 
 #include <SQLiteCpp/Database.h>
 
 #include <QScopeGuard>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -79,17 +79,11 @@ void makeStoreOfVersion(const std::string &path, std::size_t version)
 
 } // namespace
 
-class HoursTest : public QObject
+class HoursTest : public StoreTestCase
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_path = m_folder->filePath("connections.db").toStdString();
-    }
-
     void keepWhatAnOpenConnectionMoves();
     void becomeTheFinishedConnections();
     void haveToAddUp();
@@ -101,10 +95,6 @@ private slots:
     void areThereInAStoreOfEachVersion_data();
     void areThereInAStoreOfEachVersion();
     void importOfAnEarlierVersionsRecordAddsNothing();
-
-private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::string m_path;
 };
 
 void HoursTest::keepWhatAnOpenConnectionMoves()

@@ -3,10 +3,10 @@
 
 #include "KoraStatistics.h"
 #include "StoreSamples.h"
+#include "StoreTestCase.h"
 
 #include <SQLiteCpp/Database.h>
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <limits>
@@ -74,21 +74,20 @@ void makeFirstVersion(const std::string &path)
 
 } // namespace
 
-class OpenConnectionsTest : public QObject
+class OpenConnectionsTest : public StoreTestCase
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_path = m_folder->filePath("connections.db").toStdString();
+        StoreTestCase::init();
         qputenv("NETINFO_STORE", QByteArray::fromStdString(m_path));
     }
     void cleanup()
     {
         qunsetenv("NETINFO_STORE");
-        m_folder.reset();
+        StoreTestCase::cleanup();
     }
 
     void upgradesAStoreOfTheFirstVersion();
@@ -110,9 +109,6 @@ private slots:
 
 private:
     Store open() { return storeWith(m_path, {}); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::string m_path;
 };
 
 void OpenConnectionsTest::upgradesAStoreOfTheFirstVersion()

@@ -1,39 +1,33 @@
 // SPDX-License-Identifier: MIT
 // What somebody has put into a store that its own program would not: it does not run.
 #include "StoreSamples.h"
+#include "StoreTestCase.h"
 #include "history/Store.h"
 
 #include <SQLiteCpp/Database.h>
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
 
 using history::Store;
 
-class PlantedSchemaTest : public QObject
+class PlantedSchemaTest : public StoreTestCase
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_path = m_folder->filePath("connections.db").toStdString();
+        StoreTestCase::init();
         storeWith(m_path, numberedConnections(2));
     }
-    void cleanup() { m_folder.reset(); }
 
     void isRefused_data();
     void isRefused();
     void doesNotRunWhenPlantedLater();
     void statisticsOfTheQueryPlannerAreNoObstacle();
     void indexesOfColumnsAreNoObstacle();
-
-private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::string m_path;
 };
 
 void PlantedSchemaTest::isRefused_data()

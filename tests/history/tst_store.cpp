@@ -2,8 +2,8 @@
 #include "history/Store.h"
 
 #include "StoreSamples.h"
+#include "StoreTestCase.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <cstdio>
@@ -11,20 +11,15 @@
 using history::Connection;
 using history::Store;
 
-class StoreTest : public QObject
+class StoreTest : public StoreTestCase
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_path = m_folder->filePath("connections.db").toStdString();
-    }
     void cleanup()
     {
         qunsetenv("NETINFO_STORE");
-        m_folder.reset();
+        StoreTestCase::cleanup();
     }
 
     void theNamedStoreIsTheDefault();
@@ -46,10 +41,6 @@ private slots:
     void removesTheConnectionsWithTheseKeys();
     void removesAllOrNone();
     void removingNothingRemovesNothing();
-
-private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::string m_path;
 };
 
 void StoreTest::theNamedStoreIsTheDefault()

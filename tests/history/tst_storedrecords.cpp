@@ -2,8 +2,8 @@
 #include "history/Store.h"
 
 #include "StoreSamples.h"
+#include "StoreTestCase.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sqlite3.h>
@@ -38,18 +38,11 @@ Connection withText(std::string Connection::*field, const std::string &value)
 
 } // namespace
 
-class StoredRecordsTest : public QObject
+class StoredRecordsTest : public StoreTestCase
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_path = m_folder->filePath("connections.db").toStdString();
-    }
-    void cleanup() { m_folder.reset(); }
-
     void takesValuesAtTheLimits_data();
     void takesValuesAtTheLimits();
     void refusesValuesOutsideTheirRange_data();
@@ -64,10 +57,6 @@ private slots:
     void addMissingKeepsNothingWhenTheListenerThrows();
     void saysThatThereIsNotEnoughMemory();
     void saysThatTheDatabaseHasNotEnoughMemory();
-
-private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::string m_path;
 };
 
 void StoredRecordsTest::takesValuesAtTheLimits_data()

@@ -2,8 +2,8 @@
 #include "history/Store.h"
 
 #include "StoreSamples.h"
+#include "StoreTestCase.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <stdexcept>
@@ -15,18 +15,11 @@ using Connections = std::vector<Connection>;
 Q_DECLARE_METATYPE(Connections)
 
 /// Storing what logs tell, of which they may have lost a part.
-class StoreMergeTest : public QObject
+class StoreMergeTest : public StoreTestCase
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_path = m_folder->filePath("connections.db").toStdString();
-    }
-    void cleanup() { m_folder.reset(); }
-
     void knowsAConnectionAgain_data();
     void knowsAConnectionAgain();
     void addsNothingTheSecondTime();
@@ -34,10 +27,6 @@ private slots:
     void leavesEqualOnesAlone();
     void keepsNothingWhenTheListenerThrows();
     void pairsManyOfOneIdentity();
-
-private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::string m_path;
 };
 
 namespace
