@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "SampleHistory.h"
 
-#include "history/Store.h"
-
 #include <QJsonArray>
 #include <QJsonObject>
 
 using namespace history;
 
-namespace
-{
-
-Connection connection(const char *profile, std::int64_t start, std::int64_t seconds,
-                      std::int64_t uploaded)
+Connection sampleConnection(const std::string &profile, std::int64_t start, std::int64_t seconds,
+                            std::int64_t uploaded, std::int64_t downloaded)
 {
     Connection made;
     made.profile = profile;
@@ -20,22 +15,20 @@ Connection connection(const char *profile, std::int64_t start, std::int64_t seco
     made.endUtc = start + seconds;
     made.connectedSeconds = seconds;
     made.uploadedBytes = uploaded;
-    made.downloadedBytes = 10 * uploaded;
+    made.downloadedBytes = downloaded;
     return made;
 }
-
-} // namespace
 
 SampleHistory::SampleHistory()
     : m_path(m_folder.filePath("connections.db"))
 {
-    Connection withSim = connection("internet", 1717192800, 60, 4);
+    Connection withSim = sampleConnection("internet", 1717192800, 60, 4, 40);
     withSim.sim = "8949000000000001234";
     auto opened = Store::openOrCreate(m_path.toStdString());
-    const bool isFilled =
-        opened && opened.value().addMissing({connection("internet", 1714514400, 60, 1),
-                                             connection("Internet", 1717192799, 100000, 2), withSim,
-                                             connection("", 1717279200, 60, 8)});
+    const bool isFilled = opened && opened.value().addMissing(
+                                        {sampleConnection("internet", 1714514400, 60, 1, 10),
+                                         sampleConnection("Internet", 1717192799, 100000, 2, 20),
+                                         withSim, sampleConnection("", 1717279200, 60, 8, 80)});
     if (!isFilled)
         qFatal("%s cannot be filled", qPrintable(m_path));
 }

@@ -2,8 +2,14 @@
 #pragma once
 
 #include "ConnrecordRun.h"
+#include "history/Store.h"
 
 #include <QTemporaryDir>
+
+/// One that lasted as long as it was connected.
+history::Connection sampleConnection(const std::string &profile, std::int64_t start,
+                                     std::int64_t seconds, std::int64_t uploaded,
+                                     std::int64_t downloaded);
 
 /// A new history of four connections: of "internet" with key 1 on 2024-05-01 and key 3 on
 /// 2024-06-01, of "Internet" with key 2 in the last second of May, and without a profile

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ConnrecordRun.h"
+#include "SampleHistory.h"
 #include "history/Store.h"
 
 #include <QDir>
@@ -51,23 +51,12 @@ constexpr std::int64_t may = 1714514400;          // 2024-05-01 00:00:00
 constexpr std::int64_t june = 1717192800;         // 2024-06-01 00:00:00
 constexpr std::int64_t secondOfJune = 1717279200; // 2024-06-02 00:00:00
 
-Connection connection(const std::string &profile, std::int64_t start, std::int64_t seconds,
-                      std::int64_t uploaded, std::int64_t downloaded)
-{
-    Connection made;
-    made.profile = profile;
-    made.startUtc = start;
-    made.endUtc = start + seconds;
-    made.connectedSeconds = seconds;
-    made.uploadedBytes = uploaded;
-    made.downloadedBytes = downloaded;
-    return made;
-}
-
 std::vector<Connection> samples()
 {
-    return {connection("internet", may, 60, 1, 10), connection("Internet", june - 1, 100000, 2, 20),
-            connection("internet", june, 60, 4, 40), connection("", secondOfJune, 60, 8, 80)};
+    return {sampleConnection("internet", may, 60, 1, 10),
+            sampleConnection("Internet", june - 1, 100000, 2, 20),
+            sampleConnection("internet", june, 60, 4, 40),
+            sampleConnection("", secondOfJune, 60, 8, 80)};
 }
 
 /// The JSON without blanks and line feeds.
@@ -216,7 +205,7 @@ void ConnrecordTotalsTest::leavesOpenConnectionsOut()
 void ConnrecordTotalsTest::refusesASumThatIsTooLarge()
 {
     constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
-    store({connection("a", may, 60, most, 0), connection("b", june, 60, 1, 0)});
+    store({sampleConnection("a", may, 60, most, 0), sampleConnection("b", june, 60, 1, 0)});
     const ConnrecordRun refused = totals({});
     QCOMPARE(refused.exitCode, 1);
     QCOMPARE(refused.output, QByteArray());
