@@ -22,7 +22,8 @@ for size in 16 22 24 32 48 64 128 256; do
     }
 done
 
-coproc SCREEN { exec Xvfb -displayfd 1 -nolisten tcp 2>/dev/null; }
+# A server that starts anew when its last client leaves would turn away one that is just coming.
+coproc SCREEN { exec Xvfb -displayfd 1 -noreset -nolisten tcp 2>/dev/null; }
 read -r number <&"${SCREEN[0]}"
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb
 "$refdialer" --demo &
