@@ -30,18 +30,18 @@ constexpr int pauseMilliseconds = 1000;
 QString uniqueName()
 {
     static std::atomic<int> count{0};
-    return QStringLiteral("modem-%1").arg(++count);
+    return QStringLiteral("bus-%1").arg(++count);
 }
 
-QDBusMessage busCall(const char *method, const QVariantList &arguments = {})
+} // namespace
+
+QDBusMessage busCall(const char *method, const QVariantList &arguments)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(names::bus, names::busPath, names::bus,
                                                        QLatin1String(method));
     call.setArguments(arguments);
     return call;
 }
-
-} // namespace
 
 BusConnection::BusConnection(const QString &address, std::vector<Subscription> subscriptions,
                              QObject *parent)
@@ -61,15 +61,12 @@ BusConnection::~BusConnection()
     close();
 }
 
-void BusConnection::start()
+bool BusConnection::start()
 {
-    if (isLocalBusAddress(m_address))
-        connectToBus();
-    else
-        qCWarning(log,
-                  "No names of mobile networks: the system bus \"%s\" is not on this computer. "
-                  "Set DBUS_SYSTEM_BUS_ADDRESS to an address that begins with \"unix:\".",
-                  qUtf8Printable(m_address));
+    if (!isLocalBusAddress(m_address))
+        return false;
+    connectToBus();
+    return true;
 }
 
 void BusConnection::connectToBus()

@@ -17,6 +17,9 @@ class QFileSystemWatcher;
 namespace modem
 {
 
+/// A call of a method of the bus itself.
+QDBusMessage busCall(const char *method, const QVariantList &arguments = {});
+
 /// A connection to a message bus that never waits: neither for a bus that is not there
 /// yet, nor for one that accepts and then says nothing. QtDBus's own connections to a
 /// bus are greeted by it before anything else goes on, and all of a program's share one
@@ -42,7 +45,10 @@ public:
                   QObject *parent = nullptr);
     ~BusConnection() override;
 
-    void start();
+    /// False, and nothing else follows, if the address leads to another computer.
+    bool start();
+    /// To send signals and register objects with, between connected() and disconnected().
+    QDBusConnection connection() const { return m_connection; }
     /// Sends the call and starts no service for it. The answer must be the receiver's own
     /// and have that signature. No answer comes when the bus is lost meanwhile.
     void ask(const QDBusMessage &call, const QString &signature, const Handler &handler);

@@ -6,6 +6,7 @@
 
 #include <QDBusArgument>
 #include <QDBusMessage>
+#include <QLoggingCategory>
 
 #include <utility>
 #include <vector>
@@ -16,10 +17,10 @@ namespace modem
 namespace
 {
 
-constexpr QLatin1String ownerChanged = latin1("NameOwnerChanged");
+Q_LOGGING_CATEGORY(log, "modem", QtWarningMsg)
+
 constexpr QLatin1String interfacesAdded = latin1("InterfacesAdded");
 constexpr QLatin1String interfacesRemoved = latin1("InterfacesRemoved");
-constexpr QLatin1String propertiesChanged = latin1("PropertiesChanged");
 
 QString rule(QLatin1String sender, QLatin1String interfaceName, QLatin1String member,
              const QString &condition)
@@ -47,16 +48,16 @@ BusConnection::Subscription ofProperties()
     QStringList rules;
     for (const QLatin1String name : {names::modemInterface, names::registrationInterface,
                                      names::bearerInterface, names::simInterface})
-        rules.append(rule(names::service, names::propertiesInterface, propertiesChanged,
+        rules.append(rule(names::service, names::propertiesInterface, names::propertiesChanged,
                           firstArgument(name)));
-    return {names::propertiesInterface, propertiesChanged, rules};
+    return {names::propertiesInterface, names::propertiesChanged, rules};
 }
 
 std::vector<BusConnection::Subscription> subscriptions()
 {
     return {{names::bus,
-             ownerChanged,
-             {rule(names::bus, names::bus, ownerChanged, firstArgument(names::service))}},
+             names::ownerChanged,
+             {rule(names::bus, names::bus, names::ownerChanged, firstArgument(names::service))}},
             ofModems(interfacesAdded),
             ofModems(interfacesRemoved),
             ofProperties()};
@@ -102,6 +103,7 @@ QStringList differences(const PortSource::Ports &before, const PortSource::Ports
 
 Modems::Modems(const QString &busAddress, QObject *parent)
     : PortSource(parent)
+    , m_busAddress(busAddress)
     , m_bus(new BusConnection(busAddress, subscriptions(), this))
 {
     connect(m_bus, &BusConnection::connected, this, &Modems::askForOwner);
@@ -113,17 +115,19 @@ Modems::~Modems() = default;
 
 void Modems::start()
 {
-    m_bus->start();
+    if (!m_bus->start())
+        qCWarning(log,
+                  "No names of mobile networks: the system bus \"%s\" is not on this computer. "
+                  "Set DBUS_SYSTEM_BUS_ADDRESS to an address that begins with \"unix:\".",
+                  qUtf8Printable(m_busAddress));
 }
 
 void Modems::askForOwner()
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(names::bus, names::busPath, names::bus,
-                                                       QStringLiteral("GetNameOwner"));
-    call << QString(names::service);
-    m_bus->ask(call, QStringLiteral("s"), [this](const QVariantList &reply) {
-        setOwner(reply.isEmpty() ? QString() : reply.first().toString());
-    });
+    m_bus->ask(busCall("GetNameOwner", {names::service}), QStringLiteral("s"),
+               [this](const QVariantList &reply) {
+                   setOwner(reply.isEmpty() ? QString() : reply.first().toString());
+               });
 }
 
 void Modems::setOwner(const QString &uniqueName)
@@ -141,7 +145,7 @@ void Modems::setOwner(const QString &uniqueName)
 
 void Modems::handleSignal(const QDBusMessage &message)
 {
-    if (message.service() == names::bus && is(message, ownerChanged, "sss")) {
+    if (message.service() == names::bus && is(message, names::ownerChanged, "sss")) {
         if (message.arguments().at(0).toString() == names::service)
             setOwner(message.arguments().at(2).toString());
     } else if (!m_owner.isEmpty() && message.service() == m_owner) {
@@ -158,7 +162,7 @@ void Modems::handleNews(const QDBusMessage &message)
                                   qdbus_cast<ModemTable::Interfaces>(arguments.at(1))));
     else if (is(message, interfacesRemoved, "oas"))
         m_table.removeInterfaces(objectPath(arguments.at(0)), arguments.at(1).toStringList());
-    else if (is(message, propertiesChanged, "sa{sv}as"))
+    else if (is(message, names::propertiesChanged, "sa{sv}as"))
         ask(m_table.changeProperties(message.path(), arguments.at(0).toString(),
                                      changedProperties(arguments)));
 }

@@ -39,6 +39,7 @@ private:
     void ask(const ModemTable::Questions &questions);
     void publish();
 
+    const QString m_busAddress;
     BusConnection *const m_bus; ///< a child
     QString m_owner;            ///< the daemon's own name on the bus; empty if it is not there
     ModemTable m_table;

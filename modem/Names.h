@@ -29,6 +29,8 @@ constexpr QLatin1String simInterface = latin1("org.freedesktop.ModemManager1.Sim
 constexpr QLatin1String bus = latin1("org.freedesktop.DBus");
 constexpr QLatin1String busPath = latin1("/org/freedesktop/DBus");
 constexpr QLatin1String propertiesInterface = latin1("org.freedesktop.DBus.Properties");
+constexpr QLatin1String ownerChanged = latin1("NameOwnerChanged");
+constexpr QLatin1String propertiesChanged = latin1("PropertiesChanged");
 constexpr QLatin1String objectsInterface = latin1("org.freedesktop.DBus.ObjectManager");
 
 } // namespace modem::names
