@@ -84,6 +84,8 @@ public:
     /// next start to resume, and watches no more. What could not be kept, if anything.
     std::optional<Problem> end();
 
+    bool isRecording() const { return m_isRecording; }
+
 public slots:
     /// Opens the store, settles what earlier processes left open, and begins to
     /// watch; false, with failed(), if that is not possible. Then it is tried again

@@ -18,6 +18,7 @@ KNOWN_TO = {
     "modem": [],
     "usage": ["history"],
     "formats": ["usage", "history"],
+    "recorder/bus": ["recorder", "modem", "history"],
     "recorder": ["modem", "history"],
     "apps/common": ["formats", "usage", "recorder", "modem", "history"],
     "apps/connrecord": ["apps/common", "formats", "usage", "recorder", "modem", "history"],

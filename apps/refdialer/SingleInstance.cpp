@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "SingleInstance.h"
 
-#include <QCryptographicHash>
+#include "recorder/bus/BusName.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDir>
-#include <QFile>
-
-#include <filesystem>
 
 namespace refdialer
 {
@@ -23,20 +20,10 @@ const char *const activationToken = "activation-token";
 /// Long enough for a program that is loading a large history.
 constexpr int patienceMilliseconds = 10000;
 
-/// The path in bytes without symbolic links, as far as it is there.
-QByteArray realPath(const QString &file)
-{
-    const std::filesystem::path path(QFile::encodeName(file).toStdString());
-    std::error_code error;
-    const auto real = std::filesystem::weakly_canonical(path, error);
-    return QByteArray::fromStdString((error ? path : real).string());
-}
-
 /// As the rules of desktop entries derive it from the application's identifier.
 QString objectPath()
 {
-    return QLatin1Char('/') +
-           QString::fromLatin1(applicationId).replace(QLatin1Char('.'), QLatin1Char('/'));
+    return recorder::objectPathFor(QLatin1String(applicationId));
 }
 
 bool takeName(QDBusConnection &bus, const QString &name)
@@ -72,14 +59,7 @@ SingleInstance::~SingleInstance()
 
 QString SingleInstance::nameFor(const QString &storeFile)
 {
-    const QByteArray path = realPath(storeFile);
-    if (path ==
-        realPath(QDir::homePath() + QLatin1String("/.local/share/refdialer/connections.db")))
-        return QLatin1String(applicationId);
-    const QByteArray digest = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex();
-    // A part of a name must not begin with a digit.
-    return QLatin1String(applicationId) + QLatin1String(".store") +
-           QString::fromLatin1(digest.left(32));
+    return recorder::busNameFor(QLatin1String(applicationId), storeFile);
 }
 
 SingleInstance::Outcome SingleInstance::claim(const QString &storeFile)

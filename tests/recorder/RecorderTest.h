@@ -28,7 +28,7 @@ class RecorderTest : public QObject
 {
     Q_OBJECT
 
-private slots:
+protected slots:
     void init();
     void cleanup();
 

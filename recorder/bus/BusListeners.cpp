@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "recorder/bus/BusListeners.h"
+
+#include "modem/BusConnection.h"
+#include "modem/Names.h"
+
+#include <QDBusMessage>
+
+#include <utility>
+
+namespace recorder
+{
+
+using modem::busCall;
+namespace names = modem::names;
+
+namespace
+{
+
+QString departureOf(const QString &client)
+{
+    return QStringLiteral("type='signal',sender='%1',interface='%1',member='%2',arg0='%3',arg2=''")
+        .arg(names::bus, names::ownerChanged, client);
+}
+
+} // namespace
+
+BusListeners::BusListeners(modem::BusConnection &bus, std::function<void()> changed)
+    : m_bus(bus)
+    , m_changed(std::move(changed))
+{
+}
+
+void BusListeners::add(const QString &client)
+{
+    if (m_clients.contains(client))
+        return;
+    m_clients.insert(client);
+    m_bus.ask(busCall("AddMatch", {departureOf(client)}), QString(), [](const QVariantList &) {});
+    askWhetherStillThere(client);
+    if (m_clients.size() == 1)
+        m_changed();
+}
+
+/// It may have left before the bus was asked to tell that.
+void BusListeners::askWhetherStillThere(const QString &client)
+{
+    m_bus.ask(busCall("NameHasOwner", {client}), QStringLiteral("b"),
+              [this, client](const QVariantList &reply) {
+                  if (reply.isEmpty() || !reply.first().toBool())
+                      remove(client);
+              });
+}
+
+void BusListeners::remove(const QString &client)
+{
+    if (!m_clients.remove(client))
+        return;
+    m_bus.ask(busCall("RemoveMatch", {departureOf(client)}), QString(),
+              [](const QVariantList &) {});
+    if (m_clients.isEmpty())
+        m_changed();
+}
+
+void BusListeners::forgetAll()
+{
+    if (m_clients.isEmpty())
+        return;
+    m_clients.clear();
+    m_changed();
+}
+
+void BusListeners::handleOwnerChange(const QDBusMessage &message)
+{
+    const QVariantList arguments = message.arguments();
+    const bool isOfTheBus = message.service() == names::bus &&
+                            message.member() == names::ownerChanged &&
+                            message.signature() == QLatin1String("sss");
+    if (isOfTheBus && arguments.at(2).toString().isEmpty())
+        remove(arguments.at(0).toString());
+}
+
+} // namespace recorder
