@@ -20,10 +20,11 @@ KNOWN_TO = {
     "formats": ["usage", "history"],
     "recorder/bus": ["recorder", "modem", "history"],
     "recorder": ["modem", "history"],
-    "apps/common": ["formats", "usage", "recorder", "modem", "history"],
-    "apps/connrecord": ["apps/common", "formats", "usage", "recorder", "modem", "history"],
+    "apps/common": ["formats", "usage", "recorder/bus", "recorder", "modem", "history"],
+    "apps/connrecord": ["apps/common", "formats", "usage", "recorder/bus", "recorder", "modem", "history"],
     "apps/refdialer": [
-        "host", "refhost/libcore", "apps/common", "formats", "usage", "recorder", "modem", "history",
+        "host", "refhost/libcore", "apps/common", "formats", "usage", "recorder/bus", "recorder", "modem",
+        "history",
     ],
 }
 
