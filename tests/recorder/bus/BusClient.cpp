@@ -57,6 +57,11 @@ QString BusClient::owner() const
     return m_bus.interface()->serviceOwner(m_serviceName);
 }
 
+void BusClient::waitForName()
+{
+    m_bus.interface()->registerService(m_serviceName, QDBusConnectionInterface::QueueService);
+}
+
 QDBusMessage BusClient::call(const QString &interfaceName, const QString &method,
                              const QVariantList &arguments)
 {

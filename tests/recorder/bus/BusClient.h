@@ -25,6 +25,8 @@ public:
     bool isServiceThere() const { return isThere(m_serviceName); }
     /// The service's own name on the bus.
     QString owner() const;
+    /// Gets the service's name when that one gives it away.
+    void waitForName();
 
     /// The service's answer; an error if it has none in time.
     QDBusMessage call(const QString &method);

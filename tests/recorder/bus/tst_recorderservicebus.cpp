@@ -18,6 +18,7 @@ private slots:
     void goesToNoOtherComputer();
     void givesTheNameToTheOneThatRecords();
     void givesTheNameAwayWhenItRecordsNoMore();
+    void givesTheNameToWhoWaitedForItBefore();
     void hasANameForEachHistory();
 
 private:
@@ -54,8 +55,8 @@ void TestRecorderServiceBus::forgetsListenersOfAFormerBus()
 {
     publish();
     QCOMPARE(m_client->call("Watch").type(), QDBusMessage::ReplyMessage);
-    m_client.reset();
     m_bus->kill();
+    m_client.reset();
     QVERIFY(QFile::remove(m_bus->socket()));
     QVERIFY(m_bus->start());
     m_client = makeClient();
@@ -148,6 +149,18 @@ void TestRecorderServiceBus::givesTheNameAwayWhenItRecordsNoMore()
     QTRY_VERIFY(waiting.isRecording());
     QTRY_VERIFY(m_client->isServiceThere() && m_client->owner() != owner);
     QTRY_COMPARE(m_client->property("Recording"), QVariant(true));
+}
+
+/// Another recorder may begin, and ask for the name, sooner than this one hears that it has
+/// stopped.
+void TestRecorderServiceBus::givesTheNameToWhoWaitedForItBefore()
+{
+    publish();
+    m_client->waitForName();
+    QVERIFY(m_client->owner() != m_client->name());
+    m_links->isBlind = true;
+    emit m_links->failed(recorder::Problem());
+    QTRY_COMPARE(m_client->owner(), m_client->name());
 }
 
 void TestRecorderServiceBus::hasANameForEachHistory()
