@@ -2,6 +2,7 @@
 #include "recorder/bus/ConnectionValues.h"
 
 #include "history/Store.h"
+#include "modem/Names.h"
 #include "recorder/ConnectionState.h"
 
 namespace recorder
@@ -13,17 +14,19 @@ namespace
 namespace keys
 {
 
-constexpr QLatin1String id("Id");
-constexpr QLatin1String profile("Profile");
-constexpr QLatin1String interfaceName("Interface");
-constexpr QLatin1String since("Since");
-constexpr QLatin1String until("Until");
-constexpr QLatin1String connectedSeconds("ConnectedSeconds");
-constexpr QLatin1String uploadedBytes("UploadedBytes");
-constexpr QLatin1String downloadedBytes("DownloadedBytes");
-constexpr QLatin1String uploadRate("UploadRate");
-constexpr QLatin1String downloadRate("DownloadRate");
-constexpr QLatin1String ending("Ending");
+using modem::latin1;
+
+constexpr QLatin1String id = latin1("Id");
+constexpr QLatin1String profile = latin1("Profile");
+constexpr QLatin1String interfaceName = latin1("Interface");
+constexpr QLatin1String since = latin1("Since");
+constexpr QLatin1String until = latin1("Until");
+constexpr QLatin1String connectedSeconds = latin1("ConnectedSeconds");
+constexpr QLatin1String uploadedBytes = latin1("UploadedBytes");
+constexpr QLatin1String downloadedBytes = latin1("DownloadedBytes");
+constexpr QLatin1String uploadRate = latin1("UploadRate");
+constexpr QLatin1String downloadRate = latin1("DownloadRate");
+constexpr QLatin1String ending = latin1("Ending");
 
 } // namespace keys
 
