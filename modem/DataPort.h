@@ -22,6 +22,13 @@ struct Subscriber {
     Roaming roaming = Roaming::Unknown;
 };
 
+/// Enough of a SIM's number to tell one's cards apart; the whole is nobody else's business.
+inline QString shownPartOfSim(const QString &number)
+{
+    constexpr int shownDigits = 4;
+    return number.right(shownDigits);
+}
+
 inline bool operator==(const Subscriber &a, const Subscriber &b)
 {
     const auto fields = [](const Subscriber &s) {

@@ -13,10 +13,13 @@ struct ConnectionState {
     qint64 id = 0; ///< of this connection alone
     QString profile;
     QString interfaceName;
-    QString operatorName; ///< empty if it is not known, as the SIM
+    // Whose it is, as far as known; what is unknown is empty.
+    QString operatorName;
+    QString operatorCode; ///< MCC and MNC
     QString sim;          ///< its number, which belongs in no log
     bool isRoaming = false;
-    QDateTime since; ///< in UTC
+    QString technology; ///< of access: "lte" ...
+    QDateTime since;    ///< in UTC
     qint64 uploadedBytes = 0;
     qint64 downloadedBytes = 0;
     qint64 uploadRate = 0; ///< bytes per second since the last report

@@ -383,8 +383,10 @@ ConnectionState RecordingSession::stateOf(LiveConnection &connection) const
     state.profile = QString::fromStdString(row.profile);
     state.interfaceName = QString::fromStdString(row.interfaceName);
     state.operatorName = QString::fromStdString(row.operatorName);
+    state.operatorCode = QString::fromStdString(row.operatorCode);
     state.sim = QString::fromStdString(row.sim);
     state.isRoaming = connection.isRoaming();
+    state.technology = QString::fromStdString(row.technology);
     state.since = QDateTime::fromSecsSinceEpoch(row.startUtc).toUTC();
     state.uploadedBytes = row.uploadedBytes;
     state.downloadedBytes = row.downloadedBytes;

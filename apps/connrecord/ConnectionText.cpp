@@ -4,6 +4,7 @@
 #include "TextTable.h"
 #include "formats/Utf8Text.h"
 #include "history/ConnectionFields.h"
+#include "modem/DataPort.h"
 #include "usage/CalendarTime.h"
 #include "usage/SizeText.h"
 
@@ -75,8 +76,7 @@ std::vector<QString> cells(const history::Connection &connection)
 
 QString simText(const std::string &number)
 {
-    constexpr int shownDigits = 4;
-    return nameText(number).right(shownDigits);
+    return modem::shownPartOfSim(nameText(number));
 }
 
 QString nameText(const std::string &name)

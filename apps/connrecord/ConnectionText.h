@@ -14,7 +14,7 @@ namespace connrecord
 
 /// A name from the store as the tables show it: on one line, and cut if it is long.
 QString nameText(const std::string &name);
-/// Enough of a SIM's number to tell one's cards apart; the whole is nobody else's business.
+/// As much of a SIM's number as is shown.
 QString simText(const std::string &number);
 
 /// The connections as a table for people, times in local time.

@@ -2,6 +2,7 @@
 #include "recorder/bus/ConnectionValues.h"
 
 #include "history/Store.h"
+#include "modem/DataPort.h"
 #include "modem/Names.h"
 #include "recorder/ConnectionState.h"
 
@@ -19,6 +20,11 @@ using modem::latin1;
 constexpr QLatin1String id = latin1("Id");
 constexpr QLatin1String profile = latin1("Profile");
 constexpr QLatin1String interfaceName = latin1("Interface");
+constexpr QLatin1String operatorName = latin1("Operator");
+constexpr QLatin1String operatorCode = latin1("OperatorCode");
+constexpr QLatin1String sim = latin1("Sim");
+constexpr QLatin1String isRoaming = latin1("Roaming");
+constexpr QLatin1String technology = latin1("Technology");
 constexpr QLatin1String since = latin1("Since");
 constexpr QLatin1String until = latin1("Until");
 constexpr QLatin1String connectedSeconds = latin1("ConnectedSeconds");
@@ -35,6 +41,11 @@ QVariant number(std::int64_t value)
     return QVariant::fromValue<qlonglong>(value);
 }
 
+QString text(const std::string &value)
+{
+    return QString::fromStdString(value);
+}
+
 } // namespace
 
 QVariantMap valuesOf(const ConnectionState &state)
@@ -42,6 +53,11 @@ QVariantMap valuesOf(const ConnectionState &state)
     return {{keys::id, number(state.id)},
             {keys::profile, state.profile},
             {keys::interfaceName, state.interfaceName},
+            {keys::operatorName, state.operatorName},
+            {keys::operatorCode, state.operatorCode},
+            {keys::sim, modem::shownPartOfSim(state.sim)},
+            {keys::isRoaming, state.isRoaming},
+            {keys::technology, state.technology},
             {keys::since, number(state.since.toSecsSinceEpoch())},
             {keys::uploadedBytes, number(state.uploadedBytes)},
             {keys::downloadedBytes, number(state.downloadedBytes)},
@@ -51,14 +67,19 @@ QVariantMap valuesOf(const ConnectionState &state)
 
 QVariantMap valuesOf(const history::Connection &connection)
 {
-    return {{keys::profile, QString::fromStdString(connection.profile)},
-            {keys::interfaceName, QString::fromStdString(connection.interfaceName)},
+    return {{keys::profile, text(connection.profile)},
+            {keys::interfaceName, text(connection.interfaceName)},
+            {keys::operatorName, text(connection.operatorName)},
+            {keys::operatorCode, text(connection.operatorCode)},
+            {keys::sim, modem::shownPartOfSim(text(connection.sim))},
+            {keys::isRoaming, connection.roaming == history::abroad},
+            {keys::technology, text(connection.technology)},
             {keys::since, number(connection.startUtc)},
             {keys::until, number(connection.endUtc)},
             {keys::connectedSeconds, number(connection.connectedSeconds)},
             {keys::uploadedBytes, number(connection.uploadedBytes)},
             {keys::downloadedBytes, number(connection.downloadedBytes)},
-            {keys::ending, QString::fromStdString(connection.ending)}};
+            {keys::ending, text(connection.ending)}};
 }
 
 QVariantMap identityIn(const QVariantMap &values)

@@ -5,6 +5,19 @@
 
 #include <utility>
 
+/// Who has a contract with a provider, and whose network is used.
+inline modem::Subscriber subscriberOf(modem::Roaming roaming)
+{
+    modem::Subscriber subscriber;
+    subscriber.apn = QStringLiteral("internet.example");
+    subscriber.operatorName = QStringLiteral("Example Mobile");
+    subscriber.operatorCode = QStringLiteral("00101");
+    subscriber.sim = QStringLiteral("8949000000000000001");
+    subscriber.technology = QStringLiteral("lte");
+    subscriber.roaming = roaming;
+    return subscriber;
+}
+
 /// News about modems' data ports that a test makes up.
 class FakePorts : public modem::PortSource
 {

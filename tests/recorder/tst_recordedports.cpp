@@ -9,18 +9,6 @@ namespace
 /// That in which the fake clock begins.
 constexpr std::int64_t firstHour = 1700000000 / history::secondsPerHour * history::secondsPerHour;
 
-modem::Subscriber subscriberOf(modem::Roaming roaming)
-{
-    modem::Subscriber subscriber;
-    subscriber.apn = QStringLiteral("internet.example");
-    subscriber.operatorName = QStringLiteral("Example Mobile");
-    subscriber.operatorCode = QStringLiteral("00101");
-    subscriber.sim = QStringLiteral("8949000000000000001");
-    subscriber.technology = QStringLiteral("lte");
-    subscriber.roaming = roaming;
-    return subscriber;
-}
-
 } // namespace
 
 /// What the recorder makes of a modem's news about its data port.

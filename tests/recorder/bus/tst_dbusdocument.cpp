@@ -70,7 +70,7 @@ void TestDBusDocument::showsCommandsThatWork()
     QVERIFY2(lines.size() == 5, qPrintable(output));
     QCOMPARE(lines[0], QString("b true"));
     QCOMPARE(lines[1], QString("s \"\""));
-    QVERIFY2(lines[2].startsWith("aa{sv} 1 8 ") && lines[2].contains("\"UploadedBytes\" x 1000"),
+    QVERIFY2(lines[2].startsWith("aa{sv} 1 13 ") && lines[2].contains("\"UploadedBytes\" x 1000"),
              qPrintable(output));
     QVERIFY2(lines[3].contains("'Interface': <'ppp0'>") && lines[3].contains("'Recording': <true>"),
              qPrintable(output));

@@ -15,11 +15,6 @@ namespace
 
 constexpr std::chrono::hours anHour{1};
 
-QVariantMap secondArgument(const QDBusMessage &message)
-{
-    return qdbus_cast<QVariantMap>(message.arguments().at(1));
-}
-
 /// The elements of the recorder's interface, each with its attributes.
 QStringList elementsOf(const QString &introspection)
 {
@@ -52,9 +47,6 @@ class TestRecorderService : public ServiceTest
     Q_OBJECT
 
 private slots:
-    void showsTheConnectionsThatLast();
-    void tellsThatAConnectionHasBegunAndEnded();
-    void tellsThatAConnectionHasAnotherIdentity();
     void tellsThatTheHistoryHasChanged();
     void showsWhetherItRecords();
     void showsThatItWaitsForAnotherRecorder();
@@ -72,62 +64,6 @@ private:
     /// Ends it, which the figures do not tell.
     void disconnectUnwatched();
 };
-
-void TestRecorderService::showsTheConnectionsThatLast()
-{
-    publish();
-    QVERIFY(m_client->connections().isEmpty());
-    connectLink(7, "ppp0", 100, 200);
-    move(1100, 5200);
-    QTRY_COMPARE(m_client->connections().value(0).value("UploadedBytes").toLongLong(), 1000);
-    const QVariantMap values = m_client->connections().first();
-    const QVariantMap expected = {{"Id", 1LL},
-                                  {"Profile", "ppp0"},
-                                  {"Interface", "ppp0"},
-                                  {"Since", 1700000000LL},
-                                  {"UploadedBytes", 1000LL},
-                                  {"DownloadedBytes", 5000LL},
-                                  {"UploadRate", values.value("UploadRate")},
-                                  {"DownloadRate", values.value("DownloadRate")}};
-    QCOMPARE(values, expected);
-    QCOMPARE(values.value("UploadRate").userType(), int(QMetaType::LongLong));
-}
-
-void TestRecorderService::tellsThatAConnectionHasBegunAndEnded()
-{
-    publish();
-    connectLink(7, "ppp0", 100, 200);
-    QTRY_COMPARE(m_client->received("ConnectionBegan").size(), 1);
-    const QDBusMessage began = m_client->received("ConnectionBegan").first();
-    QCOMPARE(began.arguments().first().toLongLong(), 1);
-    QCOMPARE(secondArgument(began).value("Interface").toString(), QString("ppp0"));
-    m_clock->pass(60000);
-    m_links->tell(goneLink(7, "ppp0", 1100, 5200));
-    QTRY_COMPARE(m_client->received("ConnectionEnded").size(), 1);
-    const QDBusMessage ended = m_client->received("ConnectionEnded").first();
-    QCOMPARE(ended.arguments().first().toLongLong(), 1);
-    const QVariantMap expected = {{"Profile", "ppp0"},         {"Interface", "ppp0"},
-                                  {"Since", 1700000000LL},     {"Until", 1700000060LL},
-                                  {"ConnectedSeconds", 60LL},  {"UploadedBytes", 1000LL},
-                                  {"DownloadedBytes", 5000LL}, {"Ending", "normal"}};
-    QCOMPARE(secondArgument(ended), expected);
-    QVERIFY(m_client->connections().isEmpty());
-}
-
-void TestRecorderService::tellsThatAConnectionHasAnotherIdentity()
-{
-    publish();
-    connectLink(7, "ppp0", 100, 200);
-    move(1100, 5200);
-    QTRY_COMPARE(m_client->connections().value(0).value("UploadedBytes").toLongLong(), 1000);
-    QVERIFY(m_client->received("ConnectionChanged").isEmpty());
-    m_recorder->setProfileName("internet.example");
-    move(2100, 5200);
-    QTRY_COMPARE(m_client->received("ConnectionChanged").size(), 1);
-    const QDBusMessage changed = m_client->received("ConnectionChanged").first();
-    QCOMPARE(changed.arguments().first().toLongLong(), 1);
-    QCOMPARE(secondArgument(changed).value("Profile").toString(), QString("internet.example"));
-}
 
 void TestRecorderService::tellsThatTheHistoryHasChanged()
 {
