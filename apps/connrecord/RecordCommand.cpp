@@ -15,6 +15,7 @@
 #include "recorder/InterfaceName.h"
 #include "recorder/LinkMonitor.h"
 #include "recorder/SystemClock.h"
+#include "recorder/bus/RecorderService.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -164,15 +165,19 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
     const QString profile = QString::fromStdString(optionText("--profile", request.profile));
     checkStore(common.storePath);
     const ::common::QuitOnSignal quitOnSignal;
-    ConnectionRecorder recorder(QFile::decodeName(common.storePath.c_str()), names,
-                                std::make_unique<recorder::LinkMonitor>(),
+    const QString storePath = QFile::decodeName(common.storePath.c_str());
+    ConnectionRecorder recorder(storePath, names, std::make_unique<recorder::LinkMonitor>(),
                                 std::make_unique<modem::Modems>(),
                                 std::make_unique<recorder::SystemClock>(), intervals);
     recorder.setProfileName(profile);
     Reporter reporter(recorder);
     reporter.tellOfStart(recorder.start());
+    recorder::RecorderService service(recorder, storePath, [](const Problem &problem) {
+        return QString::fromStdString(textOf(problem));
+    });
+    service.start();
     tellReady();
-    // The bus of the modems has been looked for by then.
+    // The buses have been looked for by then.
     QTimer::singleShot(intervals.tick, &recorder, giveBackStartupMemory);
     QCoreApplication::exec();
     tellStopping();

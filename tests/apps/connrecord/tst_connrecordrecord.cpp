@@ -1,55 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ConnrecordRun.h"
 #include "NetworkTest.h"
+#include "RecordingProgram.h"
 #include "ServiceManager.h"
 
-#include <QProcess>
-
 #include <csignal>
-
-namespace
-{
-
-/// The program as it records, with what it has said.
-class RecordingProgram
-{
-public:
-    explicit RecordingProgram(const QStringList &arguments, const QString &notifySocket = {})
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("NOTIFY_SOCKET"), notifySocket);
-        m_process.setProcessEnvironment(environment);
-        m_process.start(connrecordProgram(), arguments);
-    }
-    ~RecordingProgram()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-
-    QByteArray said()
-    {
-        m_said += m_process.readAllStandardError();
-        return m_said;
-    }
-    qint64 process() const { return m_process.processId(); }
-    /// What it ends with after the signal, -1 if it does not.
-    int exitCodeAfter(int signal)
-    {
-        kill(pid_t(m_process.processId()), signal);
-        const bool hasExited =
-            m_process.waitForFinished() && m_process.exitStatus() == QProcess::NormalExit;
-        return hasExited ? m_process.exitCode() : -1;
-    }
-
-private:
-    QProcess m_process;
-    QByteArray m_said;
-};
-
-const QByteArray recording("connrecord: Recording connections.\n");
-
-} // namespace
 
 /// The command that records, with real interfaces in a network of this test's own.
 class ConnrecordRecordTest : public QObject
@@ -198,7 +153,7 @@ void ConnrecordRecordTest::tellsTheServiceManager()
     QFETCH(bool, isAbstract);
     ServiceManager manager((isAbstract ? QStringLiteral("@") : QString()) +
                            m_folder->filePath("notify"));
-    RecordingProgram program(arguments(), manager.name());
+    RecordingProgram program(arguments(), {{"NOTIFY_SOCKET", manager.name()}});
     QTRY_VERIFY(manager.heard().contains("READY=1"));
     QVERIFY(m_line->goUp());
     QTRY_COMPARE(manager.heard().last(), QString("STATUS=Recording; connections that last: 1."));
