@@ -3,6 +3,7 @@
 
 #include "ConnectionFields.h"
 #include "StoreFailure.h"
+#include "ValueCheck.h"
 
 #include <string>
 
@@ -17,37 +18,13 @@ using Kind = StoreError::Kind;
 void checkValue(const std::string &whose, const char *field, std::int64_t value,
                 std::int64_t maximum)
 {
-    if (value < 0 || value > maximum)
-        throw StoreFailure(Kind::BadRecord, "The " + std::string(field) + " of " + whose + " is " +
-                                                std::to_string(value) +
-                                                ", but must lie between 0 and " +
-                                                std::to_string(maximum) + ".");
-}
-
-/// As much of a text as a sentence can take; it stays UTF-8 if it is.
-std::string beginningOf(const std::string &text)
-{
-    constexpr std::size_t enough = 64;
-    if (text.size() <= enough)
-        return text;
-    std::size_t end = enough;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U)
-        --end;
-    return text.substr(0, end) + "...";
+    checkNumber(whose, field, value, 0, maximum);
 }
 
 void checkValue(const std::string &whose, const char *field, const std::string &text,
                 std::int64_t maximum)
 {
-    if (text.find('\0') != std::string::npos)
-        throw StoreFailure(Kind::BadRecord, "The " + std::string(field) + " of " + whose +
-                                                " contains a NUL character, but must be text "
-                                                "without one.");
-    if (text.size() > static_cast<std::size_t>(maximum))
-        throw StoreFailure(Kind::BadRecord,
-                           "The " + std::string(field) + " of " + whose + ", \"" +
-                               beginningOf(text) + "\", has " + std::to_string(text.size()) +
-                               " bytes, but may have 0 to " + std::to_string(maximum) + ".");
+    checkText(whose, field, text, 0, static_cast<std::size_t>(maximum));
 }
 
 void checkHours(const std::string &whose, const std::vector<HourlyBytes> &hours)

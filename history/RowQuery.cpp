@@ -14,6 +14,13 @@ std::int64_t Row::integer(int column) const
     return sqlite3_column_int64(m_statement, column);
 }
 
+std::optional<std::int64_t> Row::integerIfAny(int column) const
+{
+    if (sqlite3_column_type(m_statement, column) == SQLITE_NULL)
+        return std::nullopt;
+    return integer(column);
+}
+
 std::string_view Row::text(int column) const
 {
     // In UTF-8, which a text has here already, the size may be asked for first; most

@@ -32,6 +32,7 @@ public:
     }
 
     std::int64_t integer(int column) const;
+    std::optional<std::int64_t> integerIfAny(int column) const;
     std::string_view text(int column) const;
 
     /// The value of a field in that column.

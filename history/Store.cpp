@@ -3,6 +3,7 @@
 
 #include "ConnectionCheck.h"
 #include "Fingerprint.h"
+#include "PlanCheck.h"
 #include "StoreDatabase.h"
 
 #include <pwd.h>
@@ -102,6 +103,13 @@ public:
         if (!database.open())
             throw noSuchRecord(database.path(), keys.front());
         return database.write([&](StoreTables &tables) { return tables.remove(keys); });
+    }
+
+    bool removePlan(const std::string &name)
+    {
+        // No history is made for a plan that it would not have.
+        return database.open() &&
+               database.write([&](StoreTables &tables) { return tables.plans.remove(name); });
     }
 
     StoreDatabase database;
@@ -230,6 +238,34 @@ Result<std::vector<SeenLink>> Store::listSeen() const
 Result<std::vector<ConnectionHour>> Store::hours(const TimeRange &range) const
 {
     return d->read([&](StoreTables &tables) { return tables.hours(range); });
+}
+
+Result<std::vector<DataPlan>> Store::plans() const
+{
+    return d->read([](StoreTables &tables) { return tables.plans.all(); });
+}
+
+Result<std::int64_t> Store::setPlan(const DataPlan &plan)
+{
+    return d->write(plan, [&](StoreTables &tables) { return tables.plans.set(plan); });
+}
+
+Result<bool> Store::removePlan(const std::string &name)
+{
+    return attempt(d->database.path(), [&] { return d->removePlan(name); });
+}
+
+Result<bool> Store::noteWarning(std::int64_t planKey, JulianDay periodFirst, int percent)
+{
+    return d->write([&](StoreTables &tables) {
+        return tables.plans.noteWarning(planKey, periodFirst, percent);
+    });
+}
+
+Result<std::vector<int>> Store::warningsGiven(std::int64_t planKey, JulianDay periodFirst) const
+{
+    return d->read(
+        [&](StoreTables &tables) { return tables.plans.warningsGiven(planKey, periodFirst); });
 }
 
 Result<bool> Store::copyTo(const std::string &path) const

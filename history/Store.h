@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Connection.h"
+#include "DataPlan.h"
 #include "Result.h"
 
 #include <cstdint>
@@ -153,6 +154,21 @@ public:
 
     /// What has been moved in `range`, by time, of finished and of open connections.
     Result<std::vector<ConnectionHour>> hours(const TimeRange &range = {}) const;
+
+    /// The data plans by their names. A row that another program has made and that is no
+    /// plan is an error of the kind Damaged, and can be removed.
+    Result<std::vector<DataPlan>> plans() const;
+    /// Stores the plan as a new one if it has no key, else in the place of the one with its
+    /// key, and returns its key. A name that another plan has is a BadRecord. With another
+    /// amount, the warnings that were given of the plan are forgotten.
+    Result<std::int64_t> setPlan(const DataPlan &plan);
+    /// Removes the plan of that name; whether there was one.
+    Result<bool> removePlan(const std::string &name);
+    /// Notes that this percentage of the plan with the key is being warned of, in its period
+    /// that begins with that day; true for one caller only, who is to give the warning.
+    Result<bool> noteWarning(std::int64_t planKey, JulianDay periodFirst, int percent);
+    /// The percentages that noteWarning() has noted, rising.
+    Result<std::vector<int>> warningsGiven(std::int64_t planKey, JulianDay periodFirst) const;
 
     /// Writes a copy of the whole history, as it is at one moment, into the empty file
     /// `path`, whoever writes to the history meanwhile; false without a history. If the

@@ -232,6 +232,34 @@ const SchemaSteps &storeSchema()
             PRIMARY KEY (connection, hour_utc, is_roaming)
         ) STRICT, WITHOUT ROWID;
         )",
+        R"(
+        CREATE TABLE plan (
+            key INTEGER PRIMARY KEY AUTOINCREMENT,
+            name TEXT NOT NULL UNIQUE,
+            covers TEXT NOT NULL,
+            covered TEXT NOT NULL,
+            network TEXT NOT NULL,
+            counts TEXT NOT NULL,
+            amount INTEGER,
+            month_day INTEGER,
+            cycle_days INTEGER,
+            first_day INTEGER,
+            last_day INTEGER,
+            used_elsewhere INTEGER,
+            used_elsewhere_day INTEGER
+        ) STRICT;
+        CREATE TABLE plan_threshold (
+            plan INTEGER NOT NULL,
+            percent INTEGER NOT NULL,
+            PRIMARY KEY (plan, percent)
+        ) STRICT, WITHOUT ROWID;
+        CREATE TABLE plan_warning (
+            plan INTEGER NOT NULL,
+            period_first_day INTEGER NOT NULL,
+            percent INTEGER NOT NULL,
+            PRIMARY KEY (plan, period_first_day, percent)
+        ) STRICT, WITHOUT ROWID;
+        )",
     };
     return steps;
 }

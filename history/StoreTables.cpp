@@ -75,6 +75,7 @@ StoreTables::StoreTables(SQLite::Database &database, std::string path)
     , openConnections(database)
     , seenLinks(database)
     , origins(database)
+    , plans(database, path)
     , m_database(database)
     , m_hours(database, "connection")
     , m_openHours(database, "open_connection")
@@ -230,6 +231,8 @@ Examination StoreTables::examine()
         addProblem(result, row.toConnection());
         addHoursProblem(result, m_hours, row.key());
     });
+    for (const std::string &problem : plans.problems())
+        result.problems.push_back(problem);
     return result;
 }
 

@@ -4,6 +4,7 @@
 #include "ConnectionTable.h"
 #include "HourTable.h"
 #include "OpenConnectionTable.h"
+#include "PlanTable.h"
 #include "RecorderTables.h"
 #include "Store.h"
 #include "StoreFailure.h"
@@ -29,6 +30,7 @@ public:
     OpenConnectionTable openConnections;
     SeenLinkTable seenLinks;
     OriginTable origins;
+    PlanTable plans;
 
     std::int64_t insert(const Connection &connection);
     std::size_t insertMissing(const std::vector<Connection> &given,

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "history/DataPlan.h"
+
 #include <QDate>
 
 #include <cstdint>
 #include <optional>
-#include <variant>
 
 namespace usage
 {
@@ -28,25 +29,15 @@ struct BillingPeriod {
     }
 };
 
-/// From that day of each month, 1 to 31; a month without it takes its last one.
-struct MonthlyFrom {
-    int day = 1;
-};
-/// That many days, again and again, at least one; nothing before `from`.
-struct EveryDays {
-    int days = 28;
-    QDate from;
-};
-/// From the first to the last day, both included, and never again.
-struct OnceBetween {
-    QDate first;
-    QDate last;
-};
-using PeriodRule = std::variant<MonthlyFrom, EveryDays, OnceBetween>;
-
 /// The period that holds that day, if there is one.
-std::optional<BillingPeriod> periodOf(const PeriodRule &rule, const QDate &day);
+std::optional<BillingPeriod> periodOf(const history::PeriodRule &rule, const QDate &day);
+/// The period that holds that moment, from its first midnight to the next one's, if there is
+/// one.
+std::optional<BillingPeriod> periodAt(const history::PeriodRule &rule, std::int64_t utc);
+/// The last one that has ended by then, if one has.
+std::optional<BillingPeriod> periodEndedBy(const history::PeriodRule &rule, std::int64_t utc);
 /// The period that ends where this one begins, if there is one.
-std::optional<BillingPeriod> periodBefore(const PeriodRule &rule, const BillingPeriod &period);
+std::optional<BillingPeriod> periodBefore(const history::PeriodRule &rule,
+                                          const BillingPeriod &period);
 
 } // namespace usage

@@ -44,6 +44,7 @@ private:
 };
 
 bool startsWith(std::string_view text, std::string_view start);
+bool endsWith(std::string_view text, std::string_view end);
 
 /// A whole number in decimal digits, "-" in front allowed. `isInRange` is false
 /// for one that 64 bits do not hold; `value` is then 0.

@@ -3,6 +3,7 @@
 
 #include "OptionValue.h"
 #include "StoreResult.h"
+#include "usage/SimNumber.h"
 
 #include <algorithm>
 #include <limits>
@@ -24,18 +25,6 @@ std::size_t mostOf(const std::optional<std::string> &limit)
     return static_cast<std::size_t>(limit ? optionNumber("--limit", *limit, most) : most);
 }
 
-/// Tables show the end of a number only.
-bool endsWith(const std::string &text, const std::string &end)
-{
-    return text.size() >= end.size() &&
-           text.compare(text.size() - end.size(), end.size(), end) == 0;
-}
-
-bool isOfSim(const history::Connection &connection, const std::string &number)
-{
-    return number.empty() ? connection.sim.empty() : endsWith(connection.sim, number);
-}
-
 } // namespace
 
 usage::LocalDays daysOf(const DaysRequest &request)
@@ -55,7 +44,7 @@ std::vector<history::Connection> selectedFrom(const history::Store &store,
     auto connections = valueOrFailure(store.list(days.widerRange()));
     const auto isLeftOut = [&](const history::Connection &connection) {
         return (request.profile && connection.profile != *request.profile) ||
-               (request.sim && !isOfSim(connection, *request.sim)) ||
+               (request.sim && !usage::isSimNumber(connection.sim, *request.sim)) ||
                !days.contains(usage::localDay(connection.startUtc));
     };
     connections.erase(std::remove_if(connections.begin(), connections.end(), isLeftOut),

@@ -8,19 +8,20 @@
 #include <QTest>
 #include <QTimeZone>
 
+using namespace history;
 using namespace usage;
 
 namespace
 {
 
-struct NamedRule {
-    const char *name;
-    PeriodRule rule;
-};
-
 QDate date(const char *text)
 {
     return QDate::fromString(QLatin1String(text), Qt::ISODate);
+}
+
+JulianDay dayNumber(const char *text)
+{
+    return date(text).toJulianDay();
 }
 
 /// Without arithmetic: each day is asked whether a period begins with it.
@@ -30,13 +31,14 @@ bool isFirstDay(const PeriodRule &rule, const QDate &day)
         return day.day() == monthly->day ||
                (day.day() == day.daysInMonth() && day.day() < monthly->day);
     if (const auto *every = std::get_if<EveryDays>(&rule)) {
-        for (QDate first = every->from; first <= day; first = first.addDays(every->days)) {
+        for (QDate first = QDate::fromJulianDay(every->from); first <= day;
+             first = first.addDays(every->days)) {
             if (first == day)
                 return true;
         }
         return false;
     }
-    return day == std::get<OnceBetween>(rule).first;
+    return day.toJulianDay() == std::get<OnceBetween>(rule).first;
 }
 
 } // namespace
@@ -57,6 +59,9 @@ private slots:
     void agreesWithWalkingFromDayToDay_data();
     void agreesWithWalkingFromDayToDay();
     void theOneBeforeEndsWhereItBegins();
+    void holdsTheMoment_data();
+    void holdsTheMoment();
+    void theOneThatHasEnded();
 };
 
 void BillingPeriodTest::holdsTheDay_data()
@@ -76,12 +81,14 @@ void BillingPeriodTest::holdsTheDay_data()
     row("a month without the day", MonthlyFrom{31}, "2026-02-28", "2026-02-28", "2026-03-30");
     row("before such a month", MonthlyFrom{31}, "2026-02-27", "2026-01-31", "2026-02-27");
     row("a leap year", MonthlyFrom{30}, "2028-02-29", "2028-02-29", "2028-03-29");
-    row("28 days", EveryDays{28, date("2026-01-05")}, "2026-02-02", "2026-02-02", "2026-03-01");
-    row("28 days, their last", EveryDays{28, date("2026-01-05")}, "2026-02-01", "2026-01-05",
+    row("28 days", EveryDays{28, dayNumber("2026-01-05")}, "2026-02-02", "2026-02-02",
+        "2026-03-01");
+    row("28 days, their last", EveryDays{28, dayNumber("2026-01-05")}, "2026-02-01", "2026-01-05",
         "2026-02-01");
-    row("every day", EveryDays{1, date("2026-01-05")}, "2026-03-29", "2026-03-29", "2026-03-29");
-    row("once", OnceBetween{date("2026-03-01"), date("2026-03-10")}, "2026-03-10", "2026-03-01",
-        "2026-03-10");
+    row("every day", EveryDays{1, dayNumber("2026-01-05")}, "2026-03-29", "2026-03-29",
+        "2026-03-29");
+    row("once", OnceBetween{dayNumber("2026-03-01"), dayNumber("2026-03-10")}, "2026-03-10",
+        "2026-03-01", "2026-03-10");
 }
 
 void BillingPeriodTest::holdsTheDay()
@@ -98,8 +105,8 @@ void BillingPeriodTest::thereIsNoneOutside_data()
 {
     QTest::addColumn<PeriodRule>("rule");
     QTest::addColumn<QDate>("day");
-    const PeriodRule once = OnceBetween{date("2026-03-01"), date("2026-03-10")};
-    const PeriodRule every = EveryDays{28, date("2026-01-05")};
+    const PeriodRule once = OnceBetween{dayNumber("2026-03-01"), dayNumber("2026-03-10")};
+    const PeriodRule every = EveryDays{28, dayNumber("2026-01-05")};
     QTest::newRow("before the first") << every << date("2026-01-04");
     QTest::newRow("before it begins") << once << date("2026-02-28");
     QTest::newRow("after it has ended") << once << date("2026-03-11");
@@ -123,6 +130,8 @@ void BillingPeriodTest::beginsAtLocalMidnight_data()
     QTest::newRow("clocks set back") << QByteArray("Europe/Berlin") << date("2026-10-25") << 25LL;
     QTest::newRow("a day without midnight")
         << QByteArray("America/Santiago") << date("2026-09-06") << 23LL;
+    QTest::newRow("a day with two midnights")
+        << QByteArray("America/Havana") << date("2026-11-01") << 25LL;
     QTest::newRow("east of everything")
         << QByteArray("Pacific/Kiritimati") << date("2026-11-22") << 24LL;
 }
@@ -145,7 +154,8 @@ void BillingPeriodTest::agreesWithWalkingFromDayToDay_data()
     for (int day = 1; day <= 31; ++day)
         QTest::addRow("monthly from %d", day) << PeriodRule(MonthlyFrom{day});
     for (const int days : {1, 2, 7, 28, 30, 365})
-        QTest::addRow("every %d days", days) << PeriodRule(EveryDays{days, date("2025-12-30")});
+        QTest::addRow("every %d days", days)
+            << PeriodRule(EveryDays{days, dayNumber("2025-12-30")});
 }
 
 void BillingPeriodTest::agreesWithWalkingFromDayToDay()
@@ -172,8 +182,53 @@ void BillingPeriodTest::theOneBeforeEndsWhereItBegins()
     QVERIFY(before.has_value());
     QCOMPARE(before->end, march->first);
     QCOMPARE(before->first, date("2026-01-31"));
-    const PeriodRule every = EveryDays{28, date("2026-01-05")};
+    const PeriodRule every = EveryDays{28, dayNumber("2026-01-05")};
     QVERIFY(!periodBefore(every, *periodOf(every, date("2026-01-05"))));
+}
+
+void BillingPeriodTest::holdsTheMoment_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QString>("moment");
+    QTest::addColumn<QDate>("first");
+    const auto row = [](const char *name, const char *zone, const char *moment, const char *first) {
+        QTest::newRow(name) << QByteArray(zone) << QString(moment) << date(first);
+    };
+    row("the first moment", "Europe/Berlin", "2026-10-31T23:00:00Z", "2026-11-01");
+    row("the moment before", "Europe/Berlin", "2026-10-31T22:59:59Z", "2026-10-01");
+    row("the same one elsewhere", "America/New_York", "2026-10-31T23:00:00Z", "2026-10-01");
+    // Clocks went from 00:01 of 1 November 2009 back to 23:01 of 31 October.
+    row("the minute before clocks go back over midnight", "America/St_Johns",
+        "2009-11-01T02:30:30Z", "2009-11-01");
+    row("the hour that comes again", "America/St_Johns", "2009-11-01T02:45:00Z", "2009-11-01");
+    // 30 December 2011 was left out.
+    row("before a day that was left out", "Pacific/Apia", "2011-12-30T09:59:59Z", "2011-11-30");
+    row("after it", "Pacific/Apia", "2011-12-30T10:00:00Z", "2011-12-30");
+}
+
+void BillingPeriodTest::holdsTheMoment()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(QString, moment);
+    const LocalZone local(zone);
+    const auto utc = QDateTime::fromString(moment, Qt::ISODate).toSecsSinceEpoch();
+    const auto period = periodAt(MonthlyFrom{zone == "Pacific/Apia" ? 30 : 1}, utc);
+    QVERIFY(period.has_value());
+    QTEST(period->first, "first");
+    QVERIFY(period->beginUtc() <= utc && utc < period->endUtc());
+}
+
+void BillingPeriodTest::theOneThatHasEnded()
+{
+    const auto at = [](const char *day) { return date(day).startOfDay().toSecsSinceEpoch(); };
+    const PeriodRule once = OnceBetween{dayNumber("2026-03-01"), dayNumber("2026-03-10")};
+    QVERIFY(!periodEndedBy(once, at("2026-03-11") - 1));
+    QCOMPARE(periodEndedBy(once, at("2026-03-11"))->first, date("2026-03-01"));
+    QCOMPARE(periodEndedBy(once, at("2028-03-11"))->first, date("2026-03-01"));
+    QCOMPARE(periodEndedBy(MonthlyFrom{31}, at("2026-03-31"))->first, date("2026-02-28"));
+    const PeriodRule every = EveryDays{28, dayNumber("2026-01-05")};
+    QVERIFY(!periodEndedBy(every, at("2026-02-01")));
+    QVERIFY(!periodEndedBy(every, at("2025-02-01")));
 }
 
 QTEST_APPLESS_MAIN(BillingPeriodTest)

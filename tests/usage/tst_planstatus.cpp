@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "usage/DataPlan.h"
+#include "usage/PlanStatus.h"
 
 #include "usage/SaturatingMath.h"
 
@@ -8,6 +8,7 @@
 
 #include <limits>
 
+using namespace history;
 using namespace usage;
 
 namespace
@@ -32,7 +33,7 @@ DataPlan tenGigabytes()
 
 } // namespace
 
-class DataPlanTest : public QObject
+class PlanStatusTest : public QObject
 {
     Q_OBJECT
 
@@ -48,9 +49,10 @@ private slots:
     void warnsOnceAPercentageIsReached_data();
     void warnsOnceAPercentageIsReached();
     void neverOverflows();
+    void warnsOfWhatWasNotWarnedOfYet();
 };
 
-void DataPlanTest::tellsWhatIsLeft()
+void PlanStatusTest::tellsWhatIsLeft()
 {
     const PlanStatus status = statusOf(tenGigabytes(), november, 3 * GB, local(19, 12));
     QCOMPARE(status.used, 3 * GB);
@@ -58,20 +60,23 @@ void DataPlanTest::tellsWhatIsLeft()
     QCOMPARE(status.daysLeft, 12);
     QCOMPARE(*status.leftADay, 583'333'333);
     const PlanStatus unlimited = statusOf({}, november, 3 * GB, local(19, 12));
-    QVERIFY(!unlimited.left && !unlimited.leftADay && !unlimited.warning);
+    QVERIFY(!unlimited.left && !unlimited.leftADay && unlimited.warnings.empty());
 }
 
-void DataPlanTest::countsWhatWasUsedElsewhereInThePresentPeriodAlone()
+void PlanStatusTest::countsWhatWasUsedElsewhereInThePresentPeriodAlone()
 {
     DataPlan plan = tenGigabytes();
-    plan.usedElsewhere = 2 * GB;
+    plan.usedElsewhere = UsedElsewhere{2 * GB, QDate(2026, 11, 30).toJulianDay()};
     QCOMPARE(statusOf(plan, november, 3 * GB, local(19, 12)).used, 5 * GB);
     QCOMPARE(*statusOf(plan, november, 3 * GB, local(19, 12)).left, 5 * GB);
     QCOMPARE(useOf(plan, november, 3 * GB).used, 3 * GB);
     QCOMPARE(*useOf(plan, november, 3 * GB).left, 7 * GB);
+    // It was of that period, not of each one from then on.
+    plan.usedElsewhere->day = november.end.toJulianDay();
+    QCOMPARE(statusOf(plan, november, 3 * GB, local(19, 12)).used, 3 * GB);
 }
 
-void DataPlanTest::leavesLessThanNothing()
+void PlanStatusTest::leavesLessThanNothing()
 {
     const PlanStatus status = statusOf(tenGigabytes(), november, 11 * GB, local(30, 23, 59));
     QCOMPARE(*status.left, -GB);
@@ -79,7 +84,7 @@ void DataPlanTest::leavesLessThanNothing()
     QCOMPARE(status.daysLeft, 1);
 }
 
-void DataPlanTest::sharesWhatIsLeftAmongTheDaysLeft_data()
+void PlanStatusTest::sharesWhatIsLeftAmongTheDaysLeft_data()
 {
     QTest::addColumn<qint64>("utc");
     QTest::addColumn<int>("daysLeft");
@@ -89,7 +94,7 @@ void DataPlanTest::sharesWhatIsLeftAmongTheDaysLeft_data()
     QTest::newRow("its last day") << qint64(local(30, 12)) << 1 << qint64(10 * GB);
 }
 
-void DataPlanTest::sharesWhatIsLeftAmongTheDaysLeft()
+void PlanStatusTest::sharesWhatIsLeftAmongTheDaysLeft()
 {
     QFETCH(qint64, utc);
     const PlanStatus status = statusOf(tenGigabytes(), november, 0, utc);
@@ -97,28 +102,28 @@ void DataPlanTest::sharesWhatIsLeftAmongTheDaysLeft()
     QTEST(qint64(*status.leftADay), "leftADay");
 }
 
-void DataPlanTest::hasNoPaceInItsFirst24Hours()
+void PlanStatusTest::hasNoPaceInItsFirst24Hours()
 {
     QVERIFY(!statusOf(tenGigabytes(), november, GB, local(1, 23, 59)).pace);
     QCOMPARE(*statusOf(tenGigabytes(), november, GB, local(2, 0)).pace, 30 * GB);
 }
 
-void DataPlanTest::goesOnLikeThis()
+void PlanStatusTest::goesOnLikeThis()
 {
     const PlanStatus status = statusOf(tenGigabytes(), november, 1'000'000'001, local(11, 0));
     QCOMPARE(*status.pace, 3'000'000'003);
     QCOMPARE(*statusOf(tenGigabytes(), november, 100, local(8, 0)).pace, 428); // 428.57
     DataPlan plan;
-    plan.usedElsewhere = -101;
+    plan.usedElsewhere = UsedElsewhere{-101, november.first.toJulianDay()};
     QCOMPARE(*statusOf(plan, november, 1, local(8, 0)).pace, -429);
 }
 
-void DataPlanTest::hasAPaceWithoutAnAmountToo()
+void PlanStatusTest::hasAPaceWithoutAnAmountToo()
 {
     QCOMPARE(*statusOf({}, november, GB, local(16, 0)).pace, 2 * GB);
 }
 
-void DataPlanTest::warnsOnceAPercentageIsReached_data()
+void PlanStatusTest::warnsOnceAPercentageIsReached_data()
 {
     QTest::addColumn<qint64>("amount");
     QTest::addColumn<qint64>("used");
@@ -134,27 +139,46 @@ void DataPlanTest::warnsOnceAPercentageIsReached_data()
     QTest::newRow("an amount of nothing") << qint64(0) << qint64(0) << 100;
 }
 
-void DataPlanTest::warnsOnceAPercentageIsReached()
+void PlanStatusTest::warnsOnceAPercentageIsReached()
 {
     QFETCH(qint64, amount);
     QFETCH(qint64, used);
     DataPlan plan;
     plan.amount = amount;
-    QTEST(statusOf(plan, november, used, local(5, 0)).warning.value_or(0), "warning");
+    const PlanStatus status = statusOf(plan, november, used, local(5, 0));
+    QTEST(status.warnings.empty() ? 0 : status.warnings.back(), "warning");
+    QCOMPARE(status.isSpent(), used >= amount);
 }
 
-void DataPlanTest::neverOverflows()
+void PlanStatusTest::neverOverflows()
 {
     constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
     DataPlan plan = tenGigabytes();
-    plan.usedElsewhere = most;
+    plan.usedElsewhere = UsedElsewhere{most, november.first.toJulianDay()};
     const PlanStatus status = statusOf(plan, november, most, local(2, 0));
     QCOMPARE(status.used, most);
     QCOMPARE(*status.pace, most);
     QCOMPARE(*status.left, 10 * GB - most);
-    QCOMPARE(*status.warning, 100);
+    QCOMPARE(status.warnings, (std::vector<int>{80, 100}));
     QCOMPARE(saturatingDifference(-2, most), std::numeric_limits<std::int64_t>::min());
 }
 
-QTEST_APPLESS_MAIN(DataPlanTest)
-#include "tst_dataplan.moc"
+void PlanStatusTest::warnsOfWhatWasNotWarnedOfYet()
+{
+    using Percentages = std::vector<int>;
+    const auto due = [](std::int64_t used, const Percentages &given) {
+        DataPlan plan = tenGigabytes();
+        plan.warnAtPercent = {50, 80, 100};
+        return dueWarnings(statusOf(plan, november, used, local(5, 0)), given);
+    };
+    QCOMPARE(due(4 * GB, {}), Percentages());
+    QCOMPARE(due(9 * GB, {}), (Percentages{50, 80}));
+    QCOMPARE(due(9 * GB, {50}), Percentages{80});
+    QCOMPARE(due(9 * GB, {50, 80}), Percentages());
+    QCOMPARE(due(10 * GB, {50, 80}), Percentages{100});
+    // What was warned of stays so when a correction takes some of it back.
+    QCOMPARE(due(6 * GB, {80}), Percentages{50});
+}
+
+QTEST_APPLESS_MAIN(PlanStatusTest)
+#include "tst_planstatus.moc"

@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "DataPlan.h"
+#include "PlanStatus.h"
 
 #include "CalendarTime.h"
 #include "LocalDays.h"
 #include "SaturatingMath.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace usage
 {
 
 namespace
 {
+
+using history::DataPlan;
 
 constexpr std::int64_t withoutPace = secondsPerDay;
 
@@ -36,16 +41,21 @@ bool hasReached(const PeriodUse &use, std::int64_t amount, int percent)
     return isProductAtLeast(use.used, 100, amount, percent);
 }
 
-std::optional<int> reachedWarning(const DataPlan &plan, const PeriodUse &use)
+std::vector<int> reachedWarnings(const DataPlan &plan, const PeriodUse &use)
 {
-    std::optional<int> reached;
+    std::vector<int> reached;
     if (!plan.amount)
         return reached;
-    for (const int percent : plan.warnAtPercent) {
-        if (hasReached(use, *plan.amount, percent))
-            reached = percent;
-    }
+    std::copy_if(plan.warnAtPercent.begin(), plan.warnAtPercent.end(), std::back_inserter(reached),
+                 [&](int percent) { return hasReached(use, *plan.amount, percent); });
     return reached;
+}
+
+std::int64_t usedElsewhere(const DataPlan &plan, const BillingPeriod &period)
+{
+    const auto &correction = plan.usedElsewhere;
+    const bool counts = correction && period.contains(QDate::fromJulianDay(correction->day));
+    return counts ? correction->bytes : 0;
 }
 
 } // namespace
@@ -63,12 +73,23 @@ PlanStatus statusOf(const DataPlan &plan, const BillingPeriod &period, std::int6
 {
     PlanStatus status;
     static_cast<PeriodUse &>(status) =
-        useOf(plan, period, saturatingSum(bytes, plan.usedElsewhere));
-    status.daysLeft = static_cast<int>(localDay(utc).daysTo(period.end));
+        useOf(plan, period, saturatingSum(bytes, usedElsewhere(plan, period)));
+    // At least this one, whatever its clocks show in an hour that they go through twice.
+    status.daysLeft = std::max(1, static_cast<int>(localDay(utc).daysTo(period.end)));
     status.leftADay = shareADay(status, status.daysLeft);
     status.pace = paceOf(status, utc);
-    status.warning = reachedWarning(plan, status);
+    status.warnings = reachedWarnings(plan, status);
     return status;
+}
+
+std::vector<int> dueWarnings(const PlanStatus &status, const std::vector<int> &given)
+{
+    std::vector<int> due;
+    std::copy_if(status.warnings.begin(), status.warnings.end(), std::back_inserter(due),
+                 [&given](int percent) {
+                     return std::find(given.begin(), given.end(), percent) == given.end();
+                 });
+    return due;
 }
 
 } // namespace usage

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "DataPlan.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace SQLite
+{
+class Database;
+}
+
+namespace history
+{
+
+class Row;
+
+/// The tables of data plans and of the warnings given of them. Operations throw
+/// SQLite::Exception and StoreFailure.
+class PlanTable
+{
+public:
+    /// For the history in `path`, which errors name.
+    PlanTable(SQLite::Database &database, std::string path);
+
+    /// See Store's functions of these names.
+    std::vector<DataPlan> all();
+    std::int64_t set(const DataPlan &plan);
+    bool remove(const std::string &name);
+    bool noteWarning(std::int64_t plan, JulianDay periodFirst, int percent);
+    std::vector<int> warningsGiven(std::int64_t plan, JulianDay periodFirst);
+
+    /// Of rows that are no plans, a sentence each.
+    std::vector<std::string> problems();
+
+private:
+    void checkNameIsFree(const DataPlan &plan);
+    std::int64_t insert(const DataPlan &plan);
+    void update(const DataPlan &plan);
+    void forgetWarningsOfAnotherAmount(const DataPlan &plan);
+    void replaceThresholds(std::int64_t plan, const std::vector<int> &percentages);
+    std::vector<int> thresholdsOf(std::int64_t plan);
+    void removeOf(std::int64_t plan, const char *table);
+    DataPlan planIn(const Row &row);
+
+    SQLite::Database &m_database;
+    std::string m_path;
+};
+
+} // namespace history

@@ -1,0 +1,412 @@
+// SPDX-License-Identifier: MIT
+#include "history/Store.h"
+#include "history/StoreSchema.h"
+
+#include "StoreSamples.h"
+#include "StoreTestCase.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QTest>
+
+#include <atomic>
+#include <random>
+#include <thread>
+
+#include <map>
+
+using namespace history;
+
+namespace
+{
+
+DataPlan planCalled(const std::string &name)
+{
+    DataPlan plan;
+    plan.name = name;
+    return plan;
+}
+
+/// Every value of it, and none that another plan has by default.
+DataPlan prepaid()
+{
+    DataPlan plan = planCalled("Prepaid \xc3\xa9");
+    plan.covers = DataPlan::Covers::Sim;
+    plan.covered = "8949000000000001234";
+    plan.network = DataPlan::Network::Roaming;
+    plan.counts = DataPlan::Counts::Sent;
+    plan.amount = 9223372036854775807;
+    plan.period = OnceBetween{2461000, 2461030};
+    plan.usedElsewhere = UsedElsewhere{-5, 2461007};
+    plan.warnAtPercent = {50, 120};
+    return plan;
+}
+
+QString ruleText(const PeriodRule &rule)
+{
+    if (const auto *monthly = std::get_if<MonthlyFrom>(&rule))
+        return QString("monthly %1").arg(monthly->day);
+    if (const auto *every = std::get_if<EveryDays>(&rule))
+        return QString("every %1 from %2").arg(every->days).arg(every->from);
+    const auto &once = std::get<OnceBetween>(rule);
+    return QString("%1 to %2").arg(once.first).arg(once.last);
+}
+
+QString textOf(const std::vector<int> &percentages)
+{
+    QStringList texts;
+    for (const int each : percentages)
+        texts << QString::number(each);
+    return texts.join(',');
+}
+
+QString textOf(const DataPlan &plan)
+{
+    const auto number = [](const auto &value) {
+        return value ? QString::number(*value) : QString("none");
+    };
+    const auto &elsewhere = plan.usedElsewhere;
+    return QStringList{QString::fromStdString(plan.name),
+                       nameOf(coverNames, plan.covers),
+                       QString::fromStdString(plan.covered),
+                       nameOf(networkNames, plan.network),
+                       nameOf(countNames, plan.counts),
+                       number(plan.amount),
+                       ruleText(plan.period),
+                       elsewhere ? QString("%1 on %2").arg(elsewhere->bytes).arg(elsewhere->day)
+                                 : "none",
+                       textOf(plan.warnAtPercent)}
+        .join("|");
+}
+
+QString plansIn(const Store &store)
+{
+    const auto plans = store.plans();
+    if (!plans)
+        return QString::fromStdString(plans.error().message);
+    QStringList texts;
+    for (const DataPlan &each : plans.value())
+        texts << textOf(each);
+    return texts.join('\n');
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(DataPlan)
+
+class StoredPlansTest : public StoreTestCase
+{
+    Q_OBJECT
+
+private slots:
+    void areKept_data();
+    void areKept();
+    void agreeWithAModel();
+    void haveANameOfTheirOwn();
+    void areNotChangedOnceRemoved();
+    void areNotKeptIfAValueIsOutOfItsRange_data();
+    void areNotKeptIfAValueIsOutOfItsRange();
+    void areRemovedWhereThereAreNone();
+    void areCopied();
+    void areNoneInAnEarlierVersionsStore();
+    void ofAnotherProgramAreToldAndCanBeRemoved_data();
+    void ofAnotherProgramAreToldAndCanBeRemoved();
+    void areWarnedOfOnce();
+    void areWarnedOfByOneProgramOnly();
+    void areWarnedOfAgainWithAnotherAmountOnly();
+
+private:
+    Store opened() const { return storeWith(m_path, {}); }
+};
+
+void StoredPlansTest::areKept_data()
+{
+    QTest::addColumn<DataPlan>("plan");
+    QTest::addColumn<QString>("text");
+    DataPlan every = planCalled("every");
+    every.covers = DataPlan::Covers::Profile;
+    every.covered = "internet";
+    every.network = DataPlan::Network::Home;
+    every.counts = DataPlan::Counts::Received;
+    every.amount = 0;
+    every.period = EveryDays{28, 2461000};
+    every.warnAtPercent = {};
+    QTest::newRow("all as it is without being said")
+        << planCalled("plain") << "plain|everything||both|both|none|monthly 1|none|80,100";
+    QTest::newRow("28 days") << every
+                             << "every|profile|internet|home|received|0|every 28 from "
+                                "2461000|none|";
+    QTest::newRow("once") << prepaid()
+                          << QString::fromUtf8(
+                                 "Prepaid \xc3\xa9|sim|8949000000000001234|roaming|sent|"
+                                 "9223372036854775807|2461000 to 2461030|-5 on 2461007|50,120");
+}
+
+void StoredPlansTest::areKept()
+{
+    QFETCH(DataPlan, plan);
+    QVERIFY(opened().setPlan(planCalled("another")));
+    plan.key = opened().setPlan(plan).value();
+    QVERIFY(plan.key > 1);
+    const auto stored = opened().plans();
+    QCOMPARE(stored.value().size(), std::size_t(2));
+    QCOMPARE(stored.value()[plan.name < "another" ? 0 : 1].key, plan.key);
+    QTEST(textOf(stored.value()[plan.name < "another" ? 0 : 1]), "text");
+
+    // In its place, every value is another one.
+    DataPlan changed = plan.name == prepaid().name ? planCalled("plain") : prepaid();
+    changed.key = plan.key;
+    QCOMPARE(opened().setPlan(changed).value(), plan.key);
+    QVERIFY(opened().removePlan("another").value());
+    QCOMPARE(plansIn(opened()), textOf(changed));
+}
+
+void StoredPlansTest::agreeWithAModel()
+{
+    std::mt19937 random(7);
+    const auto upTo = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
+    Store store = opened();
+    std::map<std::string, DataPlan> model;
+    for (int i = 0; i < 300; ++i) {
+        DataPlan plan = upTo(1) == 0 ? prepaid() : planCalled("");
+        plan.name = std::string(1, static_cast<char>('a' + upTo(5)));
+        const auto found = model.find(plan.name);
+        const bool isThere = found != model.end();
+        if (upTo(2) == 0) {
+            QCOMPARE(store.removePlan(plan.name).value(), isThere);
+            model.erase(plan.name);
+        } else {
+            plan.key = isThere ? found->second.key : 0;
+            plan.key = store.setPlan(plan).value();
+            model[plan.name] = plan;
+        }
+        QStringList expected;
+        for (const auto &[name, each] : model)
+            expected << textOf(each);
+        QCOMPARE(plansIn(store), expected.join('\n'));
+    }
+}
+
+void StoredPlansTest::haveANameOfTheirOwn()
+{
+    Store store = opened();
+    DataPlan home = planCalled("home");
+    home.key = store.setPlan(home).value();
+    QVERIFY(store.setPlan(planCalled("work")));
+    for (const std::int64_t key : {std::int64_t(0), home.key}) {
+        DataPlan other = planCalled("work");
+        other.key = key;
+        const auto refused = store.setPlan(other);
+        QCOMPARE(outcomeOf(refused), QString("BadRecord"));
+        const QString sentence = QString::fromStdString(refused.error().message);
+        QVERIFY2(sentence.contains("\"work\" already"), qPrintable(sentence));
+    }
+    home.name = "at home";
+    QCOMPARE(store.setPlan(home).value(), home.key);
+    QVERIFY(store.setPlan(planCalled("home")).value() > home.key);
+    QVERIFY(store.setPlan(planCalled("Home")));
+}
+
+void StoredPlansTest::areNotChangedOnceRemoved()
+{
+    Store store = opened();
+    DataPlan plan = planCalled("home");
+    plan.key = store.setPlan(plan).value();
+    QVERIFY(store.removePlan("home").value());
+    QCOMPARE(outcomeOf(store.setPlan(plan)), QString("NoSuchRecord"));
+    QCOMPARE(plansIn(store), QString());
+}
+
+void StoredPlansTest::areNotKeptIfAValueIsOutOfItsRange_data()
+{
+    QTest::addColumn<DataPlan>("plan");
+    QTest::addColumn<QString>("named");
+    const auto row = [](const char *name, const char *named, auto change) {
+        DataPlan plan = planCalled("home");
+        change(plan);
+        QTest::newRow(name) << plan << QString(named);
+    };
+    row("no name", "The name of the plan", [](DataPlan &plan) { plan.name.clear(); });
+    row("a long name", "256 bytes", [](DataPlan &plan) { plan.name.assign(256, 'x'); });
+    row("a name that goes on behind its end", "NUL",
+        [](DataPlan &plan) { plan.name.push_back('\0'); });
+    row("a long profile", "The profile of the plan \"home\"", [](DataPlan &plan) {
+        plan.covers = DataPlan::Covers::Profile;
+        plan.covered.assign(longestProfile + 1, 'x');
+    });
+    row("a long number of a SIM", "The SIM of the plan \"home\"", [](DataPlan &plan) {
+        plan.covers = DataPlan::Covers::Sim;
+        plan.covered.assign(32, '1');
+    });
+    row("less than nothing", "The amount of the plan \"home\" is -1",
+        [](DataPlan &plan) { plan.amount = -1; });
+    row("no day of a month", "must lie between 1 and 31",
+        [](DataPlan &plan) { plan.period = MonthlyFrom{32}; });
+    row("no days", "The number of days of the plan \"home\" is 0", [](DataPlan &plan) {
+        plan.period = EveryDays{0, firstPlanDay};
+    });
+    row("from a day that nobody writes", "first day", [](DataPlan &plan) {
+        plan.period = EveryDays{28, lastPlanDay + 1};
+    });
+    row("a last day before the first", "last day", [](DataPlan &plan) {
+        plan.period = OnceBetween{firstPlanDay + 1, firstPlanDay};
+    });
+    row("used elsewhere on no day", "used elsewhere", [](DataPlan &plan) {
+        plan.usedElsewhere = UsedElsewhere{5, 0};
+    });
+    row("a percentage of nothing", "percentage", [](DataPlan &plan) {
+        plan.warnAtPercent = {0, 80};
+    });
+    row("percentages in disorder", "higher than the one before", [](DataPlan &plan) {
+        plan.warnAtPercent = {80, 80};
+    });
+}
+
+void StoredPlansTest::areNotKeptIfAValueIsOutOfItsRange()
+{
+    QFETCH(DataPlan, plan);
+    QFETCH(QString, named);
+    Store store = opened();
+    const auto refused = store.setPlan(plan);
+    QCOMPARE(outcomeOf(refused), QString("BadRecord"));
+    const QString sentence = QString::fromStdString(refused.error().message);
+    QVERIFY2(sentence.contains(named), qPrintable(sentence));
+    QCOMPARE(plansIn(store), QString());
+}
+
+void StoredPlansTest::areRemovedWhereThereAreNone()
+{
+    auto nothing = Store::openForReading(m_path);
+    QCOMPARE(nothing.value().removePlan("home").value(), false);
+    QVERIFY(!QFile::exists(QString::fromStdString(m_path)));
+    QCOMPARE(plansIn(nothing.value()), QString());
+}
+
+void StoredPlansTest::areCopied()
+{
+    const std::string copy = m_path + "-copy";
+    Store store = opened();
+    const std::int64_t key = store.setPlan(prepaid()).value();
+    QVERIFY(store.noteWarning(key, 2461000, 50).value());
+    writeFile(QString::fromStdString(copy), "");
+    QVERIFY(store.copyTo(copy).value());
+    Store copied = storeWith(copy, {});
+    QCOMPARE(plansIn(copied), textOf(prepaid()));
+    QCOMPARE(copied.noteWarning(key, 2461000, 50).value(), false);
+}
+
+void StoredPlansTest::areNoneInAnEarlierVersionsStore()
+{
+    {
+        SQLite::Database database(m_path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        upgradeSchema(m_path, database, {storeSchema().begin(), storeSchema().begin() + 5});
+    }
+    QCOMPARE(versionOf(m_path), 5);
+    Store store = opened();
+    QCOMPARE(plansIn(store), QString());
+    QVERIFY(store.setPlan(prepaid()));
+    QCOMPARE(plansIn(store), textOf(prepaid()));
+}
+
+void StoredPlansTest::ofAnotherProgramAreToldAndCanBeRemoved_data()
+{
+    QTest::addColumn<QByteArray>("sql");
+    QTest::addColumn<QString>("named");
+    const auto row = [](const char *name, const char *sql, const char *named) {
+        QTest::newRow(name) << QByteArray(sql) << QString(named);
+    };
+    row("an unknown network", "UPDATE plan SET network = 'moon'",
+        "The network of the plan \"home\", \"moon\", is none of home, roaming, both.");
+    row("unknown coverage", "UPDATE plan SET covers = ''", "The coverage of the plan \"home\"");
+    row("an unknown direction", "UPDATE plan SET counts = 'up'",
+        "The direction of the plan \"home\"");
+    row("no period", "UPDATE plan SET month_day = NULL", "The period of the plan \"home\"");
+    row("two periods", "UPDATE plan SET cycle_days = 1, first_day = 2461000",
+        "The period of the plan \"home\"");
+    row("a number out of its range", "UPDATE plan SET month_day = 4294967297",
+        "The day of the month of the plan \"home\" is 4294967297");
+    row("a correction without a day", "UPDATE plan SET used_elsewhere = 7", "used elsewhere");
+    row("a percentage that wraps", "INSERT INTO plan_threshold VALUES (1, 4294967376)",
+        "percentage");
+}
+
+void StoredPlansTest::ofAnotherProgramAreToldAndCanBeRemoved()
+{
+    QFETCH(QByteArray, sql);
+    QFETCH(QString, named);
+    Store store = opened();
+    QVERIFY(store.setPlan(planCalled("home")));
+    runSql(m_path, sql.toStdString());
+    const auto plans = store.plans();
+    QVERIFY(!plans);
+    QCOMPARE(plans.error().kind, StoreError::Kind::Damaged);
+    const QString sentence = QString::fromStdString(plans.error().message);
+    QVERIFY2(sentence.contains(named), qPrintable(sentence));
+    QVERIFY2(sentence.contains(QString::fromStdString(m_path)), qPrintable(sentence));
+    const auto problems = store.examine().value().problems;
+    QCOMPARE(problems.size(), std::size_t(1));
+    QVERIFY(sentence.startsWith(QString::fromStdString(problems.front())));
+    QVERIFY(store.removePlan("home").value());
+    QCOMPARE(plansIn(store), QString());
+    QVERIFY(store.examine().value().problems.empty());
+}
+
+void StoredPlansTest::areWarnedOfOnce()
+{
+    const std::int64_t key = opened().setPlan(planCalled("home")).value();
+    const std::int64_t other = opened().setPlan(planCalled("other")).value();
+    QCOMPARE(opened().noteWarning(key, 2461000, 80).value(), true);
+    QCOMPARE(opened().noteWarning(key, 2461000, 80).value(), false);
+    QCOMPARE(opened().noteWarning(key, 2461000, 100).value(), true);
+    QCOMPARE(opened().noteWarning(key, 2461030, 80).value(), true);
+    QCOMPARE(opened().noteWarning(other, 2461000, 80).value(), true);
+    QCOMPARE(textOf(opened().warningsGiven(key, 2461000).value()), QString("80,100"));
+    QCOMPARE(textOf(opened().warningsGiven(key, 2461001).value()), QString());
+    QVERIFY(opened().removePlan("home").value());
+    QCOMPARE(opened().noteWarning(key, 2461000, 80).value(), false);
+    QCOMPARE(textOf(opened().warningsGiven(key, 2461000).value()), QString());
+    QCOMPARE(textOf(opened().warningsGiven(other, 2461000).value()), QString("80"));
+}
+
+void StoredPlansTest::areWarnedOfByOneProgramOnly()
+{
+    const std::int64_t key = opened().setPlan(planCalled("home")).value();
+    constexpr int warnings = 50;
+    std::atomic<int> given{0};
+    std::vector<std::thread> programs;
+    for (int i = 0; i < 4; ++i) {
+        programs.emplace_back([this, key, &given] {
+            auto store = Store::openOrCreate(m_path);
+            for (int percent = 1; percent <= warnings; ++percent) {
+                const auto isNew = store.value().noteWarning(key, 2461000, percent);
+                given += isNew && isNew.value() ? 1 : 0;
+            }
+        });
+    }
+    for (std::thread &each : programs)
+        each.join();
+    QCOMPARE(given.load(), warnings);
+}
+
+void StoredPlansTest::areWarnedOfAgainWithAnotherAmountOnly()
+{
+    Store store = opened();
+    DataPlan plan = planCalled("home");
+    plan.amount = 1000;
+    plan.key = store.setPlan(plan).value();
+    QCOMPARE(store.noteWarning(plan.key, 2461000, 80).value(), true);
+    plan.name = "renamed";
+    plan.usedElsewhere = UsedElsewhere{-500, 2461000};
+    QVERIFY(store.setPlan(plan));
+    QCOMPARE(store.noteWarning(plan.key, 2461000, 80).value(), false);
+    plan.amount = 2000;
+    QVERIFY(store.setPlan(plan));
+    QCOMPARE(store.noteWarning(plan.key, 2461000, 80).value(), true);
+    plan.amount.reset();
+    QVERIFY(store.setPlan(plan));
+    QCOMPARE(textOf(store.warningsGiven(plan.key, 2461000).value()), QString());
+}
+
+QTEST_GUILESS_MAIN(StoredPlansTest)
+
+#include "tst_storedplans.moc"
