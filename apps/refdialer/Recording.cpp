@@ -4,13 +4,15 @@
 #include "LineState.h"
 #include "apps/common/ProblemText.h"
 #include "recorder/ConnectionRecorder.h"
+#include "recorder/bus/RecorderService.h"
 
 namespace refdialer
 {
 
 Recording::Recording(const QString &storePath, const QStringList &interfaceNames,
                      const QString &profile, LineState &state)
-    : m_state(state)
+    : m_storePath(storePath)
+    , m_state(state)
     , m_recorder(new recorder::ConnectionRecorder(storePath, interfaceNames))
 {
     QObject::connect(m_recorder, &recorder::ConnectionRecorder::connected, &m_state,
@@ -37,7 +39,7 @@ Recording::~Recording()
 {
     std::optional<recorder::Problem> loss;
     QMetaObject::invokeMethod(
-        m_recorder, [this] { return m_recorder->end(); }, Qt::BlockingQueuedConnection, &loss);
+        m_recorder, [this] { return endOnItsThread(); }, Qt::BlockingQueuedConnection, &loss);
     if (loss)
         qWarning("%s", qUtf8Printable(common::problemText(*loss)));
     m_thread.quit();
@@ -47,9 +49,27 @@ Recording::~Recording()
 void Recording::start()
 {
     bool hasStarted = false;
-    QMetaObject::invokeMethod(m_recorder, &recorder::ConnectionRecorder::start,
-                              Qt::BlockingQueuedConnection, &hasStarted);
+    QMetaObject::invokeMethod(
+        m_recorder, [this] { return startOnItsThread(); }, Qt::BlockingQueuedConnection,
+        &hasStarted);
     m_state.setWatched(hasStarted);
+}
+
+bool Recording::startOnItsThread()
+{
+    const bool hasStarted = m_recorder->start();
+    m_service =
+        std::make_unique<recorder::RecorderService>(*m_recorder, m_storePath, common::problemText);
+    m_service->start();
+    return hasStarted;
+}
+
+/// Who misses this recorder on the bus finds everything in the store.
+std::optional<recorder::Problem> Recording::endOnItsThread()
+{
+    const std::optional<recorder::Problem> loss = m_recorder->end();
+    m_service.reset();
+    return loss;
 }
 
 } // namespace refdialer

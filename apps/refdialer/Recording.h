@@ -4,18 +4,23 @@
 #include <QStringList>
 #include <QThread>
 
+#include <memory>
+#include <optional>
+
 namespace recorder
 {
 class ConnectionRecorder;
-}
+class RecorderService;
+struct Problem;
+} // namespace recorder
 
 namespace refdialer
 {
 
 class LineState;
 
-/// Records connections on a thread of its own, so that a store which another
-/// program keeps locked does not hold up the window.
+/// Records connections, and tells so on the session bus, on a thread of its own, so that a
+/// store which another program keeps locked does not hold up the window.
 class Recording
 {
 public:
@@ -34,8 +39,13 @@ public:
     void start();
 
 private:
+    bool startOnItsThread();
+    std::optional<recorder::Problem> endOnItsThread();
+
+    const QString m_storePath;
     LineState &m_state;
-    recorder::ConnectionRecorder *m_recorder; ///< deleted on its thread, when that ends
+    recorder::ConnectionRecorder *m_recorder;             ///< deleted on its thread, when that ends
+    std::unique_ptr<recorder::RecorderService> m_service; ///< on the same thread
     QThread m_thread;
 };
 

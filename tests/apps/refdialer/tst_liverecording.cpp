@@ -1,19 +1,24 @@
 // SPDX-License-Identifier: MIT
+#include "BusClient.h"
 #include "HistoryWindow.h"
 #include "NetworkNamespace.h"
+#include "PrivateBus.h"
 #include "ShownText.h"
 #include "TunDevice.h"
 #include "VethPair.h"
 #include "apps/refdialer/Recording.h"
 #include "apps/refdialer/StateLine.h"
 #include "apps/refdialer/SummaryChoice.h"
+#include "recorder/bus/RecorderService.h"
 
 #include "ExtendDialog.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QScopeGuard>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -41,6 +46,7 @@ private slots:
     void showsWhatAnEarlierRunLeftOpen();
     void recordsANamedInterface();
     void saysWhyItCannotRecord();
+    void tellsOnTheSessionBusWhatItRecords();
 
 private:
     bool start(const QStringList &interfaceNames = {});
@@ -194,10 +200,33 @@ void TestLiveRecording::saysWhyItCannotRecord()
         m_history->state().problem().contains(QString::fromStdString(m_history->storePath())));
 }
 
+void TestLiveRecording::tellsOnTheSessionBusWhatItRecords()
+{
+    const QTemporaryDir folder;
+    PrivateBus bus(folder.path());
+    QVERIFY(bus.start());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
+    const auto restore = qScopeGuard([] { qunsetenv("DBUS_SESSION_BUS_ADDRESS"); });
+    BusClient client(bus.address(), recorder::RecorderService::nameFor(
+                                        QString::fromStdString(m_history->storePath())));
+    const VethPair pair;
+    QVERIFY(start());
+    QTRY_VERIFY(client.isServiceThere());
+    QCOMPARE(client.property("Recording"), QVariant(true));
+    QVERIFY(pair.goUp());
+    QTRY_COMPARE(client.connections().size(), 1);
+    QCOMPARE(client.connections().value(0).value("Interface").toString(), QString("wwan0"));
+    m_recording.reset();
+    QTRY_VERIFY(!client.isServiceThere());
+}
+
 // The network has to be entered before there is a second thread.
 int main(int argc, char **argv)
 {
     const QString obstacle = enterNetworkNamespace();
+    // Nobody on the bus of whoever runs the test is to see it.
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    qunsetenv("XDG_RUNTIME_DIR");
     const QApplication application(argc, argv);
     TestLiveRecording test(obstacle);
     return QTest::qExec(&test, argc, argv);

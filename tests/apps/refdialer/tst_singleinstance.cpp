@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "apps/refdialer/SingleInstance.h"
+#include "recorder/bus/RecorderService.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -13,6 +14,7 @@
 #include <csignal>
 #include <memory>
 
+using recorder::RecorderService;
 using refdialer::SingleInstance;
 
 /// Several starts of the real program on a session bus of their own.
@@ -67,11 +69,15 @@ TestSingleInstance::Program TestSingleInstance::start(const QStringList &argumen
     return program;
 }
 
-/// A window that has taken the name of the store.
+/// A window that is on the bus with all that it has to do there.
 TestSingleInstance::Program TestSingleInstance::startWindow() const
 {
     Program program = start({"--store", store()});
-    if (!QTest::qWaitFor([&] { return ownerProcess(store()) == program->processId(); }))
+    const auto isOnTheBus = [&] {
+        return ownerProcess(store()) == program->processId() &&
+               bus().isServiceRegistered(RecorderService::nameFor(store()));
+    };
+    if (!QTest::qWaitFor(isOnTheBus))
         return nullptr;
     return program;
 }
