@@ -168,10 +168,17 @@ void BusConnection::waitForSocket()
     if (m_socketWatcher && m_socketWatcher->directories() == watched)
         return;
     m_socketWatcher = std::make_unique<QFileSystemWatcher>(watched);
-    connect(m_socketWatcher.get(), &QFileSystemWatcher::directoryChanged, &m_retry,
-            qOverload<>(&QTimer::start));
+    connect(m_socketWatcher.get(), &QFileSystemWatcher::directoryChanged, this,
+            &BusConnection::retrySoon);
     // It may have come just before.
-    m_retry.start();
+    retrySoon();
+}
+
+/// However often something happens where others have their sockets too.
+void BusConnection::retrySoon()
+{
+    if (!m_retry.isActive())
+        m_retry.start();
 }
 
 } // namespace modem

@@ -70,6 +70,7 @@ private:
     void greet();
     void close();
     void waitForSocket();
+    void retrySoon();
 
     const QString m_address;
     const std::vector<Subscription> m_subscriptions;

@@ -14,6 +14,7 @@ private slots:
     void comesBackWithTheBus();
     void forgetsListenersOfAFormerBus();
     void recordsWithoutABus();
+    void findsABusInABusyFolder();
     void recordsBesideASilentBus();
     void goesToNoOtherComputer();
     void givesTheNameToTheOneThatRecords();
@@ -78,6 +79,23 @@ void TestRecorderServiceBus::recordsWithoutABus()
     QVERIFY(m_bus->start());
     m_client = makeClient();
     QTRY_VERIFY(m_client->isServiceThere());
+}
+
+/// Others put their sockets and files there too, all the time.
+void TestRecorderServiceBus::findsABusInABusyFolder()
+{
+    m_bus->kill();
+    QVERIFY(QFile::remove(m_bus->socket()));
+    QVERIFY(start());
+    m_service = makeService(*m_recorder);
+    m_service->start();
+    QVERIFY(m_bus->start());
+    m_client = makeClient();
+    const auto isThereAmongOthers = [this] {
+        QFile other(m_busFolder->filePath("other"));
+        return other.open(QIODevice::WriteOnly) && other.remove() && m_client->isServiceThere();
+    };
+    QTRY_VERIFY(isThereAmongOthers());
 }
 
 /// The same thread is the service and the bus: had the service waited for anything, it
