@@ -4,8 +4,8 @@
 #include "Complaint.h"
 #include "OptionValue.h"
 #include "ServiceNotice.h"
-#include "StartupMemory.h"
 #include "StoreResult.h"
+#include "UnusedMemory.h"
 #include "apps/common/ProblemText.h"
 #include "apps/common/QuitOnSignal.h"
 #include "formats/Utf8Text.h"
@@ -150,6 +150,29 @@ void Reporter::showStatus() const
         tellStatus("Recording; connections that last: " + std::to_string(m_lasting) + '.');
 }
 
+/// Keeps in memory only what is used all the time, and not what the start takes, or a
+/// connection that begins or ends.
+class MemorySaver
+{
+public:
+    explicit MemorySaver(const ConnectionRecorder &recorder);
+
+private:
+    QTimer m_timer;
+};
+
+MemorySaver::MemorySaver(const ConnectionRecorder &recorder)
+{
+    // All that such an event brings with it is over then, as the search for the buses.
+    m_timer.setInterval(intervals.tick);
+    m_timer.setSingleShot(true);
+    QObject::connect(&m_timer, &QTimer::timeout, giveBackUnusedMemory);
+    const auto saveLater = [this] { m_timer.start(); };
+    QObject::connect(&recorder, &ConnectionRecorder::connected, &m_timer, saveLater);
+    QObject::connect(&recorder, &ConnectionRecorder::disconnected, &m_timer, saveLater);
+    saveLater();
+}
+
 /// What is wrong with the store itself will not pass by waiting.
 void checkStore(const std::string &path)
 {
@@ -177,8 +200,7 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
     });
     service.start();
     tellReady();
-    // The buses have been looked for by then.
-    QTimer::singleShot(intervals.tick, &recorder, giveBackStartupMemory);
+    const MemorySaver memorySaver(recorder);
     QCoreApplication::exec();
     tellStopping();
     if (const auto loss = recorder.end())

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "StartupMemory.h"
+#include "UnusedMemory.h"
 
 #include <elf.h>
 #include <link.h>
@@ -41,7 +41,7 @@ int giveBackLibrary(dl_phdr_info *library, std::size_t /*size*/, void * /*data*/
 
 } // namespace
 
-void giveBackStartupMemory()
+void giveBackUnusedMemory()
 {
     malloc_trim(0);
     dl_iterate_phdr(giveBackLibrary, nullptr);

@@ -4,10 +4,10 @@
 namespace connrecord
 {
 
-/// Gives back the memory that only the start of the program has needed: what loading the
-/// libraries has read of them, and what is free in the heap. What is needed of it again is
+/// Gives back the memory that may have been needed only once: what has been read of the
+/// program and its libraries, and what is free in the heap. What is needed of it again is
 /// read again, from the system's cache of files. For who goes on running for long and
 /// does little.
-void giveBackStartupMemory();
+void giveBackUnusedMemory();
 
 } // namespace connrecord
