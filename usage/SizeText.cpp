@@ -1,10 +1,63 @@
 // SPDX-License-Identifier: MIT
 #include "SizeText.h"
 
+#include "SaturatingMath.h"
+
+#include <array>
+#include <cctype>
+#include <cmath>
 #include <iterator>
+#include <string>
 
 namespace usage
 {
+
+namespace
+{
+
+struct Unit {
+    std::string_view name;
+    std::int64_t bytes;
+};
+
+constexpr std::int64_t kilobyte = 1024;
+constexpr std::array<Unit, 6> units = {{
+    {"", 1},
+    {"B", 1},
+    {"KB", kilobyte},
+    {"MB", kilobyte *kilobyte},
+    {"GB", kilobyte *kilobyte *kilobyte},
+    {"TB", kilobyte *kilobyte *kilobyte *kilobyte},
+}};
+
+std::optional<std::int64_t> unitNamed(std::string_view name)
+{
+    std::string capitals(name);
+    for (char &each : capitals)
+        each = static_cast<char>(std::toupper(static_cast<unsigned char>(each)));
+    for (const Unit &unit : units) {
+        if (unit.name == capitals)
+            return unit.bytes;
+    }
+    return std::nullopt;
+}
+
+/// Those digits behind the full stop that can make a byte of the largest unit.
+std::string_view takeFraction(TextScanner &scanner)
+{
+    constexpr std::size_t mostThatCount = 15;
+    return scanner.take('.') ? scanner.takeDigits().substr(0, mostThatCount) : "0";
+}
+
+Wide numberOf(std::string_view digits)
+{
+    Wide number = 0;
+    for (const char digit : digits)
+        number = number * 10 + (digit - '0');
+    return number;
+}
+
+} // namespace
 
 QString sizeText(std::int64_t bytes)
 {
@@ -12,7 +65,7 @@ QString sizeText(std::int64_t bytes)
     double value = static_cast<double>(bytes) / 1024;
     const char *const *unit = std::begin(units);
     // The unit is chosen before rounding, as in the history.
-    for (; value >= 1024 && unit + 1 != std::end(units); ++unit)
+    for (; std::abs(value) >= 1024 && unit + 1 != std::end(units); ++unit)
         value /= 1024;
     return QString::number(value, 'f', 2) + QLatin1Char(' ') + QLatin1String(*unit);
 }
@@ -24,6 +77,27 @@ QString rateText(std::int64_t bytesPerSecond)
             ? QString::number(static_cast<qlonglong>(bytesPerSecond)) + QLatin1String(" B")
             : sizeText(bytesPerSecond);
     return size + QLatin1String("/s");
+}
+
+std::optional<WholeNumber> bytesIn(std::string_view text)
+{
+    constexpr std::size_t mostDigits = 19;
+    TextScanner scanner(text);
+    const bool isNegative = scanner.take('-');
+    const std::string_view whole = scanner.takeDigits();
+    const std::string_view fraction = takeFraction(scanner);
+    scanner.takeSpaces();
+    const auto unit = unitNamed(scanner.rest());
+    if (whole.empty() || fraction.empty() || !unit)
+        return std::nullopt;
+    if (whole.size() > mostDigits)
+        return WholeNumber();
+    Wide scale = 1;
+    for (std::size_t i = 0; i < fraction.size(); ++i)
+        scale *= 10;
+    const Wide bytes = numberOf(whole) * *unit + numberOf(fraction) * *unit / scale;
+    const std::int64_t value = saturated(isNegative ? -bytes : bytes);
+    return value == (isNegative ? -bytes : bytes) ? WholeNumber{value, true} : WholeNumber();
 }
 
 } // namespace usage

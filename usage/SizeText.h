@@ -1,18 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "TextScanner.h"
+
 #include <QString>
 
 #include <cstdint>
+#include <optional>
+#include <string_view>
 
 namespace usage
 {
 
 /// A number of bytes as the history shows it: "0.10 KB", "1.50 MB", up to GB, of 1024
-/// each and in every language with a full stop.
+/// each and in every language with a full stop. What is less than none has a minus.
 QString sizeText(std::int64_t bytes);
 
 /// "249 B/s"; from 1024 bytes on in the units above: "1.50 KB/s".
 QString rateText(std::int64_t bytesPerSecond);
+
+/// The bytes that somebody has written as "10GB", "1.5 GB" or "500": in B, KB, MB, GB or TB,
+/// of 1024 each, a part of a byte cut, "-" in front allowed. Nothing if it is none of these.
+std::optional<WholeNumber> bytesIn(std::string_view text);
 
 } // namespace usage

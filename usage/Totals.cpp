@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Totals.h"
 
+#include "BillingPeriod.h"
 #include "LocalDays.h"
 
 #include <QDateTime>
 
 #include <cstdlib>
 #include <map>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -32,10 +34,10 @@ const std::string &operatorOf(const Source &source)
     return source.operatorName.empty() ? source.operatorCode : source.operatorName;
 }
 
-/// A number that rises from one period to the next.
-std::int64_t periodOf(std::int64_t utc, Period unit)
+/// A number that rises from one period to the next; nothing between billing periods.
+std::optional<std::int64_t> periodNumber(std::int64_t utc, const Grouping &grouping)
 {
-    switch (unit) {
+    switch (grouping.period) {
     case Period::All:
         return 0;
     case Period::Hour:
@@ -48,18 +50,25 @@ std::int64_t periodOf(std::int64_t utc, Period unit)
     }
     case Period::Year:
         return localDay(utc).year();
+    case Period::Billing: {
+        const auto period = periodAt(grouping.billing, utc);
+        return period ? std::optional(period->first.toJulianDay()) : std::nullopt;
     }
-    return 0;
+    }
+    return std::nullopt;
 }
 
-GroupKey groupOf(const CountedBytes &counted, const Grouping &grouping)
+std::optional<GroupKey> groupOf(const CountedBytes &counted, const Grouping &grouping)
 {
     const auto part = [](bool isApart, const std::string &text) {
         return isApart ? text : std::string();
     };
-    return {part(grouping.byProfile, counted.profile), part(grouping.bySim, counted.sim),
-            part(grouping.byOperator, counted.operatorName),
-            grouping.byRoaming && counted.isRoaming, periodOf(counted.utc, grouping.period)};
+    const auto period = periodNumber(counted.utc, grouping);
+    if (!period)
+        return std::nullopt;
+    return GroupKey{part(grouping.byProfile, counted.profile), part(grouping.bySim, counted.sim),
+                    part(grouping.byOperator, counted.operatorName),
+                    grouping.byRoaming && counted.isRoaming, *period};
 }
 
 void increase(std::int64_t &sum, std::int64_t amount, const char *what)
@@ -89,6 +98,14 @@ QString hourText(std::int64_t utc)
 {
     const QDateTime hour = QDateTime::fromSecsSinceEpoch(utc);
     return hour.toString(QStringLiteral("yyyy-MM-ddTHH:mm")) + offsetText(hour.offsetFromUtc());
+}
+
+QString billingText(const history::PeriodRule &rule, const QDate &first)
+{
+    const auto period = periodOf(rule, first);
+    return period ? period->first.toString(Qt::ISODate) + QLatin1Char('/') +
+                        period->last().toString(Qt::ISODate)
+                  : QString();
 }
 
 } // namespace
@@ -127,7 +144,10 @@ std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping
 {
     std::map<GroupKey, Group> groups;
     for (const CountedBytes &each : counted) {
-        Group &group = groups[groupOf(each, grouping)];
+        const auto key = groupOf(each, grouping);
+        if (!key)
+            continue;
+        Group &group = groups[*key];
         add(group.sum, each);
         group.connections.emplace(each.isOpen, each.key);
     }
@@ -142,10 +162,10 @@ std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping
     return sums;
 }
 
-QString periodText(std::int64_t period, Period unit)
+QString periodText(std::int64_t period, const Grouping &grouping)
 {
     const QLatin1Char zero('0');
-    switch (unit) {
+    switch (grouping.period) {
     case Period::All:
         return {};
     case Period::Hour:
@@ -158,6 +178,8 @@ QString periodText(std::int64_t period, Period unit)
             .arg(period % 100, 2, 10, zero);
     case Period::Year:
         return QStringLiteral("%1").arg(period, 4, 10, zero);
+    case Period::Billing:
+        return billingText(grouping.billing, QDate::fromJulianDay(period));
     }
     return {};
 }

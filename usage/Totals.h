@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "history/DataPlan.h"
 #include "history/Store.h"
 
 #include <QString>
@@ -15,12 +16,13 @@
 namespace usage
 {
 
-/// Parts of the local calendar.
-enum class Period { All, Hour, Day, Month, Year };
+/// Parts of the local calendar, and the periods of a plan.
+enum class Period { All, Hour, Day, Month, Year, Billing };
 
 /// What sums are told apart by.
 struct Grouping {
     Period period = Period::All;
+    history::PeriodRule billing; ///< of Period::Billing
     bool byProfile = false;
     bool bySim = false;
     bool byOperator = false;
@@ -71,11 +73,12 @@ public:
 };
 
 /// The sums by profile, SIM, operator, roaming, then period, each connection counted
-/// once in each of them. Throws SumTooLarge.
+/// once in each of them; what lies in no billing period is left out. Throws SumTooLarge.
 std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping &grouping);
 
-/// 2024-10-27T02:00+01:00, 2024-10-27, 2024-10 or 2024; the hour has its offset, since local
-/// time goes through one twice when clocks are set back.
-QString periodText(std::int64_t period, Period unit);
+/// 2024-10-27T02:00+01:00, 2024-10-27, 2024-10, 2024, or a billing period's first and last day
+/// as 2024-10-27/2024-11-26. The hour has its offset, since local time goes through one
+/// twice when clocks are set back.
+QString periodText(std::int64_t period, const Grouping &grouping);
 
 } // namespace usage

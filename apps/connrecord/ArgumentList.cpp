@@ -17,15 +17,14 @@ bool takesValue(const CLI::App &command, const std::string &option)
     return found && found->get_items_expected_max() > 0;
 }
 
-/// Whether the program or one of its commands has such an option.
+/// Whether the program, one of its commands or one of theirs has such an option.
 bool isOptionWithValue(const CLI::App &parser, const std::string &argument)
 {
     const std::vector<const CLI::App *> commands = parser.get_subcommands(nullptr);
-    return usage::startsWith(argument, "--") &&
-           (takesValue(parser, argument) ||
-            std::any_of(commands.begin(), commands.end(), [&argument](const CLI::App *command) {
-                return takesValue(*command, argument);
-            }));
+    return takesValue(parser, argument) ||
+           std::any_of(commands.begin(), commands.end(), [&argument](const CLI::App *command) {
+               return isOptionWithValue(*command, argument);
+           });
 }
 
 } // namespace
@@ -41,7 +40,7 @@ std::vector<std::string> argumentsFor(const CLI::App &parser, int argc, char **a
         }
         const std::size_t equals = argument.find('=');
         const std::string name = argument.substr(0, equals);
-        if (!isOptionWithValue(parser, name)) {
+        if (!usage::startsWith(name, "--") || !isOptionWithValue(parser, name)) {
             arguments.push_back(argument);
             continue;
         }

@@ -7,9 +7,12 @@
 #include "Failure.h"
 #include "HistoryFiles.h"
 #include "ImportCommand.h"
+#include "OptionChoice.h"
 #include "Output.h"
+#include "PlanOptions.h"
 #include "RecordCommand.h"
 #include "RemoveCommand.h"
+#include "StatusCommand.h"
 #include "TotalsCommand.h"
 #include "TotalsText.h"
 #include "UpkeepCommands.h"
@@ -39,36 +42,9 @@ constexpr const char *exitCodes = R"(Exit codes:
   2  the command line is wrong
   3  the store cannot be used, or there is not enough memory
   4  the input file is wrong or cannot be read
-  5  the output cannot be written)";
-
-/// The names of the rows of a table, and what they are, for the option that takes one.
-template <typename Table>
-std::string choiceOf(const Table &table)
-{
-    std::string names;
-    for (const auto &row : table)
-        names += (names.empty() ? "" : "|") + std::string(row.name);
-    return names;
-}
-
-template <typename Table>
-std::string helpOf(const Table &table)
-{
-    std::string text;
-    for (const auto &row : table)
-        text += (text.empty() ? "" : "; ") + std::string(row.name) + ": " + row.help;
-    return text;
-}
-
-/// The row that the option names.
-template <typename Table>
-auto chosenFrom(const Table &table, const std::string &option, const std::string &name)
-{
-    const auto *const row = formats::formatNamed(table, name);
-    if (!row)
-        throw CLI::ValidationError(option, "it is one of " + choiceOf(table) + ", not " + name);
-    return row;
-}
+  5  the output cannot be written
+ 10  status: a percentage to warn at of a plan is reached
+ 11  status: nothing is left of a plan)";
 
 /// The file of no name is the folder that the program runs in, which nobody means.
 std::string checkFileName(const std::string &name)
@@ -81,7 +57,7 @@ usage::Grouping groupingNamed(const std::string &names)
     if (const auto grouping = groupingOf(names))
         return *grouping;
     throw CLI::ValidationError("--by", "it is profile, sim, operator, roaming and one of hour, "
-                                       "day, month and year, separated by commas, not " +
+                                       "day, month, year and period, separated by commas, not " +
                                            names);
 }
 
@@ -97,14 +73,17 @@ public:
     CommandLine();
 
     void parse(int argc, char **argv);
-    void run() const;
+    /// Returns what the program is to end with.
+    ExitCode run();
     /// The text that the user has asked for instead of a command.
     QByteArray textFor(const CLI::Success &helpOrVersion) const;
 
 private:
     void checkCommandIsKnown() const;
     CLI::App *addCommand(const char *name, const char *description);
-    CLI::App *addCommandWithoutResult(const char *name, const char *description);
+    CLI::App *addCommand(CLI::App &parent, const char *name, const char *description);
+    static CLI::App *addCommandWithoutResult(CLI::App &parent, const char *name,
+                                             const char *description);
     static void addDays(CLI::App *command, DaysRequest &days);
     void addSelection(CLI::App *command);
     void addList();
@@ -113,6 +92,8 @@ private:
     void addExport();
     void addImport();
     void addTotals();
+    void addPlan();
+    void addStatus();
     void addBackup();
     void addCheck();
     void addRecord();
@@ -126,8 +107,11 @@ private:
     std::string m_copyPath;
     ImportRequest m_import;
     TotalsRequest m_totals;
+    PlanRequest m_plan;
+    StatusRequest m_status;
     RecordRequest m_record;
     std::function<void()> m_action;
+    ExitCode m_exitCode = ExitCode::Success;
 };
 
 CommandLine::CommandLine()
@@ -148,6 +132,8 @@ CommandLine::CommandLine()
     addExport();
     addImport();
     addTotals();
+    addPlan();
+    addStatus();
     addBackup();
     addCheck();
     addRecord();
@@ -166,20 +152,26 @@ void CommandLine::parse(int argc, char **argv)
 /// The parser itself would only tell that there is no command.
 void CommandLine::checkCommandIsKnown() const
 {
-    const std::vector<std::string> unknown = m_parser.remaining();
-    if (!m_parser.get_subcommands().empty())
+    const CLI::App *parent = &m_parser;
+    std::string chosen;
+    for (; !parent->get_subcommands().empty(); parent = parent->get_subcommands().front())
+        chosen = parent->get_subcommands().front()->get_name() + ' ';
+    if (parent->get_require_subcommand_min() == 0)
         return;
+    const std::vector<std::string> unknown = m_parser.remaining(true);
     if (unknown.empty())
-        throw CLI::RequiredError("A command");
-    const std::string what = usage::startsWith(unknown.front(), "-") ? "option" : "command";
-    throw CLI::ParseError("There is no " + what + " \"" + unknown.front() + '"',
+        throw CLI::RequiredError(chosen.empty() ? "A command" : "A command behind \"plan\"");
+    const bool isOption = usage::startsWith(unknown.front(), "-");
+    throw CLI::ParseError((isOption ? "There is no option \"" : "There is no command \"" + chosen) +
+                              unknown.front() + '"',
                           CLI::ExitCodes::ExtrasError);
 }
 
-void CommandLine::run() const
+ExitCode CommandLine::run()
 {
     checkIsNotOfHistory(standardOutputPath, m_common.storePath);
     m_action();
+    return m_exitCode;
 }
 
 QByteArray CommandLine::textFor(const CLI::Success &helpOrVersion) const
@@ -191,14 +183,20 @@ QByteArray CommandLine::textFor(const CLI::Success &helpOrVersion) const
 
 CLI::App *CommandLine::addCommand(const char *name, const char *description)
 {
-    CLI::App *const command = addCommandWithoutResult(name, description);
+    return addCommand(m_parser, name, description);
+}
+
+CLI::App *CommandLine::addCommand(CLI::App &parent, const char *name, const char *description)
+{
+    CLI::App *const command = addCommandWithoutResult(parent, name, description);
     command->add_flag("--json", m_common.json, "Write JSON, for programs")->disable_flag_override();
     return command;
 }
 
-CLI::App *CommandLine::addCommandWithoutResult(const char *name, const char *description)
+CLI::App *CommandLine::addCommandWithoutResult(CLI::App &parent, const char *name,
+                                               const char *description)
 {
-    CLI::App *const command = m_parser.add_subcommand(name, description);
+    CLI::App *const command = parent.add_subcommand(name, description);
     command->footer(exitCodes);
     return command;
 }
@@ -324,7 +322,7 @@ void CommandLine::addTotals()
         ->add_option_function<std::string>(
             "--by", [this](const std::string &names) { m_totals.grouping = groupingNamed(names); },
             "One sum for each of these and their combinations: profile, sim, operator, roaming, "
-            "and hour, day, month or year; one in all without it")
+            "and hour, day, month, year or a plan's period; one in all without it")
         ->type_name("WHAT,...");
     command
         ->add_flag("--by-start", m_totals.countsAtStart,
@@ -332,8 +330,38 @@ void CommandLine::addTotals()
         ->disable_flag_override();
     command->add_flag("--finished", m_totals.isOfFinished, "Leave out connections that still last")
         ->disable_flag_override();
+    command->add_option("--plan", m_totals.plan, "Only what this plan covers")->type_name("NAME");
     addDays(command, m_totals.days);
     command->callback([this] { m_action = [this] { showTotals(m_common, m_totals); }; });
+}
+
+void CommandLine::addPlan()
+{
+    CLI::App *const command = addCommandWithoutResult(
+        m_parser, "plan", "Show and change data plans; status tells what is left of them");
+    command->require_subcommand(1);
+    addCommand(*command, "list", "List the plans by their names")->callback([this] {
+        m_action = [this] { listPlans(m_common); };
+    });
+    CLI::App *const set =
+        addCommand(*command, "set", "Make a plan, or change what is given of the one there is");
+    addPlanOptions(*set, m_plan);
+    set->callback([this] { m_action = [this] { setPlan(m_common, m_plan); }; });
+    CLI::App *const remove = addCommand(*command, "remove", "Remove a plan, and no connection");
+    addPlanName(*remove, m_plan);
+    remove->callback([this] { m_action = [this] { removePlan(m_common, m_plan.name); }; });
+}
+
+void CommandLine::addStatus()
+{
+    CLI::App *const command = addCommand("status", "Tell what is left of data plans");
+    command->add_option("--plan", m_status.plan, "Of this plan only")->type_name("NAME");
+    command
+        ->add_option("--at", m_status.at,
+                     "As it was at this time, as 2024-05-31T18:30:00Z; local time without a zone")
+        ->type_name("TIME");
+    command->callback(
+        [this] { m_action = [this] { m_exitCode = showStatus(m_common, m_status); }; });
 }
 
 void CommandLine::addBackup()
@@ -356,7 +384,7 @@ void CommandLine::addCheck()
 void CommandLine::addRecord()
 {
     CLI::App *const command = addCommandWithoutResult(
-        "record", "Record connections while they last, until a signal ends it");
+        m_parser, "record", "Record connections while they last, until a signal ends it");
     command
         ->add_option("--interface", m_record.interfaceNames,
                      "A network interface to record besides mobile-broadband ones; several times "
@@ -379,15 +407,16 @@ int complainOfUsage(const CLI::ParseError &error)
     return code;
 }
 
-void parseAndRun(int argc, char **argv)
+ExitCode parseAndRun(int argc, char **argv)
 {
     CommandLine commandLine;
     try {
         commandLine.parse(argc, argv);
     } catch (const CLI::Success &helpOrVersion) {
-        return Output().write(commandLine.textFor(helpOrVersion));
+        Output().write(commandLine.textFor(helpOrVersion));
+        return ExitCode::Success;
     }
-    commandLine.run();
+    return commandLine.run();
 }
 
 } // namespace
@@ -397,8 +426,7 @@ int runCommandLine(int argc, char **argv)
     // A destructor that finds no memory cannot pass it on to where the others are caught.
     std::set_terminate(endWithSentence);
     try {
-        parseAndRun(argc, argv);
-        return static_cast<int>(ExitCode::Success);
+        return static_cast<int>(parseAndRun(argc, argv));
     } catch (const CLI::ParseError &error) {
         return complainOfUsage(error);
     } catch (const Failure &failure) {

@@ -2,12 +2,15 @@
 #include "TotalsCommand.h"
 
 #include "Output.h"
+#include "PlanCommands.h"
 #include "StoreResult.h"
 #include "TotalsText.h"
+#include "usage/PlanUse.h"
 
 #include <algorithm>
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace connrecord
@@ -44,13 +47,31 @@ std::vector<usage::CountedBytes> countedOn(const usage::LocalDays &days,
     return counted;
 }
 
+std::vector<usage::CountedBytes> coveredBy(const history::DataPlan &plan,
+                                           std::vector<usage::CountedBytes> counted)
+{
+    counted.erase(std::remove_if(counted.begin(), counted.end(),
+                                 [&plan](const usage::CountedBytes &each) {
+                                     return !usage::isCovered(plan, each.profile, each.sim,
+                                                              each.isRoaming);
+                                 }),
+                  counted.end());
+    return counted;
+}
+
+void checkRequest(const TotalsRequest &request)
+{
+    if (request.grouping.period == usage::Period::Billing && !request.plan)
+        throw Failure(ExitCode::Usage, "--by period needs --plan, whose periods these are.");
+}
+
 std::vector<usage::Sum> sumsOf(const std::vector<usage::CountedBytes> &counted,
-                               const CommonRequest &common, const TotalsRequest &request)
+                               const CommonRequest &common, const usage::Grouping &grouping)
 {
     try {
-        auto sums = usage::sumsOf(counted, request.grouping);
+        auto sums = usage::sumsOf(counted, grouping);
         // The sum of nothing is told where there is but one sum.
-        if (sums.empty() && request.grouping.isOneSum())
+        if (sums.empty() && grouping.isOneSum())
             sums.emplace_back();
         return sums;
     } catch (const usage::SumTooLarge &error) {
@@ -66,11 +87,17 @@ std::vector<usage::Sum> sumsOf(const std::vector<usage::CountedBytes> &counted,
 
 void showTotals(const CommonRequest &common, const TotalsRequest &request)
 {
+    checkRequest(request);
     const usage::LocalDays days = daysOf(request.days);
     const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
-    const auto counted = countedOn(days, allCounted(store, days.widerRange(), request));
-    const std::vector<usage::Sum> sums = sumsOf(counted, common, request);
-    const TotalsForm form{request.grouping, request.countsAtStart};
+    auto counted = countedOn(days, allCounted(store, days.widerRange(), request));
+    TotalsForm form{request.grouping, request.countsAtStart};
+    if (request.plan) {
+        const history::DataPlan plan = planNamed(store, common.storePath, *request.plan);
+        form.grouping.billing = plan.period;
+        counted = coveredBy(plan, std::move(counted));
+    }
+    const std::vector<usage::Sum> sums = sumsOf(counted, common, form.grouping);
     Output().write(common.json ? formats::jsonText(toJson(sums, form)) : toTable(sums, form));
 }
 

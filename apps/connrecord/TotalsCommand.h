@@ -5,14 +5,18 @@
 #include "Selection.h"
 #include "usage/Totals.h"
 
+#include <optional>
+#include <string>
+
 namespace connrecord
 {
 
 struct TotalsRequest {
     usage::Grouping grouping;
     DaysRequest days;
-    bool countsAtStart = false; ///< wholly, and finished connections alone
-    bool isOfFinished = false;  ///< leaves out connections that last
+    std::optional<std::string> plan; ///< only what it covers; its periods are the billing ones
+    bool countsAtStart = false;      ///< wholly, and finished connections alone
+    bool isOfFinished = false;       ///< leaves out connections that last
 };
 
 /// Adds up what was moved on these days. Throws Failure.

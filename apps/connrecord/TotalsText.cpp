@@ -43,11 +43,12 @@ struct PeriodName {
     Period period;
 };
 
-constexpr std::array<PeriodName, 4> periods = {{
+constexpr std::array<PeriodName, 5> periods = {{
     {"hour", "HOUR", Period::Hour},
     {"day", "DAY", Period::Day},
     {"month", "MONTH", Period::Month},
     {"year", "YEAR", Period::Year},
+    {"period", "PERIOD", Period::Billing},
 }};
 
 const PeriodName *nameOf(Period period)
@@ -108,7 +109,7 @@ std::vector<QString> row(const Sum &sum, const TotalsForm &form)
             cells.push_back(cellText(property, sum));
     }
     if (form.grouping.period != Period::All)
-        cells.push_back(usage::periodText(sum.period, form.grouping.period));
+        cells.push_back(usage::periodText(sum.period, form.grouping));
     cells.push_back(QString::number(sum.connections));
     if (form.showsTimeConnected)
         cells.push_back(usage::durationText(sum.connectedSeconds));
@@ -129,7 +130,7 @@ formats::Json toJson(const Sum &sum, const TotalsForm &form)
             object[property.name] = property.value(sum);
     }
     if (const PeriodName *const period = nameOf(form.grouping.period))
-        object[period->name] = usage::periodText(sum.period, period->period).toStdString();
+        object[period->name] = usage::periodText(sum.period, form.grouping).toStdString();
     return object;
 }
 

@@ -14,6 +14,11 @@ class SizeTextTest : public QObject
 private slots:
     void writesSizesAndRatesAsTheHistoryDoes_data();
     void writesSizesAndRatesAsTheHistoryDoes();
+    void writesLessThanNothing();
+    void readsSizes_data();
+    void readsSizes();
+    void refusesWhatIsNoSize_data();
+    void refusesWhatIsNoSize();
 };
 
 void SizeTextTest::writesSizesAndRatesAsTheHistoryDoes_data()
@@ -48,6 +53,63 @@ void SizeTextTest::writesSizesAndRatesAsTheHistoryDoes()
     QFETCH(qint64, bytes);
     QTEST(sizeText(bytes), "size");
     QTEST(rateText(bytes), "rate");
+}
+
+void SizeTextTest::writesLessThanNothing()
+{
+    QCOMPARE(sizeText(-512), QString("-0.50 KB"));
+    QCOMPARE(sizeText(-5LL * 1024 * 1024 * 1024), QString("-5.00 GB"));
+}
+
+void SizeTextTest::readsSizes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<qint64>("bytes");
+    const auto row = [](const char *text, qint64 bytes) {
+        QTest::newRow(text) << QString(text) << bytes;
+    };
+    row("0", 0);
+    row("500", 500);
+    row("7B", 7);
+    row("1KB", 1024);
+    row("20 mb", 20971520);
+    row("10GB", 10737418240);
+    row("1.5 GB", 1610612736);
+    row("0.1KB", 102); // 102.4
+    row("2tb", 2199023255552);
+    row("0.000000000001TB", 1);
+    row("0.00000000000000000000000001GB", 0);
+    row("-1.5KB", -1536);
+    row("9223372036854775807", std::numeric_limits<qint64>::max());
+    row("-9223372036854775808", std::numeric_limits<qint64>::min());
+}
+
+void SizeTextTest::readsSizes()
+{
+    QFETCH(QString, text);
+    const auto read = bytesIn(text.toStdString());
+    QVERIFY(read && read->isInRange);
+    QTEST(qint64(read->value), "bytes");
+}
+
+void SizeTextTest::refusesWhatIsNoSize_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isTooLarge");
+    for (const char *const text :
+         {"", "GB", "ten", "1,5GB", "1.GB", ".5GB", "10 G B", "10GBs", "--1", "+1", "1e3", " 1"})
+        QTest::newRow(text) << QString(text) << false;
+    for (const char *const text :
+         {"9223372036854775808", "9000000TB", "99999999999999999999999999999999999999999TB"})
+        QTest::newRow(text) << QString(text) << true;
+}
+
+void SizeTextTest::refusesWhatIsNoSize()
+{
+    QFETCH(QString, text);
+    const auto read = bytesIn(text.toStdString());
+    QTEST(read.has_value(), "isTooLarge");
+    QVERIFY(!read || !read->isInRange);
 }
 
 QTEST_APPLESS_MAIN(SizeTextTest)

@@ -403,6 +403,9 @@ void ConnrecordTest::helpsWithEveryCommand_data()
     QTest::newRow("the program") << QStringList{"--help"};
     for (const char *const command : {"list", "add", "remove", "export", "import", "totals"})
         QTest::newRow(command) << QStringList{command, "--help"};
+    QTest::newRow("status") << QStringList{"status", "--help"};
+    QTest::newRow("plan") << QStringList{"plan", "--help"};
+    QTest::newRow("plan set") << QStringList{"plan", "set", "--help"};
 }
 
 void ConnrecordTest::helpsWithEveryCommand()

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "PlanCommands.h"
+
+#include "OptionValue.h"
+#include "Output.h"
+#include "PlanText.h"
+#include "StoreResult.h"
+#include "usage/BillingPeriod.h"
+#include "usage/LocalDays.h"
+#include "usage/SizeText.h"
+
+#include <algorithm>
+#include <ctime>
+#include <limits>
+#include <vector>
+
+namespace connrecord
+{
+
+namespace
+{
+
+using history::DataPlan;
+using history::JulianDay;
+
+constexpr const char *nothing = "none";
+
+std::int64_t optionSize(const std::string &option, const std::string &text)
+{
+    return optionValue(option, text, [](const std::string &value) {
+        const auto bytes = usage::bytesIn(value);
+        const std::string quoted = '"' + formats::printable(value) + '"';
+        if (!bytes)
+            throw formats::FieldError{quoted + " is not a size such as 10GB or 500MB", true};
+        if (!bytes->isInRange)
+            throw formats::FieldError{quoted + " is more than can be counted", false};
+        return bytes->value;
+    });
+}
+
+/// A day that plans keep to.
+JulianDay optionDay(const std::string &option, const std::string &text)
+{
+    return optionValue(option, text, [](const std::string &value) {
+        const JulianDay day = formats::fieldDay(value).toJulianDay();
+        if (day < history::firstPlanDay || day > history::lastPlanDay)
+            throw formats::FieldError{value + " is not between 1970-01-01 and 9999-12-31", false};
+        return day;
+    });
+}
+
+std::vector<int> percentagesIn(const std::string &text)
+{
+    std::vector<int> percentages;
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t end = std::min(text.find(',', begin), text.size());
+        percentages.push_back(static_cast<int>(
+            optionNumber("--warn", text.substr(begin, end - begin), history::highestPercentage)));
+        begin = end + 1;
+    }
+    std::sort(percentages.begin(), percentages.end());
+    percentages.erase(std::unique(percentages.begin(), percentages.end()), percentages.end());
+    return percentages;
+}
+
+void setCoverage(DataPlan &plan, const PlanRequest &request)
+{
+    if (request.coversEverything) {
+        plan.covers = DataPlan::Covers::Everything;
+        plan.covered.clear();
+    } else if (request.profile) {
+        plan.covers = DataPlan::Covers::Profile;
+        plan.covered = optionText("--profile", *request.profile);
+    } else if (request.sim) {
+        plan.covers = DataPlan::Covers::Sim;
+        plan.covered = optionText("--sim", *request.sim);
+    }
+    plan.network = request.network.value_or(plan.network);
+    plan.counts = request.counts.value_or(plan.counts);
+}
+
+history::OnceBetween onceBetween(const DaysRequest &days)
+{
+    daysOf(days); // in this order
+    return {optionDay("--from", *days.from), optionDay("--to", *days.to)};
+}
+
+history::EveryDays everyDays(const std::string &days, const std::optional<std::string> &from)
+{
+    if (!from)
+        throw Failure(ExitCode::Usage, "--every needs --from, the first day of a period.");
+    return {optionNumber("--every", days, history::longestCycle), optionDay("--from", *from)};
+}
+
+void setPeriod(DataPlan &plan, const PlanRequest &request)
+{
+    constexpr std::int64_t lastOfAnyMonth = 31;
+    const auto &[from, to] = request.days;
+    if (request.monthly)
+        plan.period =
+            history::MonthlyFrom{optionNumber("--monthly", *request.monthly, lastOfAnyMonth)};
+    else if (request.every)
+        plan.period = everyDays(*request.every, from);
+    else if (from && to)
+        plan.period = onceBetween(request.days);
+    else if (from || to)
+        throw Failure(ExitCode::Usage, "A plan is for --every DAYS --from DATE, or once --from "
+                                       "DATE --to DATE.");
+}
+
+/// What was used elsewhere is of the period that today lies in.
+void setAlreadyUsed(DataPlan &plan, const std::string &text)
+{
+    const std::int64_t bytes = optionSize("--already-used", text);
+    const QDate today = usage::localDay(std::time(nullptr));
+    if (bytes == 0)
+        plan.usedElsewhere.reset();
+    else if (usage::periodOf(plan.period, today))
+        plan.usedElsewhere = history::UsedElsewhere{bytes, today.toJulianDay()};
+    else
+        throw Failure(ExitCode::Refused, "Nothing can be already used of the plan \"" + plan.name +
+                                             "\": today lies in no period of it.");
+}
+
+void setWhatIsGiven(DataPlan &plan, const PlanRequest &request)
+{
+    if (request.amount && *request.amount == nothing)
+        plan.amount.reset();
+    else if (request.amount)
+        plan.amount = optionSize("--amount", *request.amount);
+    setCoverage(plan, request);
+    setPeriod(plan, request);
+    if (request.alreadyUsed)
+        setAlreadyUsed(plan, *request.alreadyUsed);
+    if (request.warnings)
+        plan.warnAtPercent =
+            *request.warnings == nothing ? std::vector<int>() : percentagesIn(*request.warnings);
+}
+
+std::optional<DataPlan> findPlan(const history::Store &store, const std::string &name)
+{
+    for (const DataPlan &plan : valueOrFailure(store.plans())) {
+        if (plan.name == name)
+            return plan;
+    }
+    return std::nullopt;
+}
+
+Failure noPlan(const std::string &storePath, const std::string &name)
+{
+    return {ExitCode::Refused, "The history \"" + storePath + "\" has no plan \"" + name +
+                                   "\"; connrecord plan list shows the plans."};
+}
+
+void show(const CommonRequest &common, const DataPlan &plan)
+{
+    Output().write(common.json ? formats::jsonText(toJson(plan)) : toTable({plan}));
+}
+
+} // namespace
+
+void listPlans(const CommonRequest &common)
+{
+    const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
+    const std::vector<DataPlan> plans = valueOrFailure(store.plans());
+    Output().write(common.json ? formats::jsonText(toJson(plans)) : toTable(plans));
+}
+
+void setPlan(const CommonRequest &common, const PlanRequest &request)
+{
+    DataPlan plan;
+    plan.name = optionText("NAME", request.name);
+    setWhatIsGiven(plan, request); // so that no history is made for what is wrong
+    auto store = valueOrFailure(history::Store::openOrCreate(common.storePath));
+    if (auto former = findPlan(store, plan.name)) {
+        plan = *std::move(former);
+        setWhatIsGiven(plan, request);
+    }
+    plan.key = valueOrFailure(store.setPlan(plan));
+    show(common, plan);
+}
+
+void removePlan(const CommonRequest &common, const std::string &name)
+{
+    auto store = valueOrFailure(history::Store::openForReading(common.storePath));
+    if (!valueOrFailure(store.removePlan(name)))
+        throw noPlan(common.storePath, name);
+    if (common.json)
+        Output().write(formats::jsonText({{"removed", name}}));
+}
+
+DataPlan planNamed(const history::Store &store, const std::string &storePath,
+                   const std::string &name)
+{
+    auto plan = findPlan(store, name);
+    if (!plan)
+        throw noPlan(storePath, name);
+    return *std::move(plan);
+}
+
+} // namespace connrecord

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "formats/JsonText.h"
+#include "history/DataPlan.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace connrecord
+{
+
+/// The plans as a table for people.
+QByteArray toTable(const std::vector<history::DataPlan> &plans);
+
+/// The plan for programs: exact integers, and null for what it has not.
+formats::Json toJson(const history::DataPlan &plan);
+formats::Json toJson(const std::vector<history::DataPlan> &plans);
+
+} // namespace connrecord

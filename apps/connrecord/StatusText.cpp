@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "StatusText.h"
+
+#include "ConnectionText.h"
+#include "TextTable.h"
+#include "usage/SizeText.h"
+
+#include <string>
+
+namespace connrecord
+{
+
+namespace
+{
+
+using formats::Json;
+using usage::BillingPeriod;
+using usage::PeriodUse;
+using usage::PlanStatus;
+
+const char *nameOf(PlanState state)
+{
+    switch (state) {
+    case PlanState::NoPeriod:
+        return "no period";
+    case PlanState::Within:
+        return "within";
+    case PlanState::Warned:
+        return "warned";
+    case PlanState::Spent:
+        return "spent";
+    }
+    return "";
+}
+
+std::string dayText(const QDate &day)
+{
+    return day.toString(Qt::ISODate).toStdString();
+}
+
+QString sizeIfAny(const std::optional<std::int64_t> &bytes)
+{
+    return bytes ? usage::sizeText(*bytes) : QString();
+}
+
+Json numberIfAny(const std::optional<std::int64_t> &number)
+{
+    return number ? Json(*number) : Json();
+}
+
+QString stateText(const StandingPlan &standing)
+{
+    const PlanState state = stateOf(standing);
+    if (state == PlanState::Warned)
+        return QStringLiteral("%1 % reached").arg(standing.status->warnings.back());
+    return QLatin1String(nameOf(state));
+}
+
+std::vector<QString> row(const StandingPlan &standing)
+{
+    const QString name = nameText(standing.plan.name);
+    const QString amount = sizeIfAny(standing.plan.amount);
+    if (!standing.status)
+        return {name, {}, {}, amount, {}, {}, {}, {}, stateText(standing)};
+    const PlanStatus &status = *standing.status;
+    const QString period = QString::fromStdString(dayText(status.period.first) + " to " +
+                                                  dayText(status.period.last()));
+    return {name,
+            period,
+            usage::sizeText(status.used),
+            amount,
+            sizeIfAny(status.left),
+            QString::number(status.daysLeft),
+            sizeIfAny(status.leftADay),
+            sizeIfAny(status.pace),
+            stateText(standing)};
+}
+
+Json toJson(const PeriodUse &use)
+{
+    return {{"first", dayText(use.period.first)},
+            {"last", dayText(use.period.last())},
+            {"used_bytes", use.used},
+            {"left_bytes", numberIfAny(use.left)}};
+}
+
+Json toJson(const PlanStatus &status)
+{
+    Json object = toJson(static_cast<const PeriodUse &>(status));
+    object["days_left"] = status.daysLeft;
+    object["left_a_day_bytes"] = numberIfAny(status.leftADay);
+    object["pace_bytes"] = numberIfAny(status.pace);
+    object["reached_percent"] = status.warnings;
+    return object;
+}
+
+Json toJson(const StandingPlan &standing)
+{
+    Json past = Json::array();
+    for (const PeriodUse &use : standing.past)
+        past.push_back(toJson(use));
+    return {{"plan", standing.plan.name},
+            {"state", nameOf(stateOf(standing))},
+            {"amount_bytes", numberIfAny(standing.plan.amount)},
+            {"period", standing.status ? toJson(*standing.status) : Json()},
+            {"periods_before", past}};
+}
+
+} // namespace
+
+PlanState stateOf(const StandingPlan &standing)
+{
+    if (!standing.status)
+        return PlanState::NoPeriod;
+    if (standing.status->isSpent())
+        return PlanState::Spent;
+    return standing.status->warnings.empty() ? PlanState::Within : PlanState::Warned;
+}
+
+QByteArray toTable(const std::vector<StandingPlan> &plans)
+{
+    using Alignment = TextTable::Alignment;
+    TextTable table({{QStringLiteral("PLAN"), Alignment::Left},
+                     {QStringLiteral("PERIOD"), Alignment::Left},
+                     {QStringLiteral("USED"), Alignment::Right},
+                     {QStringLiteral("AMOUNT"), Alignment::Right},
+                     {QStringLiteral("LEFT"), Alignment::Right},
+                     {QStringLiteral("DAYS LEFT"), Alignment::Right},
+                     {QStringLiteral("A DAY"), Alignment::Right},
+                     {QStringLiteral("PACE"), Alignment::Right},
+                     {QStringLiteral("STATE"), Alignment::Left}});
+    for (const StandingPlan &each : plans)
+        table.addRow(row(each));
+    return table.text().toUtf8();
+}
+
+Json toJson(const std::vector<StandingPlan> &plans)
+{
+    Json array = Json::array();
+    for (const StandingPlan &each : plans)
+        array.push_back(toJson(each));
+    return array;
+}
+
+} // namespace connrecord
