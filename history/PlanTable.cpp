@@ -11,6 +11,7 @@
 #include <SQLiteCpp/Statement.h>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -265,6 +266,15 @@ void PlanTable::removeOf(std::int64_t plan, const char *table)
                                 std::string("DELETE FROM ") + table + " WHERE plan = ?");
     statement.bind(1, plan);
     statement.exec();
+}
+
+std::vector<int> PlanTable::noteWarnings(std::int64_t plan, JulianDay periodFirst,
+                                         const std::vector<int> &percentages)
+{
+    std::vector<int> added;
+    std::copy_if(percentages.begin(), percentages.end(), std::back_inserter(added),
+                 [&](int percent) { return noteWarning(plan, periodFirst, percent); });
+    return added;
 }
 
 bool PlanTable::noteWarning(std::int64_t plan, JulianDay periodFirst, int percent)

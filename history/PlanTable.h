@@ -29,13 +29,15 @@ public:
     std::vector<DataPlan> all();
     std::int64_t set(const DataPlan &plan);
     bool remove(const std::string &name);
-    bool noteWarning(std::int64_t plan, JulianDay periodFirst, int percent);
+    std::vector<int> noteWarnings(std::int64_t plan, JulianDay periodFirst,
+                                  const std::vector<int> &percentages);
     std::vector<int> warningsGiven(std::int64_t plan, JulianDay periodFirst);
 
     /// Of rows that are no plans, a sentence each.
     std::vector<std::string> problems();
 
 private:
+    bool noteWarning(std::int64_t plan, JulianDay periodFirst, int percent);
     void checkNameIsFree(const DataPlan &plan);
     std::int64_t insert(const DataPlan &plan);
     void update(const DataPlan &plan);

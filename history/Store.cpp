@@ -255,10 +255,11 @@ Result<bool> Store::removePlan(const std::string &name)
     return attempt(d->database.path(), [&] { return d->removePlan(name); });
 }
 
-Result<bool> Store::noteWarning(std::int64_t planKey, JulianDay periodFirst, int percent)
+Result<std::vector<int>> Store::noteWarnings(std::int64_t planKey, JulianDay periodFirst,
+                                             const std::vector<int> &percentages)
 {
     return d->write([&](StoreTables &tables) {
-        return tables.plans.noteWarning(planKey, periodFirst, percent);
+        return tables.plans.noteWarnings(planKey, periodFirst, percentages);
     });
 }
 

@@ -164,10 +164,12 @@ public:
     Result<std::int64_t> setPlan(const DataPlan &plan);
     /// Removes the plan of that name; whether there was one.
     Result<bool> removePlan(const std::string &name);
-    /// Notes that this percentage of the plan with the key is being warned of, in its period
-    /// that begins with that day; true for one caller only, who is to give the warning.
-    Result<bool> noteWarning(std::int64_t planKey, JulianDay periodFirst, int percent);
-    /// The percentages that noteWarning() has noted, rising.
+    /// Notes that these percentages of the plan with the key are being warned of, in its
+    /// period that begins with that day. Returns those that were not noted before, of which
+    /// the caller is to warn; of several callers it is one for each.
+    Result<std::vector<int>> noteWarnings(std::int64_t planKey, JulianDay periodFirst,
+                                          const std::vector<int> &percentages);
+    /// The percentages that noteWarnings() has noted, rising.
     Result<std::vector<int>> warningsGiven(std::int64_t planKey, JulianDay periodFirst) const;
 
     /// Writes a copy of the whole history, as it is at one moment, into the empty file

@@ -104,6 +104,18 @@ std::optional<BillingPeriod> periodAt(const PeriodRule &rule, std::int64_t utc)
     return std::nullopt;
 }
 
+std::optional<BillingPeriod> PeriodFinder::at(std::int64_t utc)
+{
+    if (m_found && m_beginUtc <= utc && utc < m_endUtc)
+        return m_found;
+    m_found = periodAt(m_rule, utc);
+    if (m_found) {
+        m_beginUtc = m_found->beginUtc();
+        m_endUtc = m_found->endUtc();
+    }
+    return m_found;
+}
+
 std::optional<BillingPeriod> periodEndedBy(const PeriodRule &rule, std::int64_t utc)
 {
     if (const auto period = periodAt(rule, utc))

@@ -34,6 +34,23 @@ std::optional<BillingPeriod> periodOf(const history::PeriodRule &rule, const QDa
 /// The period that holds that moment, from its first midnight to the next one's, if there is
 /// one.
 std::optional<BillingPeriod> periodAt(const history::PeriodRule &rule, std::int64_t utc);
+/// The same for many moments, most of which lie in the period of the one before.
+class PeriodFinder
+{
+public:
+    explicit PeriodFinder(history::PeriodRule rule)
+        : m_rule(rule)
+    {
+    }
+
+    std::optional<BillingPeriod> at(std::int64_t utc);
+
+private:
+    history::PeriodRule m_rule;
+    std::optional<BillingPeriod> m_found;
+    std::int64_t m_beginUtc = 0;
+    std::int64_t m_endUtc = 0;
+};
 /// The last one that has ended by then, if one has.
 std::optional<BillingPeriod> periodEndedBy(const history::PeriodRule &rule, std::int64_t utc);
 /// The period that ends where this one begins, if there is one.

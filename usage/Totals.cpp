@@ -35,7 +35,8 @@ const std::string &operatorOf(const Source &source)
 }
 
 /// A number that rises from one period to the next; nothing between billing periods.
-std::optional<std::int64_t> periodNumber(std::int64_t utc, const Grouping &grouping)
+std::optional<std::int64_t> periodNumber(std::int64_t utc, const Grouping &grouping,
+                                         PeriodFinder &billing)
 {
     switch (grouping.period) {
     case Period::All:
@@ -51,19 +52,20 @@ std::optional<std::int64_t> periodNumber(std::int64_t utc, const Grouping &group
     case Period::Year:
         return localDay(utc).year();
     case Period::Billing: {
-        const auto period = periodAt(grouping.billing, utc);
+        const auto period = billing.at(utc);
         return period ? std::optional(period->first.toJulianDay()) : std::nullopt;
     }
     }
     return std::nullopt;
 }
 
-std::optional<GroupKey> groupOf(const CountedBytes &counted, const Grouping &grouping)
+std::optional<GroupKey> groupOf(const CountedBytes &counted, const Grouping &grouping,
+                                PeriodFinder &billing)
 {
     const auto part = [](bool isApart, const std::string &text) {
         return isApart ? text : std::string();
     };
-    const auto period = periodNumber(counted.utc, grouping);
+    const auto period = periodNumber(counted.utc, grouping, billing);
     if (!period)
         return std::nullopt;
     return GroupKey{part(grouping.byProfile, counted.profile), part(grouping.bySim, counted.sim),
@@ -143,8 +145,9 @@ CountedBytes countedAtStart(const history::Connection &connection)
 std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping &grouping)
 {
     std::map<GroupKey, Group> groups;
+    PeriodFinder billing(grouping.billing);
     for (const CountedBytes &each : counted) {
-        const auto key = groupOf(each, grouping);
+        const auto key = groupOf(each, grouping, billing);
         if (!key)
             continue;
         Group &group = groups[*key];

@@ -90,6 +90,17 @@ QString plansIn(const Store &store)
     return texts.join('\n');
 }
 
+/// Whether the warning was not noted before.
+bool isNoted(Store &store, std::int64_t plan, JulianDay periodFirst, int percent)
+{
+    const auto added = store.noteWarnings(plan, periodFirst, {percent});
+    return added && added.value() == std::vector<int>{percent};
+}
+bool isNoted(Store &&store, std::int64_t plan, JulianDay periodFirst, int percent)
+{
+    return isNoted(store, plan, periodFirst, percent);
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(DataPlan)
@@ -287,12 +298,12 @@ void StoredPlansTest::areCopied()
     const std::string copy = m_path + "-copy";
     Store store = opened();
     const std::int64_t key = store.setPlan(prepaid()).value();
-    QVERIFY(store.noteWarning(key, 2461000, 50).value());
+    QVERIFY(isNoted(store, key, 2461000, 50));
     writeFile(QString::fromStdString(copy), "");
     QVERIFY(store.copyTo(copy).value());
     Store copied = storeWith(copy, {});
     QCOMPARE(plansIn(copied), textOf(prepaid()));
-    QCOMPARE(copied.noteWarning(key, 2461000, 50).value(), false);
+    QCOMPARE(isNoted(copied, key, 2461000, 50), false);
 }
 
 void StoredPlansTest::areNoneInAnEarlierVersionsStore()
@@ -355,15 +366,15 @@ void StoredPlansTest::areWarnedOfOnce()
 {
     const std::int64_t key = opened().setPlan(planCalled("home")).value();
     const std::int64_t other = opened().setPlan(planCalled("other")).value();
-    QCOMPARE(opened().noteWarning(key, 2461000, 80).value(), true);
-    QCOMPARE(opened().noteWarning(key, 2461000, 80).value(), false);
-    QCOMPARE(opened().noteWarning(key, 2461000, 100).value(), true);
-    QCOMPARE(opened().noteWarning(key, 2461030, 80).value(), true);
-    QCOMPARE(opened().noteWarning(other, 2461000, 80).value(), true);
+    QCOMPARE(isNoted(opened(), key, 2461000, 80), true);
+    QCOMPARE(isNoted(opened(), key, 2461000, 80), false);
+    QCOMPARE(isNoted(opened(), key, 2461000, 100), true);
+    QCOMPARE(isNoted(opened(), key, 2461030, 80), true);
+    QCOMPARE(isNoted(opened(), other, 2461000, 80), true);
     QCOMPARE(textOf(opened().warningsGiven(key, 2461000).value()), QString("80,100"));
     QCOMPARE(textOf(opened().warningsGiven(key, 2461001).value()), QString());
     QVERIFY(opened().removePlan("home").value());
-    QCOMPARE(opened().noteWarning(key, 2461000, 80).value(), false);
+    QCOMPARE(isNoted(opened(), key, 2461000, 80), false);
     QCOMPARE(textOf(opened().warningsGiven(key, 2461000).value()), QString());
     QCOMPARE(textOf(opened().warningsGiven(other, 2461000).value()), QString("80"));
 }
@@ -378,8 +389,7 @@ void StoredPlansTest::areWarnedOfByOneProgramOnly()
         programs.emplace_back([this, key, &given] {
             auto store = Store::openOrCreate(m_path);
             for (int percent = 1; percent <= warnings; ++percent) {
-                const auto isNew = store.value().noteWarning(key, 2461000, percent);
-                given += isNew && isNew.value() ? 1 : 0;
+                given += isNoted(store.value(), key, 2461000, percent) ? 1 : 0;
             }
         });
     }
@@ -394,14 +404,14 @@ void StoredPlansTest::areWarnedOfAgainWithAnotherAmountOnly()
     DataPlan plan = planCalled("home");
     plan.amount = 1000;
     plan.key = store.setPlan(plan).value();
-    QCOMPARE(store.noteWarning(plan.key, 2461000, 80).value(), true);
+    QCOMPARE(isNoted(store, plan.key, 2461000, 80), true);
     plan.name = "renamed";
     plan.usedElsewhere = UsedElsewhere{-500, 2461000};
     QVERIFY(store.setPlan(plan));
-    QCOMPARE(store.noteWarning(plan.key, 2461000, 80).value(), false);
+    QCOMPARE(isNoted(store, plan.key, 2461000, 80), false);
     plan.amount = 2000;
     QVERIFY(store.setPlan(plan));
-    QCOMPARE(store.noteWarning(plan.key, 2461000, 80).value(), true);
+    QCOMPARE(isNoted(store, plan.key, 2461000, 80), true);
     plan.amount.reset();
     QVERIFY(store.setPlan(plan));
     QCOMPARE(textOf(store.warningsGiven(plan.key, 2461000).value()), QString());

@@ -61,6 +61,7 @@ private slots:
     void theOneBeforeEndsWhereItBegins();
     void holdsTheMoment_data();
     void holdsTheMoment();
+    void isFoundAgain();
     void theOneThatHasEnded();
 };
 
@@ -216,6 +217,21 @@ void BillingPeriodTest::holdsTheMoment()
     QVERIFY(period.has_value());
     QTEST(period->first, "first");
     QVERIFY(period->beginUtc() <= utc && utc < period->endUtc());
+}
+
+void BillingPeriodTest::isFoundAgain()
+{
+    const PeriodRule rules[] = {MonthlyFrom{31}, EveryDays{7, dayNumber("2026-03-02")},
+                                OnceBetween{dayNumber("2026-03-01"), dayNumber("2026-03-10")}};
+    const std::int64_t begin = date("2026-02-20").startOfDay().toSecsSinceEpoch();
+    QRandomGenerator random(1);
+    for (const PeriodRule &rule : rules) {
+        PeriodFinder finder(rule);
+        for (int i = 0; i < 500; ++i) {
+            const std::int64_t utc = begin + random.bounded(60 * 24) * 3600;
+            QVERIFY(finder.at(utc) == periodAt(rule, utc));
+        }
+    }
 }
 
 void BillingPeriodTest::theOneThatHasEnded()
