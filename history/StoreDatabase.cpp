@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "StoreDatabase.h"
 
-#include "StoreSchema.h"
+#include "SchemaUpgrade.h"
 
 #include <SQLiteCpp/Backup.h>
 

@@ -2,8 +2,8 @@
 #include "StoreFile.h"
 
 #include "RawFile.h"
+#include "SchemaUpgrade.h"
 #include "StoreFailure.h"
-#include "StoreSchema.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

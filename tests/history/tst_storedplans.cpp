@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "history/SchemaUpgrade.h"
 #include "history/Store.h"
-#include "history/StoreSchema.h"
 
 #include "StoreSamples.h"
 #include "StoreTestCase.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "history/StoreSchema.h"
+#include "history/SchemaUpgrade.h"
 
 #include <SQLiteCpp/Database.h>
 
