@@ -64,6 +64,11 @@ Store storeWith(const std::string &path, const std::vector<Connection> &connecti
     return std::move(store.value());
 }
 
+void makeStore(const std::string &path)
+{
+    storeWith(path, numberedConnections(300));
+}
+
 QString profilesIn(const std::string &path)
 {
     const auto store = Store::openForReading(path);

@@ -20,6 +20,9 @@ std::vector<history::Connection> numberedConnections(int count);
 history::Store storeWith(const std::string &path,
                          const std::vector<history::Connection> &connections);
 
+/// The same of several pages.
+void makeStore(const std::string &path);
+
 /// The profiles in the store's order, joined with blanks, or the error's name.
 QString profilesIn(const std::string &path);
 
