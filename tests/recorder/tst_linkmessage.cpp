@@ -1,58 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "recorder/LinkMessage.h"
 
+#include "KernelMessage.h"
+
 #include <QTest>
 
-#include <libmnl/libmnl.h>
 #include <linux/if.h>
-#include <linux/if_addr.h>
 #include <linux/if_link.h>
 #include <linux/rtnetlink.h>
 #include <net/if_arp.h>
 
-#include <array>
 #include <cstring>
 #include <limits>
 #include <memory>
 
-using recorder::AddressReport;
 using recorder::LinkReport;
 using recorder::parseLinkMessage;
 
 namespace
 {
-
-/// A message as the kernel lays it out.
-class Message
-{
-public:
-    explicit Message(std::uint16_t type)
-        : m_message(mnl_nlmsg_put_header(m_buffer.data()))
-    {
-        m_message->nlmsg_type = type;
-    }
-
-    template <typename Header>
-    void putHeader(const Header &header)
-    {
-        *static_cast<Header *>(mnl_nlmsg_put_extra_header(m_message, sizeof(Header))) = header;
-    }
-    void putAttribute(std::uint16_t type, const QByteArray &bytes)
-    {
-        mnl_attr_put(m_message, type, static_cast<size_t>(bytes.size()), bytes.constData());
-    }
-
-    void putByte(std::uint16_t type, int value)
-    {
-        putAttribute(type, QByteArray(1, static_cast<char>(value)));
-    }
-
-    const nlmsghdr &header() const { return *m_message; }
-
-private:
-    alignas(nlmsghdr) std::array<char, 1024> m_buffer = {};
-    nlmsghdr *m_message;
-};
 
 ifinfomsg linkHeader(unsigned flags)
 {
@@ -73,25 +39,11 @@ QByteArray statistics(std::uint64_t received, std::uint64_t sent)
     return {reinterpret_cast<const char *>(&counters), sizeof(counters)};
 }
 
-Message linkMessage(std::uint16_t type, unsigned flags)
+KernelMessage linkMessage(std::uint16_t type, unsigned flags)
 {
-    Message message(type);
+    KernelMessage message(type);
     message.putHeader(linkHeader(flags));
     message.putAttribute(IFLA_IFNAME, QByteArray("wwan0\0", 6));
-    return message;
-}
-
-Message addressMessage(std::uint16_t type, int family, unsigned char flags,
-                       const QByteArray &address)
-{
-    Message message(type);
-    ifaddrmsg header = {};
-    header.ifa_family = static_cast<unsigned char>(family);
-    header.ifa_prefixlen = 24;
-    header.ifa_flags = flags;
-    header.ifa_index = 7;
-    message.putHeader(header);
-    message.putAttribute(IFA_ADDRESS, address);
     return message;
 }
 
@@ -111,9 +63,9 @@ QByteArray terminated(const char *text)
     return {text, static_cast<int>(std::strlen(text)) + 1};
 }
 
-Message linkOfKind(const char *kind)
+KernelMessage linkOfKind(const char *kind)
 {
-    Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+    KernelMessage message = linkMessage(RTM_NEWLINK, IFF_UP);
     message.putAttribute(IFLA_LINKINFO | NLA_F_NESTED,
                          attribute(IFLA_INFO_DATA, "data") +
                              attribute(IFLA_INFO_KIND, terminated(kind)));
@@ -122,16 +74,11 @@ Message linkOfKind(const char *kind)
 
 constexpr int missing = -1;
 
-std::optional<LinkReport> linkIn(const Message &message)
+std::optional<LinkReport> linkIn(const KernelMessage &message)
 {
     const auto news = parseLinkMessage(message.header());
     const auto *const report = news ? std::get_if<LinkReport>(&*news) : nullptr;
     return report ? std::optional<LinkReport>(*report) : std::nullopt;
-}
-
-AddressReport addressIn(const Message &message)
-{
-    return std::get<AddressReport>(parseLinkMessage(message.header()).value());
 }
 
 const QByteArray ipv4("\x0a\x00\x00\x01", 4);
@@ -160,20 +107,13 @@ private slots:
     void takesCountersOfOtherLengths_data();
     void takesCountersOfOtherLengths();
     void ignoresABridgesNewsOfItsPorts();
-    void readsAnAddress();
-    void readsThatAnAddressIsGone();
-    void aPeersAddressIsNotTheLinksOwn();
-    void anAddressCountsOnceItIsChecked_data();
-    void anAddressCountsOnceItIsChecked();
-    void tellsLinkLocalAddresses_data();
-    void tellsLinkLocalAddresses();
     void readsNothingFromOtherMessages();
     void readsNothingOutsideACutMessage();
 };
 
 void LinkMessageTest::readsALink()
 {
-    Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+    KernelMessage message = linkMessage(RTM_NEWLINK, IFF_UP);
     message.putAttribute(IFLA_STATS64, statistics(2000, 1000));
     const auto link = linkIn(message);
     QCOMPARE(link->index, 7);
@@ -220,7 +160,7 @@ void LinkMessageTest::aLineIsThereWhenTrafficCanPass()
     QFETCH(int, state);
     QFETCH(int, mode);
     QFETCH(bool, isRunning);
-    Message message = linkMessage(RTM_NEWLINK, IFF_UP | flags);
+    KernelMessage message = linkMessage(RTM_NEWLINK, IFF_UP | flags);
     if (state != missing)
         message.putByte(IFLA_OPERSTATE, state);
     if (mode != missing)
@@ -236,7 +176,7 @@ void LinkMessageTest::readsThatALinkIsGone()
 void LinkMessageTest::tellsPppFromOtherLinks()
 {
     QVERIFY(!linkIn(linkMessage(RTM_NEWLINK, IFF_POINTOPOINT))->isPpp);
-    Message message(RTM_NEWLINK);
+    KernelMessage message(RTM_NEWLINK);
     ifinfomsg header = linkHeader(0);
     header.ifi_type = ARPHRD_PPP;
     message.putHeader(header);
@@ -256,7 +196,7 @@ void LinkMessageTest::readsWhatKindOfLinkItIs()
 
 void LinkMessageTest::readsAlternativeNames()
 {
-    Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+    KernelMessage message = linkMessage(RTM_NEWLINK, IFF_UP);
     message.putAttribute(IFLA_PROP_LIST | NLA_F_NESTED,
                          attribute(IFLA_ALT_IFNAME, terminated("a-name-of-more-than-15-bytes")) +
                              attribute(IFLA_ALT_IFNAME, terminated("lte")));
@@ -271,7 +211,7 @@ void LinkMessageTest::readsNothingOutsideNestedAttributes()
 {
     const QByteArray whole = attribute(IFLA_INFO_KIND, terminated("wwan"));
     for (int length = 0; length < whole.size(); ++length) {
-        Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+        KernelMessage message = linkMessage(RTM_NEWLINK, IFF_UP);
         message.putAttribute(IFLA_LINKINFO | NLA_F_NESTED, whole.left(length));
         QVERIFY(!linkIn(message)->isWwan || length >= NLA_HDRLEN + 5);
     }
@@ -279,7 +219,7 @@ void LinkMessageTest::readsNothingOutsideNestedAttributes()
 
 void LinkMessageTest::readsCountersBeyond32Bits()
 {
-    Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+    KernelMessage message = linkMessage(RTM_NEWLINK, IFF_UP);
     message.putAttribute(IFLA_STATS64, statistics(5000000000, 4294967296));
     QCOMPARE(linkIn(message)->counters->downloaded, std::int64_t{5000000000});
     QCOMPARE(linkIn(message)->counters->uploaded, std::int64_t{4294967296});
@@ -287,7 +227,7 @@ void LinkMessageTest::readsCountersBeyond32Bits()
 
 void LinkMessageTest::holdsAnImpossibleCounterAtTheLargestNumber()
 {
-    Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+    KernelMessage message = linkMessage(RTM_NEWLINK, IFF_UP);
     message.putAttribute(IFLA_STATS64, statistics(std::numeric_limits<std::uint64_t>::max(), 1));
     QCOMPARE(linkIn(message)->counters->downloaded, std::numeric_limits<std::int64_t>::max());
 }
@@ -307,94 +247,31 @@ void LinkMessageTest::takesCountersOfOtherLengths()
 {
     QFETCH(QByteArray, counters);
     QFETCH(bool, isReadable);
-    Message message = linkMessage(RTM_NEWLINK, IFF_UP);
+    KernelMessage message = linkMessage(RTM_NEWLINK, IFF_UP);
     message.putAttribute(IFLA_STATS64, counters);
     QCOMPARE(linkIn(message)->counters.has_value(), isReadable);
 }
 
 void LinkMessageTest::ignoresABridgesNewsOfItsPorts()
 {
-    Message message(RTM_DELLINK);
+    KernelMessage message(RTM_DELLINK);
     ifinfomsg header = linkHeader(IFF_UP);
     header.ifi_family = AF_BRIDGE;
     message.putHeader(header);
     QVERIFY(!parseLinkMessage(message.header()));
 }
 
-void LinkMessageTest::readsAnAddress()
-{
-    const AddressReport report = addressIn(addressMessage(RTM_NEWADDR, AF_INET, 0, ipv4));
-    QCOMPARE(report.linkIndex, 7);
-    QVERIFY(report.isThere);
-    QVERIFY(!report.isIpv6LinkLocal);
-}
-
-void LinkMessageTest::readsThatAnAddressIsGone()
-{
-    const AddressReport gone = addressIn(addressMessage(RTM_DELADDR, AF_INET, 0, ipv4));
-    QVERIFY(!gone.isThere);
-    QCOMPARE(gone.address, addressIn(addressMessage(RTM_NEWADDR, AF_INET, 0, ipv4)).address);
-    QVERIFY(gone.address != addressIn(addressMessage(RTM_NEWADDR, AF_INET6, 0, ipv6)).address);
-}
-
-void LinkMessageTest::aPeersAddressIsNotTheLinksOwn()
-{
-    Message message = addressMessage(RTM_NEWADDR, AF_INET6, 0, ipv6);
-    message.putAttribute(IFA_LOCAL, ipv6LinkLocal);
-    QVERIFY(addressIn(message).isIpv6LinkLocal);
-}
-
-void LinkMessageTest::anAddressCountsOnceItIsChecked_data()
-{
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<bool>("isThere");
-    QTest::newRow("checked") << int{IFA_F_PERMANENT} << true;
-    QTest::newRow("being checked") << int{IFA_F_TENTATIVE} << false;
-    QTest::newRow("being checked but in use") << int{IFA_F_TENTATIVE | IFA_F_OPTIMISTIC} << true;
-    QTest::newRow("a duplicate") << int{IFA_F_DADFAILED} << false;
-}
-
-void LinkMessageTest::anAddressCountsOnceItIsChecked()
-{
-    QFETCH(int, flags);
-    QFETCH(bool, isThere);
-    const auto byte = static_cast<unsigned char>(flags);
-    QCOMPARE(addressIn(addressMessage(RTM_NEWADDR, AF_INET6, byte, ipv6)).isThere, isThere);
-}
-
-void LinkMessageTest::tellsLinkLocalAddresses_data()
-{
-    QTest::addColumn<int>("family");
-    QTest::addColumn<QByteArray>("address");
-    QTest::addColumn<bool>("isLinkLocal");
-    QTest::newRow("fe80::1") << AF_INET6 << ipv6LinkLocal << true;
-    QTest::newRow("2001:db8::1") << AF_INET6 << ipv6 << false;
-    QTest::newRow("febf::") << AF_INET6 << QByteArray("\xfe\xbf") + QByteArray(14, '\0') << true;
-    QTest::newRow("fec0::") << AF_INET6 << QByteArray("\xfe\xc0") + QByteArray(14, '\0') << false;
-    QTest::newRow("10.0.0.1") << AF_INET << ipv4 << false;
-    QTest::newRow("254.128.0.1") << AF_INET << QByteArray("\xfe\x80\x00\x01", 4) << false;
-}
-
-void LinkMessageTest::tellsLinkLocalAddresses()
-{
-    QFETCH(int, family);
-    QFETCH(QByteArray, address);
-    QFETCH(bool, isLinkLocal);
-    QCOMPARE(addressIn(addressMessage(RTM_NEWADDR, family, 0, address)).isIpv6LinkLocal,
-             isLinkLocal);
-}
-
 void LinkMessageTest::readsNothingFromOtherMessages()
 {
-    Message message(RTM_NEWROUTE);
+    KernelMessage message(RTM_NEWROUTE);
     message.putHeader(rtmsg{});
     QVERIFY(!parseLinkMessage(message.header()));
-    QVERIFY(!parseLinkMessage(Message(NLMSG_DONE).header()));
+    QVERIFY(!parseLinkMessage(KernelMessage(NLMSG_DONE).header()));
 }
 
 void LinkMessageTest::readsNothingOutsideACutMessage()
 {
-    Message complete = linkMessage(RTM_NEWLINK, IFF_UP);
+    KernelMessage complete = linkMessage(RTM_NEWLINK, IFF_UP);
     complete.putAttribute(IFLA_STATS64, statistics(1, 2));
     // Everything in a message begins at a multiple of four bytes.
     for (std::uint32_t length = NLMSG_HDRLEN; length < complete.header().nlmsg_len; length += 4) {
