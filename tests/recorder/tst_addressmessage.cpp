@@ -36,6 +36,8 @@ AddressReport addressIn(const KernelMessage &message)
 
 const QByteArray ipv4("\x0a\x00\x00\x01", 4);
 const QByteArray ipv6("\x20\x01\x0d\xb8\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x01", 16);
+const QByteArray ipv6LinkLocal("\xfe\x80\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x01",
+                               16);
 
 } // namespace
 
