@@ -21,7 +21,7 @@ struct Unit {
 };
 
 constexpr std::int64_t kilobyte = 1024;
-constexpr std::array<Unit, 6> units = {{
+constexpr std::array<Unit, 6> writtenUnits = {{
     {"", 1},
     {"B", 1},
     {"KB", kilobyte},
@@ -35,7 +35,7 @@ std::optional<std::int64_t> unitNamed(std::string_view name)
     std::string capitals(name);
     for (char &each : capitals)
         each = static_cast<char>(std::toupper(static_cast<unsigned char>(each)));
-    for (const Unit &unit : units) {
+    for (const Unit &unit : writtenUnits) {
         if (unit.name == capitals)
             return unit.bytes;
     }
