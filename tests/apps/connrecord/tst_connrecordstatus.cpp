@@ -46,10 +46,10 @@ void ConnrecordStatusTest::init()
     QVERIFY(run({"remove", "1", "2", "3", "4"}).exitCode == 0);
     Connection moved = sampleConnection("internet", 1715720400, 7200, 0, 6144);
     moved.hours = {{1715720400, false, 0, 2048}, {1715724000, false, 0, 4096}};
-    Connection abroad = sampleConnection("other", 1718870400, 60, 0, 8192);
-    abroad.hours = {{1718870400, true, 0, 8192}};
+    Connection roaming = sampleConnection("other", 1718870400, 60, 0, 8192);
+    roaming.hours = {{1718870400, true, 0, 8192}};
     auto store = Store::openOrCreate(m_history->path().toStdString());
-    QVERIFY(store.value().add(moved) && store.value().add(abroad));
+    QVERIFY(store.value().add(moved) && store.value().add(roaming));
 }
 
 void ConnrecordStatusTest::tellsHowPlansStand()
