@@ -7,7 +7,7 @@
 #include <QTableWidget>
 
 /// The table that the plug-in is weighed against: the same cells, put in
-/// plainly with the toolkit's own calls.
+/// plainly with Qt's own calls.
 class BareTable
 {
 public:

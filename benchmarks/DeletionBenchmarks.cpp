@@ -2,8 +2,8 @@
 #include "BareTable.h"
 #include "Benchmarks.h"
 #include "ConnectionHistoryDlg.h"
-#include "HistoryWindow.h"
 #include "NetInfoRecordLogic.h"
+#include "PluginWindow.h"
 
 #include <QApplication>
 #include <QItemSelection>
@@ -61,7 +61,7 @@ void settleHeap()
 void deleteFromPlugin(benchmark::State &state, const Deletion &deletion)
 {
     for ([[maybe_unused]] auto iteration : state) {
-        HistoryWindow window(deletion.tableRows);
+        PluginWindow window(deletion.tableRows);
         window.init();
         window.show();
         select(*window.table(), deletion.rows);
@@ -76,7 +76,7 @@ void deleteFromPlugin(benchmark::State &state, const Deletion &deletion)
 void deleteFromBare(benchmark::State &state, const Deletion &deletion)
 {
     for ([[maybe_unused]] auto iteration : state) {
-        HistoryWindow window(deletion.tableRows);
+        PluginWindow window(deletion.tableRows);
         window.init();
         BareTable table;
         table.fill(NetInfoRecordLogic::Instance()->m_records);

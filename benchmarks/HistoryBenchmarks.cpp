@@ -2,9 +2,9 @@
 #include "BareTable.h"
 #include "Benchmarks.h"
 #include "ConnectionHistoryDlg.h"
-#include "HistoryWindow.h"
 #include "MemorySdk.h"
 #include "NetInfoRecordLogic.h"
+#include "PluginWindow.h"
 
 #include <malloc.h>
 
@@ -80,14 +80,14 @@ void fillBare(benchmark::State &state, int rows)
 void init(benchmark::State &state, int rows)
 {
     for ([[maybe_unused]] auto iteration : state) {
-        HistoryWindow window(rows);
+        PluginWindow window(rows);
         measure(state, [&] { window.init(); });
     }
 }
 
 void reload(benchmark::State &state, int rows)
 {
-    HistoryWindow window(rows);
+    PluginWindow window(rows);
     window.init();
     window.show();
     for ([[maybe_unused]] auto iteration : state)

@@ -23,7 +23,7 @@ double kilobytes(const char (&field)[Size])
     return SdkText::real(field) * 0.0009765625;
 }
 
-/// What the record store does, but with the toolkit's own way from a number of
+/// What the record store does, but with Qt's own way from a number of
 /// seconds to a text.
 ConnectionRecord *converted(int id, const _KORA_ST_CONNRECORD &from, NetInfoRecordLogic &store)
 {

@@ -44,7 +44,7 @@ def times(work, against, base, target):
 
 
 def lines():
-    bare = "the toolkit, plainly"
+    bare = "Qt, plainly"
     result = []
     for size, target in ((1000, None), (10000, 0.30), (100000, 0.10)):
         result.append(times(f"fill {size:,} rows", bare,
@@ -56,7 +56,7 @@ def lines():
         for size, target in ((10000, 0.50), (100000, 0.15)):
             result.append(times(f"{work} with {size:,} records", bare + ", the fill alone",
                                 (f"{work}/{size}", f"fill/bare/{size}"), target))
-    result.append(times("convert a record", "the same, times by the toolkit",
+    result.append(times("convert a record", "the same, times by Qt",
                         ("conversion/plug-in", "conversion/plain"), 0.4))
     result.append(times("convert a record, silent log", "the same without log lines",
                         ("conversion/plug-in", "conversion/without_log"), 1.05))
@@ -107,7 +107,7 @@ def bar(row, label, milliseconds, longest, colour):
 
 def chart(run):
     """The work with 100,000 records beside the bare fill, as an SVG picture."""
-    bars = [("the toolkit, plainly", "fill/bare/100000", "bare"),
+    bars = [("Qt, plainly", "fill/bare/100000", "bare"),
             ("plug-in: fill", "fill/plug-in/100000", "plug-in"),
             ("plug-in: init", "init/100000", "plug-in"),
             ("plug-in: reload", "reload/100000", "plug-in")]

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HistoryWindow.h"
+#include "PluginWindow.h"
 
 #include "MemorySdk.h"
 #include "ScriptedHost.h"
@@ -8,7 +8,7 @@
 
 using scripted::Host;
 
-HistoryWindow::HistoryWindow(int records)
+PluginWindow::PluginWindow(int records)
 {
     MemorySdk::setRecords(MemorySdk::samples(records));
     Host::instance().reset();
@@ -17,14 +17,14 @@ HistoryWindow::HistoryWindow(int records)
     m_plugin = std::make_unique<NetInfoRecordUIPlugin>();
 }
 
-HistoryWindow::~HistoryWindow()
+PluginWindow::~PluginWindow()
 {
     m_plugin->OnDestroy();
     Host::instance().reset();
     MemorySdk::setRecords({});
 }
 
-void HistoryWindow::show()
+void PluginWindow::show()
 {
     m_area.resize(760, 400);
     QRect rect(QPoint(0, 0), m_area.size());
@@ -33,7 +33,7 @@ void HistoryWindow::show()
     QApplication::processEvents();
 }
 
-void HistoryWindow::reload()
+void PluginWindow::reload()
 {
     const unsigned int connectionStatus = 1536;
     m_plugin->Notify(connectionStatus, 1, 0);

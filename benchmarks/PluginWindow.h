@@ -11,11 +11,11 @@
 
 /// The plug-in in a host's window, whose store is in memory and whose every
 /// question is confirmed.
-class HistoryWindow
+class PluginWindow
 {
 public:
-    explicit HistoryWindow(int records);
-    ~HistoryWindow();
+    explicit PluginWindow(int records);
+    ~PluginWindow();
 
     void init() { m_plugin->Init(); }
     void show();
