@@ -13,7 +13,7 @@ class QWidget;
 class HOST_API CommonUtils
 {
 public:
-    /// Shows a modal message box over `parent` and returns 1024 (the toolkit's
+    /// Shows a modal message box over `parent` and returns 1024 (Qt's
     /// Ok value) when the user confirms with the first button, anything else
     /// otherwise. `title` and `text` are shown as they are; the buttons are
     /// string identifiers that the host translates, an empty one is no button.

@@ -7,7 +7,7 @@
 #   kills       1,000 writers of a store and 1,000 recorders killed
 #   reconnects  1,000 connections of a real interface in a network of its own
 #   fuzz        each fuzz target for half an hour, two at a time
-#   texts       times, numbers and volumes as the toolkit reads and writes them, in a
+#   texts       times, numbers and volumes as Qt reads and writes them, in a
 #               million random cases each
 #   abi         the binary interface, and a host of the other compiler
 # NETINFORECORD_COUNT sets another number of steps, kills, connections or cases,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The toolkit's test library ends each test with a thread of its own, and waits for
+// Qt's test library ends each test with a thread of its own, and waits for
 // its last line of code only: what the thread then still frees looks like a leak if
 // the process ends first. So a sanitized test ends when its threads are gone.
 #include <dirent.h>

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Most of what a test takes to compile are the toolkit's headers, so all tests share
-# them compiled once. The toolkit tells each test its own folder, for data files that
+# Most of what a test takes to compile are Qt's headers, so all tests share
+# them compiled once. Qt tells each test its own folder, for data files that
 # these tests do not have; what they share must not differ.
 get_target_property(definitions Qt${QT_VERSION_MAJOR}::Test INTERFACE_COMPILE_DEFINITIONS)
 list(FILTER definitions EXCLUDE REGEX QT_TESTCASE_)

@@ -17,7 +17,7 @@ namespace refdialer
 namespace
 {
 
-/// Stands in for a cell while the table sorts: the toolkit's own sort moves whole
+/// Stands in for a cell while the table sorts: Qt's own sort moves whole
 /// rows, and what refers to them, by what the cells of one column say.
 class RankItem : public QTableWidgetItem
 {

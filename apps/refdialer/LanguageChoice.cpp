@@ -55,7 +55,7 @@ QLocale localeFor(const QString &language)
     const QString territory = QLatin1Char('_') + user.section(QLatin1Char('_'), 1);
     if (territory.size() > 1) {
         for (const QString &name : {language + territory, user}) {
-            // The toolkit answers to a name that it does not know with another locale.
+            // Qt answers to a name that it does not know with another locale.
             if (QLocale(name).name() == name)
                 return QLocale(name);
         }

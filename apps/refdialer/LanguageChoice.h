@@ -15,7 +15,7 @@ QString startLanguage();
 bool storeLanguage(const QString &language);
 
 /// How dates are written in a window of this language: as in the user's region, in the
-/// language itself if the toolkit knows how, else in the user's; as is usual for the
+/// language itself if Qt knows how, else in the user's; as is usual for the
 /// language where the environment names no region.
 QLocale localeFor(const QString &language);
 

@@ -37,7 +37,7 @@ private:
     QComboBox *m_languageBox;
     QLabel *m_problem; ///< shown only when a setting cannot be stored
     QDialogButtonBox *m_buttons;
-    QPushButton *m_closeButton; ///< not the toolkit's own, whose text comes in its languages only
+    QPushButton *m_closeButton; ///< not Qt's own, whose text comes in its languages only
 };
 
 } // namespace refdialer

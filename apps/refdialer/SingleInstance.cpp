@@ -84,7 +84,7 @@ SingleInstance::Outcome SingleInstance::claim(const QString &storeFile)
 
 void SingleInstance::Activate(const QVariantMap &platformData)
 {
-    // Where windows need such a right, the toolkit looks for it here.
+    // Where windows need such a right, Qt looks for it here.
     const QByteArray token = platformData.value(QLatin1String(activationToken)).toString().toUtf8();
     if (!token.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", token);

@@ -32,7 +32,7 @@ refdialer::Options readOptions(int argc, char **argv)
 
 int runWindow(const refdialer::Options &options, char **argv)
 {
-    // The toolkit takes --plugin and others for its own, so it sees none of them.
+    // Qt takes --plugin and others for its own, so it sees none of them.
     int programNameOnly = 1;
     const QApplication application(programNameOnly, argv);
     const common::QuitOnSignal quitOnSignal;

@@ -25,7 +25,7 @@ constexpr char suffix[] = ".qm";
 struct Installed {
     QString language;
     QPointer<QTranslator> texts;
-    QPointer<QTranslator> toolkitTexts;
+    QPointer<QTranslator> qtTexts;
 };
 
 Installed &installed()
@@ -48,18 +48,18 @@ std::unique_ptr<QTranslator> loadTexts(const QString &language)
 // Qt 6 has a new name for this and calls the one that both versions have old.
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
-QString toolkitFolder()
+QString qtTextsFolder()
 {
     return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 }
 QT_WARNING_POP
 
-/// The toolkit's own texts; null where the system has none for the language.
-std::unique_ptr<QTranslator> loadToolkitTexts(const QString &language)
+/// Qt's own texts; null where the system has none for the language.
+std::unique_ptr<QTranslator> loadQtTexts(const QString &language)
 {
     auto translator = std::make_unique<QTranslator>();
     if (!translator->load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
-                          toolkitFolder()))
+                          qtTextsFolder()))
         return nullptr;
     return translator;
 }
@@ -98,9 +98,9 @@ bool setLanguage(const QString &language)
     if (!texts)
         return false;
     const Installed old = installed();
-    installed() = {language, install(std::move(texts)), install(loadToolkitTexts(language))};
+    installed() = {language, install(std::move(texts)), install(loadQtTexts(language))};
     delete old.texts;
-    delete old.toolkitTexts;
+    delete old.qtTexts;
     return true;
 }
 

@@ -126,7 +126,7 @@ QStringList tst_Interface::symbols()
     QStringList lines;
     for (const QString &line : output(NM, {"-D", "--defined-only", LoadedPlugin::fileName()})) {
         QString name = line.section(QLatin1Char(' '), -2).section(QLatin1Char('@'), 0, 0);
-        // The toolkit's versions name it differently, each for itself.
+        // Qt's versions name it differently, each for itself.
         name.replace(QRegularExpression("qt_plugin_query_metadata.*"), "qt_plugin_query_metadata*");
         lines.append("gives " + name);
     }

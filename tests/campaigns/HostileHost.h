@@ -110,7 +110,7 @@ private:
     {
         return a == b;
     }
-    /// The toolkit compares empty lists through null pointers, which is undefined.
+    /// Qt compares empty lists through null pointers, which is undefined.
     static bool areEqual(const QVector<int> &a, const QVector<int> &b)
     {
         return std::equal(a.begin(), a.end(), b.begin(), b.end());

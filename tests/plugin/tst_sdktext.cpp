@@ -45,13 +45,13 @@ class tst_SdkText : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsNumbersLikeTheToolkit_data();
-    void readsNumbersLikeTheToolkit();
-    void readsRandomTextsLikeTheToolkit();
+    void readsNumbersLikeQt_data();
+    void readsNumbersLikeQt();
+    void readsRandomTextsLikeQt();
     void takesWhatIsTooLargeForNoNumber();
 };
 
-void tst_SdkText::readsNumbersLikeTheToolkit_data()
+void tst_SdkText::readsNumbersLikeQt_data()
 {
     QTest::addColumn<QByteArray>("text");
     const char *const texts[] = {"",
@@ -87,13 +87,13 @@ void tst_SdkText::readsNumbersLikeTheToolkit_data()
         QTest::newRow(*text ? text : "an empty text") << QByteArray(text);
 }
 
-void tst_SdkText::readsNumbersLikeTheToolkit()
+void tst_SdkText::readsNumbersLikeQt()
 {
     QFETCH(QByteArray, text);
     QVERIFY(isReadAlike(text));
 }
 
-void tst_SdkText::readsRandomTextsLikeTheToolkit()
+void tst_SdkText::readsRandomTextsLikeQt()
 {
     const QByteArray characters = "01234567890123456789 +-.eExinf,\xb2";
     QRandomGenerator random(static_cast<quint32>(campaign::seed(20101125)));

@@ -145,12 +145,12 @@ private Q_SLOTS:
     void parsesAndWritesAKnownTime();
     void parsesOddTexts_data();
     void parsesOddTexts();
-    void parsesEveryDateLikeTheToolkit();
-    void parsesEachSecondAroundClockChangesLikeTheToolkit();
-    void parsesRandomTextsLikeTheToolkit();
-    void writesEachSecondAroundClockChangesLikeTheToolkit();
-    void writesTheEdgesOfItsRangeLikeTheToolkit();
-    void writesRandomTimesLikeTheToolkit();
+    void parsesEveryDateLikeQt();
+    void parsesEachSecondAroundClockChangesLikeQt();
+    void parsesRandomTextsLikeQt();
+    void writesEachSecondAroundClockChangesLikeQt();
+    void writesTheEdgesOfItsRangeLikeQt();
+    void writesRandomTimesLikeQt();
     void noticesAnotherZone();
     void writesAsciiDigitsInEveryLanguage();
 };
@@ -198,7 +198,7 @@ void tst_TimeText::parsesOddTexts()
     QVERIFY(isParsedAlike(text));
 }
 
-void tst_TimeText::parsesEveryDateLikeTheToolkit()
+void tst_TimeText::parsesEveryDateLikeQt()
 {
     for (const char *zone : zones) {
         useZone(zone);
@@ -210,7 +210,7 @@ void tst_TimeText::parsesEveryDateLikeTheToolkit()
     }
 }
 
-void tst_TimeText::parsesEachSecondAroundClockChangesLikeTheToolkit()
+void tst_TimeText::parsesEachSecondAroundClockChangesLikeQt()
 {
     for (const char *zone : zones) {
         useZone(zone);
@@ -225,7 +225,7 @@ void tst_TimeText::parsesEachSecondAroundClockChangesLikeTheToolkit()
     }
 }
 
-void tst_TimeText::parsesRandomTextsLikeTheToolkit()
+void tst_TimeText::parsesRandomTextsLikeQt()
 {
     QRandomGenerator random(seed(20101121));
     for (const char *zone : zones) {
@@ -238,7 +238,7 @@ void tst_TimeText::parsesRandomTextsLikeTheToolkit()
     }
 }
 
-void tst_TimeText::writesEachSecondAroundClockChangesLikeTheToolkit()
+void tst_TimeText::writesEachSecondAroundClockChangesLikeQt()
 {
     for (const char *zone : zones) {
         useZone(zone);
@@ -250,7 +250,7 @@ void tst_TimeText::writesEachSecondAroundClockChangesLikeTheToolkit()
     }
 }
 
-void tst_TimeText::writesTheEdgesOfItsRangeLikeTheToolkit()
+void tst_TimeText::writesTheEdgesOfItsRangeLikeQt()
 {
     for (const char *zone : zones) {
         useZone(zone);
@@ -263,7 +263,7 @@ void tst_TimeText::writesTheEdgesOfItsRangeLikeTheToolkit()
     }
 }
 
-void tst_TimeText::writesRandomTimesLikeTheToolkit()
+void tst_TimeText::writesRandomTimesLikeQt()
 {
     QRandomGenerator random(seed(20101122));
     for (const char *zone : zones) {

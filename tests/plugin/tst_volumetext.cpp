@@ -30,11 +30,11 @@ class tst_VolumeText : public QObject
 
 private Q_SLOTS:
     void writesAKnownNumber();
-    void writesOddNumbersLikeTheToolkit_data();
-    void writesOddNumbersLikeTheToolkit();
-    void writesEverySmallCountLikeTheToolkit();
-    void writesRandomCountsLikeTheToolkit();
-    void writesRandomNumbersLikeTheToolkit();
+    void writesOddNumbersLikeQt_data();
+    void writesOddNumbersLikeQt();
+    void writesEverySmallCountLikeQt();
+    void writesRandomCountsLikeQt();
+    void writesRandomNumbersLikeQt();
     void keepsShortTextsWithinTheirRoom();
 };
 
@@ -44,7 +44,7 @@ void tst_VolumeText::writesAKnownNumber()
     QCOMPARE(VolumeText::of(8388607.996, ""), QStringLiteral("8388608.00"));
 }
 
-void tst_VolumeText::writesOddNumbersLikeTheToolkit_data()
+void tst_VolumeText::writesOddNumbersLikeQt_data()
 {
     QTest::addColumn<double>("number");
     QTest::newRow("zero") << 0.0;
@@ -66,19 +66,19 @@ void tst_VolumeText::writesOddNumbersLikeTheToolkit_data()
     QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN();
 }
 
-void tst_VolumeText::writesOddNumbersLikeTheToolkit()
+void tst_VolumeText::writesOddNumbersLikeQt()
 {
     QFETCH(double, number);
     QVERIFY(isWrittenAlike(number));
 }
 
-void tst_VolumeText::writesEverySmallCountLikeTheToolkit()
+void tst_VolumeText::writesEverySmallCountLikeQt()
 {
     for (int bytes = 0; bytes <= 20000; ++bytes)
         QVERIFY(isWrittenAlike(bytes / 1024.0));
 }
 
-void tst_VolumeText::writesRandomCountsLikeTheToolkit()
+void tst_VolumeText::writesRandomCountsLikeQt()
 {
     QRandomGenerator random(static_cast<quint32>(campaign::seed(20101123)));
     for (int i = campaign::count(20000); i > 0; --i) {
@@ -88,7 +88,7 @@ void tst_VolumeText::writesRandomCountsLikeTheToolkit()
     }
 }
 
-void tst_VolumeText::writesRandomNumbersLikeTheToolkit()
+void tst_VolumeText::writesRandomNumbersLikeQt()
 {
     QRandomGenerator random(static_cast<quint32>(campaign::seed(20101124)));
     for (int i = campaign::count(20000); i > 0; --i)

@@ -159,8 +159,8 @@ private:
 
 } // namespace
 
-/// Recorders that are killed at any moment of a connection, and the next ones that
-/// go on with it.
+/// Recorders that are killed at any moment of a connection, and the next ones, which
+/// resume it.
 class RecorderKillsTest : public QObject
 {
     Q_OBJECT

@@ -366,7 +366,7 @@ void TestMainWindow::writesDatesAsTheUsersRegionDoes_data()
     QTest::newRow("a region where nobody speaks the language")
         << none << none << QByteArray("pl_PL.UTF-8") << "de"
         << "pl_PL";
-    QTest::newRow("a language that the toolkit does not know")
+    QTest::newRow("a language that Qt does not know")
         << none << none << QByteArray("xx_PL.UTF-8") << "de"
         << "pl_PL";
 }

@@ -20,7 +20,7 @@ private slots:
     void looksForThePluginBesideTheProgram();
     void saysWhyAPluginCannotBeLoaded_data();
     void saysWhyAPluginCannotBeLoaded();
-    void saysThatAPluginIsForAnotherToolkit();
+    void saysThatAPluginIsForAnotherQt();
     void adoptsNoObjectWithoutTheInterfaces();
 
 private:
@@ -39,9 +39,9 @@ QByteArray contentOf(const QString &name)
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Where a plug-in says which major version of the toolkit it was built for: two
+/// Where a plug-in says which major version of Qt it was built for: two
 /// bytes behind one of these marks, depending on that version. -1 for nowhere.
-int placeOfToolkitVersion(const QByteArray &plugin)
+int placeOfQtVersion(const QByteArray &plugin)
 {
     for (const QByteArray &mark : {QByteArray("qt-project!", 12), QByteArray("QTMETADATA !")}) {
         for (auto at = plugin.indexOf(mark); at >= 0; at = plugin.indexOf(mark, at + 1)) {
@@ -126,10 +126,10 @@ void TestPluginHandle::saysWhyAPluginCannotBeLoaded()
     QVERIFY2(problem.contains("--plugin"), qPrintable(problem));
 }
 
-void TestPluginHandle::saysThatAPluginIsForAnotherToolkit()
+void TestPluginHandle::saysThatAPluginIsForAnotherQt()
 {
     QByteArray content = contentOf(PLUGIN_FILE);
-    const int major = placeOfToolkitVersion(content);
+    const int major = placeOfQtVersion(content);
     QVERIFY(major > 0);
     content[major] = 9;
     const QString problem = problemWith(write("newer.so", content));

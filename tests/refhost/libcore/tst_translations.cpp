@@ -178,7 +178,7 @@ void TestTranslations::areCompleteAndUpToDate_data()
     addLanguageRows();
 }
 
-/// Lets the toolkit look for texts in the sources that the file lacks, or the
+/// Lets Qt look for texts in the sources that the file lacks, or the
 /// other way round. The English file holds the identifiers only: what the
 /// program itself says is English.
 void TestTranslations::areCompleteAndUpToDate()
