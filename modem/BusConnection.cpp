@@ -33,6 +33,12 @@ QString uniqueName()
     return QStringLiteral("bus-%1").arg(++count);
 }
 
+QDBusMessage startingNoService(QDBusMessage call)
+{
+    call.setAutoStartService(false);
+    return call;
+}
+
 } // namespace
 
 QDBusMessage busCall(const char *method, const QVariantList &arguments)
@@ -107,7 +113,7 @@ void BusConnection::greet()
     });
     for (const Subscription &subscription : m_subscriptions) {
         for (const QString &rule : subscription.rules)
-            ask(busCall("AddMatch", {rule}), QString(), [](const QVariantList &) {});
+            tell(busCall("AddMatch", {rule}));
     }
 }
 
@@ -115,8 +121,7 @@ void BusConnection::ask(const QDBusMessage &call, const QString &signature, cons
 {
     if (!m_pendingCalls)
         return;
-    QDBusMessage message = call;
-    message.setAutoStartService(false);
+    const QDBusMessage message = startingNoService(call);
     // Who is slow may still answer; who has gone is said to be so by the bus.
     auto *const watcher =
         new QDBusPendingCallWatcher(m_connection.asyncCall(message, INT_MAX), m_pendingCalls.get());
@@ -128,6 +133,12 @@ void BusConnection::ask(const QDBusMessage &call, const QString &signature, cons
                 finished->deleteLater();
                 handler(isProper ? reply.arguments() : QVariantList());
             });
+}
+
+void BusConnection::tell(const QDBusMessage &call)
+{
+    if (m_pendingCalls)
+        m_connection.send(startingNoService(call));
 }
 
 void BusConnection::handleSignal(const QDBusMessage &message)

@@ -52,6 +52,8 @@ public:
     /// Sends the call and starts no service for it. The answer must be the receiver's own
     /// and have that signature. No answer comes when the bus is lost meanwhile.
     void ask(const QDBusMessage &call, const QString &signature, const Handler &handler);
+    /// The same, whatever the answer may be.
+    void tell(const QDBusMessage &call);
 
 signals:
     /// The bus is there, all subscriptions are on their way to it.

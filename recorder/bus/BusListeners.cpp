@@ -36,7 +36,7 @@ void BusListeners::add(const QString &client)
     if (m_clients.contains(client))
         return;
     m_clients.insert(client);
-    m_bus.ask(busCall("AddMatch", {departureOf(client)}), QString(), [](const QVariantList &) {});
+    m_bus.tell(busCall("AddMatch", {departureOf(client)}));
     askWhetherStillThere(client);
     if (m_clients.size() == 1)
         m_changed();
@@ -56,8 +56,7 @@ void BusListeners::remove(const QString &client)
 {
     if (!m_clients.remove(client))
         return;
-    m_bus.ask(busCall("RemoveMatch", {departureOf(client)}), QString(),
-              [](const QVariantList &) {});
+    m_bus.tell(busCall("RemoveMatch", {departureOf(client)}));
     if (m_clients.isEmpty())
         m_changed();
 }

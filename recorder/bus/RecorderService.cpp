@@ -99,16 +99,14 @@ void RecorderService::publish()
 void RecorderService::renewName()
 {
     if (!m_object->isRecording())
-        m_bus->ask(busCall("ReleaseName", {m_name}), QStringLiteral("u"),
-                   [](const QVariantList &) {});
+        m_bus->tell(busCall("ReleaseName", {m_name}));
     requestName();
 }
 
 void RecorderService::requestName()
 {
     const uint flags = m_object->isRecording() ? replaceExisting : allowReplacement;
-    m_bus->ask(busCall("RequestName", {m_name, flags}), QStringLiteral("u"),
-               [](const QVariantList &) {});
+    m_bus->tell(busCall("RequestName", {m_name, flags}));
 }
 
 } // namespace recorder
