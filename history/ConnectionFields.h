@@ -115,7 +115,9 @@ using IsShared = std::is_same<typename AnyField::Owner, ConnectionBase>;
 template <typename AnyField>
 using IsStart = std::is_same<typename AnyField::Kind, kind::StartTime>;
 template <typename AnyField>
-using Identifies = std::negation<std::is_base_of<kind::Detail, typename AnyField::Kind>>;
+using IsDetail = std::is_base_of<kind::Detail, typename AnyField::Kind>;
+template <typename AnyField>
+using Identifies = std::negation<IsDetail<AnyField>>;
 template <typename AnyField>
 using IsSharedAndChanges = std::conjunction<IsShared<AnyField>, std::negation<IsStart<AnyField>>>;
 
@@ -145,6 +147,9 @@ constexpr auto chosenFrom(const std::tuple<Fields...> &fields)
 /// What two records have to agree in to be of the same connection, for whoever imports one
 /// of them: files of earlier versions know nothing of the details.
 constexpr auto identifyingFields = chosenFrom<Identifies>(connectionFields);
+
+/// What is known of whose a connection is.
+constexpr auto detailFields = chosenFrom<IsDetail>(connectionFields);
 
 /// Every value of an open connection but its key, and those that change while it lasts.
 constexpr auto openConnectionFields =

@@ -94,18 +94,17 @@ void learn(std::string &known, const QString &text, std::size_t maximumBytes)
         known = bytes;
 }
 
-/// What a connection has learned of its owner counts more than what its row had before.
+/// What a connection has learned of its owner counts more than what its row had before;
+/// but roaming is what it was at the start.
 void keepOwner(history::OpenConnection &row, const history::OpenConnection &own)
 {
-    using history::ConnectionBase;
-    for (std::string ConnectionBase::*const text :
-         {&ConnectionBase::operatorName, &ConnectionBase::operatorCode, &ConnectionBase::sim,
-          &ConnectionBase::technology}) {
-        if (!(own.*text).empty())
-            row.*text = own.*text;
-    }
-    if (row.roaming.empty())
-        row.roaming = own.roaming;
+    history::forEachField(history::detailFields, [&](const auto &field) {
+        using Kind = history::KindOf<decltype(field)>;
+        const std::string &known = own.*field.member;
+        std::string &text = row.*field.member;
+        if (std::is_same_v<Kind, history::kind::Roaming> ? text.empty() : !known.empty())
+            text = known;
+    });
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Unwritten.h"
 
+#include "history/ConnectionFields.h"
+
 #include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -42,11 +44,9 @@ void visitFields(State &state, Visitor &visitor)
     visitor.number("first_downloaded_total", state.totalsAtFirst.downloaded);
     visitor.number("moment_utc", state.moment.utcSeconds);
     visitor.number("moment_boot_ms", state.moment.bootMilliseconds);
-    visitor.newText("operator", row.operatorName);
-    visitor.newText("operator_code", row.operatorCode);
-    visitor.newText("sim", row.sim);
-    visitor.newText("roaming", row.roaming);
-    visitor.newText("technology", row.technology);
+    history::forEachField(history::detailFields, [&](const auto &field) {
+        visitor.newText(field.name, row.*field.member);
+    });
     visitor.newHours("hours", row.hours);
     visitor.flag("has_own_profile", state.hasOwnProfile);
     visitor.flag("has_ended", state.hasEnded);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecordText.h"
 
+#include "history/ConnectionFields.h"
+
 using history::Connection;
 using history::OpenConnection;
 using history::Store;
@@ -12,6 +14,15 @@ QString textOf(const Connection &connection)
         .arg(connection.uploadedBytes)
         .arg(connection.downloadedBytes)
         .arg(QString::fromStdString(connection.ending));
+}
+
+QString ownerOf(const Connection &connection)
+{
+    QStringList texts;
+    history::forEachField(history::detailFields, [&](const auto &field) {
+        texts.append(QString::fromStdString(connection.*field.member));
+    });
+    return texts.join(' ');
 }
 
 std::vector<Connection> connectionsIn(const QString &storePath)

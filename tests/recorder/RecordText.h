@@ -8,6 +8,8 @@
 
 /// "INTERFACE up UPLOADED down DOWNLOADED ENDING".
 QString textOf(const history::Connection &connection);
+/// Whose it is: what is known of that, joined with blanks.
+QString ownerOf(const history::Connection &connection);
 /// The finished connections in the store at this path.
 std::vector<history::Connection> connectionsIn(const QString &storePath);
 QStringList recordsIn(const QString &storePath);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "RecorderTest.h"
+#include "StoreLock.h"
 
 using history::Connection;
 
@@ -8,6 +9,9 @@ namespace
 
 /// That in which the fake clock begins.
 constexpr std::int64_t firstHour = 1700000000 / history::secondsPerHour * history::secondsPerHour;
+
+/// What subscriberOf() leaves in a connection that begins in a foreign network.
+const QString roamingOwner = QStringLiteral("Example Mobile 00101 8949000000000000001 roaming lte");
 
 } // namespace
 
@@ -29,6 +33,7 @@ private slots:
     void staysEndedWhenTheDaemonEnds();
     void tellsWhatAPortMovedUnwatched();
     void keepsWhoseAConnectionIs();
+    void keepsWhoseAnUnwrittenConnectionIs();
     void tellsHomeAndRoamingApartWithoutAnEnd();
     void tellsTheHoursApart();
     void resumesTheHours();
@@ -212,13 +217,25 @@ void RecordedPortsTest::keepsWhoseAConnectionIs()
     m_ports->tell("wwan0", true, subscriberOf(modem::Roaming::Roaming));
     connectLink(3, "wwan0", 0, 0);
     m_links->tell(downLink(3, "wwan0", 1, 2));
-    const Connection record = firstRecord();
-    QCOMPARE(record.profile, std::string("internet.example"));
-    QCOMPARE(record.operatorName, std::string("Example Mobile"));
-    QCOMPARE(record.operatorCode, std::string("00101"));
-    QCOMPARE(record.sim, std::string("8949000000000000001"));
-    QCOMPARE(record.roaming, std::string(history::abroad));
-    QCOMPARE(record.technology, std::string("lte"));
+    QCOMPARE(firstRecord().profile, std::string("internet.example"));
+    QCOMPARE(ownerOf(firstRecord()), roamingOwner);
+    QCOMPARE(hours(), QStringList("0 roaming 1 2"));
+}
+
+/// Also while it is kept beside a history that cannot be written.
+void RecordedPortsTest::keepsWhoseAnUnwrittenConnectionIs()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, subscriberOf(modem::Roaming::Roaming));
+    {
+        const StoreLock lock(m_path);
+        connectLink(3, "wwan0", 0, 0);
+        m_links->tell(downLink(3, "wwan0", 1, 2));
+        m_recorder.reset();
+    }
+    QVERIFY(start());
+    QCOMPARE(ownerOf(firstRecord()), roamingOwner);
     QCOMPARE(hours(), QStringList("0 roaming 1 2"));
 }
 
