@@ -12,11 +12,11 @@ namespace history
 namespace
 {
 
-constexpr const char *tableName = "open_connection";
+constexpr const char *openTableName = "open_connection";
 
 std::string selection()
 {
-    return selectionOf(openConnectionFields, tableName);
+    return selectionOf(openConnectionFields, openTableName);
 }
 
 OpenConnection connectionIn(const Row &row)
@@ -67,7 +67,7 @@ std::optional<OpenConnection> OpenConnectionTable::find(const std::string &bootI
 
 std::int64_t OpenConnectionTable::insert(const OpenConnection &connection)
 {
-    SQLite::Statement statement(m_database, insertionOf(openConnectionFields, tableName));
+    SQLite::Statement statement(m_database, insertionOf(openConnectionFields, openTableName));
     bindFields(statement, 1, connection, openConnectionFields);
     statement.exec();
     return m_database.getLastInsertRowid();
@@ -75,7 +75,7 @@ std::int64_t OpenConnectionTable::insert(const OpenConnection &connection)
 
 bool OpenConnectionTable::update(const OpenConnection &connection)
 {
-    SQLite::Statement statement(m_database, std::string("UPDATE ") + tableName + " SET " +
+    SQLite::Statement statement(m_database, std::string("UPDATE ") + openTableName + " SET " +
                                                 equationsOf(openProgressFields, ", ") +
                                                 sameConnection());
     const int behind = bindFields(statement, 1, connection, openProgressFields);
@@ -86,7 +86,7 @@ bool OpenConnectionTable::update(const OpenConnection &connection)
 bool OpenConnectionTable::remove(const OpenConnection &connection)
 {
     SQLite::Statement statement(m_database,
-                                std::string("DELETE FROM ") + tableName + sameConnection());
+                                std::string("DELETE FROM ") + openTableName + sameConnection());
     bindIdentity(statement, 1, connection);
     return statement.exec() == 1;
 }

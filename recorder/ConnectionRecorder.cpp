@@ -75,7 +75,7 @@ std::optional<Problem> ConnectionRecorder::end()
 {
     m_retryTimer.stop();
     const bool wasRecording = std::exchange(m_isRecording, false);
-    const auto loss = wasRecording ? m_session->leave() : std::nullopt;
+    auto loss = wasRecording ? m_session->leave() : std::nullopt;
     giveUp();
     return loss;
 }

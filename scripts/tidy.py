@@ -16,15 +16,7 @@ import subprocess
 import sys
 
 # Enough to share the cost of the headers, few enough for every processor to have some.
-MOST_AT_ONCE = 12
-
-# What stands in a source that another one includes counts as in one that does not.
-AS_ONE_FILE = [
-    r"--header-filter=\.(h|cpp)$",
-    "--extra-arg=-Xclang",
-    "--extra-arg=-analyzer-opt-analyze-headers",
-    "--checks=-bugprone-suspicious-include",
-]
+MOST_AT_ONCE = 30
 
 
 def tracked(*patterns):
@@ -57,12 +49,16 @@ class Batch:
         return sum(os.path.getsize(file) for file in self.files)
 
     def write(self):
-        self.source.write_text("".join(f'#include "{entry["file"]}"\n' for entry in self.entries))
+        # Not by #include: of what is included, not all is analysed.
+        self.source.write_text("".join(f'#line 1 "{file}"\n{pathlib.Path(file).read_text()}'
+                                       for file in self.files))
         first = self.entries[0]
+        quoted = f"-iquote {pathlib.Path(first['file']).parent} -c "
         return {
             "directory": first["directory"],
             "file": str(self.source),
-            "command": first["command"].replace(first["file"], str(self.source)),
+            "command": first["command"].replace(first["file"], str(self.source))
+                                       .replace("-c ", quoted, 1),
         }
 
     def is_clean(self, headers):
@@ -75,15 +71,15 @@ class Batch:
         """What clang-tidy finds; empty if the files are clean."""
         begun = folder / (self.stamp.name + ".begun")
         begun.touch()
-        together = tidy(folder, self.source, *AS_ONE_FILE)
+        together = tidy(folder, self.source)
         found = "" if not together else "".join(tidy(build, file) for file in self.files)
         if not found:
             begun.rename(self.stamp)
         return found
 
 
-def tidy(build, file, *options):
-    done = subprocess.run(["clang-tidy", "--quiet", *options, "-p", str(build), str(file)],
+def tidy(build, file):
+    done = subprocess.run(["clang-tidy", "--quiet", "-p", str(build), str(file)],
                           capture_output=True, text=True, check=False)
     return done.stdout or (done.stderr if done.returncode else "")
 

@@ -10,7 +10,6 @@
 namespace
 {
 
-using history::StoreError;
 
 refhost::StatisticsSession &session()
 {
