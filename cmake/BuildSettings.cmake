@@ -16,10 +16,42 @@ if(NOT NETINFORECORD_SANITIZE)
 endif()
 
 if(NETINFORECORD_SANITIZE)
+    # A folder may ask for fewer of them.
+    define_property(TARGET PROPERTY SANITIZERS INHERITED)
+    set_property(DIRECTORY PROPERTY SANITIZERS ${NETINFORECORD_SANITIZE})
     target_compile_options(netinforecord_settings INTERFACE
-        -fsanitize=${NETINFORECORD_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+        -fsanitize=$<TARGET_PROPERTY:SANITIZERS>
+        -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(netinforecord_settings INTERFACE -fsanitize=${NETINFORECORD_SANITIZE})
 endif()
+
+# Most of what a sanitized build takes to compile are the headers of libraries, so its
+# files share those compiled once. The other builds show what a file does not include.
+if(NETINFORECORD_SANITIZE)
+    file(CONFIGURE OUTPUT shared_headers.cpp CONTENT "// Nothing but its precompiled header.\n")
+    foreach(kind Core Widgets)
+        add_library(shared_headers_${kind} STATIC ${CMAKE_BINARY_DIR}/shared_headers.cpp)
+        set_target_properties(shared_headers_${kind} PROPERTIES
+            AUTOMOC OFF
+            POSITION_INDEPENDENT_CODE ON
+            CXX_VISIBILITY_PRESET hidden
+            VISIBILITY_INLINES_HIDDEN ON)
+        target_link_libraries(shared_headers_${kind} PRIVATE
+            netinforecord_settings Qt${QT_VERSION_MAJOR}::${kind})
+        target_precompile_headers(shared_headers_${kind} PRIVATE
+            <algorithm> <filesystem> <functional> <map> <memory> <optional> <string> <variant>
+            <vector> <QDateTime> <QHash> <QObject> <QTimer>)
+    endforeach()
+    target_precompile_headers(shared_headers_Widgets PRIVATE
+        <QApplication> <QMenu> <QMessageBox> <QSettings> <QTableWidget>)
+endif()
+
+# A target whose files include those of the toolkit's Core, or its Widgets too.
+function(netinforecord_share_headers target kind)
+    if(NETINFORECORD_SANITIZE)
+        target_precompile_headers(${target} REUSE_FROM shared_headers_${kind})
+    endif()
+endfunction()
 
 # The code of one folder, linked into whatever needs it. Others include its headers
 # by the folder's name.
