@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "history/StoreSchema.h"
 #include "recorder/ConnectionRecorder.h"
 
 #include "FakeClock.h"
@@ -7,6 +8,7 @@
 #include "RecordText.h"
 #include "StoreLock.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -58,6 +60,8 @@ private:
     /// It ends; time passes.
     void end();
     void runSql(const char *sql);
+    /// The store as its `version` was, with what that one had a place for.
+    void makeOlder(std::size_t version);
     std::vector<Connection> records();
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -101,6 +105,29 @@ void UnwatchedTrafficTest::end()
 void UnwatchedTrafficTest::runSql(const char *sql)
 {
     SQLite::Database(m_path.toStdString(), SQLite::OPEN_READWRITE).exec(sql);
+}
+
+void UnwatchedTrafficTest::makeOlder(std::size_t version)
+{
+    const QString newer = m_path + ".newer";
+    QVERIFY(QFile::rename(m_path, newer));
+    SQLite::Database older(m_path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    for (std::size_t step = 0; step < version; ++step)
+        older.exec(history::storeSchema()[step]);
+    older.exec("PRAGMA application_id = " + std::to_string(history::storeApplicationId) +
+               "; PRAGMA user_version = " + std::to_string(version) + "; ATTACH '" +
+               newer.toStdString() + "' AS newer");
+    SQLite::Statement tables(older, "SELECT name, group_concat(column) FROM (SELECT t.name,"
+                                    " '\"' || c.name || '\"' AS column FROM main.sqlite_schema t,"
+                                    " pragma_table_info(t.name) c WHERE t.type = 'table')"
+                                    " GROUP BY name");
+    std::string copies;
+    while (tables.executeStep()) {
+        const std::string table = tables.getColumn(0), columns = tables.getColumn(1);
+        copies += "INSERT INTO main." + table + " (" + columns + ") SELECT " + columns +
+                  " FROM newer." + table + ';';
+    }
+    older.exec(copies);
 }
 
 std::vector<Connection> UnwatchedTrafficTest::records()
@@ -156,15 +183,7 @@ void UnwatchedTrafficTest::isFoundAfterARowThatAnOlderVersionLeft()
     start({runningLink(3, "wwan0", 1000, 2000), addressOn(3), downLink(4, "wwan1", 5, 6)});
     m_links->toCome = {runningLink(3, "wwan0", 1100, 2200)};
     end();
-    QByteArray downgrade = "DROP TABLE seen_link; DROP TABLE taken_over; DROP TABLE log_base;"
-                           "DROP TABLE connection_hour; DROP TABLE open_connection_hour;"
-                           "PRAGMA user_version = 2;";
-    for (const QByteArray column :
-         {"operator_name", "operator_code", "sim", "roaming", "technology"}) {
-        for (const QByteArray table : {"connection", "open_connection"})
-            downgrade += "ALTER TABLE " + table + " DROP COLUMN " + column + ';';
-    }
-    runSql(downgrade.constData());
+    makeOlder(2);
     LinkReport again = runningLink(3, "wwan0", 1150, 2260);
     again.carrierLosses = 1;
     start({again, addressOn(3), downLink(4, "wwan1", 7, 8)});
