@@ -27,7 +27,7 @@ Q_LOGGING_CATEGORY(log, "modem", QtWarningMsg)
 /// everybody at once is not asked again and again.
 constexpr int pauseMilliseconds = 1000;
 
-QString uniqueName()
+QString nextName()
 {
     static std::atomic<int> count{0};
     return QStringLiteral("bus-%1").arg(++count);
@@ -54,7 +54,7 @@ BusConnection::BusConnection(const QString &address, std::vector<Subscription> s
     : QObject(parent)
     , m_address(address)
     , m_subscriptions(std::move(subscriptions))
-    , m_name(uniqueName())
+    , m_name(nextName())
     , m_retry(this)
 {
     m_retry.setSingleShot(true);
@@ -108,6 +108,7 @@ void BusConnection::greet()
         m_isGreeted = !reply.isEmpty();
         if (!m_isGreeted)
             return;
+        m_uniqueName = reply.first().toString();
         m_socketWatcher.reset();
         emit connected();
     });
@@ -162,6 +163,7 @@ void BusConnection::handleDisconnection()
 void BusConnection::close()
 {
     m_pendingCalls.reset();
+    m_uniqueName.clear();
     QDBusConnection::disconnectFromPeer(m_name);
     m_connection = QDBusConnection(QString());
 }

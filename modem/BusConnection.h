@@ -49,6 +49,8 @@ public:
     bool start();
     /// To send signals and register objects with, between connected() and disconnected().
     QDBusConnection connection() const { return m_connection; }
+    /// Its name on the bus between connected() and disconnected().
+    QString uniqueName() const { return m_uniqueName; }
     /// Sends the call and starts no service for it. The answer must be the receiver's own
     /// and have that signature. No answer comes when the bus is lost meanwhile.
     void ask(const QDBusMessage &call, const QString &signature, const Handler &handler);
@@ -77,6 +79,7 @@ private:
     const QString m_address;
     const std::vector<Subscription> m_subscriptions;
     const QString m_name; ///< among QtDBus's connections
+    QString m_uniqueName;
     QDBusConnection m_connection{QString()};
     std::unique_ptr<QObject> m_pendingCalls; ///< of the present connection
     std::unique_ptr<QFileSystemWatcher> m_socketWatcher;

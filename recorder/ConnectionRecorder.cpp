@@ -62,7 +62,6 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     m_timer.setObjectName(QStringLiteral("ticks"));
     m_timer.setInterval(intervals.tick);
     connect(&m_timer, &QTimer::timeout, this, &ConnectionRecorder::tick);
-    m_retryTimer.setInterval(intervals.retry);
     connect(&m_retryTimer, &QTimer::timeout, this, &ConnectionRecorder::tryAgain);
 }
 
@@ -86,7 +85,7 @@ bool ConnectionRecorder::start()
     m_isLate = true;
     m_ports->start();
     if (!hasStarted)
-        m_retryTimer.start();
+        m_retryTimer.start(m_intervals.retry);
     return hasStarted;
 }
 
@@ -94,6 +93,14 @@ void ConnectionRecorder::tryAgain()
 {
     if (tryToStart())
         m_retryTimer.stop();
+    else
+        m_retryTimer.start(m_intervals.retry);
+}
+
+void ConnectionRecorder::tryNow()
+{
+    if (m_retryTimer.isActive())
+        tryAgain();
 }
 
 bool ConnectionRecorder::tryToStart()
@@ -254,12 +261,31 @@ void ConnectionRecorder::removeObstacle()
 void ConnectionRecorder::stop(const Problem &problem)
 {
     obstruct(problem);
-    if (!std::exchange(m_isRecording, false))
+    if (!m_isRecording)
         return;
-    if (const auto loss = m_session->endAll())
+    pause(m_session->endAll());
+    m_retryTimer.start(m_intervals.retry);
+}
+
+/// Nothing is wrong then, so nothing is told, unless it turns out who records instead.
+void ConnectionRecorder::makeWay()
+{
+    if (!m_isRecording && !m_retryTimer.isActive())
+        return;
+    if (m_isRecording) {
+        pause(m_session->leave());
+        m_obstacle.emplace().kind = Problem::Kind::RecordedByAnother;
+    }
+    m_retryTimer.start(m_intervals.courtesy);
+}
+
+void ConnectionRecorder::pause(const std::optional<Problem> &loss)
+{
+    m_isRecording = false;
+    if (loss)
         fail(*loss);
     giveUp();
-    m_retryTimer.start();
+    later(this, [this] { emit stopped(); });
 }
 
 void ConnectionRecorder::setProfileName(const QString &name)

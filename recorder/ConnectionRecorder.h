@@ -38,6 +38,8 @@ struct RecorderIntervals {
     /// With every so many ticks, the store is brought up to date: it is to be at most five
     /// seconds behind, and the kernel's answer and the writing take their time too.
     int ticksPerCheckpoint = 4;
+    /// For how long the store is left to a recorder that way was made for.
+    std::chrono::milliseconds courtesy = std::chrono::seconds(10);
 };
 
 /// Records the connections of mobile interfaces (see Link::isMobile), of modems' data ports
@@ -86,6 +88,12 @@ public:
 
     bool isRecording() const { return m_isRecording; }
 
+    /// Another recorder wants to record: leaves what is connected open, as end() does, and
+    /// the store to that one for a while. If nobody has it then, it records again.
+    void makeWay();
+    /// Who recorded may have ended: tries again now what is tried again from time to time.
+    void tryNow();
+
 public slots:
     /// Opens the store, settles what earlier processes left open, and begins to
     /// watch; false, with failed(), if that is not possible. Then it is tried again
@@ -97,8 +105,10 @@ public slots:
     void setProfileName(const QString &name);
 
 signals:
-    /// It could not start in the beginning, or had to stop, and has started now.
+    /// It could not start in the beginning, or had stopped, and has started now.
     void started();
+    /// It records nothing until it has started() again; what lasted then is told anew.
+    void stopped();
     void connected(const recorder::ConnectionState &state);
     /// The connection is finished in the store already; `id` is its state's, or 0 if
     /// an earlier process had left it open and start() could not settle that yet.
@@ -126,6 +136,7 @@ private:
     bool isAnothersTurn();
     void giveUp();
     void stop(const Problem &problem);
+    void pause(const std::optional<Problem> &loss);
     void fail(const Problem &problem);
     void obstruct(const Problem &problem);
     void removeObstacle();

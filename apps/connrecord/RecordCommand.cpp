@@ -195,9 +195,10 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
     recorder.setProfileName(profile);
     Reporter reporter(recorder);
     reporter.tellOfStart(recorder.start());
-    recorder::RecorderService service(recorder, storePath, [](const Problem &problem) {
-        return QString::fromStdString(textOf(problem));
-    });
+    using recorder::RecorderService;
+    RecorderService service(
+        recorder, storePath, RecorderService::Place::Background,
+        [](const Problem &problem) { return QString::fromStdString(textOf(problem)); });
     service.start();
     tellReady();
     const MemorySaver memorySaver(recorder);

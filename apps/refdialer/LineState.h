@@ -2,6 +2,7 @@
 #pragma once
 
 #include "recorder/ConnectionRecorder.h"
+#include "recorder/bus/RecorderClient.h"
 
 #include <QList>
 #include <QMap>
@@ -10,8 +11,8 @@
 namespace refdialer
 {
 
-/// What is known of the mobile connections at the moment, for the window. It is
-/// told by the recorder and lives on the GUI thread.
+/// What is known of the mobile connections at the moment, for the window: from its own
+/// recorder while that records, else from one that it follows. It lives on the GUI thread.
 class LineState : public QObject
 {
     Q_OBJECT
@@ -20,19 +21,29 @@ public:
     using QObject::QObject;
 
     /// Whether connections are watched at all.
-    bool isWatched() const { return m_isWatched; }
+    bool isWatched() const { return m_isWatched || isFollowing(); }
+    /// Whether another program records them.
+    bool isFollowing() const { return !m_isWatched && m_followed.isRecording; }
     /// Those that last, in the order in which they began.
-    QList<recorder::ConnectionState> connections() const { return m_connections.values(); }
+    QList<recorder::ConnectionState> connections() const;
     /// Why connections are not recorded as they should be, a sentence for the
     /// user; empty if they are.
-    QString problem() const { return m_problem; }
+    QString problem() const { return isFollowing() ? m_followed.problem : m_problem; }
 
+    // What this program's own recorder does.
+
+    /// One that does not record has no connections.
     void setWatched(bool isWatched);
     void begin(const recorder::ConnectionState &connection);
     void update(const recorder::ConnectionState &connection);
     void end(qint64 id);
     /// With an empty text it is over.
     void setProblem(const QString &problem);
+
+    // What another program's recorder does.
+
+    void follow(const recorder::RecorderState &recorder);
+    void endFollowed();
 
 signals:
     void connected();
@@ -45,6 +56,7 @@ private:
     bool m_isWatched = false;
     QMap<qint64, recorder::ConnectionState> m_connections; ///< by id
     QString m_problem;
+    recorder::RecorderState m_followed;
 };
 
 } // namespace refdialer

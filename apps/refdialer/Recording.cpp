@@ -4,10 +4,14 @@
 #include "LineState.h"
 #include "apps/common/ProblemText.h"
 #include "recorder/ConnectionRecorder.h"
+#include "recorder/bus/RecorderClient.h"
 #include "recorder/bus/RecorderService.h"
 
 namespace refdialer
 {
+
+using recorder::RecorderClient;
+using recorder::RecorderService;
 
 Recording::Recording(const QString &storePath, const QStringList &interfaceNames,
                      const QString &profile, LineState &state)
@@ -29,6 +33,8 @@ Recording::Recording(const QString &storePath, const QStringList &interfaceNames
                      [&state] { state.setProblem(QString()); });
     QObject::connect(m_recorder, &recorder::ConnectionRecorder::started, &m_state,
                      [&state] { state.setWatched(true); });
+    QObject::connect(m_recorder, &recorder::ConnectionRecorder::stopped, &m_state,
+                     [&state] { state.setWatched(false); });
     m_recorder->setProfileName(profile);
     m_recorder->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::finished, m_recorder, &QObject::deleteLater);
@@ -58,9 +64,14 @@ void Recording::start()
 bool Recording::startOnItsThread()
 {
     const bool hasStarted = m_recorder->start();
-    m_service =
-        std::make_unique<recorder::RecorderService>(*m_recorder, m_storePath, common::problemText);
+    m_service = std::make_unique<RecorderService>(
+        *m_recorder, m_storePath, RecorderService::Place::Foreground, common::problemText);
+    m_client =
+        std::make_unique<RecorderClient>(m_storePath, [this] { return m_service->uniqueName(); });
+    QObject::connect(m_client.get(), &RecorderClient::changed, &m_state, &LineState::follow);
+    QObject::connect(m_client.get(), &RecorderClient::ended, &m_state, &LineState::endFollowed);
     m_service->start();
+    m_client->start();
     return hasStarted;
 }
 
@@ -68,6 +79,7 @@ bool Recording::startOnItsThread()
 std::optional<recorder::Problem> Recording::endOnItsThread()
 {
     const std::optional<recorder::Problem> loss = m_recorder->end();
+    m_client.reset();
     m_service.reset();
     return loss;
 }

@@ -10,6 +10,7 @@
 namespace recorder
 {
 class ConnectionRecorder;
+class RecorderClient;
 class RecorderService;
 struct Problem;
 } // namespace recorder
@@ -19,8 +20,9 @@ namespace refdialer
 
 class LineState;
 
-/// Records connections, and tells so on the session bus, on a thread of its own, so that a
-/// store which another program keeps locked does not hold up the window.
+/// Records connections, and tells so on the session bus; where another program records
+/// them, follows that one there. All on a thread of its own, so that a store which another
+/// program keeps locked does not hold up the window.
 class Recording
 {
 public:
@@ -46,6 +48,7 @@ private:
     LineState &m_state;
     recorder::ConnectionRecorder *m_recorder;             ///< deleted on its thread, when that ends
     std::unique_ptr<recorder::RecorderService> m_service; ///< on the same thread
+    std::unique_ptr<recorder::RecorderClient> m_client;   ///< too
     QThread m_thread;
 };
 

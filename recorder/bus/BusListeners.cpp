@@ -3,6 +3,7 @@
 
 #include "modem/BusConnection.h"
 #include "modem/Names.h"
+#include "recorder/bus/OwnerChange.h"
 
 #include <QDBusMessage>
 
@@ -71,12 +72,9 @@ void BusListeners::forgetAll()
 
 void BusListeners::handleOwnerChange(const QDBusMessage &message)
 {
-    const QVariantList arguments = message.arguments();
-    const bool isOfTheBus = message.service() == names::bus &&
-                            message.member() == names::ownerChanged &&
-                            message.signature() == QLatin1String("sss");
-    if (isOfTheBus && arguments.at(2).toString().isEmpty())
-        remove(arguments.at(0).toString());
+    const auto change = ownerChangeIn(message);
+    if (change && change->owner.isEmpty())
+        remove(change->name);
 }
 
 } // namespace recorder

@@ -2,15 +2,24 @@
 #include "recorder/bus/ConnectionValues.h"
 
 #include "history/Store.h"
+#include "modem/DBusValue.h"
 #include "modem/DataPort.h"
 #include "modem/Names.h"
 #include "recorder/ConnectionState.h"
+
+#include <QDBusArgument>
+#include <QTimeZone>
+
+#include <algorithm>
 
 namespace recorder
 {
 
 namespace
 {
+
+constexpr int longestText = 1000;
+constexpr int mostConnections = 64;
 
 namespace keys
 {
@@ -39,6 +48,11 @@ constexpr QLatin1String ending = latin1("Ending");
 QVariant number(std::int64_t value)
 {
     return QVariant::fromValue<qlonglong>(value);
+}
+
+qint64 numberIn(const QVariant &value)
+{
+    return value.userType() == QMetaType::LongLong ? std::max<qint64>(value.toLongLong(), 0) : 0;
 }
 
 QString text(const std::string &value)
@@ -80,6 +94,43 @@ QVariantMap valuesOf(const history::Connection &connection)
             {keys::uploadedBytes, number(connection.uploadedBytes)},
             {keys::downloadedBytes, number(connection.downloadedBytes)},
             {keys::ending, text(connection.ending)}};
+}
+
+std::optional<ConnectionState> stateIn(const QVariantMap &values)
+{
+    ConnectionState state;
+    state.id = numberIn(values.value(keys::id));
+    state.profile = textIn(values.value(keys::profile));
+    state.interfaceName = textIn(values.value(keys::interfaceName));
+    state.operatorName = textIn(values.value(keys::operatorName));
+    state.operatorCode = textIn(values.value(keys::operatorCode));
+    state.sim = textIn(values.value(keys::sim));
+    state.isRoaming = modem::flagOf(values.value(keys::isRoaming));
+    state.technology = textIn(values.value(keys::technology));
+    const qint64 since = numberIn(values.value(keys::since));
+    state.since = QDateTime::fromSecsSinceEpoch(since, QTimeZone::utc());
+    state.uploadedBytes = numberIn(values.value(keys::uploadedBytes));
+    state.downloadedBytes = numberIn(values.value(keys::downloadedBytes));
+    state.uploadRate = numberIn(values.value(keys::uploadRate));
+    state.downloadRate = numberIn(values.value(keys::downloadRate));
+    if (state.id == 0 || since == 0 || !state.since.isValid())
+        return std::nullopt;
+    return state;
+}
+
+QList<QVariantMap> connectionsIn(const QVariant &value)
+{
+    if (value.userType() != qMetaTypeId<QDBusArgument>())
+        return {};
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != QLatin1String("aa{sv}"))
+        return {};
+    return qdbus_cast<QList<QVariantMap>>(argument).mid(0, mostConnections);
+}
+
+QString textIn(const QVariant &value)
+{
+    return value.userType() == QMetaType::QString ? value.toString().left(longestText) : QString();
 }
 
 QVariantMap identityIn(const QVariantMap &values)

@@ -39,6 +39,8 @@ RecorderObject::RecorderObject(ConnectionRecorder &recorder, const QString &stor
 {
     qDBusRegisterMetaType<QList<QVariantMap>>();
     connect(&recorder, &ConnectionRecorder::started, this, &RecorderObject::updateRecording);
+    connect(&recorder, &ConnectionRecorder::stopped, this, &RecorderObject::forgetConnections);
+    connect(&recorder, &ConnectionRecorder::stopped, this, &RecorderObject::updateRecording);
     connect(&recorder, &ConnectionRecorder::connected, this, &RecorderObject::begin);
     connect(&recorder, &ConnectionRecorder::stateChanged, this, &RecorderObject::update);
     connect(&recorder, &ConnectionRecorder::disconnected, this, &RecorderObject::end);
@@ -62,8 +64,10 @@ void RecorderObject::updateRecording()
     const bool isRecording = m_recorder.isRecording();
     const bool wasRecording = std::exchange(m_isRecording, isRecording);
     const bool isWaiting = !isRecording && m_isAnotherRecording;
-    if (std::exchange(m_isWaiting, isWaiting) != isWaiting)
+    if (std::exchange(m_isWaiting, isWaiting) != isWaiting) {
         noteChange(properties::waiting);
+        emit waitingChanged();
+    }
     if (wasRecording == isRecording)
         return;
     noteChange(properties::recording);
@@ -95,6 +99,13 @@ void RecorderObject::end(const history::Connection &connection, qint64 id)
         noteChangeOfConnections();
     m_hasHistoryChanged = true;
     m_throttle.request();
+}
+
+/// Who records them now tells of them.
+void RecorderObject::forgetConnections()
+{
+    m_connections.clear();
+    noteChangeOfConnections();
 }
 
 void RecorderObject::setProblem(const Problem &problem)

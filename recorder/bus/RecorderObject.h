@@ -62,6 +62,7 @@ public:
 
 signals:
     void recordingChanged();
+    void waitingChanged();
     void watched(const QString &client);
     void unwatched(const QString &client);
     /// A signal for the bus.
@@ -74,6 +75,7 @@ private:
     void setProblem(const Problem &problem);
     void removeProblem();
     void updateRecording();
+    void forgetConnections();
     void noteChange(const char *property);
     void noteChangeOfConnections();
     void tellChanges();

@@ -4,6 +4,7 @@
 #include "ConnectionRecorder1Adaptor.h"
 #include "modem/BusConnection.h"
 #include "modem/Names.h"
+#include "recorder/bus/HandOver.h"
 #include "recorder/bus/RecorderObject.h"
 
 #include <QLoggingCategory>
@@ -31,23 +32,29 @@ constexpr uint replaceExisting = 2;
 } // namespace
 
 RecorderService::RecorderService(ConnectionRecorder &recorder, const QString &storePath,
-                                 ProblemText problemText, const QString &busAddress,
+                                 Place place, ProblemText problemText, const QString &busAddress,
                                  std::chrono::milliseconds interval, QObject *parent)
     : QObject(parent)
     , m_busAddress(busAddress)
     , m_name(nameFor(storePath))
     , m_bus(std::make_unique<BusConnection>(
-          busAddress,
-          std::vector<BusConnection::Subscription>{{names::bus, names::ownerChanged, {}}}))
+          busAddress, std::vector<BusConnection::Subscription>{{names::bus, names::ownerChanged,
+                                                                HandOver::rulesFor(m_name)}}))
     , m_object(
           std::make_unique<RecorderObject>(recorder, storePath, std::move(problemText), interval))
     , m_listeners(*m_bus, [this] { m_object->setWatched(m_listeners.areThere()); })
+    , m_handOver(std::make_unique<HandOver>(recorder, *m_bus, m_name, place))
 {
     new ConnectionRecorder1Adaptor(m_object.get()); // a child
     connect(m_bus.get(), &BusConnection::connected, this, &RecorderService::publish);
-    connect(m_bus.get(), &BusConnection::disconnected, this, [this] { m_listeners.forgetAll(); });
-    connect(m_bus.get(), &BusConnection::received, this,
-            [this](const QDBusMessage &message) { m_listeners.handleOwnerChange(message); });
+    connect(m_bus.get(), &BusConnection::disconnected, this, [this] {
+        m_listeners.forgetAll();
+        m_handOver->forgetAll();
+    });
+    connect(m_bus.get(), &BusConnection::received, this, [this](const QDBusMessage &message) {
+        m_listeners.handleOwnerChange(message);
+        m_handOver->handleOwnerChange(message);
+    });
     connect(m_object.get(), &RecorderObject::watched, this,
             [this](const QString &client) { m_listeners.add(client); });
     connect(m_object.get(), &RecorderObject::unwatched, this,
@@ -55,6 +62,8 @@ RecorderService::RecorderService(ConnectionRecorder &recorder, const QString &st
     connect(m_object.get(), &RecorderObject::told, this,
             [this](const QDBusMessage &signal) { m_bus->connection().send(signal); });
     connect(m_object.get(), &RecorderObject::recordingChanged, this, &RecorderService::renewName);
+    connect(m_object.get(), &RecorderObject::recordingChanged, this, &RecorderService::updateClaim);
+    connect(m_object.get(), &RecorderObject::waitingChanged, this, &RecorderService::updateClaim);
 }
 
 RecorderService::~RecorderService() = default;
@@ -72,6 +81,11 @@ QString RecorderService::objectPath()
 QString RecorderService::interfaceName()
 {
     return RecorderObject::interfaceName();
+}
+
+QString RecorderService::uniqueName() const
+{
+    return m_bus->uniqueName();
 }
 
 void RecorderService::start()
@@ -92,6 +106,13 @@ void RecorderService::publish()
     QDBusConnection connection = m_bus->connection();
     connection.registerObject(objectPath(), m_object.get(), QDBusConnection::ExportAdaptors);
     requestName();
+    m_handOver->begin();
+    updateClaim();
+}
+
+void RecorderService::updateClaim()
+{
+    m_handOver->setAbleToRecord(m_object->isRecording() || m_object->isWaiting());
 }
 
 /// One that records no more goes behind those that wait for the name, for one of them may

@@ -21,6 +21,7 @@ namespace recorder
 {
 
 class ConnectionRecorder;
+class HandOver;
 class RecorderObject;
 
 /// Tells programs on the session bus what a recorder does, as docs/dbus.md describes it;
@@ -40,10 +41,14 @@ class RecorderService : public QObject
 public:
     using ProblemText = std::function<QString(const Problem &)>;
 
+    /// A recorder in the foreground, which ends with a window of its user's, makes way for
+    /// one in the background as soon as that comes.
+    enum class Place { Foreground, Background };
+
     /// For the store at `storePath`; `problemText` words problems as the program does. The
     /// bus gets news that are no events at most once in `interval`.
-    RecorderService(ConnectionRecorder &recorder, const QString &storePath, ProblemText problemText,
-                    const QString &busAddress = sessionBusAddress(),
+    RecorderService(ConnectionRecorder &recorder, const QString &storePath, Place place,
+                    ProblemText problemText, const QString &busAddress = sessionBusAddress(),
                     std::chrono::milliseconds interval = std::chrono::seconds(1),
                     QObject *parent = nullptr);
     ~RecorderService() override;
@@ -53,6 +58,9 @@ public:
     static QString objectPath();
     static QString interfaceName();
 
+    /// On the bus; empty without one.
+    QString uniqueName() const;
+
     /// An address on another computer is logged.
     void start();
 
@@ -60,12 +68,14 @@ private:
     void publish();
     void renewName();
     void requestName();
+    void updateClaim();
 
     const QString m_busAddress;
     const QString m_name;
     const std::unique_ptr<modem::BusConnection> m_bus;
     const std::unique_ptr<RecorderObject> m_object;
     BusListeners m_listeners;
+    const std::unique_ptr<HandOver> m_handOver;
 };
 
 } // namespace recorder

@@ -22,5 +22,5 @@ public:
 };
 
 /// Many times a second what a recorder does once: a test waits for it.
-constexpr recorder::RecorderIntervals shortIntervals = {std::chrono::milliseconds(10),
-                                                        std::chrono::milliseconds(20)};
+constexpr recorder::RecorderIntervals shortIntervals = {
+    std::chrono::milliseconds(10), std::chrono::milliseconds(20), 4, std::chrono::milliseconds(20)};

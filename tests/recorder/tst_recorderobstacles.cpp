@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecorderTest.h"
 #include "StoreLock.h"
+#include "recorder/RecorderLock.h"
 
 #include <QTimer>
 
@@ -10,6 +11,7 @@
 using recorder::ConnectionRecorder;
 using recorder::ConnectionState;
 using recorder::Problem;
+using recorder::RecorderLock;
 
 class RecorderObstaclesTest : public RecorderTest
 {
@@ -29,6 +31,9 @@ private slots:
     void saysWhyItCannotStart();
     void leavesTheRecordingToTheFirstRecorder();
     void takesOverWhenTheFirstRecorderEnds();
+    void makesWayAndTakesOverAgain();
+    void triesNowWhatItTriesAgain();
+    void makesNoWayBeforeItsStartOrAfterItsEnd();
     void startsWhenItCan();
 };
 
@@ -212,6 +217,52 @@ void RecorderObstaclesTest::takesOverWhenTheFirstRecorderEnds()
     QCOMPARE(m_connections->first().first().value<ConnectionState>().uploadedBytes, 10);
     m_links->tell(downLink(3, "wwan0", 1021, 2032));
     QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 11 down 12 normal"));
+}
+
+void RecorderObstaclesTest::makesWayAndTakesOverAgain()
+{
+    m_atStart = {runningLink(3, "wwan0", 10, 20), addressOn(3)};
+    QVERIFY(start());
+    QSignalSpy stops(m_recorder.get(), &ConnectionRecorder::stopped);
+    QSignalSpy starts(m_recorder.get(), &ConnectionRecorder::started);
+    m_links->toCome = {runningLink(3, "wwan0", 110, 220)};
+    m_links->atStart = {runningLink(3, "wwan0", 115, 226), addressOn(3)};
+    m_recorder->makeWay();
+    QVERIFY(!m_recorder->isRecording());
+    QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{100});
+    QCOMPARE(RecorderLock(QFileInfo(m_path).canonicalFilePath()).take(),
+             RecorderLock::Outcome::Taken);
+    QTRY_COMPARE(stops.size(), 1);
+    // Nobody has come.
+    QTRY_COMPARE(starts.size(), 1);
+    QTRY_COMPARE(m_connections->size(), 2);
+    m_links->tell(downLink(3, "wwan0", 120, 230));
+    QTRY_COMPARE(recordsIn(m_path), QStringList("wwan0 up 110 down 210 normal"));
+    QVERIFY(m_failures->isEmpty());
+}
+
+void RecorderObstaclesTest::triesNowWhatItTriesAgain()
+{
+    QVERIFY(start());
+    m_recorder->tryNow();
+    QVERIFY(m_recorder->isRecording());
+    m_recorder->makeWay();
+    m_recorder->tryNow();
+    QVERIFY(m_recorder->isRecording());
+}
+
+void RecorderObstaclesTest::makesNoWayBeforeItsStartOrAfterItsEnd()
+{
+    ConnectionRecorder recorder(m_path, {}, std::make_unique<FakeLinks>(),
+                                std::make_unique<FakePorts>(), std::make_unique<FakeClock>());
+    recorder.makeWay();
+    recorder.tryNow();
+    QVERIFY(!recorder.isRecording());
+    QVERIFY(recorder.start());
+    recorder.end();
+    recorder.makeWay();
+    recorder.tryNow();
+    QVERIFY(!recorder.isRecording());
 }
 
 void RecorderObstaclesTest::startsWhenItCan()

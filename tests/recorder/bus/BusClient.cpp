@@ -62,6 +62,11 @@ void BusClient::waitForName()
     m_bus.interface()->registerService(m_serviceName, QDBusConnectionInterface::QueueService);
 }
 
+void BusClient::releaseName()
+{
+    m_bus.interface()->unregisterService(m_serviceName);
+}
+
 QDBusMessage BusClient::call(const QString &interfaceName, const QString &method,
                              const QVariantList &arguments)
 {

@@ -27,6 +27,7 @@ public:
     QString owner() const;
     /// Gets the service's name when that one gives it away.
     void waitForName();
+    void releaseName();
 
     /// The service's answer; an error if it has none in time.
     QDBusMessage call(const QString &method);

@@ -32,12 +32,13 @@ void ServiceTest::publish(std::chrono::milliseconds interval)
 }
 
 std::unique_ptr<RecorderService> ServiceTest::makeService(ConnectionRecorder &recorder,
-                                                          std::chrono::milliseconds interval) const
+                                                          std::chrono::milliseconds interval,
+                                                          RecorderService::Place place) const
 {
     const auto problemText = [](const Problem &problem) {
         return QStringLiteral("problem %1").arg(int(problem.kind));
     };
-    return std::make_unique<RecorderService>(recorder, m_path, problemText, m_bus->address(),
+    return std::make_unique<RecorderService>(recorder, m_path, place, problemText, m_bus->address(),
                                              interval);
 }
 

@@ -23,7 +23,9 @@ protected:
     void publish(std::chrono::milliseconds interval = std::chrono::milliseconds(1));
     std::unique_ptr<recorder::RecorderService>
     makeService(recorder::ConnectionRecorder &recorder,
-                std::chrono::milliseconds interval = std::chrono::milliseconds(1)) const;
+                std::chrono::milliseconds interval = std::chrono::milliseconds(1),
+                recorder::RecorderService::Place place =
+                    recorder::RecorderService::Place::Foreground) const;
     std::unique_ptr<BusClient> makeClient() const;
     QString serviceName() const { return recorder::RecorderService::nameFor(m_path); }
     /// Answers the recorder's next question for what ppp0, of index 7, has moved.

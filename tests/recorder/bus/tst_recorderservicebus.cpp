@@ -123,8 +123,8 @@ void TestRecorderServiceBus::goesToNoOtherComputer()
         QRegularExpression("\"tcp:host=192\\.0\\.2\\.1,port=1\" is not on this computer"));
     QVERIFY(start());
     RecorderService service(
-        *m_recorder, m_path, [](const recorder::Problem &) { return QString(); },
-        "tcp:host=192.0.2.1,port=1");
+        *m_recorder, m_path, RecorderService::Place::Foreground,
+        [](const recorder::Problem &) { return QString(); }, "tcp:host=192.0.2.1,port=1");
     service.start();
     recordAConnection();
 }

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "recorder/bus/HandOver.h"
+
+#include "modem/BusConnection.h"
+#include "recorder/ConnectionRecorder.h"
+#include "recorder/bus/OwnerChange.h"
+
+namespace recorder
+{
+
+using modem::busCall;
+
+namespace
+{
+
+QString backgroundNameFor(const QString &name)
+{
+    return name + QLatin1String(".Background");
+}
+
+} // namespace
+
+HandOver::HandOver(ConnectionRecorder &recorder, modem::BusConnection &bus, const QString &name,
+                   RecorderService::Place place)
+    : m_recorder(recorder)
+    , m_bus(bus)
+    , m_name(name)
+    , m_backgroundName(backgroundNameFor(name))
+    , m_isInBackground(place == RecorderService::Place::Background)
+{
+}
+
+QStringList HandOver::rulesFor(const QString &name)
+{
+    return {ruleForOwnersOf(name), ruleForOwnersOf(backgroundNameFor(name))};
+}
+
+void HandOver::begin()
+{
+    m_bus.ask(busCall("GetNameOwner", {m_backgroundName}), QStringLiteral("s"),
+              [this](const QVariantList &reply) {
+                  if (!reply.isEmpty())
+                      setBackgroundOwner(reply.first().toString());
+              });
+}
+
+void HandOver::forgetAll()
+{
+    m_backgroundOwner.clear();
+    m_favoured.clear();
+}
+
+void HandOver::handleOwnerChange(const QDBusMessage &message)
+{
+    const auto change = ownerChangeIn(message);
+    if (!change)
+        return;
+    if (change->name == m_backgroundName)
+        setBackgroundOwner(change->owner);
+    // Where one in the background waits too, it is that one's turn.
+    else if (change->name == m_name && (m_isInBackground || m_backgroundOwner.isEmpty()))
+        m_recorder.tryNow();
+}
+
+void HandOver::setAbleToRecord(bool isAble)
+{
+    if (!m_isInBackground)
+        return;
+    const QDBusMessage call = isAble ? busCall("RequestName", {m_backgroundName, 0U})
+                                     : busCall("ReleaseName", {m_backgroundName});
+    m_bus.ask(call, QStringLiteral("u"), [](const QVariantList &) {});
+}
+
+void HandOver::setBackgroundOwner(const QString &owner)
+{
+    m_backgroundOwner = owner;
+    if (m_isInBackground)
+        return;
+    if (owner.isEmpty()) {
+        m_recorder.tryNow();
+    } else if (!m_favoured.contains(owner)) {
+        m_favoured.insert(owner);
+        m_recorder.makeWay();
+    }
+}
+
+} // namespace recorder
