@@ -29,5 +29,6 @@ doxygen docs/Doxyfile
 } | doxygen -
 
 cmake --preset style >/dev/null
+cmake --build $build --target recorder_bus_adaptor >/dev/null
 
 scripts/tidy.py $build src refhost history usage formats recorder modem apps examples

@@ -46,7 +46,7 @@ QString objectPathFor(const QString &name)
 
 QString sessionBusAddress()
 {
-    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (!address.isEmpty() || folder.isEmpty())
         return address;
