@@ -22,7 +22,9 @@ public:
 
     /// Whether connections are watched at all.
     bool isWatched() const { return m_isWatched || isFollowing(); }
-    /// Whether another program records them.
+    /// Whether this program records them.
+    bool isRecording() const { return m_isWatched; }
+    /// Whether another program does.
     bool isFollowing() const { return !m_isWatched && m_followed.isRecording; }
     /// Those that last, in the order in which they began.
     QList<recorder::ConnectionState> connections() const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
+#include "BackgroundUnit.h"
+#include "ClosingChoice.h"
 #include "HistoryArea.h"
 #include "LanguageChoice.h"
 #include "LineState.h"
@@ -8,11 +10,12 @@
 #include "ProblemLine.h"
 #include "SettingsDialog.h"
 #include "SortMenu.h"
+#include "recorder/bus/RecorderService.h"
 #include "refhost/libcore/Host.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QEvent>
+#include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -27,10 +30,21 @@ namespace
 // Wide enough for the six columns of the history beside a scroll bar.
 constexpr QSize defaultSize(780, 500);
 
+/// The service records into the user's own history only.
+BackgroundUnit *makeBackgroundUnit(const HistorySource &source, QObject *parent)
+{
+    using recorder::RecorderService;
+    const bool isOwn = !source.isSample &&
+                       RecorderService::nameFor(source.file) == RecorderService::interfaceName();
+    return isOwn ? new BackgroundUnit(QDBusConnection::sessionBus(), parent) : nullptr;
+}
+
 } // namespace
 
 MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state)
     : m_plugin(plugin)
+    , m_state(state)
+    , m_background(makeBackgroundUnit(source, this))
     , m_area(new HistoryArea(plugin, source.file))
 {
     auto *const content = new QWidget;
@@ -73,8 +87,41 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (!mayClose()) {
+        event->ignore();
+        return;
+    }
     m_plugin.end();
     QMainWindow::closeEvent(event);
+}
+
+/// False if the user wants it to stay open, or until a service records.
+bool MainWindow::mayClose()
+{
+    const bool isRecordingConnections = m_state.isRecording() && !m_state.connections().isEmpty();
+    if (!m_background || !isRecordingConnections || m_isClosingDecided || qApp->isSavingSession())
+        return true;
+    const ClosingChoice choice = chooseClosing(this);
+    if (choice == ClosingChoice::RecordInBackground)
+        closeIfInBackground();
+    return choice == ClosingChoice::StopRecording;
+}
+
+void MainWindow::closeIfInBackground()
+{
+    auto *const order = new QObject(this);
+    connect(m_background, &BackgroundUnit::done, order,
+            [this, order](BackgroundUnit::Outcome outcome, const QString &reason) {
+                order->deleteLater();
+                m_isClosingDecided = outcome == BackgroundUnit::Outcome::On;
+                if (m_isClosingDecided) {
+                    close();
+                    return;
+                }
+                forgetClosingChoice();
+                QMessageBox::warning(this, windowTitle(), BackgroundUnit::textFor(outcome, reason));
+            });
+    m_background->turnOn();
 }
 
 void MainWindow::createMenus()
@@ -144,7 +191,7 @@ void MainWindow::showFinishedConnection()
 
 void MainWindow::showSettings()
 {
-    SettingsDialog dialog(this);
+    SettingsDialog dialog(m_background, this);
     connect(&dialog, &SettingsDialog::languageChosen, this,
             [this](const QString &language) { m_plugin.changeLanguage(language); });
     dialog.exec();

@@ -11,6 +11,7 @@ class QMenu;
 namespace refdialer
 {
 
+class BackgroundUnit;
 class HistoryArea;
 class LineState;
 class PluginHandle;
@@ -38,12 +39,18 @@ protected:
 private:
     void createMenus();
     void retranslate();
+    bool mayClose();
+    void closeIfInBackground();
     void setHistoryVisible(bool isVisible);
     void showFinishedConnection();
     void showSettings();
     void showStatistics();
 
     PluginHandle &m_plugin;
+    const LineState &m_state;
+    /// A child; null where the service records into another history than the window's.
+    BackgroundUnit *const m_background;
+    bool m_isClosingDecided = false;
     HistoryArea *m_area;
     QMenu *m_fileMenu;
     QAction *m_settingsAction;

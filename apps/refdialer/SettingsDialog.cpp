@@ -16,9 +16,12 @@
 namespace refdialer
 {
 
-SettingsDialog::SettingsDialog(QWidget *parent)
+SettingsDialog::SettingsDialog(BackgroundUnit *background, QWidget *parent)
     : QDialog(parent)
+    , m_background(background)
     , m_summaryBox(new QCheckBox)
+    , m_backgroundBox(new QCheckBox)
+    , m_backgroundLabel(new QLabel)
     , m_languageLabel(new QLabel)
     , m_languageBox(new QComboBox)
     , m_problem(new QLabel)
@@ -28,16 +31,21 @@ SettingsDialog::SettingsDialog(QWidget *parent)
     m_summaryBox->setChecked(isSummaryWanted());
     addLanguages();
     m_languageLabel->setBuddy(m_languageBox);
-    m_problem->setTextFormat(Qt::PlainText);
-    m_problem->setWordWrap(true);
+    for (QLabel *const label : {m_backgroundLabel, m_problem}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
     m_problem->hide();
 
     auto *const layout = new QFormLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addRow(m_summaryBox);
+    layout->addRow(m_backgroundBox);
+    layout->addRow(m_backgroundLabel);
     layout->addRow(m_languageLabel, m_languageBox);
     layout->addRow(m_problem);
     layout->addRow(m_buttons);
+    offerBackground();
     retranslate();
 
     connect(m_summaryBox, &QCheckBox::toggled, this,
@@ -61,10 +69,50 @@ void SettingsDialog::addLanguages()
     m_languageBox->setCurrentIndex(m_languageBox->findData(refhost::language()));
 }
 
+void SettingsDialog::offerBackground()
+{
+    m_backgroundBox->setEnabled(m_background != nullptr);
+    if (!m_background)
+        return;
+    connect(m_background, &BackgroundUnit::found, m_backgroundBox, &QCheckBox::setChecked);
+    connect(m_background, &BackgroundUnit::done, this, &SettingsDialog::tellOutcome);
+    connect(m_backgroundBox, &QCheckBox::clicked, this, &SettingsDialog::chooseBackground);
+    m_background->look();
+}
+
+void SettingsDialog::chooseBackground(bool isWanted)
+{
+    m_backgroundBox->setEnabled(false);
+    if (isWanted)
+        m_background->turnOn();
+    else
+        m_background->turnOff();
+}
+
+/// The box shows what is so, not what was wanted.
+void SettingsDialog::tellOutcome(BackgroundUnit::Outcome outcome, const QString &reason)
+{
+    m_answer = Answer{outcome, reason};
+    m_backgroundBox->setEnabled(true);
+    m_background->look();
+    retranslate();
+}
+
+QString SettingsDialog::backgroundText() const
+{
+    if (!m_background)
+        return tr("The service records into your own history, not into the one that this window "
+                  "shows.");
+    return m_answer ? BackgroundUnit::textFor(m_answer->outcome, m_answer->reason) : QString();
+}
+
 void SettingsDialog::retranslate()
 {
     setWindowTitle(tr("Settings"));
     m_summaryBox->setText(tr("&Show a summary after each connection"));
+    m_backgroundBox->setText(tr("&Record in the background, also when this window is closed"));
+    m_backgroundLabel->setText(backgroundText());
+    m_backgroundLabel->setVisible(!m_backgroundLabel->text().isEmpty());
     m_languageLabel->setText(tr("&Language:"));
     m_closeButton->setText(tr("&Close"));
 }

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "BackgroundUnit.h"
+
 #include <QDialog>
+
+#include <optional>
 
 class QCheckBox;
 class QComboBox;
@@ -18,7 +22,8 @@ class SettingsDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit SettingsDialog(QWidget *parent = nullptr);
+    /// `background` may be null; that one cannot be chosen then. It must live longer.
+    explicit SettingsDialog(BackgroundUnit *background, QWidget *parent = nullptr);
 
 signals:
     void languageChosen(const QString &language);
@@ -28,11 +33,25 @@ protected:
 
 private:
     void addLanguages();
+    void offerBackground();
+    void chooseBackground(bool isWanted);
+    void tellOutcome(BackgroundUnit::Outcome outcome, const QString &reason);
+    QString backgroundText() const;
     void retranslate();
     void chooseLanguage(int index);
     void tellUnlessStored(bool isStored);
 
+    /// What became of the last choice.
+    struct Answer {
+        BackgroundUnit::Outcome outcome;
+        QString reason;
+    };
+
+    BackgroundUnit *const m_background;
+    std::optional<Answer> m_answer;
     QCheckBox *m_summaryBox;
+    QCheckBox *m_backgroundBox;
+    QLabel *m_backgroundLabel; ///< shown only when there is something to say
     QLabel *m_languageLabel;
     QComboBox *m_languageBox;
     QLabel *m_problem; ///< shown only when a setting cannot be stored

@@ -397,6 +397,60 @@
     </message>
 </context>
 <context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>Verbindungen werden von nun an im Hintergrund aufgezeichnet: Der Dienst connrecord.service ist eingerichtet und läuft.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>Verbindungen werden nur aufgezeichnet, solange dieses Fenster offen ist: Der Dienst connrecord.service ist ausgeschaltet und beendet.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>Ihre Sitzung hat kein systemd, das den Dienst starten könnte. Lassen Sie stattdessen Ihre Sitzung „connrecord record“ starten.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>Der Dienst connrecord.service ist nicht installiert. Installieren Sie das Paket connrecord, das ihn mitbringt.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>Der Dienst connrecord.service ist eingerichtet, ist aber nicht angelaufen. „systemctl --user status connrecord“ sagt, warum.</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>systemd hat abgelehnt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>Eine Verbindung besteht, und dieses Fenster zeichnet sie auf.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>&amp;Nicht mehr fragen</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>Im &amp;Hintergrund aufzeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>Aufzeichnung &amp;beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>Ein Dienst kann ohne das Fenster weiter aufzeichnen, jetzt und immer, wenn Sie angemeldet sind.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::SettingsDialog</name>
     <message>
         <source>Settings</source>
@@ -417,6 +471,14 @@
     <message>
         <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
         <translation>Das gilt nur, bis sich das Fenster schließt: Die Einstellungen lassen sich nicht in %1 schreiben. Schaffen Sie dort Platz, oder erlauben Sie sich das Schreiben.</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background, also when this window is closed</source>
+        <translation>Im &amp;Hintergrund aufzeichnen, auch wenn dieses Fenster geschlossen ist</translation>
+    </message>
+    <message>
+        <source>The service records into your own history, not into the one that this window shows.</source>
+        <translation>Der Dienst zeichnet in Ihren eigenen Verlauf auf, nicht in den, den dieses Fenster zeigt.</translation>
     </message>
 </context>
 <context>
