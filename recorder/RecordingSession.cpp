@@ -140,19 +140,31 @@ modem::Subscriber RecordingSession::ownerOf(const std::string &interfaceName) co
     return port ? port->subscriber : modem::Subscriber();
 }
 
-/// What has been moved before roaming begins or ends belongs to what was before.
+/// What has been moved before roaming begins or ends belongs to what was before, and an
+/// older answer of the kernel's that still waits may not pass for the last one before an end.
 void RecordingSession::countUntilNow(const std::string &interfaceName)
 {
-    const modem::Roaming roaming = ownerOf(interfaceName).roaming;
-    const bool willRoam = roaming == modem::Roaming::Roaming;
     for (const auto &[index, connection] : m_live) {
-        if (connection.row().interfaceName == interfaceName && connection.isRoaming() != willRoam &&
-            roaming != modem::Roaming::Unknown) {
+        if (connection.row().interfaceName == interfaceName && isChangedByPort(connection)) {
             m_surroundings.links.requestCounters(index);
+            m_countedLink = index;
             m_surroundings.links.deliverPending();
+            m_countedLink.reset();
             return;
         }
     }
+}
+
+bool RecordingSession::isChangedByPort(const LiveConnection &connection) const
+{
+    const auto port =
+        m_surroundings.ports.port(QString::fromStdString(connection.row().interfaceName));
+    if (!port || connection.hasEnded())
+        return false;
+    const modem::Roaming roaming = port->subscriber.roaming;
+    const bool willRoam = roaming == modem::Roaming::Roaming;
+    return !port->isConnected ||
+           (roaming != modem::Roaming::Unknown && connection.isRoaming() != willRoam);
 }
 
 /// One that is watched as a port alone was not among those that were there at first.
@@ -166,8 +178,10 @@ void RecordingSession::handleLiveChange(LiveConnection &connection, const LinkCh
 {
     const bool isStillConnected = !change.isGone && isConnected(change.link);
     connection.setLink(change.link);
-    if (!isStillConnected)
+    if (!isStillConnected) {
         connection.end(now());
+        noteRelease(change);
+    }
     if (change.hasFreshCounters)
         connection.advance(change.link.counters, now());
     if (!connection.hasEnded())
@@ -177,9 +191,15 @@ void RecordingSession::handleLiveChange(LiveConnection &connection, const LinkCh
     finish(connection, change.hasFreshCounters);
     // What came back before the final counters of the former connection did
     // begins where those end.
+    noteRelease(change);
     if (isStillConnected && isWatched(change.link))
-        begin(change.link, change.link.counters);
-    else if (!change.isGone && change.link.isConnected())
+        beginWhereNothingCounts(change.link);
+}
+
+/// A link that stays connected without a bearer.
+void RecordingSession::noteRelease(const LinkChange &change)
+{
+    if (!change.isGone && change.link.isConnected())
         m_released[change.link.index] = change.link.counters;
 }
 
@@ -201,13 +221,14 @@ bool RecordingSession::isWatched(const Link &link) const
 }
 
 /// A link stays up and keeps its address when the bearer stops using it, so the modem has
-/// a say, as long as somebody knows what it says.
+/// a say. Where nobody knows what it says, as while another SIM is put in, its last word holds.
 bool RecordingSession::isConnected(const Link &link) const
 {
     const auto port = m_surroundings.ports.port(QString::fromStdString(link.name));
-    const bool isUnused = m_surroundings.ports.isAvailable() ? port && !port->isConnected
-                                                             : m_released.count(link.index) != 0;
-    return link.isConnected() && !isUnused;
+    const bool isUnused = port && m_surroundings.ports.isAvailable()
+                              ? !port->isConnected
+                              : m_released.count(link.index) != 0;
+    return link.isConnected() && (!isUnused || link.index == m_countedLink);
 }
 
 /// Told once for each time that stands in for those that cannot be held.

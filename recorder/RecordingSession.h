@@ -79,6 +79,7 @@ public:
 private:
     void handleLiveChange(LiveConnection &connection, const LinkChange &change);
     void checkClock();
+    void noteRelease(const LinkChange &change);
     void beginWhereNothingCounts(const Link &link);
     void begin(const Link &link, const LinkCounters &base);
     void finish(LiveConnection &connection, bool hasFinalCounters);
@@ -88,6 +89,7 @@ private:
     bool isWatched(const Link &link) const;
     bool isConnected(const Link &link) const;
     void countUntilNow(const std::string &interfaceName);
+    bool isChangedByPort(const LiveConnection &connection) const;
     void setOwner(LiveConnection &connection);
     modem::Subscriber ownerOf(const std::string &interfaceName) const;
     void noteSightOfPort(const Link &link);
@@ -114,7 +116,8 @@ private:
     /// What links showed when their bearers stopped using them, by index, for as long as
     /// the kernel takes them for connected.
     std::map<int, LinkCounters> m_released;
-    std::set<int> m_sightedPorts; ///< indexes of links that are watched as modems' ports
+    std::optional<int> m_countedLink; ///< while what is heard of it came before its port's news
+    std::set<int> m_sightedPorts;     ///< indexes of links that are watched as modems' ports
     std::vector<Link> m_linksAtStart;
     std::vector<history::SeenLink> m_keptIdle; ///< what the store knows of links without one
     std::optional<std::int64_t> m_standIn;     ///< for what the clock shows

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Runs a command where a made-up USB modem is plugged in: in namespaces of its own with
-# a network interface wwan0 (its far end is wwanpeer), and a serial line ttyACM0 for
+# a network interface wwan0 (its far end is far0), and a serial line ttyACM0 for
 # whoever makes /dev/ttyACM0. Everything ends with the command.
 #     with-modem-network.sh COMMAND ARGUMENT...
 # The command finds "ready" in MODEM_NETWORK, or why there is no such place for it.
@@ -37,8 +37,8 @@ show_network_interface() {
 make_network() {
     echo 1 >/proc/sys/net/ipv6/conf/default/disable_ipv6 # whose greetings nobody asked for
     ip link set lo up
-    ip link add wwan0 type veth peer name wwanpeer
-    ip link set wwanpeer up
+    ip link add wwan0 type veth peer name far0
+    ip link set far0 up
 }
 
 # Terminals of our own, so that one may be called ttyACM0.
@@ -76,7 +76,7 @@ make_modem() {
     mkdir -p "$usb/class/net" # where the link "subsystem" of wwan0 leads from there
     show_network_interface wwan0 "$device/1-1:1.2/net/wwan0"
     show_network_interface lo /sys/devices/virtual/net/lo
-    show_network_interface wwanpeer /sys/devices/virtual/net/wwanpeer
+    show_network_interface far0 /sys/devices/virtual/net/far0
 }
 
 run_without() {

@@ -40,6 +40,12 @@ public:
         for (const auto &port : former)
             emit changed(port.first);
     }
+    /// The modem is gone.
+    void forget(const QString &interfaceName)
+    {
+        m_ports.erase(interfaceName);
+        emit changed(interfaceName);
+    }
     void tell(const QString &interfaceName, bool isConnected, const modem::Subscriber &subscriber)
     {
         m_ports[interfaceName] = {interfaceName, isConnected, subscriber};

@@ -5,17 +5,31 @@
 
 #include <QTest>
 
+namespace
+{
+
+const QString addresses = QStringLiteral("addr replace 10.0.0.1/24 dev wwan0\n"
+                                         "addr replace 10.0.1.1/24 dev far0\n"
+                                         "link set far0 up\n");
+
+} // namespace
+
 VethPair::VethPair()
-    : m_isMade(ipBatch(QStringLiteral("link add wwan0 type veth peer name far0\n"
-                                      "addr add 10.0.0.1/24 dev wwan0\n"
-                                      "addr add 10.0.1.1/24 dev far0\n"
-                                      "link set far0 up\n")))
+    : m_isOwn(true)
+    , m_isMade(ipBatch("link add wwan0 type veth peer name far0\n" + addresses))
+{
+}
+
+VethPair::VethPair(IsThere)
+    : m_isOwn(false)
+    , m_isMade(ipBatch(addresses))
 {
 }
 
 VethPair::~VethPair()
 {
-    ip(QStringLiteral("link del far0"));
+    if (m_isOwn)
+        ip(QStringLiteral("link del far0"));
 }
 
 bool VethPair::goUp() const

@@ -10,6 +10,10 @@ class VethPair
 {
 public:
     VethPair();
+    /// The pair of these names that the network has had from the beginning, and keeps.
+    struct IsThere {
+    };
+    explicit VethPair(IsThere);
     ~VethPair();
     VethPair(const VethPair &) = delete;
     VethPair &operator=(const VethPair &) = delete;
@@ -27,5 +31,6 @@ public:
     static qint64 bytesOf(int count, int size);
 
 private:
+    const bool m_isOwn;
     bool m_isMade;
 };

@@ -27,10 +27,12 @@ private slots:
     void anInterfaceWithoutAModemKeepsItsName();
     void recordsAPortWhateverItIsCalled();
     void endsWhenTheBearerStopsUsingThePort();
+    void takesNoOlderCountersForTheLast();
     void countsEveryByteOnceOverBearersOfOneLink();
     void waitsForTheBearer();
     void lastsWhenTheDaemonEnds();
     void staysEndedWhenTheDaemonEnds();
+    void staysEndedWhenTheModemIsGone();
     void tellsWhatAPortMovedUnwatched();
     void keepsWhoseAConnectionIs();
     void keepsWhoseAnUnwrittenConnectionIs();
@@ -106,7 +108,7 @@ void RecordedPortsTest::endsWhenTheBearerStopsUsingThePort()
     m_links->requests.clear();
     m_clock->pass(7000);
     m_ports->tell("usb0", false);
-    QCOMPARE(m_links->requests, std::vector<int>{3});
+    QCOMPARE(m_links->requests, (std::vector<int>{3, 3}));
     m_clock->pass(2000);
     m_links->tell(runningLink(3, "usb0", 150, 260));
     QCOMPARE(recordsIn(m_path), QStringList("usb0 up 50 down 60 normal"));
@@ -117,6 +119,20 @@ void RecordedPortsTest::endsWhenTheBearerStopsUsingThePort()
 }
 
 /// The link itself stays as it is all the time.
+void RecordedPortsTest::takesNoOlderCountersForTheLast()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("usb0", true, "internet.example");
+    connectLink(3, "usb0", 100, 200);
+    m_links->toCome = {runningLink(3, "usb0", 120, 230)};
+    m_ports->tell("usb0", false);
+    m_links->deliverPending();
+    QVERIFY(recordsIn(m_path).isEmpty());
+    m_links->tell(runningLink(3, "usb0", 150, 260));
+    QCOMPARE(recordsIn(m_path), QStringList("usb0 up 50 down 60 normal"));
+}
+
 void RecordedPortsTest::countsEveryByteOnceOverBearersOfOneLink()
 {
     QVERIFY(start());
@@ -173,6 +189,21 @@ void RecordedPortsTest::staysEndedWhenTheDaemonEnds()
     QVERIFY(openRowsIn(m_path).empty());
     m_links->tell(downLink(3, "wwan0", 150, 260));
     m_links->tell(runningLink(3, "wwan0", 150, 260));
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+}
+
+void RecordedPortsTest::staysEndedWhenTheModemIsGone()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, "internet.example");
+    connectLink(3, "wwan0", 100, 200);
+    m_ports->tell("wwan0", false);
+    m_links->tell(runningLink(3, "wwan0", 150, 260));
+    m_ports->forget("wwan0");
+    m_links->tell(runningLink(3, "wwan0", 150, 260));
+    QVERIFY(openRowsIn(m_path).empty());
+    m_ports->tell("wwan0", true, "internet.example");
     QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
 }
 
