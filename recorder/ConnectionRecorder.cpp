@@ -207,6 +207,7 @@ SessionListener ConnectionRecorder::listener()
     listener.stateChanged = [this](const ConnectionState &state) {
         later(this, [this, state] { emit stateChanged(state); });
     };
+    listener.saved = [this] { later(this, [this] { emit checkpointWritten(); }); };
     listener.failed = [this](const Problem &problem) { fail(problem); };
     listener.succeeded = [this] { later(this, [this] { emit succeeded(); }); };
     return listener;

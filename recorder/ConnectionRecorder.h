@@ -115,6 +115,8 @@ signals:
     void disconnected(const history::Connection &connection, qint64 id);
     /// With each tick for each connection that lasts.
     void stateChanged(const recorder::ConnectionState &state);
+    /// The store has learned something of a connection that lasts, mostly what it has moved.
+    void checkpointWritten();
     /// What could not be written is kept and tried again; each problem is told once.
     void failed(const recorder::Problem &problem);
     /// What could not be written is in the store now, or it records what it could not

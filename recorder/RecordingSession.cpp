@@ -257,7 +257,7 @@ void RecordingSession::begin(const Link &link, const LinkCounters &base)
     // What an earlier process has recorded may bear another profile.
     if (const auto profile = knownProfileFor(link.name))
         connection.setProfile(*profile);
-    m_book.save(connection);
+    save(connection);
     m_listener.connected(stateOf(connection));
 }
 
@@ -269,10 +269,16 @@ void RecordingSession::finish(LiveConnection &connection, bool hasFinalCounters)
     m_live.erase(connection.linkIndex());
 }
 
+void RecordingSession::save(LiveConnection &connection)
+{
+    if (m_book.save(connection))
+        m_listener.saved();
+}
+
 void RecordingSession::report(LiveConnection &connection)
 {
     if (connection.isCheckpointDue && connection.isUnsaved())
-        m_book.save(connection);
+        save(connection);
     connection.isCheckpointDue = false;
     if (connection.isStateDue)
         m_listener.stateChanged(stateOf(connection));

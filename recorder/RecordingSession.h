@@ -32,6 +32,7 @@ struct SessionListener {
     /// The same of one that an earlier process had left open.
     std::function<void(const history::Connection &)> recovered;
     std::function<void(const ConnectionState &)> stateChanged;
+    std::function<void()> saved; ///< a connection that lasts, as it is now
     std::function<void(const Problem &)> failed;
     std::function<void()> succeeded;
 };
@@ -84,6 +85,7 @@ private:
     void begin(const Link &link, const LinkCounters &base);
     void finish(LiveConnection &connection, bool hasFinalCounters);
     void finishWhatHasEnded();
+    void save(LiveConnection &connection);
     void report(LiveConnection &connection);
     void requestCounters();
     bool isWatched(const Link &link) const;

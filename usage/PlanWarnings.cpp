@@ -1,20 +1,56 @@
 // SPDX-License-Identifier: MIT
 #include "PlanWarnings.h"
 
+#include "PlanUse.h"
+
 namespace usage
 {
 
-history::Result<std::vector<int>> takeWarnings(history::Store &store, const history::DataPlan &plan,
-                                               const PlanStatus &status)
+using history::Result;
+using history::Store;
+
+namespace
 {
-    const history::JulianDay first = status.period.first.toJulianDay();
-    const auto given = store.warningsGiven(plan.key, first);
+
+history::JulianDay periodOf(const ReachedPlan &reached)
+{
+    return reached.status.period.first.toJulianDay();
+}
+
+} // namespace
+
+Result<std::vector<ReachedPlan>> reachedPlans(const Store &store, std::int64_t utc)
+{
+    const auto plans = store.plans();
+    if (!plans)
+        return plans.error();
+    std::vector<ReachedPlan> reached;
+    for (const history::DataPlan &plan : plans.value()) {
+        if (!plan.amount || plan.warnAtPercent.empty())
+            continue;
+        const auto status = currentStatus(store, plan, utc);
+        if (!status)
+            return status.error();
+        if (status.value() && !status.value()->warnings.empty())
+            reached.push_back({plan, *status.value()});
+    }
+    return reached;
+}
+
+Result<std::vector<int>> pendingWarnings(const Store &store, const ReachedPlan &reached)
+{
+    const auto given = store.warningsGiven(reached.plan.key, periodOf(reached));
     if (!given)
         return given.error();
-    const std::vector<int> due = dueWarnings(status, given.value());
-    if (due.empty())
+    return dueWarnings(reached.status, given.value());
+}
+
+Result<std::vector<int>> takeWarnings(Store &store, const ReachedPlan &reached)
+{
+    auto due = pendingWarnings(store, reached);
+    if (!due || due.value().empty())
         return due;
-    return store.noteWarnings(plan.key, first, due);
+    return store.noteWarnings(reached.plan.key, periodOf(reached), due.value());
 }
 
 } // namespace usage

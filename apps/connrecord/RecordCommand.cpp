@@ -6,6 +6,7 @@
 #include "ServiceNotice.h"
 #include "StoreResult.h"
 #include "UnusedMemory.h"
+#include "apps/common/PlanWarner.h"
 #include "apps/common/ProblemText.h"
 #include "apps/common/QuitOnSignal.h"
 #include "formats/Utf8Text.h"
@@ -150,6 +151,14 @@ void Reporter::showStatus() const
         tellStatus("Recording; connections that last: " + std::to_string(m_lasting) + '.');
 }
 
+void tellWarnings(const ::common::PlanWarner &warner)
+{
+    using ::common::PlanWarner;
+    const auto tell = [](const QString &sentence) { warn(sentence.toStdString()); };
+    QObject::connect(&warner, &PlanWarner::warned, tell);
+    QObject::connect(&warner, &PlanWarner::failed, tell);
+}
+
 /// Keeps in memory only what is used all the time, and not what the start takes, or a
 /// connection that begins or ends.
 class MemorySaver
@@ -200,6 +209,8 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
         recorder, storePath, RecorderService::Place::Background,
         [](const Problem &problem) { return QString::fromStdString(textOf(problem)); });
     service.start();
+    const ::common::PlanWarner planWarner(recorder, storePath);
+    tellWarnings(planWarner);
     tellReady();
     const MemorySaver memorySaver(recorder);
     QCoreApplication::exec();

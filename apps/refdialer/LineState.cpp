@@ -76,4 +76,10 @@ void LineState::endFollowed()
         emit disconnected();
 }
 
+void LineState::setPlanWarning(const QString &lines)
+{
+    m_planWarning = lines;
+    emit changed();
+}
+
 } // namespace refdialer

@@ -17,12 +17,14 @@ ProblemLine::ProblemLine(const LineState &state, QWidget *parent)
     setContentsMargins(margin, 0, margin, margin);
     // A long path in it must not keep the window from becoming narrower.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
-    const auto showProblem = [this, &state] {
-        setText(state.problem());
-        setVisible(!state.problem().isEmpty());
+    const auto show = [this, &state] {
+        QStringList lines{state.problem(), state.planWarning()};
+        lines.removeAll(QString());
+        setText(lines.join(QLatin1Char('\n')));
+        setVisible(!lines.isEmpty());
     };
-    connect(&state, &LineState::changed, this, showProblem);
-    showProblem();
+    connect(&state, &LineState::changed, this, show);
+    show();
 }
 
 } // namespace refdialer

@@ -2,6 +2,7 @@
 #include "Recording.h"
 
 #include "LineState.h"
+#include "apps/common/PlanWarner.h"
 #include "apps/common/ProblemText.h"
 #include "recorder/ConnectionRecorder.h"
 #include "recorder/bus/RecorderClient.h"
@@ -72,13 +73,27 @@ bool Recording::startOnItsThread()
     QObject::connect(m_client.get(), &RecorderClient::ended, &m_state, &LineState::endFollowed);
     m_service->start();
     m_client->start();
+    warnOfPlans();
     return hasStarted;
+}
+
+void Recording::warnOfPlans()
+{
+    m_planWarner = std::make_unique<common::PlanWarner>(*m_recorder, m_storePath);
+    QObject::connect(m_planWarner.get(), &common::PlanWarner::reachedPlansChanged, &m_state,
+                     &LineState::setPlanWarning);
+    QObject::connect(m_planWarner.get(), &common::PlanWarner::failed, &m_state,
+                     [](const QString &reason) { qWarning("%s", qUtf8Printable(reason)); });
+    // The other program warns; the window shows it too.
+    QObject::connect(m_client.get(), &RecorderClient::changed, m_planWarner.get(),
+                     &common::PlanWarner::requestCheck);
 }
 
 /// Who misses this recorder on the bus finds everything in the store.
 std::optional<recorder::Problem> Recording::endOnItsThread()
 {
     const std::optional<recorder::Problem> loss = m_recorder->end();
+    m_planWarner.reset();
     m_client.reset();
     m_service.reset();
     return loss;

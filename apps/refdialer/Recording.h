@@ -7,6 +7,10 @@
 #include <memory>
 #include <optional>
 
+namespace common
+{
+class PlanWarner;
+}
 namespace recorder
 {
 class ConnectionRecorder;
@@ -42,6 +46,7 @@ public:
 
 private:
     bool startOnItsThread();
+    void warnOfPlans();
     std::optional<recorder::Problem> endOnItsThread();
 
     const QString m_storePath;
@@ -49,6 +54,7 @@ private:
     recorder::ConnectionRecorder *m_recorder;             ///< deleted on its thread, when that ends
     std::unique_ptr<recorder::RecorderService> m_service; ///< on the same thread
     std::unique_ptr<recorder::RecorderClient> m_client;   ///< too
+    std::unique_ptr<common::PlanWarner> m_planWarner;     ///< too
     QThread m_thread;
 };
 

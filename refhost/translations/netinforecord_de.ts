@@ -153,10 +153,142 @@
     </message>
 </context>
 <context>
+    <name>common::ProblemText</name>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>Eine Netzwerkschnittstelle „%1“ kann es nicht geben: Ein Name hat höchstens 15 Bytes, ein Alternativname 127, und weder „/“ noch Leerraum.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>Die Uhr des Systems zeigt eine Zeit, die der Verlauf nicht fassen kann. Verbindungen bekommen stattdessen %1 UTC; stellen Sie die Uhr.</translation>
+    </message>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>&quot;/proc/sys/kernel/random/boot_id&quot; lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>Ein anderes Programm zeichnet die Verbindungen schon auf. Sie erscheinen hier, wenn sie beendet sind.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>Ein anderes %1 zeichnet die Verbindungen schon auf (Prozess %2). Sie erscheinen hier, wenn sie beendet sind.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 lässt sich nicht schreiben (%2). Erlauben Sie sich dort das Schreiben.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 steht der Sperre im Weg (%2). Verschieben Sie es an einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>ein harter Verweis auf eine andere Datei</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>die Datei gehört jemand anderem</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>sie ist beschädigt oder stammt von einem anderen Programm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>„%1“ lässt sich nicht schreiben (%2), daher gehen Verbindungen verloren, die der Verlauf nicht aufnehmen konnte. Erlauben Sie sich, dort zu schreiben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>„%1“ enthält vielleicht Verbindungen, die im Verlauf fehlen, lässt sich aber nicht lesen (%2). Die Datei blieb, wie sie ist; verschieben Sie sie.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>„%1“ und „%2“ sind im Weg, daher gehen Verbindungen verloren, die der Verlauf nicht aufnehmen konnte. Verschieben Sie beide.</translation>
+    </message>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>Die Netzschnittstellen lassen sich nicht beobachten (%1), daher werden keine Verbindungen aufgezeichnet. Das wird alle zwei Sekunden von neuem versucht.</translation>
+    </message>
+</context>
+<context>
+    <name>common::WarningText</name>
+    <message>
+        <source>%1 % of the data plan &quot;%2&quot; used</source>
+        <translation>%1 % des Datentarifs „%2“ verbraucht</translation>
+    </message>
+    <message>
+        <source>%1 of %2; the period lasts until %3.</source>
+        <translation>%1 von %2; der Zeitraum läuft bis %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 left until %4.</source>
+        <translation>%1 von %2, %3 übrig bis %4.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
         <translation>Die Erweiterung %1 konnte nicht starten. „refdialer --debug“ zeigt, wie weit sie kam.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>Verbindungen werden von nun an im Hintergrund aufgezeichnet: Der Dienst connrecord.service ist eingerichtet und läuft.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>Verbindungen werden nur aufgezeichnet, solange dieses Fenster offen ist: Der Dienst connrecord.service ist ausgeschaltet und beendet.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>Ihre Sitzung hat kein systemd, das den Dienst starten könnte. Lassen Sie stattdessen Ihre Sitzung „connrecord record“ starten.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>Der Dienst connrecord.service ist nicht installiert. Installieren Sie das Paket connrecord, das ihn mitbringt.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>Der Dienst connrecord.service ist eingerichtet, ist aber nicht angelaufen. „systemctl --user status connrecord“ sagt, warum.</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>systemd hat abgelehnt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>Eine Verbindung besteht, und dieses Fenster zeichnet sie auf.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>&amp;Nicht mehr fragen</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>Im &amp;Hintergrund aufzeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>Aufzeichnung &amp;beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>Ein Dienst kann ohne das Fenster weiter aufzeichnen, jetzt und immer, wenn Sie angemeldet sind.</translation>
     </message>
 </context>
 <context>
@@ -331,123 +463,6 @@
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
         <translation>Der Einwahldienst %1 lässt sich nicht laden: %2. Installieren Sie refdialer neu, oder lassen Sie den Dienst mit --no-dialup-service weg.</translation>
-    </message>
-</context>
-<context>
-    <name>common::ProblemText</name>
-    <message>
-        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
-        <translation>Eine Netzwerkschnittstelle „%1“ kann es nicht geben: Ein Name hat höchstens 15 Bytes, ein Alternativname 127, und weder „/“ noch Leerraum.</translation>
-    </message>
-    <message>
-        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
-        <translation>Die Uhr des Systems zeigt eine Zeit, die der Verlauf nicht fassen kann. Verbindungen bekommen stattdessen %1 UTC; stellen Sie die Uhr.</translation>
-    </message>
-    <message>
-        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
-        <translation>&quot;/proc/sys/kernel/random/boot_id&quot; lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein.</translation>
-    </message>
-    <message>
-        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
-        <translation>Ein anderes Programm zeichnet die Verbindungen schon auf. Sie erscheinen hier, wenn sie beendet sind.</translation>
-    </message>
-    <message>
-        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
-        <translation>Ein anderes %1 zeichnet die Verbindungen schon auf (Prozess %2). Sie erscheinen hier, wenn sie beendet sind.</translation>
-    </message>
-    <message>
-        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
-        <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 lässt sich nicht schreiben (%2). Erlauben Sie sich dort das Schreiben.</translation>
-    </message>
-    <message>
-        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
-        <translation>Es werden keine Verbindungen aufgezeichnet, denn %1 steht der Sperre im Weg (%2). Verschieben Sie es an einen anderen Ort.</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>keine gewöhnliche Datei</translation>
-    </message>
-    <message>
-        <source>it is a hard link to another file</source>
-        <translation>ein harter Verweis auf eine andere Datei</translation>
-    </message>
-    <message>
-        <source>it belongs to another user</source>
-        <translation>die Datei gehört jemand anderem</translation>
-    </message>
-    <message>
-        <source>it is damaged or of another program</source>
-        <translation>sie ist beschädigt oder stammt von einem anderen Programm</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
-        <translation>„%1“ lässt sich nicht schreiben (%2), daher gehen Verbindungen verloren, die der Verlauf nicht aufnehmen konnte. Erlauben Sie sich, dort zu schreiben.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
-        <translation>„%1“ enthält vielleicht Verbindungen, die im Verlauf fehlen, lässt sich aber nicht lesen (%2). Die Datei blieb, wie sie ist; verschieben Sie sie.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
-        <translation>„%1“ und „%2“ sind im Weg, daher gehen Verbindungen verloren, die der Verlauf nicht aufnehmen konnte. Verschieben Sie beide.</translation>
-    </message>
-    <message>
-        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
-        <translation>Die Netzschnittstellen lassen sich nicht beobachten (%1), daher werden keine Verbindungen aufgezeichnet. Das wird alle zwei Sekunden von neuem versucht.</translation>
-    </message>
-</context>
-<context>
-    <name>refdialer::BackgroundUnit</name>
-    <message>
-        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
-        <translation>Verbindungen werden von nun an im Hintergrund aufgezeichnet: Der Dienst connrecord.service ist eingerichtet und läuft.</translation>
-    </message>
-    <message>
-        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
-        <translation>Verbindungen werden nur aufgezeichnet, solange dieses Fenster offen ist: Der Dienst connrecord.service ist ausgeschaltet und beendet.</translation>
-    </message>
-    <message>
-        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
-        <translation>Ihre Sitzung hat kein systemd, das den Dienst starten könnte. Lassen Sie stattdessen Ihre Sitzung „connrecord record“ starten.</translation>
-    </message>
-    <message>
-        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
-        <translation>Der Dienst connrecord.service ist nicht installiert. Installieren Sie das Paket connrecord, das ihn mitbringt.</translation>
-    </message>
-    <message>
-        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
-        <translation>Der Dienst connrecord.service ist eingerichtet, ist aber nicht angelaufen. „systemctl --user status connrecord“ sagt, warum.</translation>
-    </message>
-    <message>
-        <source>systemd has refused: %1</source>
-        <translation>systemd hat abgelehnt: %1</translation>
-    </message>
-</context>
-<context>
-    <name>refdialer::ClosingQuestion</name>
-    <message>
-        <source>A connection lasts, and this window records it.</source>
-        <translation>Eine Verbindung besteht, und dieses Fenster zeichnet sie auf.</translation>
-    </message>
-    <message>
-        <source>&amp;Do not ask again</source>
-        <translation>&amp;Nicht mehr fragen</translation>
-    </message>
-    <message>
-        <source>Record in the &amp;background</source>
-        <translation>Im &amp;Hintergrund aufzeichnen</translation>
-    </message>
-    <message>
-        <source>&amp;Stop recording</source>
-        <translation>Aufzeichnung &amp;beenden</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
-        <translation>Ein Dienst kann ohne das Fenster weiter aufzeichnen, jetzt und immer, wenn Sie angemeldet sind.</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,7 @@ Percentages PlanWarningsTest::taken(Store &store, std::int64_t used, const QDate
 {
     const std::int64_t noon = QDateTime(day, QTime(12, 0)).toSecsSinceEpoch();
     const auto period = periodAt(m_plan.period, noon);
-    const auto taken = takeWarnings(store, m_plan, statusOf(m_plan, *period, used, noon));
+    const auto taken = takeWarnings(store, {m_plan, statusOf(m_plan, *period, used, noon)});
     return taken ? taken.value() : Percentages{-1};
 }
 

@@ -2,6 +2,7 @@
 #include "BusClient.h"
 #include "HistoryWindow.h"
 #include "NetworkNamespace.h"
+#include "NotificationDaemon.h"
 #include "PrivateBus.h"
 #include "ShownText.h"
 #include "TunDevice.h"
@@ -47,6 +48,7 @@ private slots:
     void recordsANamedInterface();
     void saysWhyItCannotRecord();
     void tellsOnTheSessionBusWhatItRecords();
+    void warnsOfADataPlan();
 
 private:
     bool start(const QStringList &interfaceNames = {});
@@ -218,6 +220,32 @@ void TestLiveRecording::tellsOnTheSessionBusWhatItRecords()
     QCOMPARE(client.connections().value(0).value("Interface").toString(), QString("wwan0"));
     m_recording.reset();
     QTRY_VERIFY(!client.isServiceThere());
+}
+
+void TestLiveRecording::warnsOfADataPlan()
+{
+    const QTemporaryDir folder;
+    PrivateBus bus(folder.path());
+    QVERIFY(bus.start());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
+    const auto restore = qScopeGuard([] { qunsetenv("DBUS_SESSION_BUS_ADDRESS"); });
+    NotificationDaemon desktop(bus.address());
+    QVERIFY(desktop.takeName());
+    history::DataPlan plan;
+    plan.name = "home";
+    plan.amount = VethPair::bytesOf(10, 1000);
+    auto store = history::Store::openOrCreate(m_history->storePath());
+    QVERIFY(store && store.value().setPlan(plan));
+    const VethPair pair;
+    QVERIFY(pair.goUp());
+    QVERIFY(start());
+    QTRY_VERIFY2(line().startsWith("wwan0 | connected since "), qPrintable(line()));
+    QVERIFY(pair.upload(9, 1000));
+    const QString title = "80 % of the data plan \"home\" used";
+    constexpr int checkpointTimeout = 30000;
+    QTRY_COMPARE_WITH_TIMEOUT(desktop.titles(), QStringList(title), checkpointTimeout);
+    // The line below the history shows this.
+    QTRY_VERIFY(m_history->state().planWarning().startsWith(title + ": "));
 }
 
 // The network has to be entered before there is a second thread.

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "NotificationService.h"
+
+#include "modem/BusConnection.h"
+#include "modem/Names.h"
+#include "recorder/bus/OwnerChange.h"
+
+#include <QCoreApplication>
+#include <QDBusMessage>
+
+#include <chrono>
+#include <utility>
+#include <vector>
+
+namespace common
+{
+
+using modem::busCall;
+using modem::BusConnection;
+namespace names = modem::names;
+
+namespace
+{
+
+constexpr QLatin1String serviceName = modem::latin1("org.freedesktop.Notifications");
+constexpr QLatin1String objectPath = modem::latin1("/org/freedesktop/Notifications");
+
+/// A service that cannot be started yet is not tried again and again.
+constexpr std::chrono::minutes pause(1);
+
+// As the service knows them.
+constexpr uchar normalUrgency = 1;
+constexpr uchar criticalUrgency = 2;
+constexpr int untilTheServiceSays = -1;
+
+QVariantMap hintsFor(const Notification &notification)
+{
+    const uchar urgency = notification.isUrgent ? criticalUrgency : normalUrgency;
+    return {{QStringLiteral("urgency"), QVariant::fromValue(urgency)},
+            {QStringLiteral("desktop-entry"), QStringLiteral(REFDIALER_APPLICATION_ID)}};
+}
+
+} // namespace
+
+NotificationService::NotificationService(const QString &busAddress, QObject *parent)
+    : QObject(parent)
+    , m_bus(std::make_unique<BusConnection>(
+          busAddress,
+          std::vector<BusConnection::Subscription>{
+              {names::bus, names::ownerChanged, {recorder::ruleForOwnersOf(serviceName)}}}))
+{
+    connect(m_bus.get(), &BusConnection::connected, this, &NotificationService::search);
+    connect(m_bus.get(), &BusConnection::disconnected, this, [this] { setThere(false); });
+    connect(m_bus.get(), &BusConnection::received, this, &NotificationService::handleOwnerChange);
+    m_bus->start();
+}
+
+NotificationService::~NotificationService() = default;
+
+void NotificationService::look()
+{
+    if (m_isThere)
+        emit found();
+    else if (m_pause.hasExpired())
+        search();
+}
+
+void NotificationService::search()
+{
+    m_pause.setRemainingTime(pause);
+    m_bus->ask(busCall("GetNameOwner", {QString(serviceName)}), QStringLiteral("s"),
+               [this](const QVariantList &reply) {
+                   if (reply.isEmpty())
+                       startService();
+                   else
+                       setThere(true);
+               });
+}
+
+/// For the bus, one that runs but that it could not start is none.
+void NotificationService::startService()
+{
+    constexpr uint noFlags = 0;
+    m_bus->ask(busCall("StartServiceByName", {QString(serviceName), noFlags}), QStringLiteral("u"),
+               [this](const QVariantList &reply) {
+                   if (!reply.isEmpty())
+                       setThere(true);
+               });
+}
+
+void NotificationService::handleOwnerChange(const QDBusMessage &message)
+{
+    const auto change = recorder::ownerChangeIn(message);
+    if (change && change->name == serviceName)
+        setThere(!change->owner.isEmpty());
+}
+
+void NotificationService::setThere(bool isThere)
+{
+    if (std::exchange(m_isThere, isThere) == isThere || !isThere)
+        return;
+    m_pause.setRemainingTime(0);
+    emit found();
+}
+
+void NotificationService::show(const Notification &notification)
+{
+    constexpr uint replacesNone = 0;
+    QDBusMessage call = QDBusMessage::createMethodCall(serviceName, objectPath, serviceName,
+                                                       QStringLiteral("Notify"));
+    call.setArguments({QCoreApplication::applicationName(), replacesNone,
+                       QStringLiteral(REFDIALER_APPLICATION_ID), notification.title,
+                       notification.text, QStringList(), hintsFor(notification),
+                       untilTheServiceSays});
+    m_bus->tell(call);
+}
+
+} // namespace common

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "PlanWarner.h"
+
+#include "NotificationService.h"
+#include "WarningText.h"
+#include "history/Store.h"
+#include "recorder/ConnectionRecorder.h"
+
+#include <QFile>
+#include <QStringList>
+
+#include <ctime>
+#include <utility>
+
+namespace common
+{
+
+using history::Store;
+using recorder::ConnectionRecorder;
+using usage::ReachedPlan;
+
+PlanWarner::PlanWarner(const ConnectionRecorder &recorder, const QString &storePath,
+                       const QString &busAddress, std::chrono::milliseconds interval,
+                       QObject *parent)
+    : QObject(parent)
+    , m_recorder(recorder)
+    , m_storePath(QFile::encodeName(storePath).toStdString())
+    , m_throttle(interval)
+    , m_busAddress(busAddress)
+{
+    connect(&m_throttle, &recorder::Throttle::due, this, &PlanWarner::check);
+    connect(&recorder, &ConnectionRecorder::started, this, &PlanWarner::requestCheck);
+    connect(&recorder, &ConnectionRecorder::checkpointWritten, this, &PlanWarner::requestCheck);
+    connect(&recorder, &ConnectionRecorder::disconnected, this, &PlanWarner::requestCheck);
+    requestCheck();
+}
+
+PlanWarner::~PlanWarner() = default;
+
+void PlanWarner::requestCheck()
+{
+    m_throttle.request();
+}
+
+void PlanWarner::check()
+{
+    bool isAnyDue = false;
+    withReachedPlans([this, &isAnyDue](const Store &store, const ReachedPlans &reached) {
+        m_failure.clear();
+        tellOfReached(reached);
+        if (!m_recorder.isRecording())
+            return;
+        for (const ReachedPlan &each : reached) {
+            const auto pending = usage::pendingWarnings(store, each);
+            if (!pending)
+                return fail(pending.error());
+            if (!pending.value().empty()) {
+                isAnyDue = true;
+                tellOnce(each, pending.value().back());
+            }
+        }
+    });
+    if (isAnyDue)
+        lookForService();
+}
+
+/// What comes before the service is there is not given yet.
+void PlanWarner::lookForService()
+{
+    if (m_service)
+        return m_service->look();
+    m_service = std::make_unique<NotificationService>(m_busAddress);
+    connect(m_service.get(), &NotificationService::found, this, &PlanWarner::warn);
+}
+
+/// A warning is noted as given before it is shown: who is killed in between loses it, but
+/// nobody gets it twice.
+void PlanWarner::warn()
+{
+    if (!m_recorder.isRecording())
+        return;
+    withReachedPlans([this](Store &store, const ReachedPlans &reached) {
+        for (const ReachedPlan &each : reached) {
+            const auto taken = usage::takeWarnings(store, each);
+            if (!taken)
+                return fail(taken.error());
+            if (!taken.value().empty())
+                m_service->show({warningTitle(each, taken.value().back()), warningDetails(each),
+                                 each.status.isSpent()});
+        }
+    });
+}
+
+template <typename Action>
+void PlanWarner::withReachedPlans(Action action)
+{
+    auto store = Store::openForWatching(m_storePath);
+    if (!store)
+        return fail(store.error());
+    const auto reached = usage::reachedPlans(store.value(), std::time(nullptr));
+    if (!reached)
+        return fail(reached.error());
+    action(store.value(), reached.value());
+}
+
+void PlanWarner::tellOfReached(const ReachedPlans &reached)
+{
+    QStringList lines;
+    for (const ReachedPlan &each : reached)
+        lines.append(warningText(each, each.status.warnings.back()));
+    const QString text = lines.join(QLatin1Char('\n'));
+    if (std::exchange(m_reached, text) != text)
+        emit reachedPlansChanged(text);
+}
+
+void PlanWarner::tellOnce(const ReachedPlan &reached, int percent)
+{
+    const Warning warning(reached.plan.key, reached.status.period.first.toJulianDay(), percent,
+                          reached.plan.amount.value_or(0));
+    if (m_told.insert(warning).second)
+        emit warned(warningText(reached, percent));
+}
+
+/// A store that is locked is soon free again.
+void PlanWarner::fail(const history::StoreError &error)
+{
+    if (error.kind == history::StoreError::Kind::Locked)
+        m_throttle.request();
+    else if (std::exchange(m_failure, error.message) != error.message)
+        emit failed(QString::fromStdString(error.message));
+}
+
+} // namespace common

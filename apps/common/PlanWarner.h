@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recorder/bus/BusName.h"
+#include "recorder/bus/Throttle.h"
+#include "usage/PlanWarnings.h"
+
+#include <QObject>
+#include <QString>
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace recorder
+{
+class ConnectionRecorder;
+}
+
+namespace common
+{
+
+class NotificationService;
+
+/// Warns of data plans that are used up to a percentage that the user has named, while its
+/// recorder, and no other program's, records: with a desktop notification for each plan, of the highest of the
+/// percentages that are new, once in a period, whichever program gives it. Where there is no
+/// notification service, that is not given: it comes as soon as there is one.
+///
+/// Looks at the plans when bytes have come into the history, and does nothing else. Lives on
+/// the recorder's thread, and is made when that has been started.
+class PlanWarner : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Of the plans in the store at `storePath`, at most once in `interval`. The recorder
+    /// must live longer.
+    PlanWarner(const recorder::ConnectionRecorder &recorder, const QString &storePath,
+               const QString &busAddress = recorder::sessionBusAddress(),
+               std::chrono::milliseconds interval = std::chrono::seconds(5),
+               QObject *parent = nullptr);
+    ~PlanWarner() override;
+
+public slots:
+    /// Another program's recorder, which warns by itself, may have written bytes.
+    void requestCheck();
+
+signals:
+    /// A warning that nobody has been given in this period, in one line; told once by this
+    /// object, whether there is a notification service or not.
+    void warned(const QString &text);
+    /// All plans that have reached a percentage in their present period, a line for each.
+    void reachedPlansChanged(const QString &lines);
+    /// Why plans cannot be looked at; once for each new reason.
+    void failed(const QString &reason);
+
+private:
+    using ReachedPlans = std::vector<usage::ReachedPlan>;
+    /// Plan, first day of the period, percentage and the amount it is of.
+    using Warning = std::tuple<std::int64_t, history::JulianDay, int, std::int64_t>;
+
+    void check();
+    void warn();
+    void lookForService();
+    /// Unless the store cannot be read.
+    template <typename Action>
+    void withReachedPlans(Action action);
+    void tellOfReached(const ReachedPlans &reached);
+    void tellOnce(const usage::ReachedPlan &reached, int percent);
+    void fail(const history::StoreError &error);
+
+    const recorder::ConnectionRecorder &m_recorder;
+    const std::string m_storePath;
+    recorder::Throttle m_throttle;
+    const QString m_busAddress;
+    std::unique_ptr<NotificationService> m_service; ///< once there was something to warn of
+    std::set<Warning> m_told;
+    QString m_reached;
+    std::string m_failure;
+};
+
+} // namespace common
