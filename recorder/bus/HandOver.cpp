@@ -74,14 +74,20 @@ void HandOver::setAbleToRecord(bool isAble)
 void HandOver::setBackgroundOwner(const QString &owner)
 {
     m_backgroundOwner = owner;
-    if (m_isInBackground)
-        return;
-    if (owner.isEmpty()) {
+    if (owner.isEmpty())
         m_recorder.tryNow();
-    } else if (!m_favoured.contains(owner)) {
-        m_favoured.insert(owner);
-        m_recorder.makeWay();
-    }
+    else
+        makeWay();
+}
+
+void HandOver::makeWay()
+{
+    if (m_isInBackground || m_backgroundOwner.isEmpty() || m_favoured.contains(m_backgroundOwner))
+        return;
+    // While this one waits too, it has nothing to give yet.
+    if (m_recorder.isRecording())
+        m_favoured.insert(m_backgroundOwner);
+    m_recorder.makeWay();
 }
 
 } // namespace recorder

@@ -41,6 +41,8 @@ public:
     void handleOwnerChange(const QDBusMessage &message);
     /// Whether nothing but another recorder keeps this one from recording, if anything.
     void setAbleToRecord(bool isAble);
+    /// For one in the background that was slower than this recorder, or is there already.
+    void makeWay();
 
 private:
     void setBackgroundOwner(const QString &owner);

@@ -4,6 +4,7 @@
 #include "ConnectionRecorder1Adaptor.h"
 #include "modem/BusConnection.h"
 #include "modem/Names.h"
+#include "recorder/ConnectionRecorder.h"
 #include "recorder/bus/HandOver.h"
 #include "recorder/bus/RecorderObject.h"
 
@@ -63,6 +64,7 @@ RecorderService::RecorderService(ConnectionRecorder &recorder, const QString &st
             [this](const QDBusMessage &signal) { m_bus->connection().send(signal); });
     connect(m_object.get(), &RecorderObject::recordingChanged, this, &RecorderService::renewName);
     connect(m_object.get(), &RecorderObject::recordingChanged, this, &RecorderService::updateClaim);
+    connect(&recorder, &ConnectionRecorder::started, this, [this] { m_handOver->makeWay(); });
     connect(m_object.get(), &RecorderObject::waitingChanged, this, &RecorderService::updateClaim);
 }
 

@@ -32,6 +32,7 @@ private slots:
     void leavesTheTurnToTheNextOneInTheBackground();
     void isNotKeptByOneThatDoesNotRecord();
     void makesWayOnceForEach();
+    void makesWayForOneThatWasSlower();
     void losesNoByteOnTheWay();
 
 private:
@@ -184,6 +185,30 @@ void TestHandOver::makesWayOnceForEach()
     const auto next = makeIdler();
     idler->releaseName();
     QTRY_VERIFY(!window.isRecording());
+}
+
+/// Both wait for a third one, which is not on the bus, so that nobody is told of its end.
+void TestHandOver::makesWayForOneThatWasSlower()
+{
+    QVERIFY(history::Store::openOrCreate(m_path.toStdString()));
+    recorder::RecorderLock third(QFileInfo(m_path).canonicalFilePath());
+    QCOMPARE(third.take(), recorder::RecorderLock::Outcome::Taken);
+    RecorderIntervals persistent = patient;
+    persistent.retry = std::chrono::milliseconds(20);
+    const Participant background = join(Place::Background, persistent);
+    const BusClient observer(m_bus->address(), backgroundName());
+    QTRY_VERIFY(observer.isServiceThere());
+    const Participant window = join(Place::Foreground);
+    QTRY_VERIFY(!window.service->uniqueName().isEmpty());
+    // The answer comes after what the bus has told before.
+    BusClient client(m_bus->address(), window.service->uniqueName());
+    QTRY_COMPARE(client.property("Waiting"), QVariant(true));
+    third.free();
+    // As it does from time to time.
+    window.recorder->tryNow();
+    QVERIFY(window.isRecording());
+    QTRY_VERIFY(background.isRecording());
+    QVERIFY(!window.isRecording());
 }
 
 void TestHandOver::losesNoByteOnTheWay()
