@@ -62,6 +62,7 @@ void PlanWarner::check()
     });
     if (isAnyDue)
         lookForService();
+    emit checked();
 }
 
 /// What comes before the service is there is not given yet.

@@ -27,9 +27,9 @@ namespace common
 class NotificationService;
 
 /// Warns of data plans that are used up to a percentage that the user has named, while its
-/// recorder, and no other program's, records: with a desktop notification for each plan, of the highest of the
-/// percentages that are new, once in a period, whichever program gives it. Where there is no
-/// notification service, that is not given: it comes as soon as there is one.
+/// recorder, and no other program's, records: with a desktop notification for each plan, of the
+/// highest of the percentages that are new, once in a period, whichever program gives it. Where
+/// there is no notification service, that is not given: it comes as soon as there is one.
 ///
 /// Looks at the plans when bytes have come into the history, and does nothing else. Lives on
 /// the recorder's thread, and is made when that has been started.
@@ -51,6 +51,8 @@ public slots:
     void requestCheck();
 
 signals:
+    /// It has looked at the plans.
+    void checked();
     /// A warning that nobody has been given in this period, in one line; told once by this
     /// object, whether there is a notification service or not.
     void warned(const QString &text);

@@ -159,18 +159,18 @@ void tellWarnings(const ::common::PlanWarner &warner)
     QObject::connect(&warner, &PlanWarner::failed, tell);
 }
 
-/// Keeps in memory only what is used all the time, and not what the start takes, or a
-/// connection that begins or ends.
+/// Keeps in memory only what is used all the time, and not what the start takes, a
+/// connection that begins or ends, or a look at the plans.
 class MemorySaver
 {
 public:
-    explicit MemorySaver(const ConnectionRecorder &recorder);
+    MemorySaver(const ConnectionRecorder &recorder, const ::common::PlanWarner &planWarner);
 
 private:
     QTimer m_timer;
 };
 
-MemorySaver::MemorySaver(const ConnectionRecorder &recorder)
+MemorySaver::MemorySaver(const ConnectionRecorder &recorder, const ::common::PlanWarner &planWarner)
 {
     // All that such an event brings with it is over then, as the search for the buses.
     m_timer.setInterval(intervals.tick);
@@ -179,6 +179,7 @@ MemorySaver::MemorySaver(const ConnectionRecorder &recorder)
     const auto saveLater = [this] { m_timer.start(); };
     QObject::connect(&recorder, &ConnectionRecorder::connected, &m_timer, saveLater);
     QObject::connect(&recorder, &ConnectionRecorder::disconnected, &m_timer, saveLater);
+    QObject::connect(&planWarner, &::common::PlanWarner::checked, &m_timer, saveLater);
     saveLater();
 }
 
@@ -212,7 +213,7 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
     const ::common::PlanWarner planWarner(recorder, storePath);
     tellWarnings(planWarner);
     tellReady();
-    const MemorySaver memorySaver(recorder);
+    const MemorySaver memorySaver(recorder, planWarner);
     QCoreApplication::exec();
     tellStopping();
     if (const auto loss = recorder.end())
