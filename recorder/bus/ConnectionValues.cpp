@@ -20,6 +20,7 @@ namespace
 
 constexpr int longestText = 1000;
 constexpr int mostConnections = 64;
+constexpr qint64 latestTime = 253402300799; ///< the end of the year 9999
 
 namespace keys
 {
@@ -113,7 +114,7 @@ std::optional<ConnectionState> stateIn(const QVariantMap &values)
     state.downloadedBytes = numberIn(values.value(keys::downloadedBytes));
     state.uploadRate = numberIn(values.value(keys::uploadRate));
     state.downloadRate = numberIn(values.value(keys::downloadRate));
-    if (state.id == 0 || since == 0 || !state.since.isValid())
+    if (state.id == 0 || since == 0 || since > latestTime)
         return std::nullopt;
     return state;
 }
