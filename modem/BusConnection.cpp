@@ -49,6 +49,11 @@ QDBusMessage busCall(const char *method, const QVariantList &arguments)
     return call;
 }
 
+bool isFrom(const QDBusMessage &message, const QString &name)
+{
+    return message.service().isEmpty() || message.service() == name;
+}
+
 BusConnection::BusConnection(const QString &address, std::vector<Subscription> subscriptions,
                              QObject *parent)
     : QObject(parent)
@@ -130,7 +135,7 @@ void BusConnection::ask(const QDBusMessage &call, const QString &signature, cons
             [service = call.service(), signature, handler](QDBusPendingCallWatcher *finished) {
                 const QDBusMessage reply = finished->reply();
                 const bool isProper = reply.type() == QDBusMessage::ReplyMessage &&
-                                      reply.service() == service && reply.signature() == signature;
+                                      isFrom(reply, service) && reply.signature() == signature;
                 finished->deleteLater();
                 handler(isProper ? reply.arguments() : QVariantList());
             });

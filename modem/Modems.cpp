@@ -145,10 +145,10 @@ void Modems::setOwner(const QString &uniqueName)
 
 void Modems::handleSignal(const QDBusMessage &message)
 {
-    if (message.service() == names::bus && is(message, names::ownerChanged, "sss")) {
+    if (isFrom(message, names::bus) && is(message, names::ownerChanged, "sss")) {
         if (message.arguments().at(0).toString() == names::service)
-            setOwner(message.arguments().at(2).toString());
-    } else if (!m_owner.isEmpty() && message.service() == m_owner) {
+            askForOwner(); // of the bus, which is who it says
+    } else if (!m_owner.isEmpty() && isFrom(message, m_owner)) {
         handleNews(message);
         publish();
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "recorder/bus/OwnerChange.h"
 
+#include "modem/BusConnection.h"
 #include "modem/Names.h"
 
 #include <QDBusMessage>
@@ -12,7 +13,7 @@ namespace names = modem::names;
 
 std::optional<OwnerChange> ownerChangeIn(const QDBusMessage &message)
 {
-    const bool isOfTheBus = message.service() == names::bus &&
+    const bool isOfTheBus = modem::isFrom(message, names::bus) &&
                             message.member() == names::ownerChanged &&
                             message.signature() == QLatin1String("sss");
     if (!isOfTheBus)
