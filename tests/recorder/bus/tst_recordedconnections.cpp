@@ -146,6 +146,9 @@ void TestRecordedConnections::tellsThatRoamingBegins()
     QTRY_COMPARE(m_client->received("ConnectionBegan").size(), 1);
     QVERIFY(m_client->received("ConnectionChanged").isEmpty());
     m_ports->tell("wwan0", true, subscriberOf(Roaming::Roaming));
+    m_links->requests.clear();
+    QTRY_VERIFY(!m_links->requests.empty());
+    m_links->tell(runningLink(3, "wwan0", 0, 0));
     QTRY_COMPARE(m_client->received("ConnectionChanged").size(), 1);
     const QDBusMessage changed = m_client->received("ConnectionChanged").first();
     QCOMPARE(ownerIn(secondArgument(changed)), someones(true));
