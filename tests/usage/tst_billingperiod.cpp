@@ -131,8 +131,9 @@ void BillingPeriodTest::beginsAtLocalMidnight_data()
     QTest::newRow("clocks set back") << QByteArray("Europe/Berlin") << date("2026-10-25") << 25LL;
     QTest::newRow("a day without midnight")
         << QByteArray("America/Santiago") << date("2026-09-06") << 23LL;
+    // Long gone: no later decision of a government changes it.
     QTest::newRow("a day with two midnights")
-        << QByteArray("America/Havana") << date("2026-11-01") << 25LL;
+        << QByteArray("America/Havana") << date("2024-11-03") << 25LL;
     QTest::newRow("east of everything")
         << QByteArray("Pacific/Kiritimati") << date("2026-11-22") << 24LL;
 }
