@@ -3,7 +3,6 @@
 #include "ScriptedHost.h"
 
 #include <QJsonObject>
-#include <QLibrary>
 #include <QSysInfo>
 #include <QTest>
 
@@ -56,8 +55,7 @@ void tst_Contract::tellsItsIdentityBeforeAnyCodeIsLoaded()
 void tst_Contract::givesOneRootObjectUntilItIsDeleted()
 {
     LoadedPlugin plugin;
-    QLibrary library(LoadedPlugin::fileName());
-    const auto instance = reinterpret_cast<QObject *(*)()>(library.resolve("qt_plugin_instance"));
+    const auto instance = LoadedPlugin::exported<QObject *(*)()>("qt_plugin_instance");
     QVERIFY(instance);
     QPointer<QObject> first = instance();
     QCOMPARE(instance(), first.data());
@@ -135,8 +133,7 @@ void tst_Contract::tellsItsIdentity()
 void tst_Contract::returnsTheVersionWordAsItStands()
 {
     LoadedPlugin plugin;
-    auto *version = reinterpret_cast<qint32 *>(
-        QLibrary::resolve(LoadedPlugin::fileName(), "NET_INFO_RECORD_VERSION"));
+    auto *version = LoadedPlugin::exported<qint32 *>("NET_INFO_RECORD_VERSION");
     QVERIFY(version);
     QCOMPARE(*version, 257);
     *version = 258;
@@ -160,8 +157,8 @@ void tst_Contract::leavesTheObjectPointerOfAQueryAlone()
 void tst_Contract::givesTheVerificationText()
 {
     LoadedPlugin plugin;
-    const auto query = reinterpret_cast<const char *(*)()>(
-        QLibrary::resolve(LoadedPlugin::fileName(), "qt_plugin_query_verification_data"));
+    const auto query =
+        LoadedPlugin::exported<const char *(*)()>("qt_plugin_query_verification_data");
     QVERIFY(query);
     QCOMPARE(QString::fromLatin1(query()),
              QStringLiteral("pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\n"

@@ -19,6 +19,13 @@ public:
 
     static QString fileName();
 
+    /// What the loaded library exports by this name; nothing if it does not.
+    template <typename Pointer>
+    static Pointer exported(const char *name)
+    {
+        return reinterpret_cast<Pointer>(symbol(name));
+    }
+
     QObject *root();
     IUIPlugin *ui();
     INotify *notify();
@@ -40,6 +47,8 @@ public:
     QObject *historyWindow() const;
 
 private:
+    static void *symbol(const char *name);
+
     QPluginLoader m_loader;
     QPointer<QWidget> m_area;
     bool m_isEnded = false;
