@@ -200,13 +200,15 @@ void tst_TimeText::parsesOddTexts()
 
 void tst_TimeText::parsesEveryDateLikeQt()
 {
+    int step = 1; // newer Qt takes long to parse, so other zones take a share of the days
     for (const char *zone : zones) {
         useZone(zone);
-        for (QDate date(2007, 1, 1); date < QDate(2012, 1, 1); date = date.addDays(1)) {
+        for (QDate date(2007, 1, 1); date < QDate(2012, 1, 1); date = date.addDays(step)) {
             const QString day = date.toString(QStringLiteral("yyyyMMdd"));
             for (const char *time : {"000000", "120000", "235959"})
                 QVERIFY(isParsedAlike(day + QLatin1String(time)));
         }
+        step = 11;
     }
 }
 
@@ -230,7 +232,7 @@ void tst_TimeText::parsesRandomTextsLikeQt()
     QRandomGenerator random(seed(20101121));
     for (const char *zone : zones) {
         useZone(zone);
-        for (int i = randomCases() / int(std::size(zones)); i > 0; --i) {
+        for (int i = randomCases() / int(3 * std::size(zones)); i > 0; --i) {
             QVERIFY(isParsedAlike(randomTime(random)));
             QVERIFY(isParsedAlike(nearMiss(random)));
             QVERIFY(isParsedAlike(randomDigits(random)));
