@@ -9,6 +9,8 @@ ConnrecordRun runProgram(const QString &program, const QStringList &arguments,
 {
     QProcess process;
     process.start(program, arguments);
+    if (!process.waitForStarted())
+        qFatal("%s does not start: %s", qPrintable(program), qPrintable(process.errorString()));
     process.write(input);
     process.closeWriteChannel();
     if (!process.waitForFinished(110000))
