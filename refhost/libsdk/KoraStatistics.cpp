@@ -10,7 +10,6 @@
 namespace
 {
 
-
 refhost::StatisticsSession &session()
 {
     static refhost::StatisticsSession theSession;
