@@ -53,7 +53,7 @@ struct RuleJson {
 
 QString coverageText(const DataPlan &plan)
 {
-    const QString kind = QLatin1String(nameOf(history::coverNames, plan.covers));
+    QString kind = QLatin1String(nameOf(history::coverNames, plan.covers));
     switch (plan.covers) {
     case DataPlan::Covers::Everything:
         return kind;

@@ -14,7 +14,6 @@ namespace
 {
 
 using formats::Json;
-using usage::BillingPeriod;
 using usage::PeriodUse;
 using usage::PlanStatus;
 

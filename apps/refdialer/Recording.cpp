@@ -92,7 +92,7 @@ void Recording::warnOfPlans()
 /// Who misses this recorder on the bus finds everything in the store.
 std::optional<recorder::Problem> Recording::endOnItsThread()
 {
-    const std::optional<recorder::Problem> loss = m_recorder->end();
+    std::optional<recorder::Problem> loss = m_recorder->end();
     m_planWarner.reset();
     m_client.reset();
     m_service.reset();
