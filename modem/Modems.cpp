@@ -3,6 +3,7 @@
 
 #include "modem/BusConnection.h"
 #include "modem/Names.h"
+#include "modem/OwnerChange.h"
 
 #include <QDBusArgument>
 #include <QDBusMessage>
@@ -55,9 +56,7 @@ BusConnection::Subscription ofProperties()
 
 std::vector<BusConnection::Subscription> subscriptions()
 {
-    return {{names::bus,
-             names::ownerChanged,
-             {rule(names::bus, names::bus, names::ownerChanged, firstArgument(names::service))}},
+    return {{names::bus, names::ownerChanged, {ruleForOwnersOf(names::service)}},
             ofModems(interfacesAdded),
             ofModems(interfacesRemoved),
             ofProperties()};
@@ -124,10 +123,7 @@ void Modems::start()
 
 void Modems::askForOwner()
 {
-    m_bus->ask(busCall("GetNameOwner", {names::service}), QStringLiteral("s"),
-               [this](const QVariantList &reply) {
-                   setOwner(reply.isEmpty() ? QString() : reply.first().toString());
-               });
+    modem::askForOwner(*m_bus, names::service, [this](const QString &owner) { setOwner(owner); });
 }
 
 void Modems::setOwner(const QString &uniqueName)
@@ -145,8 +141,8 @@ void Modems::setOwner(const QString &uniqueName)
 
 void Modems::handleSignal(const QDBusMessage &message)
 {
-    if (isFrom(message, names::bus) && is(message, names::ownerChanged, "sss")) {
-        if (message.arguments().at(0).toString() == names::service)
+    if (const auto change = ownerChangeIn(message)) {
+        if (change->name == names::service)
             askForOwner(); // of the bus, which is who it says
     } else if (!m_owner.isEmpty() && isFrom(message, m_owner)) {
         handleNews(message);

@@ -3,7 +3,7 @@
 
 #include "modem/BusConnection.h"
 #include "modem/Names.h"
-#include "recorder/bus/OwnerChange.h"
+#include "modem/OwnerChange.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
@@ -47,7 +47,7 @@ NotificationService::NotificationService(const QString &busAddress, QObject *par
     , m_bus(std::make_unique<BusConnection>(
           busAddress,
           std::vector<BusConnection::Subscription>{
-              {names::bus, names::ownerChanged, {recorder::ruleForOwnersOf(serviceName)}}}))
+              {names::bus, names::ownerChanged, {modem::ruleForOwnersOf(serviceName)}}}))
 {
     connect(m_bus.get(), &BusConnection::connected, this, &NotificationService::search);
     connect(m_bus.get(), &BusConnection::disconnected, this, [this] { setThere(false); });
@@ -68,13 +68,12 @@ void NotificationService::look()
 void NotificationService::search()
 {
     m_pause.setRemainingTime(pause);
-    m_bus->ask(busCall("GetNameOwner", {QString(serviceName)}), QStringLiteral("s"),
-               [this](const QVariantList &reply) {
-                   if (reply.isEmpty())
-                       startService();
-                   else
-                       setThere(true);
-               });
+    modem::askForOwner(*m_bus, serviceName, [this](const QString &owner) {
+        if (owner.isEmpty())
+            startService();
+        else
+            setThere(true);
+    });
 }
 
 /// For the bus, one that runs but that it could not start is none.
@@ -90,7 +89,7 @@ void NotificationService::startService()
 
 void NotificationService::handleOwnerChange(const QDBusMessage &message)
 {
-    const auto change = recorder::ownerChangeIn(message);
+    const auto change = modem::ownerChangeIn(message);
     if (change && change->name == serviceName)
         setThere(!change->owner.isEmpty());
 }

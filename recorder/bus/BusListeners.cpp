@@ -2,8 +2,7 @@
 #include "recorder/bus/BusListeners.h"
 
 #include "modem/BusConnection.h"
-#include "modem/Names.h"
-#include "recorder/bus/OwnerChange.h"
+#include "modem/OwnerChange.h"
 
 #include <QDBusMessage>
 
@@ -13,15 +12,13 @@ namespace recorder
 {
 
 using modem::busCall;
-namespace names = modem::names;
 
 namespace
 {
 
 QString departureOf(const QString &client)
 {
-    return QStringLiteral("type='signal',sender='%1',interface='%1',member='%2',arg0='%3',arg2=''")
-        .arg(names::bus, names::ownerChanged, client);
+    return modem::ruleForOwnersOf(client) + QLatin1String(",arg2=''");
 }
 
 } // namespace
@@ -74,7 +71,7 @@ void BusListeners::forgetAll()
 
 void BusListeners::handleOwnerChange(const QDBusMessage &message)
 {
-    const auto change = ownerChangeIn(message);
+    const auto change = modem::ownerChangeIn(message);
     if (change && change->owner.isEmpty())
         remove(change->name);
 }

@@ -2,8 +2,8 @@
 #include "recorder/bus/HandOver.h"
 
 #include "modem/BusConnection.h"
+#include "modem/OwnerChange.h"
 #include "recorder/ConnectionRecorder.h"
-#include "recorder/bus/OwnerChange.h"
 
 namespace recorder
 {
@@ -32,16 +32,15 @@ HandOver::HandOver(ConnectionRecorder &recorder, modem::BusConnection &bus, cons
 
 QStringList HandOver::rulesFor(const QString &name)
 {
-    return {ruleForOwnersOf(name), ruleForOwnersOf(backgroundNameFor(name))};
+    return {modem::ruleForOwnersOf(name), modem::ruleForOwnersOf(backgroundNameFor(name))};
 }
 
 void HandOver::begin()
 {
-    m_bus.ask(busCall("GetNameOwner", {m_backgroundName}), QStringLiteral("s"),
-              [this](const QVariantList &reply) {
-                  if (!reply.isEmpty())
-                      setBackgroundOwner(reply.first().toString());
-              });
+    modem::askForOwner(m_bus, m_backgroundName, [this](const QString &owner) {
+        if (!owner.isEmpty())
+            setBackgroundOwner(owner);
+    });
 }
 
 void HandOver::forgetAll()
@@ -52,7 +51,7 @@ void HandOver::forgetAll()
 
 void HandOver::handleOwnerChange(const QDBusMessage &message)
 {
-    const auto change = ownerChangeIn(message);
+    const auto change = modem::ownerChangeIn(message);
     if (!change)
         return;
     if (change->name == m_backgroundName)

@@ -4,8 +4,8 @@
 #include "modem/BusConnection.h"
 #include "modem/DBusValue.h"
 #include "modem/Names.h"
+#include "modem/OwnerChange.h"
 #include "recorder/bus/ConnectionValues.h"
-#include "recorder/bus/OwnerChange.h"
 #include "recorder/bus/RecorderService.h"
 
 #include <QDBusMessage>
@@ -16,7 +16,6 @@
 namespace recorder
 {
 
-using modem::busCall;
 using modem::BusConnection;
 namespace names = modem::names;
 
@@ -27,7 +26,7 @@ std::vector<BusConnection::Subscription> subscriptionsFor(const QString &name)
 {
     const QString own = RecorderService::interfaceName();
     const QString rule = QStringLiteral("type='signal',sender='%1',interface='%2'").arg(name);
-    return {{names::bus, names::ownerChanged, {ruleForOwnersOf(name)}},
+    return {{names::bus, names::ownerChanged, {modem::ruleForOwnersOf(name)}},
             {names::propertiesInterface,
              names::propertiesChanged,
              {rule.arg(names::propertiesInterface)}},
@@ -61,11 +60,10 @@ void RecorderClient::start()
 
 void RecorderClient::findOwner()
 {
-    m_bus->ask(busCall("GetNameOwner", {m_name}), QStringLiteral("s"),
-               [this](const QVariantList &reply) {
-                   if (!reply.isEmpty())
-                       setOwner(reply.first().toString());
-               });
+    modem::askForOwner(*m_bus, m_name, [this](const QString &owner) {
+        if (!owner.isEmpty())
+            setOwner(owner);
+    });
 }
 
 void RecorderClient::setOwner(const QString &owner)
@@ -101,7 +99,7 @@ void RecorderClient::watchOwner()
 
 void RecorderClient::handleMessage(const QDBusMessage &message)
 {
-    if (const auto change = ownerChangeIn(message)) {
+    if (const auto change = modem::ownerChangeIn(message)) {
         if (change->name == m_name)
             setOwner(change->owner);
         return;

@@ -3,12 +3,15 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class QDBusMessage;
 
-namespace recorder
+namespace modem
 {
+
+class BusConnection;
 
 /// A name on the bus has another owner.
 struct OwnerChange {
@@ -22,4 +25,8 @@ std::optional<OwnerChange> ownerChangeIn(const QDBusMessage &message);
 /// The rule that lets the bus tell of it.
 QString ruleForOwnersOf(const QString &name);
 
-} // namespace recorder
+/// Asks the bus who has the name now; the handler gets an empty text if nobody has.
+void askForOwner(BusConnection &bus, const QString &name,
+                 const std::function<void(const QString &)> &handle);
+
+} // namespace modem

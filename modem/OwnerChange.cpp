@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "recorder/bus/OwnerChange.h"
+#include "modem/OwnerChange.h"
 
 #include "modem/BusConnection.h"
 #include "modem/Names.h"
 
 #include <QDBusMessage>
 
-namespace recorder
+namespace modem
 {
-
-namespace names = modem::names;
 
 std::optional<OwnerChange> ownerChangeIn(const QDBusMessage &message)
 {
-    const bool isOfTheBus = modem::isFrom(message, names::bus) &&
+    const bool isOfTheBus = isFrom(message, names::bus) &&
                             message.member() == names::ownerChanged &&
                             message.signature() == QLatin1String("sss");
     if (!isOfTheBus)
@@ -28,4 +26,13 @@ QString ruleForOwnersOf(const QString &name)
         .arg(names::bus, names::ownerChanged, name);
 }
 
-} // namespace recorder
+void askForOwner(BusConnection &bus, const QString &name,
+                 const std::function<void(const QString &)> &handle)
+{
+    bus.ask(busCall("GetNameOwner", {name}), QStringLiteral("s"),
+            [handle](const QVariantList &reply) {
+                handle(reply.isEmpty() ? QString() : reply.first().toString());
+            });
+}
+
+} // namespace modem
