@@ -5,8 +5,6 @@
 #include "StoreFailure.h"
 #include "ValueCheck.h"
 
-#include <string>
-
 namespace history
 {
 
@@ -52,7 +50,7 @@ void checkPercentages(const std::string &whose, const std::vector<int> &percenta
 void check(const DataPlan &plan)
 {
     checkText("the plan", "name", plan.name, 1, longestPlanName);
-    const std::string whose = "the plan \"" + beginningOf(plan.name) + '"';
+    const std::string whose = planCalled(plan.name);
     checkText(whose, plan.covers == DataPlan::Covers::Sim ? "SIM" : "profile", plan.covered, 0,
               plan.covers == DataPlan::Covers::Sim ? longestShortText : longestProfile);
     if (plan.amount)
@@ -61,6 +59,11 @@ void check(const DataPlan &plan)
     if (plan.usedElsewhere)
         checkDay(whose, "day (a Julian day) of what was used elsewhere", plan.usedElsewhere->day);
     checkPercentages(whose, plan.warnAtPercent);
+}
+
+std::string planCalled(const std::string &name)
+{
+    return "the plan \"" + beginningOf(name) + '"';
 }
 
 } // namespace history

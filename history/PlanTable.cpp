@@ -62,11 +62,6 @@ StoreFailure badRow(const std::string &sentence)
     return {Kind::BadRecord, sentence};
 }
 
-std::string planCalled(const std::string &name)
-{
-    return "the plan \"" + beginningOf(name) + '"';
-}
-
 PeriodRule ruleOf(const std::string &name, const RuleColumns &columns)
 {
     const auto &[monthDay, cycleDays, firstDay, lastDay] = columns;
@@ -238,11 +233,12 @@ void PlanTable::forgetWarningsOfAnotherAmount(const DataPlan &plan)
 void PlanTable::replaceThresholds(std::int64_t plan, const std::vector<int> &percentages)
 {
     removeOf(plan, "plan_threshold");
+    SQLite::Statement statement(m_database, "INSERT INTO plan_threshold VALUES (?, ?)");
+    statement.bind(1, plan);
     for (const int percent : percentages) {
-        SQLite::Statement statement(m_database, "INSERT INTO plan_threshold VALUES (?, ?)");
-        statement.bind(1, plan);
         statement.bind(2, percent);
         statement.exec();
+        statement.reset();
     }
 }
 
