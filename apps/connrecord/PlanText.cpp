@@ -87,7 +87,7 @@ std::vector<QString> row(const DataPlan &plan)
             coverageText(plan),
             QLatin1String(nameOf(history::networkNames, plan.network)),
             QLatin1String(nameOf(history::countNames, plan.counts)),
-            plan.amount ? usage::sizeText(*plan.amount) : QString(),
+            sizeIfAny(plan.amount),
             std::visit(RuleText(), plan.period),
             alreadyUsedText(plan),
             warningsText(plan)};
@@ -125,7 +125,7 @@ Json toJson(const DataPlan &plan)
             {"covered", plan.covered},
             {"network", nameOf(history::networkNames, plan.network)},
             {"counts", nameOf(history::countNames, plan.counts)},
-            {"amount_bytes", plan.amount ? Json(*plan.amount) : Json()},
+            {"amount_bytes", numberIfAny(plan.amount)},
             {"period", std::visit(RuleJson(), plan.period)},
             {"already_used", toJson(plan.usedElsewhere)},
             {"warn_at_percent", plan.warnAtPercent}};
@@ -137,6 +137,16 @@ Json toJson(const std::vector<DataPlan> &plans)
     for (const DataPlan &plan : plans)
         array.push_back(toJson(plan));
     return array;
+}
+
+QString sizeIfAny(const std::optional<std::int64_t> &bytes)
+{
+    return bytes ? usage::sizeText(*bytes) : QString();
+}
+
+Json numberIfAny(const std::optional<std::int64_t> &number)
+{
+    return number ? Json(*number) : Json();
 }
 
 } // namespace connrecord

@@ -5,7 +5,10 @@
 #include "history/DataPlan.h"
 
 #include <QByteArray>
+#include <QString>
 
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace connrecord
@@ -17,5 +20,9 @@ QByteArray toTable(const std::vector<history::DataPlan> &plans);
 /// The plan for programs: exact integers, and null for what it has not.
 formats::Json toJson(const history::DataPlan &plan);
 formats::Json toJson(const std::vector<history::DataPlan> &plans);
+
+// What a plan, or its standing, need not have.
+QString sizeIfAny(const std::optional<std::int64_t> &bytes);
+formats::Json numberIfAny(const std::optional<std::int64_t> &number);
 
 } // namespace connrecord

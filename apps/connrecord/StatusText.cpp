@@ -2,6 +2,7 @@
 #include "StatusText.h"
 
 #include "ConnectionText.h"
+#include "PlanText.h"
 #include "TextTable.h"
 #include "usage/SizeText.h"
 
@@ -35,16 +36,6 @@ const char *nameOf(PlanState state)
 std::string dayText(const QDate &day)
 {
     return day.toString(Qt::ISODate).toStdString();
-}
-
-QString sizeIfAny(const std::optional<std::int64_t> &bytes)
-{
-    return bytes ? usage::sizeText(*bytes) : QString();
-}
-
-Json numberIfAny(const std::optional<std::int64_t> &number)
-{
-    return number ? Json(*number) : Json();
 }
 
 QString stateText(const StandingPlan &standing)
