@@ -25,14 +25,19 @@ if(NETINFORECORD_SANITIZE)
     target_link_options(netinforecord_settings INTERFACE -fsanitize=${NETINFORECORD_SANITIZE})
 endif()
 
+# A library that is nothing but its precompiled header, for other targets to use too.
+function(netinforecord_header_library target)
+    file(CONFIGURE OUTPUT ${target}.cpp CONTENT "// Nothing but its precompiled header.\n")
+    add_library(${target} STATIC ${CMAKE_CURRENT_BINARY_DIR}/${target}.cpp)
+    set_target_properties(${target} PROPERTIES AUTOMOC OFF)
+endfunction()
+
 # Most of what a sanitized build takes to compile are the headers of libraries, so its
 # files share those compiled once. The other builds show what a file does not include.
 if(NETINFORECORD_SANITIZE)
-    file(CONFIGURE OUTPUT shared_headers.cpp CONTENT "// Nothing but its precompiled header.\n")
     foreach(kind Core Widgets)
-        add_library(shared_headers_${kind} STATIC ${CMAKE_BINARY_DIR}/shared_headers.cpp)
+        netinforecord_header_library(shared_headers_${kind})
         set_target_properties(shared_headers_${kind} PROPERTIES
-            AUTOMOC OFF
             POSITION_INDEPENDENT_CODE ON
             CXX_VISIBILITY_PRESET hidden
             VISIBILITY_INLINES_HIDDEN ON)

@@ -6,8 +6,7 @@ get_target_property(definitions Qt${QT_VERSION_MAJOR}::Test INTERFACE_COMPILE_DE
 list(FILTER definitions EXCLUDE REGEX QT_TESTCASE_)
 set_target_properties(Qt${QT_VERSION_MAJOR}::Test PROPERTIES
     INTERFACE_COMPILE_DEFINITIONS "${definitions}")
-file(CONFIGURE OUTPUT test_headers.cpp CONTENT "// Nothing but its precompiled header.\n")
-add_library(test_headers STATIC ${CMAKE_CURRENT_BINARY_DIR}/test_headers.cpp)
+netinforecord_header_library(test_headers)
 target_link_libraries(test_headers PRIVATE
     netinforecord_settings Qt${QT_VERSION_MAJOR}::Test Qt${QT_VERSION_MAJOR}::Widgets)
 target_precompile_headers(test_headers PRIVATE
