@@ -20,6 +20,6 @@ void FuzzedFormatsTest::hasAFuzzTargetForEachFormat()
     QCOMPARE(QString(FUZZED_FORMATS).split(' '), formats);
 }
 
-QTEST_APPLESS_MAIN(FuzzedFormatsTest)
+QTEST_GUILESS_MAIN(FuzzedFormatsTest)
 
 #include "tst_fuzzedformats.moc"

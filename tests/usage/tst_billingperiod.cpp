@@ -248,5 +248,5 @@ void BillingPeriodTest::theOneThatHasEnded()
     QVERIFY(!periodEndedBy(every, at("2025-02-01")));
 }
 
-QTEST_APPLESS_MAIN(BillingPeriodTest)
+QTEST_GUILESS_MAIN(BillingPeriodTest)
 #include "tst_billingperiod.moc"

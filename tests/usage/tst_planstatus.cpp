@@ -180,5 +180,5 @@ void PlanStatusTest::warnsOfWhatWasNotWarnedOfYet()
     QCOMPARE(due(6 * GB, {80}), Percentages{50});
 }
 
-QTEST_APPLESS_MAIN(PlanStatusTest)
+QTEST_GUILESS_MAIN(PlanStatusTest)
 #include "tst_planstatus.moc"

@@ -112,6 +112,6 @@ void SizeTextTest::refusesWhatIsNoSize()
     QVERIFY(!read || !read->isInRange);
 }
 
-QTEST_APPLESS_MAIN(SizeTextTest)
+QTEST_GUILESS_MAIN(SizeTextTest)
 
 #include "tst_sizetext.moc"
