@@ -4,12 +4,13 @@
 #include "BackgroundUnit.h"
 #include "ClosingChoice.h"
 #include "HistoryArea.h"
+#include "HistoryPage.h"
 #include "LanguageChoice.h"
 #include "LineState.h"
 #include "PluginHandle.h"
 #include "ProblemLine.h"
 #include "SettingsDialog.h"
-#include "SortMenu.h"
+#include "ViewMenu.h"
 #include "recorder/bus/RecorderService.h"
 #include "refhost/libcore/Host.h"
 
@@ -19,6 +20,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace refdialer
@@ -45,21 +47,24 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     : m_plugin(plugin)
     , m_state(state)
     , m_background(makeBackgroundUnit(source, this))
-    , m_area(new HistoryArea(plugin, source.file))
+    , m_pages(new QTabWidget)
+    , m_historyPage(new HistoryPage(plugin, source.file))
+    , m_area(m_historyPage->area())
 {
     auto *const content = new QWidget;
     auto *const layout = new QVBoxLayout(content);
-    // The history brings margins of its own.
+    // Each part brings margins of its own.
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new StateLine(source, state));
-    layout->addWidget(m_area, 1);
+    layout->addWidget(m_pages, 1);
     layout->addWidget(new ProblemLine(state, content));
     setCentralWidget(content);
+    createPages();
     createMenus();
     retranslate();
     resize(defaultSize);
-    m_area->showHistory();
-    m_area->sort(HistoryOrder());
+    m_area.showHistory();
+    m_area.sort(HistoryOrder());
     connect(&state, &LineState::connected, this, [this] { m_plugin.tellConnected(); });
     connect(&state, &LineState::disconnected, this, &MainWindow::showFinishedConnection);
 }
@@ -124,6 +129,13 @@ void MainWindow::closeIfInBackground()
     m_background->turnOn();
 }
 
+void MainWindow::createPages()
+{
+    m_pages->setDocumentMode(true);
+    m_pages->setTabBarAutoHide(true);
+    m_pages->addTab(m_historyPage, QString());
+}
+
 void MainWindow::createMenus()
 {
     m_fileMenu = menuBar()->addMenu(QString());
@@ -135,23 +147,12 @@ void MainWindow::createMenus()
     m_quitAction->setShortcut(QKeySequence::Quit);
     connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
 
-    m_viewMenu = menuBar()->addMenu(QString());
-    m_historyAction = m_viewMenu->addAction(QString());
-    m_historyAction->setCheckable(true);
-    m_historyAction->setChecked(true);
-    connect(m_historyAction, &QAction::toggled, this, &MainWindow::setHistoryVisible);
-    m_sortMenu = new SortMenu(m_viewMenu);
-    m_viewMenu->addMenu(m_sortMenu);
-    connect(m_sortMenu, &SortMenu::orderChosen, m_area, &HistoryArea::sort);
-    m_refreshAction = m_viewMenu->addAction(QString());
-    m_refreshAction->setShortcut(QKeySequence(Qt::Key_F5));
-    connect(m_refreshAction, &QAction::triggered, m_area, &HistoryArea::refresh);
-    m_viewMenu->addSeparator();
-    m_viewMenu->setToolTipsVisible(true);
-    m_statisticsAction = m_viewMenu->addAction(QString());
-    m_statisticsAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+T")));
-    m_statisticsAction->setEnabled(m_plugin.hasStatistics());
-    connect(m_statisticsAction, &QAction::triggered, this, &MainWindow::showStatistics);
+    auto *const viewMenu = new ViewMenu(m_plugin.hasStatistics(), menuBar());
+    menuBar()->addMenu(viewMenu);
+    connect(viewMenu, &ViewMenu::historyToggled, this, &MainWindow::setHistoryVisible);
+    connect(viewMenu, &ViewMenu::orderChosen, &m_area, &HistoryArea::sort);
+    connect(viewMenu, &ViewMenu::refreshWanted, &m_area, &HistoryArea::refresh);
+    connect(viewMenu, &ViewMenu::statisticsWanted, this, &MainWindow::showStatistics);
 }
 
 void MainWindow::retranslate()
@@ -161,24 +162,15 @@ void MainWindow::retranslate()
     m_fileMenu->setTitle(tr("&File"));
     m_settingsAction->setText(tr("&Settings…"));
     m_quitAction->setText(tr("&Quit"));
-    m_viewMenu->setTitle(tr("&View"));
-    m_historyAction->setText(tr("&History"));
-    m_refreshAction->setText(tr("&Refresh"));
-    m_statisticsAction->setText(tr("S&tatistics…"));
-    if (!m_statisticsAction->isEnabled()) {
-        const QString reason = tr("The history plug-in in use has no statistics. Start refdialer "
-                                  "with one that has them: --plugin FILE.");
-        m_statisticsAction->setToolTip(reason);
-        m_statisticsAction->setStatusTip(reason);
-    }
+    m_pages->setTabText(m_pages->indexOf(m_historyPage), tr("History"));
 }
 
 void MainWindow::setHistoryVisible(bool isVisible)
 {
     if (isVisible)
-        m_area->showHistory();
+        m_area.showHistory();
     else
-        m_area->hideHistory();
+        m_area.hideHistory();
 }
 
 void MainWindow::showFinishedConnection()
@@ -186,7 +178,7 @@ void MainWindow::showFinishedConnection()
     // The plug-in knows of one connection at a time, and an end without a
     // beginning before it means nothing to it; another one may have ended since.
     m_plugin.tellConnected();
-    m_area->showFinishedConnection();
+    m_area.showFinishedConnection();
 }
 
 void MainWindow::showSettings()

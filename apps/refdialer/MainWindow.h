@@ -7,17 +7,18 @@
 
 class QAction;
 class QMenu;
+class QTabWidget;
 
 namespace refdialer
 {
 
 class BackgroundUnit;
 class HistoryArea;
+class HistoryPage;
 class LineState;
 class PluginHandle;
-class SortMenu;
 
-/// The window: what is shown above, the plug-in's history below.
+/// The window: what is connected above, the pages below.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -37,6 +38,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void createPages();
     void createMenus();
     void retranslate();
     bool mayClose();
@@ -51,15 +53,12 @@ private:
     /// A child; null where the service records into another history than the window's.
     BackgroundUnit *const m_background;
     bool m_isClosingDecided = false;
-    HistoryArea *m_area;
+    QTabWidget *m_pages;
+    HistoryPage *m_historyPage;
+    HistoryArea &m_area;
     QMenu *m_fileMenu;
     QAction *m_settingsAction;
     QAction *m_quitAction;
-    QMenu *m_viewMenu;
-    QAction *m_historyAction;
-    SortMenu *m_sortMenu;
-    QAction *m_refreshAction;
-    QAction *m_statisticsAction;
 };
 
 } // namespace refdialer

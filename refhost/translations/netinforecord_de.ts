@@ -396,32 +396,16 @@
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;History</source>
-        <translation>&amp;Verlauf</translation>
-    </message>
-    <message>
         <source>&amp;Settings…</source>
         <translation>&amp;Einstellungen …</translation>
     </message>
     <message>
-        <source>&amp;Refresh</source>
-        <translation>A&amp;ktualisieren</translation>
-    </message>
-    <message>
-        <source>S&amp;tatistics…</source>
-        <translation>S&amp;tatistik …</translation>
-    </message>
-    <message>
-        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
-        <translation>Die benutzte Verlaufserweiterung hat keine Statistik. Starten Sie refdialer mit einer, die sie hat: --plugin DATEI.</translation>
-    </message>
-    <message>
         <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
         <translation>Die Verlaufserweiterung gibt an, eine Statistik zu haben, lässt sich aber nicht danach fragen. Starten Sie refdialer mit einer anderen: --plugin DATEI.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
     </message>
 </context>
 <context>
@@ -564,6 +548,29 @@
     <message>
         <source>Received: %1 (%2)</source>
         <translation>Empfangen: %1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Verlauf</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>A&amp;ktualisieren</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics…</source>
+        <translation>S&amp;tatistik …</translation>
+    </message>
+    <message>
+        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
+        <translation>Die benutzte Verlaufserweiterung hat keine Statistik. Starten Sie refdialer mit einer, die sie hat: --plugin DATEI.</translation>
     </message>
 </context>
 </TS>
