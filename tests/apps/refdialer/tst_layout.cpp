@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: MIT
+#include "CutText.h"
+#include "HistoryWindow.h"
+#include "apps/common/ProblemText.h"
+#include "apps/refdialer/ClosingChoice.h"
+#include "apps/refdialer/SettingsDialog.h"
+#include "apps/refdialer/StateLine.h"
+#include "apps/refdialer/SummaryChoice.h"
+#include "refhost/libcore/Host.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+using Make = QWidget *(*)();
+Q_DECLARE_METATYPE(Make)
+
+/// Every window in every language, as large as it opens.
+class TestLayout : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsATextWithTooLittleRoom_data();
+    void findsATextWithTooLittleRoom();
+    void findsATextThatLiesOutsideTheWindow();
+    void toleratesThatUserDataIsShortened();
+    void findsAKeyThatIsGivenTwice();
+
+    void cutsNoTextAndSharesNoKey_data();
+    void cutsNoTextAndSharesNoKey();
+};
+
+namespace
+{
+
+const QString profile = QStringLiteral("internet.example");
+
+using Look = std::function<void(const QWidget &window)>;
+
+/// Does what opens a modal window, looks at that and closes it.
+void lookAtModal(const Look &look, const std::function<void()> &open)
+{
+    bool isSeen = false;
+    QTimer whenOpen;
+    QObject::connect(&whenOpen, &QTimer::timeout, &whenOpen, [&] {
+        QWidget *const opened = QApplication::activeModalWidget();
+        if (!opened)
+            return;
+        whenOpen.stop();
+        isSeen = true;
+        look(*opened);
+        opened->close();
+    });
+    whenOpen.start();
+    open();
+    QTRY_VERIFY(isSeen);
+}
+
+recorder::ConnectionState lasting(qint64 id)
+{
+    recorder::ConnectionState state;
+    state.id = id;
+    state.profile = profile;
+    state.interfaceName = QStringLiteral("wwan%1").arg(id);
+    state.since = QDateTime(QDate(2026, 12, 24), QTime(22, 30));
+    state.uploadedBytes = 1023LL << 30;
+    state.uploadRate = 1023 << 20;
+    state.downloadedBytes = 1023LL << 30;
+    state.downloadRate = 1023 << 20;
+    return state;
+}
+
+void lookAtMenus(HistoryWindow &history, const Look &look)
+{
+    for (QMenu *const menu : history.window().findChildren<QMenu *>()) {
+        menu->popup(QPoint(0, 0));
+        look(*menu);
+        menu->close();
+    }
+}
+
+void lookAtConnections(HistoryWindow &history, const Look &look)
+{
+    history.state().setWatched(true);
+    look(history.window());
+    history.state().begin(lasting(1));
+    history.state().setProblem(common::impossibleInterfaceText(QStringLiteral("wwan 0")));
+    QCoreApplication::processEvents();
+    look(history.window());
+    history.state().end(1);
+}
+
+void lookAtTheSample(HistoryWindow &history, const Look &look)
+{
+    refdialer::StateLine line({QString(), true}, history.state());
+    history.state().setWatched(false);
+    line.resize(history.window().width(), line.sizeHint().height());
+    line.show();
+    look(line);
+}
+
+void lookAtTheSettings(HistoryWindow &history, const Look &look)
+{
+    refdialer::SettingsDialog dialog(nullptr, &history.window());
+    dialog.show();
+    look(dialog);
+}
+
+void lookAtTheClosingQuestion(HistoryWindow &history, const Look &look)
+{
+    lookAtModal(look, [&history] { refdialer::chooseClosing(&history.window()); });
+}
+
+void lookAtTheDeletion(HistoryWindow &history, const Look &look)
+{
+    history.window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&history.window()));
+    history.table().setFocus();
+    history.clickRow(0);
+    lookAtModal(look, [&history] { history.pressKey(Qt::Key_Delete); });
+}
+
+void lookAtTheSummary(HistoryWindow &history, const Look &look)
+{
+    QVERIFY(refdialer::storeSummaryChoice(true));
+    history.window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&history.window()));
+    lookAtModal(look, [&history] {
+        history.state().begin(lasting(1));
+        history.state().end(1);
+    });
+}
+
+void lookAtTheStatistics(HistoryWindow &history, const Look &look)
+{
+    if (history.plugin().hasStatistics())
+        lookAtModal(look, [&history] { QVERIFY(history.plugin().showStatistics()); });
+}
+
+/// A new window or page gets a line here.
+const struct {
+    const char *name;
+    void (*lookAt)(HistoryWindow &history, const Look &look);
+} windows[] = {
+    {"menus", lookAtMenus},
+    {"connections", lookAtConnections},
+    {"sample", lookAtTheSample},
+    {"settings", lookAtTheSettings},
+    {"closing", lookAtTheClosingQuestion},
+    {"deletion", lookAtTheDeletion},
+    {"summary", lookAtTheSummary},
+    {"statistics", lookAtTheStatistics},
+};
+
+template <class Widget>
+QWidget *withText(Widget *widget)
+{
+    widget->setText("A text that needs room");
+    return widget;
+}
+
+const struct {
+    const char *name;
+    Make make;
+} widgetsWithText[] = {
+    {"label", [] { return withText(new QLabel); }},
+    {"button", [] { return withText(new QPushButton); }},
+    {"check box", [] { return withText(new QCheckBox); }},
+    {"radio button", [] { return withText(new QRadioButton); }},
+    {"label of several lines",
+     []() -> QWidget * {
+         auto *const label = new QLabel("One line\nand another");
+         label->setWordWrap(true);
+         return label;
+     }},
+    {"combo box",
+     []() -> QWidget * {
+         auto *const box = new QComboBox;
+         box->addItems({"short", "A text that needs room"});
+         return box;
+     }},
+    {"group", []() -> QWidget * { return new QGroupBox("A text that needs room"); }},
+    {"tabs",
+     []() -> QWidget * {
+         auto *const tabs = new QTabBar;
+         tabs->setUsesScrollButtons(false);
+         tabs->addTab("short");
+         tabs->addTab("A text that needs room");
+         return tabs;
+     }},
+    {"menu bar",
+     []() -> QWidget * {
+         auto *const menu = new QMenuBar;
+         menu->addMenu("short");
+         menu->addMenu("A text that needs room");
+         return menu;
+     }},
+    {"table",
+     []() -> QWidget * {
+         auto *const table = new QTableWidget(1, 1);
+         table->setHorizontalHeaderLabels({"A text that needs room"});
+         table->setItem(0, 0, new QTableWidgetItem("A text that needs room"));
+         table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+         return table;
+     }},
+};
+
+} // namespace
+
+void TestLayout::findsATextWithTooLittleRoom_data()
+{
+    QTest::addColumn<Make>("make");
+    for (const auto &widget : widgetsWithText)
+        QTest::newRow(widget.name) << widget.make;
+}
+
+void TestLayout::findsATextWithTooLittleRoom()
+{
+    QFETCH(Make, make);
+    const std::unique_ptr<QWidget> widget(make());
+    const QSize fitting = widget->sizeHint().expandedTo(widget->minimumSizeHint());
+    widget->resize(fitting);
+    widget->show();
+    QCOMPARE(cutTexts(*widget), QStringList());
+    widget->setMinimumWidth(1);
+    widget->resize(fitting.width() / 2, fitting.height());
+    QVERIFY(!cutTexts(*widget).isEmpty());
+    widget->resize(fitting);
+    QCOMPARE(cutTexts(*widget), QStringList());
+}
+
+void TestLayout::findsATextThatLiesOutsideTheWindow()
+{
+    QWidget window;
+    auto *const label = new QLabel("A text that needs room", &window);
+    window.resize(2 * label->sizeHint());
+    window.show();
+    QCOMPARE(cutTexts(window), QStringList());
+    label->move(label->sizeHint().width() + 5, 0);
+    QCOMPARE(cutTexts(window).size(), 1);
+}
+
+void TestLayout::toleratesThatUserDataIsShortened()
+{
+    QLabel label("History in /home/somebody");
+    label.resize(20, label.sizeHint().height());
+    label.show();
+    QCOMPARE(cutTexts(label).size(), 1);
+    QCOMPARE(cutTexts(label, {"/home/somebody"}), QStringList());
+}
+
+void TestLayout::findsAKeyThatIsGivenTwice()
+{
+    QMenu menu;
+    menu.addAction("&Open");
+    QAction *const other = menu.addAction("&Close");
+    QCOMPARE(sharedKeys(menu), QStringList());
+    other->setText("Cl&ose");
+    QCOMPARE(sharedKeys(menu), QStringList("Alt+O: &Open, Cl&ose"));
+}
+
+void TestLayout::cutsNoTextAndSharesNoKey_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : refhost::availableLanguages())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestLayout::cutsNoTextAndSharesNoKey()
+{
+    QFETCH(QString, language);
+    HistoryWindow history;
+    QVERIFY(history.store({connection(profile.toStdString(), 0)}));
+    QVERIFY(refhost::setLanguage(language));
+    QVERIFY(history.open());
+    const QStringList userData{profile, QString::fromStdString(history.storePath())};
+    QStringList faults;
+    for (const auto &each : windows) {
+        each.lookAt(history, [&](const QWidget &window) {
+            for (const QString &fault : cutTexts(window, userData) + sharedKeys(window))
+                faults.append(QStringLiteral("%1: %2").arg(each.name, fault));
+        });
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+}
+
+QTEST_MAIN(TestLayout)
+#include "tst_layout.moc"
