@@ -10,6 +10,8 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#include <optional>
+
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -24,6 +26,8 @@ private slots:
     void areCompleteAndUpToDate();
     void keepThePlaceholders_data();
     void keepThePlaceholders();
+    void areInTheDesktopsFiles_data();
+    void areInTheDesktopsFiles();
 };
 
 namespace
@@ -72,34 +76,49 @@ QStringList listOf(const char *const (&identifiers)[Size])
 
 struct Message {
     QString source;
-    QString translation;
+    QStringList translations; ///< one, or as many as there are plural forms
     QString state;
 };
 
-QList<Message> messagesIn(const QString &file)
+/// Nothing if the file cannot be read.
+std::optional<QList<Message>> messagesIn(const QString &file)
 {
     QFile input(file);
     if (!input.open(QFile::ReadOnly))
         return {};
     QList<Message> messages;
+    bool hasPluralForms = false;
     QXmlStreamReader reader(&input);
     while (!reader.atEnd()) {
         if (reader.readNext() != QXmlStreamReader::StartElement)
             continue;
-        if (reader.name() == QLatin1String("source")) {
+        if (reader.name() == QLatin1String("message")) {
+            hasPluralForms = reader.attributes().hasAttribute("numerus");
+        } else if (reader.name() == QLatin1String("source")) {
             messages.append({reader.readElementText(), {}, {}});
         } else if (reader.name() == QLatin1String("translation")) {
             messages.last().state = reader.attributes().value("type").toString();
-            messages.last().translation = reader.readElementText();
+            if (!hasPluralForms)
+                messages.last().translations = QStringList(reader.readElementText());
+        } else if (reader.name() == QLatin1String("numerusform")) {
+            messages.last().translations.append(reader.readElementText());
         }
     }
-    return reader.hasError() ? QList<Message>() : messages;
+    if (reader.hasError())
+        return {};
+    return messages;
 }
 
-QString translationFile(const QString &language)
+QString translationFile(const QString &name)
 {
-    return QStringLiteral(PROJECT_SOURCES "/refhost/translations/netinforecord_%1.ts")
-        .arg(language);
+    return QStringLiteral(PROJECT_SOURCES "/refhost/translations/%1.ts").arg(name);
+}
+
+/// Of a file that tells the desktop of the program.
+QString contentOf(const QString &name)
+{
+    QFile file(PROJECT_SOURCES "/apps/refdialer/data/" + name);
+    return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QStringList placeholders(const QString &text)
@@ -117,6 +136,23 @@ void addLanguageRows()
     QTest::addColumn<QString>("language");
     for (const QString &language : refhost::availableLanguages())
         QTest::newRow(qPrintable(refhost::languageName(language))) << language;
+}
+
+/// Each file with what Qt's tool makes it of: what the program itself says is English,
+/// but for the plural forms.
+void addFileRows()
+{
+    const QStringList identifiers("refhost/translations/Identifiers.h");
+    const QStringList program{"refhost/libcore", "apps/common", "apps/refdialer"};
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QStringList>("sources");
+    QTest::newRow("English") << "netinforecord_en" << identifiers;
+    QTest::newRow("English plural forms") << "plurals_en" << program + QStringList("-pluralonly");
+    for (const QString &language : refhost::availableLanguages()) {
+        if (language != "en")
+            QTest::newRow(qPrintable(refhost::languageName(language)))
+                << "netinforecord_" + language << identifiers + program;
+    }
 }
 
 } // namespace
@@ -175,46 +211,67 @@ void TestTranslations::knowEveryIdentifierInThePluginsSources()
 
 void TestTranslations::areCompleteAndUpToDate_data()
 {
-    addLanguageRows();
+    addFileRows();
 }
 
-/// Lets Qt look for texts in the sources that the file lacks, or the
-/// other way round. The English file holds the identifiers only: what the
-/// program itself says is English.
+/// Lets Qt look for texts in the sources that the file lacks, or the other way round,
+/// and for plural forms that the language has.
 void TestTranslations::areCompleteAndUpToDate()
 {
-    QFETCH(QString, language);
+    QFETCH(QString, file);
+    QFETCH(QStringList, sources);
     const QTemporaryDir folder;
     const QString copy = folder.filePath("copy.ts");
-    QVERIFY(QFile::copy(translationFile(language), copy));
-    QStringList sources{"refhost/translations/Identifiers.h"};
-    if (language != "en")
-        sources += {"refhost/libcore", "apps/common", "apps/refdialer"};
+    QVERIFY(QFile::copy(translationFile(file), copy));
     QProcess lupdate;
     lupdate.setWorkingDirectory(PROJECT_SOURCES);
     lupdate.start(LUPDATE, sources + QStringList({"-silent", "-ts", copy}));
     QVERIFY(lupdate.waitForFinished());
     QCOMPARE(lupdate.exitCode(), 0);
-    const QList<Message> messages = messagesIn(copy);
-    QVERIFY(!messages.isEmpty());
-    for (const Message &message : messages) {
+    const auto messages = messagesIn(copy);
+    QVERIFY(messages);
+    for (const Message &message : *messages) {
         QVERIFY2(message.state.isEmpty(), qPrintable(message.state + ": " + message.source));
-        QVERIFY2(!message.translation.isEmpty(), qPrintable(message.source));
+        QVERIFY2(!message.translations.contains(QString()), qPrintable(message.source));
     }
 }
 
 void TestTranslations::keepThePlaceholders_data()
 {
+    addFileRows();
+}
+
+/// But for the number of things, which a language may say in another way.
+void TestTranslations::keepThePlaceholders()
+{
+    QFETCH(QString, file);
+    const auto messages = messagesIn(translationFile(file));
+    QVERIFY(messages);
+    for (const Message &message : *messages) {
+        for (const QString &translation : message.translations)
+            QCOMPARE(placeholders(translation), placeholders(message.source));
+    }
+}
+
+void TestTranslations::areInTheDesktopsFiles_data()
+{
     addLanguageRows();
 }
 
-void TestTranslations::keepThePlaceholders()
+void TestTranslations::areInTheDesktopsFiles()
 {
     QFETCH(QString, language);
-    const QList<Message> messages = messagesIn(translationFile(language));
-    QVERIFY(!messages.isEmpty());
-    for (const Message &message : messages)
-        QCOMPARE(placeholders(message.translation), placeholders(message.source));
+    if (language == "en")
+        return;
+    const QString entry = contentOf("org.example.refdialer.desktop");
+    for (const char *const key : {"Name", "GenericName", "Comment", "Keywords"})
+        QVERIFY2(entry.contains(QString("\n%1[%2]=").arg(key, language)), key);
+    const QString description = contentOf("org.example.refdialer.metainfo.xml");
+    const auto textsIn = [&description](QString name) {
+        return description.count(QString("xml:lang=\"%1\"").arg(name.replace('_', '-')));
+    };
+    QVERIFY(textsIn(language) > 0);
+    QCOMPARE(textsIn(language), textsIn("de"));
 }
 
 QTEST_MAIN(TestTranslations)
