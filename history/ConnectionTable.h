@@ -95,6 +95,10 @@ public:
     /// has been written to the file since the last time.
     std::uint64_t fingerprint();
 
+    /// What SQLite counts of the writes of others and of this database itself.
+    using Writes = std::pair<std::int64_t, std::int64_t>;
+    Writes writes();
+
     /// Adds the connection, whatever its key, and returns the new key.
     std::int64_t insert(const Connection &connection);
     /// Whether there is a connection of this interface that began at that time.
@@ -110,10 +114,6 @@ public:
     bool remove(std::int64_t key);
 
 private:
-    /// What SQLite counts of the writes of others and of this database itself.
-    using Writes = std::pair<std::int64_t, std::int64_t>;
-
-    Writes writes();
     void update(const Connection &connection);
 
     SQLite::Database &m_database;

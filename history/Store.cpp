@@ -165,6 +165,11 @@ std::uint64_t Store::fingerprintOf(const Connection &connection)
     return history::fingerprintOf(connection);
 }
 
+Result<std::uint64_t> Store::revision() const
+{
+    return d->read([](StoreTables &tables) { return tables.revision(); });
+}
+
 Result<std::int64_t> Store::add(const Connection &connection)
 {
     return d->write(connection, [&](StoreTables &tables) { return tables.insert(connection); });

@@ -83,6 +83,11 @@ public:
     /// Of the connection's values and its key; the same within one process only.
     static std::uint64_t fingerprintOf(const Connection &connection);
 
+    /// The same number as before if nothing has been written to the file since, and a new one
+    /// if something has, or if another file has taken its place; 0 without a file. Costs next
+    /// to nothing.
+    Result<std::uint64_t> revision() const;
+
     /// Stores one connection and returns its key.
     Result<std::int64_t> add(const Connection &connection);
 

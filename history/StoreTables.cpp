@@ -4,6 +4,7 @@
 #include "ConnectionCheck.h"
 #include "StoreUpkeep.h"
 
+#include <atomic>
 #include <utility>
 
 namespace history
@@ -11,6 +12,13 @@ namespace history
 
 namespace
 {
+
+/// Of no other tables of this process, so that another file never looks like the former one.
+std::uint64_t newRevision()
+{
+    static std::atomic<std::uint64_t> latest{0};
+    return ++latest;
+}
 
 StoreFailure noSuchOpenConnection(const std::string &path, std::int64_t key)
 {
@@ -81,6 +89,16 @@ StoreTables::StoreTables(SQLite::Database &database, std::string path)
     , m_openHours(database, "open_connection")
     , m_path(std::move(path))
 {
+}
+
+std::uint64_t StoreTables::revision()
+{
+    const ConnectionTable::Writes writes = connections.writes();
+    if (m_revisionWrites != writes) {
+        m_revision = newRevision();
+        m_revisionWrites = writes;
+    }
+    return m_revision;
 }
 
 std::int64_t StoreTables::insert(const Connection &connection)

@@ -10,6 +10,7 @@
 #include "StoreFailure.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,8 @@ public:
     OriginTable origins;
     PlanTable plans;
 
+    /// See Store::revision().
+    std::uint64_t revision();
     std::int64_t insert(const Connection &connection);
     std::size_t insertMissing(const std::vector<Connection> &given,
                               const Store::Progress &progress);
@@ -60,6 +63,8 @@ private:
     HourTable m_hours;
     HourTable m_openHours;
     std::string m_path;
+    std::uint64_t m_revision = 0;
+    std::optional<ConnectionTable::Writes> m_revisionWrites; ///< before which it was given
 };
 
 /// The error for the key of no finished connection of this store.

@@ -37,6 +37,7 @@ private slots:
 
     void knowsWhetherItsConnectionsAreTheSame();
     void leavesOpenConnectionsOutOfTheFingerprint();
+    void tellsWhetherAnythingHasBeenWritten();
 
     void removesTheConnectionsWithTheseKeys();
     void removesAllOrNone();
@@ -220,6 +221,39 @@ void StoreTest::leavesOpenConnectionsOutOfTheFingerprint()
     QCOMPARE(watching.value().fingerprint().value(), before);
     QVERIFY(writing.value().finish(begun, connection("open", 200, 200)));
     QVERIFY(watching.value().fingerprint().value() != before);
+}
+
+void StoreTest::tellsWhetherAnythingHasBeenWritten()
+{
+    const auto watching = Store::openForReading(m_path);
+    QCOMPARE(watching.value().revision().value(), std::uint64_t(0));
+    std::uint64_t former = 0;
+    const auto isNew = [&] {
+        const std::uint64_t revision = watching.value().revision().value();
+        return std::exchange(former, revision) != revision;
+    };
+    auto writing = Store::openOrCreate(m_path);
+    QVERIFY(isNew());
+    QVERIFY(!isNew());
+    QVERIFY(writing.value().add(connection("finished", 100, 100)));
+    QVERIFY(isNew());
+    history::OpenConnection open;
+    open.bootId = "boot";
+    QVERIFY(writing.value().begin(open));
+    QVERIFY(isNew());
+    runSql(m_path, "INSERT INTO plan (name, covers, covered, network, counts, month_day) VALUES"
+                   " ('plan', 'everything', '', 'both', 'both', 1)");
+    QVERIFY(isNew());
+    QVERIFY(!isNew());
+
+    // What an own write changes is new as well, and so is another file.
+    const std::uint64_t before = writing.value().revision().value();
+    QVERIFY(writing.value().removePlan("plan").value());
+    QVERIFY(writing.value().revision().value() != before);
+    QVERIFY(isNew());
+    QVERIFY(QFile::remove(QString::fromStdString(m_path)));
+    QVERIFY(isNew());
+    QCOMPARE(former, std::uint64_t(0));
 }
 
 void StoreTest::removesTheConnectionsWithTheseKeys()
