@@ -57,17 +57,49 @@ Wide numberOf(std::string_view digits)
     return number;
 }
 
+struct ShownSize {
+    double value;
+    const char *unit;
+};
+
+/// The unit is chosen before rounding, as in the history.
+ShownSize shownSize(std::int64_t bytes)
+{
+    constexpr const char *names[] = {"KB", "MB", "GB"};
+    double value = static_cast<double>(bytes) / 1024;
+    const char *const *unit = std::begin(names);
+    for (; std::abs(value) >= 1024 && unit + 1 != std::end(names); ++unit)
+        value /= 1024;
+    return {value, *unit};
+}
+
+/// Of decimals only.
+QString withoutTrailingZeros(QString number)
+{
+    if (!number.contains(QLatin1Char('.')))
+        return number;
+    while (number.endsWith(QLatin1Char('0')))
+        number.chop(1);
+    if (number.endsWith(QLatin1Char('.')))
+        number.chop(1);
+    return number;
+}
+
 } // namespace
 
 QString sizeText(std::int64_t bytes)
 {
-    constexpr const char *units[] = {"KB", "MB", "GB"};
-    double value = static_cast<double>(bytes) / 1024;
-    const char *const *unit = std::begin(units);
-    // The unit is chosen before rounding, as in the history.
-    for (; std::abs(value) >= 1024 && unit + 1 != std::end(units); ++unit)
-        value /= 1024;
-    return QString::number(value, 'f', 2) + QLatin1Char(' ') + QLatin1String(*unit);
+    const ShownSize size = shownSize(bytes);
+    return QString::number(size.value, 'f', 2) + QLatin1Char(' ') + QLatin1String(size.unit);
+}
+
+QString shortSizeText(std::int64_t bytes)
+{
+    const ShownSize size = shownSize(bytes);
+    const double value = std::abs(size.value);
+    const int decimals = value < 10 ? 2 : value < 100 ? 1 : 0;
+    return withoutTrailingZeros(QString::number(size.value, 'f', decimals)) + QLatin1Char(' ') +
+           QLatin1String(size.unit);
 }
 
 QString rateText(std::int64_t bytesPerSecond)

@@ -16,6 +16,9 @@ namespace usage
 /// each and in every language with a full stop. What is less than none has a minus.
 QString sizeText(std::int64_t bytes);
 
+/// The same in at most three digits, without zeros behind the full stop: "3.2 GB", "560 MB".
+QString shortSizeText(std::int64_t bytes);
+
 /// "249 B/s"; from 1024 bytes on in the units above: "1.50 KB/s".
 QString rateText(std::int64_t bytesPerSecond);
 

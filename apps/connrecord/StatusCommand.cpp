@@ -19,6 +19,8 @@ namespace connrecord
 namespace
 {
 
+using usage::PlanState;
+
 std::vector<history::DataPlan> plansFor(const history::Store &store, const CommonRequest &common,
                                         const StatusRequest &request)
 {
@@ -52,15 +54,15 @@ ExitCode showStatus(const CommonRequest &common, const StatusRequest &request)
         request.at ? optionValue("--at", *request.at, formats::fieldTime) : std::time(nullptr);
     const auto statusOf = request.at ? usage::statusAt : usage::currentStatus;
     const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
-    std::vector<StandingPlan> standing;
+    std::vector<PlanReport> standing;
     for (const history::DataPlan &plan : plansFor(store, common, request)) {
-        standing.push_back({plan, valueOrFailure(statusOf(store, plan, utc)), {}});
+        standing.push_back({{plan, valueOrFailure(statusOf(store, plan, utc))}, {}});
         if (common.json)
             standing.back().past = valueOrFailure(usage::pastUses(store, plan, utc));
     }
     Output().write(common.json ? formats::jsonText(toJson(standing)) : toTable(standing));
     ExitCode worst = ExitCode::Success;
-    for (const StandingPlan &each : standing)
+    for (const PlanReport &each : standing)
         worst = std::max(worst, exitCodeOf(stateOf(each)));
     return worst;
 }

@@ -16,7 +16,9 @@ namespace
 
 using formats::Json;
 using usage::PeriodUse;
+using usage::PlanState;
 using usage::PlanStatus;
+using usage::StandingPlan;
 
 const char *nameOf(PlanState state)
 {
@@ -84,7 +86,7 @@ Json toJson(const PlanStatus &status)
     return object;
 }
 
-Json toJson(const StandingPlan &standing)
+Json toJson(const PlanReport &standing)
 {
     Json past = Json::array();
     for (const PeriodUse &use : standing.past)
@@ -98,16 +100,7 @@ Json toJson(const StandingPlan &standing)
 
 } // namespace
 
-PlanState stateOf(const StandingPlan &standing)
-{
-    if (!standing.status)
-        return PlanState::NoPeriod;
-    if (standing.status->isSpent())
-        return PlanState::Spent;
-    return standing.status->warnings.empty() ? PlanState::Within : PlanState::Warned;
-}
-
-QByteArray toTable(const std::vector<StandingPlan> &plans)
+QByteArray toTable(const std::vector<PlanReport> &plans)
 {
     using Alignment = TextTable::Alignment;
     TextTable table({{QStringLiteral("PLAN"), Alignment::Left},
@@ -119,15 +112,15 @@ QByteArray toTable(const std::vector<StandingPlan> &plans)
                      {QStringLiteral("A DAY"), Alignment::Right},
                      {QStringLiteral("PACE"), Alignment::Right},
                      {QStringLiteral("STATE"), Alignment::Left}});
-    for (const StandingPlan &each : plans)
+    for (const PlanReport &each : plans)
         table.addRow(row(each));
     return table.text().toUtf8();
 }
 
-Json toJson(const std::vector<StandingPlan> &plans)
+Json toJson(const std::vector<PlanReport> &plans)
 {
     Json array = Json::array();
-    for (const StandingPlan &each : plans)
+    for (const PlanReport &each : plans)
         array.push_back(toJson(each));
     return array;
 }

@@ -14,6 +14,8 @@ class SizeTextTest : public QObject
 private slots:
     void writesSizesAndRatesAsTheHistoryDoes_data();
     void writesSizesAndRatesAsTheHistoryDoes();
+    void writesShortSizes_data();
+    void writesShortSizes();
     void writesLessThanNothing();
     void readsSizes_data();
     void readsSizes();
@@ -53,6 +55,33 @@ void SizeTextTest::writesSizesAndRatesAsTheHistoryDoes()
     QFETCH(qint64, bytes);
     QTEST(sizeText(bytes), "size");
     QTEST(rateText(bytes), "rate");
+}
+
+void SizeTextTest::writesShortSizes_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("size");
+    const auto row = [](const char *name, qint64 bytes, const char *size) {
+        QTest::newRow(name) << bytes << QString::fromLatin1(size);
+    };
+    const qint64 megabyte = 1024 * 1024;
+    row("nothing", 0, "0 KB");
+    row("a byte", 1, "0 KB");
+    row("a few bytes", 100, "0.1 KB");
+    row("three digits", 3 * megabyte + megabyte / 4, "3.25 MB");
+    row("two", 3277 * megabyte, "3.2 GB");
+    row("a whole number", 10 * 1024 * megabyte, "10 GB");
+    row("tens", 12 * megabyte + megabyte / 3, "12.3 MB");
+    row("hundreds", 560 * megabyte + 1, "560 MB");
+    row("hundreds that end with a zero", 100 * megabyte, "100 MB");
+    row("just below the next unit", 1024 * megabyte - 1, "1024 MB");
+    row("less than nothing", -megabyte / 2, "-512 KB");
+}
+
+void SizeTextTest::writesShortSizes()
+{
+    QFETCH(qint64, bytes);
+    QTEST(shortSizeText(bytes), "size");
 }
 
 void SizeTextTest::writesLessThanNothing()
