@@ -122,6 +122,7 @@ void Application::showWindow()
     MainWindow window(*m_plugin, m_source, m_state);
     refhost::setMainWindow(&window);
     if (!m_options.pictureFile.isEmpty()) {
+        window.finishReading();
         savePicture(window, m_options.pictureFile);
         return;
     }

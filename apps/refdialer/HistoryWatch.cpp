@@ -4,18 +4,13 @@
 namespace refdialer
 {
 
+using history::Result;
+using history::Store;
+
 HistoryWatch::HistoryWatch(const std::string &storePath, QObject *parent)
     : QObject(parent)
-    , m_storePath(storePath)
+    , m_store(storePath)
 {
-    m_reader.moveToThread(&m_thread);
-    m_thread.start();
-}
-
-HistoryWatch::~HistoryWatch()
-{
-    m_thread.quit();
-    m_thread.wait();
 }
 
 void HistoryWatch::look()
@@ -23,28 +18,16 @@ void HistoryWatch::look()
     if (m_isLooking)
         return;
     m_isLooking = true;
-    QMetaObject::invokeMethod(&m_reader, [this] { readStore(); });
+    m_store.read(
+        this, [](const Store &store) { return store.fingerprint(); },
+        [this](const Result<std::uint64_t> &fingerprint) { answer(fingerprint); });
 }
 
-void HistoryWatch::readStore()
-{
-    if (!m_store) {
-        if (auto opened = history::Store::openForWatching(m_storePath))
-            m_store.emplace(std::move(opened.value()));
-    }
-    std::optional<quint64> fingerprint;
-    if (m_store) {
-        if (const auto read = m_store->fingerprint())
-            fingerprint = read.value();
-    }
-    QMetaObject::invokeMethod(this, [this, fingerprint] { answer(fingerprint); });
-}
-
-void HistoryWatch::answer(std::optional<quint64> fingerprint)
+void HistoryWatch::answer(const Result<std::uint64_t> &fingerprint)
 {
     m_isLooking = false;
     if (fingerprint)
-        emit seen(*fingerprint);
+        emit seen(fingerprint.value());
 }
 
 } // namespace refdialer

@@ -1,26 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "history/Store.h"
+#include "StoreWorker.h"
 
 #include <QObject>
-#include <QThread>
 
-#include <optional>
 #include <string>
 
 namespace refdialer
 {
 
-/// Looks at the store, on a thread of its own: a store that another program keeps
-/// locked must not hold up the window.
+/// Looks at the store without holding up the window.
 class HistoryWatch : public QObject
 {
     Q_OBJECT
 
 public:
     explicit HistoryWatch(const std::string &storePath, QObject *parent = nullptr);
-    ~HistoryWatch() override;
 
     /// Answered later with seen(), unless the store cannot be read. Asking again before
     /// that is of no account.
@@ -31,13 +27,9 @@ signals:
     void seen(quint64 fingerprint);
 
 private:
-    void readStore();
-    void answer(std::optional<quint64> fingerprint);
+    void answer(const history::Result<std::uint64_t> &fingerprint);
 
-    const std::string m_storePath;
-    QThread m_thread;
-    QObject m_reader;                      ///< lives on that thread
-    std::optional<history::Store> m_store; ///< used there only
+    StoreWorker m_store;
     bool m_isLooking = false;
 };
 

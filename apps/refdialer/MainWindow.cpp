@@ -7,6 +7,8 @@
 #include "HistoryPage.h"
 #include "LanguageChoice.h"
 #include "LineState.h"
+#include "PlanLine.h"
+#include "PlanWatch.h"
 #include "PluginHandle.h"
 #include "ProblemLine.h"
 #include "SettingsDialog.h"
@@ -47,6 +49,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     : m_plugin(plugin)
     , m_state(state)
     , m_background(makeBackgroundUnit(source, this))
+    , m_plans(std::make_unique<PlanWatch>(source.file))
     , m_pages(new QTabWidget)
     , m_historyPage(new HistoryPage(plugin, source.file))
     , m_area(m_historyPage->area())
@@ -56,6 +59,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     // Each part brings margins of its own.
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new StateLine(source, state));
+    layout->addWidget(new PlanLine(*m_plans));
     layout->addWidget(m_pages, 1);
     layout->addWidget(new ProblemLine(state, content));
     setCentralWidget(content);
@@ -72,6 +76,11 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
 MainWindow::~MainWindow()
 {
     m_plugin.end();
+}
+
+void MainWindow::finishReading()
+{
+    m_plans->finish();
 }
 
 void MainWindow::comeForward()

@@ -5,6 +5,8 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
 class QAction;
 class QMenu;
 class QTabWidget;
@@ -16,6 +18,7 @@ class BackgroundUnit;
 class HistoryArea;
 class HistoryPage;
 class LineState;
+class PlanWatch;
 class PluginHandle;
 
 /// The window: what is connected above, the pages below.
@@ -29,6 +32,9 @@ public:
     /// before its own area goes.
     MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state);
     ~MainWindow() override;
+
+    /// Returns when everything is shown that is read on other threads.
+    void finishReading();
 
     /// Shows itself above other windows and takes the keyboard.
     void comeForward();
@@ -53,6 +59,7 @@ private:
     /// A child; null where the service records into another history than the window's.
     BackgroundUnit *const m_background;
     bool m_isClosingDecided = false;
+    const std::unique_ptr<PlanWatch> m_plans;
     QTabWidget *m_pages;
     HistoryPage *m_historyPage;
     HistoryArea &m_area;

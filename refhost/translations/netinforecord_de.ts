@@ -416,6 +416,89 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanLine</name>
+    <message>
+        <source>Data plans</source>
+        <translation>Datentarife</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Used of the data plan &quot;%1&quot;</source>
+        <translation>Verbrauch des Datentarifs „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanText</name>
+    <message>
+        <source>%1 of %2 used, %3 over, today is the last day</source>
+        <translation>%1 von %2 verbraucht, %3 darüber, heute ist der letzte Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %3 over, %n days left</source>
+        <translation>
+            <numerusform>%1 von %2 verbraucht, %3 darüber, noch %n Tag</numerusform>
+            <numerusform>%1 von %2 verbraucht, %3 darüber, noch %n Tage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 left, today is the last day</source>
+        <translation>%1 von %2 verbraucht, noch %3, heute ist der letzte Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %n days left, %3 a day</source>
+        <translation>
+            <numerusform>%1 von %2 verbraucht, noch %n Tag, %3 am Tag</numerusform>
+            <numerusform>%1 von %2 verbraucht, noch %n Tage, %3 am Tag</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 used, today is the last day</source>
+        <translation>%1 verbraucht, heute ist der letzte Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 used, %n days left</source>
+        <translation>
+            <numerusform>%1 verbraucht, noch %n Tag</numerusform>
+            <numerusform>%1 verbraucht, noch %n Tage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended on %1</source>
+        <translation>endete am %1</translation>
+    </message>
+    <message>
+        <source>begins on %1</source>
+        <translation>beginnt am %1</translation>
+    </message>
+    <message>
+        <source>Heading for %1</source>
+        <translation>Auf dem Weg zu %1</translation>
+    </message>
+    <message>
+        <source>%1 % reached</source>
+        <translation>%1 % erreicht</translation>
+    </message>
+    <message>
+        <source>Used up</source>
+        <translation>Verbraucht</translation>
+    </message>
+    <message>
+        <source>The period is from %1 to %2.</source>
+        <translation>Der Zeitraum geht von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>%1 left.</source>
+        <translation>Noch %1.</translation>
+    </message>
+    <message>
+        <source>At this pace it will be %1 in the end.</source>
+        <translation>In diesem Tempo sind es am Ende %1.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PluginHandle</name>
     <message>
         <source>The plug-in %1 is not there.</source>

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "PlanLine.h"
+
+#include "ElidedLabel.h"
+#include "PlanText.h"
+#include "PlanWatch.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QLocale>
+#include <QProgressBar>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace refdialer
+{
+
+using usage::StandingPlan;
+
+namespace
+{
+
+/// More would leave the history too little room; they are in the dialog.
+constexpr std::size_t mostLines = 3;
+constexpr int charactersInName = 24;
+constexpr int charactersInBar = 16;
+
+std::vector<StandingPlan> worstFirst(std::vector<StandingPlan> plans)
+{
+    std::stable_sort(plans.begin(), plans.end(), [](const auto &a, const auto &b) {
+        return usage::stateOf(a) > usage::stateOf(b);
+    });
+    return plans;
+}
+
+ElidedLabel *newName()
+{
+    auto *const label = new ElidedLabel(Qt::ElideRight);
+    label->setMaximumWidth(charactersInName * label->fontMetrics().averageCharWidth());
+    return label;
+}
+
+QProgressBar *newBar()
+{
+    auto *const bar = new QProgressBar;
+    bar->setRange(0, 100);
+    bar->setFixedWidth(charactersInBar * bar->fontMetrics().averageCharWidth());
+    return bar;
+}
+
+QLabel *newAlarm()
+{
+    auto *const label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+} // namespace
+
+PlanLine::PlanLine(const PlanWatch &plans, QWidget *parent)
+    : QWidget(parent)
+    , m_plans(plans)
+    , m_layout(new QGridLayout(this))
+    , m_problem(new ElidedLabel(Qt::ElideRight))
+{
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    m_layout->setContentsMargins(margin, margin / 2, margin, 0);
+    m_layout->setHorizontalSpacing(margin);
+    m_layout->setVerticalSpacing(margin / 4);
+    m_layout->setColumnStretch(3, 1);
+    m_problem->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_layout->addWidget(m_problem, int(mostLines), 0, 1, 4);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    connect(&m_plans, &PlanWatch::changed, this, &PlanLine::showPlans);
+    showPlans();
+}
+
+void PlanLine::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange)
+        showPlans();
+    QWidget::changeEvent(event);
+}
+
+void PlanLine::showPlans()
+{
+    setAccessibleName(tr("Data plans"));
+    const std::vector<StandingPlan> plans = worstFirst(m_plans.plans());
+    const std::size_t shown = std::min(plans.size(), mostLines);
+    while (m_rows.size() < shown)
+        addRow();
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (i < shown)
+            showPlan(m_rows[i], plans[i]);
+        else
+            hideRow(m_rows[i]);
+    }
+    m_problem->setText(m_plans.problem());
+    m_problem->setVisible(!m_plans.problem().isEmpty());
+    setVisible(shown > 0 || !m_plans.problem().isEmpty());
+}
+
+void PlanLine::addRow()
+{
+    const Row row{newName(), newBar(), newAlarm(), new ElidedLabel(Qt::ElideRight)};
+    const int line = int(m_rows.size());
+    int column = 0;
+    for (QWidget *const widget : widgetsOf(row))
+        m_layout->addWidget(widget, line, column++);
+    m_rows.push_back(row);
+}
+
+std::array<QWidget *, 4> PlanLine::widgetsOf(const Row &row)
+{
+    return {row.name, row.bar, row.alarm, row.figures};
+}
+
+void PlanLine::hideRow(const Row &row)
+{
+    for (QWidget *const widget : widgetsOf(row))
+        widget->hide();
+}
+
+void PlanLine::showPlan(const Row &row, const StandingPlan &plan) const
+{
+    const QString name = QString::fromStdString(plan.plan.name);
+    const QString figures = PlanText::figures(plan, m_plans.today(), locale());
+    const QString alarm = PlanText::alarm(plan);
+    const QString details = PlanText::details(plan, locale());
+    const auto percent = percentUsed(plan);
+    for (QWidget *const widget : widgetsOf(row))
+        widget->setToolTip(details);
+    row.name->setText(name);
+    row.name->show();
+    row.bar->setValue(std::min(percent.value_or(0), row.bar->maximum()));
+    row.bar->setFormat(tr("%1 %").arg(percent.value_or(0)));
+    row.bar->setAccessibleName(tr("Used of the data plan \"%1\"").arg(name));
+    row.bar->setAccessibleDescription(details);
+    row.bar->setVisible(percent.has_value());
+    row.alarm->setText(alarm);
+    row.alarm->setVisible(!alarm.isEmpty());
+    row.figures->setText(figures);
+    row.figures->show();
+}
+
+} // namespace refdialer

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+#include <vector>
+
+class QGridLayout;
+class QLabel;
+class QProgressBar;
+
+namespace usage
+{
+struct StandingPlan;
+}
+
+namespace refdialer
+{
+
+class ElidedLabel;
+class PlanWatch;
+
+/// What is left of the data plans, a line for each: first those that are spent, then those
+/// that are nearly so. Takes no room as long as there is no plan.
+class PlanLine : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The plans must outlive the line.
+    explicit PlanLine(const PlanWatch &plans, QWidget *parent = nullptr);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    struct Row {
+        ElidedLabel *name;
+        QProgressBar *bar; ///< shown for plans with an amount
+        QLabel *alarm;     ///< shown if there is one
+        ElidedLabel *figures;
+    };
+
+    void showPlans();
+    void addRow();
+    void showPlan(const Row &row, const usage::StandingPlan &plan) const;
+    static std::array<QWidget *, 4> widgetsOf(const Row &row);
+    static void hideRow(const Row &row);
+
+    const PlanWatch &m_plans;
+    QGridLayout *m_layout;
+    std::vector<Row> m_rows; ///< some may be hidden
+    ElidedLabel *m_problem;
+};
+
+} // namespace refdialer

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "PlanTest.h"
+
+#include "refhost/libcore/Host.h"
+
+#include <QTest>
+
+using namespace history;
+using refdialer::PlanWatch;
+
+void PlanTest::init()
+{
+    StoreTestCase::init();
+    QVERIFY(refhost::setLanguage("en"));
+    m_store = std::make_unique<Store>(storeWith(m_path, {}));
+    auto clock = std::make_unique<FakeClock>();
+    m_clock = clock.get();
+    m_clock->utc = utcOf("2026-11-19T12:00:00Z");
+    m_watch = std::make_unique<PlanWatch>(QString::fromStdString(m_path), std::move(clock));
+}
+
+void PlanTest::cleanup()
+{
+    m_watch.reset();
+    m_store.reset();
+    StoreTestCase::cleanup();
+}
+
+void PlanTest::readPlans()
+{
+    m_watch->finish(); // with an earlier look
+    m_watch->look();
+    m_watch->finish();
+}
+
+DataPlan planCalled(const std::string &name, std::optional<std::int64_t> amount)
+{
+    DataPlan plan;
+    plan.name = name;
+    plan.amount = amount;
+    return plan;
+}
+
+Connection movedIn(const QString &hour, std::int64_t bytes, bool isRoaming)
+{
+    Connection moved = connection("internet", utcOf(hour) + 60, utcOf(hour) + 120);
+    moved.downloadedBytes = bytes;
+    moved.hours = {{utcOf(hour), isRoaming, 0, bytes}};
+    return moved;
+}

@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: MIT
+#include "LocalZone.h"
+#include "PlanTest.h"
+#include "apps/refdialer/PlanLine.h"
+#include "refhost/libcore/Host.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QProgressBar>
+#include <QTest>
+
+using namespace history;
+using refdialer::PlanLine;
+using refdialer::PlanWatch;
+
+namespace
+{
+
+const char *const noonOfThe19th = "2026-11-19T12:00:00Z";
+
+DataPlan unlimited(const PeriodRule &rule)
+{
+    DataPlan plan = planOf(rule);
+    plan.amount.reset();
+    return plan;
+}
+
+/// What the line shows, its parts joined with "|", several plans in a line each.
+QString shownText(const PlanLine &line)
+{
+    QStringList parts;
+    for (const QWidget *const part : line.findChildren<QWidget *>()) {
+        if (part->isVisibleTo(&line) && part->children().isEmpty())
+            parts.append(part->property("text").toString());
+    }
+    return parts.join('|');
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(DataPlan)
+
+class TestPlanLine : public PlanTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void tellsHowAPlanStands_data();
+    void tellsHowAPlanStands();
+    void marksHowMuchIsUsedWithTheBar();
+    void takesNoRoomWithoutAPlan();
+    void showsTheWorstOfManyPlans();
+    void followsTheRunningConnection();
+    void followsOtherProgramsByItself();
+    void followsTheDay();
+    void followsTheZone();
+    void waitsForALockedHistory();
+    void saysWhyPlansCannotBeRead();
+    void speaksTheLanguageOfTheProgram();
+
+private:
+    QString shown();
+
+    std::unique_ptr<PlanLine> m_line;
+};
+
+void TestPlanLine::init()
+{
+    PlanTest::init();
+    m_line = std::make_unique<PlanLine>(*m_watch);
+    m_line->setLocale(QLocale("en_GB"));
+}
+
+void TestPlanLine::cleanup()
+{
+    m_line.reset();
+    PlanTest::cleanup();
+}
+
+QString TestPlanLine::shown()
+{
+    readPlans();
+    return shownText(*m_line);
+}
+
+void TestPlanLine::tellsHowAPlanStands_data()
+{
+    QTest::addColumn<DataPlan>("plan");
+    QTest::addColumn<qint64>("used");
+    QTest::addColumn<QString>("now");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, const DataPlan &plan, qint64 used, const char *now,
+                        const char *text) {
+        QTest::newRow(name) << plan << used << QString(now) << QString(text);
+    };
+    const DataPlan tenGigabytes = planOf(MonthlyFrom{1}, 10 * gigabyte);
+    const char *const lastDay = "2026-11-30T12:00:00Z";
+
+    // 6963 MB of 12 days.
+    row("within", tenGigabytes, 3277 * megabyte, noonOfThe19th,
+        "plan|32 %|3.2 GB of 10 GB used, 12 days left, 580 MB a day");
+    row("within, on the last day", tenGigabytes, 3277 * megabyte, lastDay,
+        "plan|32 %|3.2 GB of 10 GB used, 6.8 GB left, today is the last day");
+    // 445 of 720 hours have gone.
+    row("at a pace that is too much", tenGigabytes, 7 * gigabyte, noonOfThe19th,
+        "plan|70 %|Heading for 11.3 GB|7 GB of 10 GB used, 12 days left, 256 MB a day");
+    row("warned", tenGigabytes, 8 * gigabyte, noonOfThe19th,
+        "plan|80 %|80 % reached|8 GB of 10 GB used, 12 days left, 171 MB a day");
+    row("spent to the byte", tenGigabytes, 10 * gigabyte, noonOfThe19th,
+        "plan|100 %|Used up|10 GB of 10 GB used, 12 days left, 0 KB a day");
+    row("spent", tenGigabytes, 10752 * megabyte, noonOfThe19th,
+        "plan|105 %|Used up|10.5 GB of 10 GB used, 512 MB over, 12 days left");
+    row("spent, on the last day", tenGigabytes, 10752 * megabyte, lastDay,
+        "plan|105 %|Used up|10.5 GB of 10 GB used, 512 MB over, today is the last day");
+    row("of nothing", planOf(MonthlyFrom{1}, 0), 0, noonOfThe19th,
+        "plan|100 %|Used up|0 KB of 0 KB used, 12 days left, 0 KB a day");
+    row("without an amount", unlimited(MonthlyFrom{1}), 1536 * 1024, noonOfThe19th,
+        "plan|1.5 MB used, 12 days left");
+    row("without an amount, on the last day", unlimited(MonthlyFrom{1}), 1536 * 1024, lastDay,
+        "plan|1.5 MB used, today is the last day");
+
+    DataPlan corrected = tenGigabytes;
+    corrected.usedElsewhere = UsedElsewhere{-gigabyte, dayNumber("2026-11-02")};
+    row("less than nothing", corrected, 0, noonOfThe19th,
+        "plan|0 %|-1 GB of 10 GB used, 12 days left, 939 MB a day");
+    DataPlan abroadOnly = tenGigabytes;
+    abroadOnly.network = DataPlan::Network::Roaming;
+    row("roaming only", abroadOnly, 8 * gigabyte, noonOfThe19th,
+        "plan|10 %|1 GB of 10 GB used, 12 days left, 768 MB a day");
+
+    const DataPlan prepaid =
+        planOf(OnceBetween{dayNumber("2026-11-10"), dayNumber("2026-11-18")}, gigabyte);
+    row("prepaid, in time", prepaid, 512 * megabyte, "2026-11-17T12:00:00Z",
+        "plan|50 %|512 MB of 1 GB used, 2 days left, 256 MB a day");
+    row("prepaid, over", prepaid, 512 * megabyte, noonOfThe19th, "plan|ended on 18/11/2026");
+    row("prepaid, not begun", prepaid, 0, "2026-11-09T12:00:00Z", "plan|begins on 10/11/2026");
+    row("cycles that have not begun", planOf(EveryDays{28, dayNumber("2026-12-24")}), 0,
+        noonOfThe19th, "plan|begins on 24/12/2026");
+}
+
+void TestPlanLine::tellsHowAPlanStands()
+{
+    QFETCH(DataPlan, plan);
+    QFETCH(qint64, used);
+    QFETCH(QString, now);
+    m_clock->utc = utcOf(now);
+    QVERIFY(m_store->setPlan(plan));
+    QVERIFY(m_store->add(movedIn("2026-11-16T10:00:00Z", used)));
+    if (plan.network == DataPlan::Network::Roaming)
+        QVERIFY(m_store->add(movedIn("2026-11-16T11:00:00Z", gigabyte, true)));
+    QTEST(shown(), "text");
+    QVERIFY(!m_line->isHidden());
+}
+
+void TestPlanLine::marksHowMuchIsUsedWithTheBar()
+{
+    DataPlan plan = planCalled("home", 10 * gigabyte);
+    plan.key = m_store->setPlan(plan).value();
+    QVERIFY(m_store->add(movedIn("2026-11-16T10:00:00Z", 4 * gigabyte)));
+    readPlans();
+    const auto *const bar = m_line->findChild<QProgressBar *>();
+    QCOMPARE(bar->value(), 40);
+    QCOMPARE(bar->accessibleName(), QString("Used of the data plan \"home\""));
+    QCOMPARE(bar->accessibleDescription(),
+             QString("The period is from 01/11/2026 to 30/11/2026. 6.00 GB left. At this pace it "
+                     "will be 6.47 GB in the end."));
+    QCOMPARE(bar->toolTip(), bar->accessibleDescription());
+    plan.amount = 2 * gigabyte;
+    QVERIFY(m_store->setPlan(plan));
+    readPlans();
+    QCOMPARE(bar->value(), bar->maximum());
+    QCOMPARE(bar->text(), QString("200 %"));
+}
+
+void TestPlanLine::takesNoRoomWithoutAPlan()
+{
+    readPlans();
+    QVERIFY(m_line->isHidden());
+    QVERIFY(m_store->setPlan(planCalled("home", gigabyte)));
+    readPlans();
+    QVERIFY(!m_line->isHidden());
+    QVERIFY(m_store->removePlan("home").value());
+    QCOMPARE(shown(), QString());
+    QVERIFY(m_line->isHidden());
+}
+
+void TestPlanLine::showsTheWorstOfManyPlans()
+{
+    QVERIFY(m_store->add(movedIn("2026-11-16T10:00:00Z", 8 * megabyte)));
+    for (const auto &[name, amount] : std::vector<std::pair<const char *, std::int64_t>>{
+             {"a", 100 * megabyte}, {"b", 9 * megabyte}, {"c", 80 * megabyte}, {"d", megabyte}})
+        QVERIFY(m_store->setPlan(planCalled(name, amount)));
+    QCOMPARE(shown(), QString("d|800 %|Used up|8 MB of 1 MB used, 7 MB over, 12 days left|"
+                              "b|88 %|80 % reached|8 MB of 9 MB used, 12 days left, 85.3 KB a day|"
+                              "a|8 %|8 MB of 100 MB used, 12 days left, 7.67 MB a day"));
+}
+
+void TestPlanLine::followsTheRunningConnection()
+{
+    QVERIFY(m_store->setPlan(planCalled("home", 10 * megabyte)));
+    OpenConnection open;
+    open.bootId = "boot";
+    open.startUtc = m_clock->utc - 600;
+    open.updatedUtc = m_clock->utc;
+    open = m_store->begin(open).value();
+    QVERIFY(shown().startsWith("home|0 %|0 KB of"));
+    open.uploadedBytes = 5 * megabyte;
+    open.hours = {{startOfHour(m_clock->utc), false, 5 * megabyte, 0}};
+    QVERIFY(m_store->checkpoint(open));
+    QVERIFY2(shown().startsWith("home|50 %|5 MB of 10 MB used"), qPrintable(shown()));
+}
+
+/// Within a second, without being told to look.
+void TestPlanLine::followsOtherProgramsByItself()
+{
+    readPlans();
+    QVERIFY(m_store->setPlan(planCalled("home", 10 * megabyte)));
+    QTRY_VERIFY(shownText(*m_line).startsWith("home|0 %"));
+}
+
+void TestPlanLine::followsTheDay()
+{
+    QVERIFY(m_store->setPlan(planCalled("home", 10 * gigabyte)));
+    QVERIFY(m_store->add(movedIn("2026-11-16T10:00:00Z", gigabyte)));
+    m_clock->utc = utcOf("2026-11-29T22:59:59Z");
+    QCOMPARE(shown(), QString("home|10 %|1 GB of 10 GB used, 2 days left, 4.5 GB a day"));
+    m_clock->utc += 1;
+    QCOMPARE(shown(), QString("home|10 %|1 GB of 10 GB used, 9 GB left, today is the last day"));
+    m_clock->utc = utcOf("2026-11-30T23:00:00Z");
+    QCOMPARE(shown(), QString("home|0 %|0 KB of 10 GB used, 31 days left, 330 MB a day"));
+}
+
+void TestPlanLine::followsTheZone()
+{
+    QVERIFY(m_store->setPlan(planCalled("home", 10 * gigabyte)));
+    m_clock->utc = utcOf("2026-11-30T23:00:00Z");
+    QVERIFY(shown().contains("31 days left"));
+    const LocalZone local("America/New_York");
+    QCOMPARE(shown(), QString("home|0 %|0 KB of 10 GB used, 10 GB left, today is the last day"));
+}
+
+/// A history that somebody keeps for himself is soon free again.
+void TestPlanLine::waitsForALockedHistory()
+{
+    QVERIFY(m_store->setPlan(planCalled("home", gigabyte)));
+    m_line.reset();
+    m_watch.reset();
+    m_store.reset();
+    auto other = std::make_unique<SQLite::Database>(m_path, SQLite::OPEN_READWRITE);
+    other->exec("PRAGMA locking_mode = EXCLUSIVE");
+    other->exec("UPDATE plan SET name = 'away'");
+    m_watch = std::make_unique<PlanWatch>(QString::fromStdString(m_path));
+    m_line = std::make_unique<PlanLine>(*m_watch);
+    QCOMPARE(shown(), QString());
+    QVERIFY(m_watch->problem().isEmpty());
+    other.reset();
+    QVERIFY(shown().startsWith("away|0 %"));
+}
+
+void TestPlanLine::saysWhyPlansCannotBeRead()
+{
+    QVERIFY(m_store->setPlan(planCalled("home", gigabyte)));
+    runSql(m_path, "UPDATE plan SET network = 'moon'");
+    QVERIFY2(shown().startsWith("The network of the plan \"home\", \"moon\", is none of home"),
+             qPrintable(shown()));
+    runSql(m_path, "UPDATE plan SET network = 'home'");
+    QVERIFY(shown().startsWith("home|0 %"));
+}
+
+void TestPlanLine::speaksTheLanguageOfTheProgram()
+{
+    QVERIFY(m_store->setPlan(planCalled("home", 10 * gigabyte)));
+    QVERIFY(m_store->add(movedIn("2026-11-16T10:00:00Z", 8 * gigabyte)));
+    readPlans();
+    QVERIFY(refhost::setLanguage("de"));
+    QTRY_COMPARE(
+        shownText(*m_line),
+        QString("home|80 %|80 % erreicht|8 GB von 10 GB verbraucht, noch 12 Tage, 171 MB am Tag"));
+}
+
+QTEST_MAIN(TestPlanLine)
+
+#include "tst_planline.moc"
