@@ -4,6 +4,8 @@
 #include "CommonUtils.h"
 #include "refhost/libcore/Host.h"
 
+#include <algorithm>
+
 namespace refdialer
 {
 
@@ -24,6 +26,13 @@ QString timeLocaleName()
     return {};
 }
 
+/// Whoever reads the one understands the other, as with "pt_PT" and "pt_BR"; "zh_TW" and
+/// "zh_CN" are of different scripts.
+bool areReadAlike(const QLocale &one, const QLocale &other)
+{
+    return one.language() == other.language() && one.script() == other.script();
+}
+
 QList<QLocale> allLocales()
 {
     return QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
@@ -33,13 +42,23 @@ QList<QLocale> allLocales()
 
 QString startLanguage()
 {
+    return nearestLanguage(QStringList(CommonUtils::GetSettings(settingsGroup, languageKey)) +
+                           QLocale::system().uiLanguages());
+}
+
+QString nearestLanguage(const QStringList &wanted)
+{
     const QStringList available = refhost::availableLanguages();
-    QStringList wanted{CommonUtils::GetSettings(settingsGroup, languageKey)};
-    for (const QString &locale : QLocale::system().uiLanguages())
-        wanted.append(locale.section(QLatin1Char('-'), 0, 0));
-    for (const QString &language : wanted) {
-        if (available.contains(language))
-            return language;
+    for (QString name : wanted) {
+        name.replace(QLatin1Char('-'), QLatin1Char('_'));
+        if (available.contains(name))
+            return name;
+        const auto nearest =
+            std::find_if(available.begin(), available.end(), [&name](const QString &other) {
+                return areReadAlike(QLocale(name), QLocale(other));
+            });
+        if (nearest != available.end())
+            return *nearest;
     }
     return QStringLiteral("en");
 }
@@ -54,7 +73,8 @@ QLocale localeFor(const QString &language)
     const QString user = timeLocaleName();
     const QString territory = QLatin1Char('_') + user.section(QLatin1Char('_'), 1);
     if (territory.size() > 1) {
-        for (const QString &name : {language + territory, user}) {
+        const QString spoken = language.section(QLatin1Char('_'), 0, 0);
+        for (const QString &name : {spoken + territory, user}) {
             // Qt answers to a name that it does not know with another locale.
             if (QLocale(name).name() == name)
                 return QLocale(name);

@@ -7,9 +7,14 @@
 namespace refdialer
 {
 
-/// The language to start with: the one the user chose last, else the first of
-/// the system's languages that there are texts for, else English.
+/// The language to start with: the nearest to the one the user chose last, or to the
+/// first of the system's languages that has one.
 QString startLanguage();
+
+/// The texts that fit best to the first of the languages that there are any for, each
+/// as "pt_PT" or "pt-PT": that very one, else one of the same language and script.
+/// English if there are none.
+QString nearestLanguage(const QStringList &wanted);
 
 /// Remembers the user's choice for later runs; false if it cannot be written.
 bool storeLanguage(const QString &language);

@@ -24,6 +24,7 @@ SettingsDialog::SettingsDialog(BackgroundUnit *background, QWidget *parent)
     , m_backgroundLabel(new QLabel)
     , m_languageLabel(new QLabel)
     , m_languageBox(new QComboBox)
+    , m_reviewLabel(new QLabel)
     , m_problem(new QLabel)
     , m_buttons(new QDialogButtonBox)
     , m_closeButton(m_buttons->addButton(QString(), QDialogButtonBox::RejectRole))
@@ -31,7 +32,7 @@ SettingsDialog::SettingsDialog(BackgroundUnit *background, QWidget *parent)
     m_summaryBox->setChecked(isSummaryWanted());
     addLanguages();
     m_languageLabel->setBuddy(m_languageBox);
-    for (QLabel *const label : {m_backgroundLabel, m_problem}) {
+    for (QLabel *const label : {m_backgroundLabel, m_reviewLabel, m_problem}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
@@ -43,6 +44,7 @@ SettingsDialog::SettingsDialog(BackgroundUnit *background, QWidget *parent)
     layout->addRow(m_backgroundBox);
     layout->addRow(m_backgroundLabel);
     layout->addRow(m_languageLabel, m_languageBox);
+    layout->addRow(m_reviewLabel);
     layout->addRow(m_problem);
     layout->addRow(m_buttons);
     offerBackground();
@@ -115,6 +117,14 @@ void SettingsDialog::retranslate()
     m_backgroundLabel->setVisible(!m_backgroundLabel->text().isEmpty());
     m_languageLabel->setText(tr("&Language:"));
     m_closeButton->setText(tr("&Close"));
+    tellWhetherReviewed();
+}
+
+void SettingsDialog::tellWhetherReviewed()
+{
+    m_reviewLabel->setText(
+        tr("These texts have not been reviewed by speakers of the language yet."));
+    m_reviewLabel->setVisible(!refhost::isLanguageReviewed(refhost::language()));
 }
 
 void SettingsDialog::chooseLanguage(int index)

@@ -38,6 +38,7 @@ private:
     void tellOutcome(BackgroundUnit::Outcome outcome, const QString &reason);
     QString backgroundText() const;
     void retranslate();
+    void tellWhetherReviewed();
     void chooseLanguage(int index);
     void tellUnlessStored(bool isStored);
 
@@ -54,7 +55,8 @@ private:
     QLabel *m_backgroundLabel; ///< shown only when there is something to say
     QLabel *m_languageLabel;
     QComboBox *m_languageBox;
-    QLabel *m_problem; ///< shown only when a setting cannot be stored
+    QLabel *m_reviewLabel; ///< shown only for texts that nobody has reviewed
+    QLabel *m_problem;     ///< shown only when a setting cannot be stored
     QDialogButtonBox *m_buttons;
     QPushButton *m_closeButton; ///< not Qt's own, whose text comes in its languages only
 };

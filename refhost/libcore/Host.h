@@ -32,8 +32,12 @@ HOST_API QStringList availableLanguages();
 /// What speakers of the language call it, or the code itself if it is unknown.
 HOST_API QString languageName(const QString &language);
 
-/// Shows all texts in this language from now on; every window is told with a
-/// LanguageChange event. False, and nothing changes, if there are no texts for it.
+/// Whether speakers of the language have read its texts; false if it is unknown.
+HOST_API bool isLanguageReviewed(const QString &language);
+
+/// Shows all texts in this language from now on, and lays windows out in the direction
+/// in which it is written; every window is told with a LanguageChange event. False, and
+/// nothing changes, if there are no texts for it.
 HOST_API bool setLanguage(const QString &language);
 
 /// The code that setLanguage accepted last, empty before that.

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPointer>
@@ -64,6 +65,13 @@ std::unique_ptr<QTranslator> loadQtTexts(const QString &language)
     return translator;
 }
 
+/// What the texts say about themselves; empty where there are none.
+QString textAboutItself(const QString &language, const char *id)
+{
+    const auto texts = loadTexts(language);
+    return texts ? texts->translate("Host", id) : QString();
+}
+
 QPointer<QTranslator> install(std::unique_ptr<QTranslator> translator)
 {
     if (!translator)
@@ -71,6 +79,14 @@ QPointer<QTranslator> install(std::unique_ptr<QTranslator> translator)
     translator->setParent(QCoreApplication::instance());
     QCoreApplication::installTranslator(translator.get());
     return translator.release();
+}
+
+/// Qt does this by its own texts, which are not everywhere.
+void layWindowsOutFor(const QString &language)
+{
+    // Texts are there without windows, too.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
 }
 
 } // namespace
@@ -87,9 +103,13 @@ QStringList availableLanguages()
 
 QString languageName(const QString &language)
 {
-    const auto texts = loadTexts(language);
-    const QString name = texts ? texts->translate("Host", "IDS_LANGUAGE_NAME") : QString();
+    const QString name = textAboutItself(language, "IDS_LANGUAGE_NAME");
     return name.isEmpty() ? language : name;
+}
+
+bool isLanguageReviewed(const QString &language)
+{
+    return textAboutItself(language, "IDS_LANGUAGE_REVIEWED") == QLatin1String("yes");
 }
 
 bool setLanguage(const QString &language)
@@ -99,6 +119,7 @@ bool setLanguage(const QString &language)
         return false;
     const Installed old = installed();
     installed() = {language, install(std::move(texts)), install(loadQtTexts(language))};
+    layWindowsOutFor(language);
     delete old.texts;
     delete old.qtTexts;
     return true;

@@ -12,6 +12,8 @@ constexpr const char *hostIdentifiers[] = {
     QT_TRANSLATE_NOOP("Host", "IDS_CANCEL"),
     //: What speakers of this language call it
     QT_TRANSLATE_NOOP("Host", "IDS_LANGUAGE_NAME"),
+    //: Never shown: "no", and "yes" once speakers of this language have read every text
+    QT_TRANSLATE_NOOP("Host", "IDS_LANGUAGE_REVIEWED"),
     //: Button of a message box
     QT_TRANSLATE_NOOP("Host", "IDS_OK"),
 };

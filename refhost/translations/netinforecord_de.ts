@@ -18,6 +18,11 @@
         <extracomment>Button of a message box</extracomment>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>no</translation>
+    </message>
 </context>
 <context>
     <name>NetInfoRecordUIPlugin</name>
@@ -561,6 +566,10 @@
     <message>
         <source>The service records into your own history, not into the one that this window shows.</source>
         <translation>Der Dienst zeichnet in Ihren eigenen Verlauf auf, nicht in den, den dieses Fenster zeigt.</translation>
+    </message>
+    <message>
+        <source>These texts have not been reviewed by speakers of the language yet.</source>
+        <translation>Diese Texte haben Sprecher der Sprache noch nicht durchgesehen.</translation>
     </message>
 </context>
 <context>

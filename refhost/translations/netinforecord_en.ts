@@ -18,6 +18,11 @@
         <extracomment>Button of a message box</extracomment>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>yes</translation>
+    </message>
 </context>
 <context>
     <name>NetInfoRecordUIPlugin</name>

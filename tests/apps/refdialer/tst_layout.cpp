@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
 #include <QTimer>
@@ -95,6 +96,16 @@ void lookAtMenus(HistoryWindow &history, const Look &look)
     }
 }
 
+void lookAtPages(HistoryWindow &history, const Look &look)
+{
+    auto &pages = *history.window().findChild<QTabWidget *>();
+    for (int page = 0; page < pages.count(); ++page) {
+        pages.setCurrentIndex(page);
+        look(history.window());
+    }
+    pages.setCurrentIndex(0);
+}
+
 void lookAtConnections(HistoryWindow &history, const Look &look)
 {
     history.state().setWatched(true);
@@ -159,6 +170,7 @@ const struct {
     void (*lookAt)(HistoryWindow &history, const Look &look);
 } windows[] = {
     {"menus", lookAtMenus},
+    {"pages", lookAtPages},
     {"connections", lookAtConnections},
     {"sample", lookAtTheSample},
     {"settings", lookAtTheSettings},

@@ -50,6 +50,9 @@ private slots:
     void speaksTheLanguageOfTheSettings();
     void remembersTheChosenLanguage();
     void startsInAKnownLanguageWhateverIsStored();
+    void startsInTheNearestLanguage_data();
+    void startsInTheNearestLanguage();
+    void saysThatALanguageIsNotReviewed();
     void remembersWhetherASummaryIsWanted();
     void saysWhenASettingCannotBeStored();
     void offersTheSummaryToANewUserOnly();
@@ -283,6 +286,50 @@ void TestMainWindow::startsInAKnownLanguageWhateverIsStored()
     QVERIFY(refhost::availableLanguages().contains(refdialer::startLanguage()));
 }
 
+void TestMainWindow::startsInTheNearestLanguage_data()
+{
+    QTest::addColumn<QStringList>("wanted");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("the language alone") << QStringList("de") << "de";
+    QTest::newRow("a region of it") << QStringList("de-AT") << "de";
+    QTest::newRow("one with its region") << QStringList("pt-BR") << "pt_BR";
+    QTest::newRow("as it is stored") << QStringList("pt_BR") << "pt_BR";
+    QTest::newRow("with its script, too") << QStringList("pt-Latn-BR") << "pt_BR";
+    QTest::newRow("another region of it") << QStringList({"pt-PT", "pt", "en"}) << "pt_BR";
+    QTest::newRow("Chinese") << QStringList("zh-CN") << "zh_CN";
+    QTest::newRow("Chinese with its script") << QStringList("zh-Hans-CN") << "zh_CN";
+    QTest::newRow("Chinese in Singapore") << QStringList("zh_SG") << "zh_CN";
+    QTest::newRow("Chinese in another script") << QStringList({"zh-TW", "fr-FR"}) << "fr";
+    QTest::newRow("the second") << QStringList({"fi-FI", "pl-PL", "de"}) << "pl";
+    QTest::newRow("nothing stored") << QStringList({"", "tr-TR"}) << "tr";
+    QTest::newRow("the C locale") << QStringList("C") << "en";
+    QTest::newRow("none with texts") << QStringList({"fi", "xx", ""}) << "en";
+    QTest::newRow("none") << QStringList() << "en";
+}
+
+void TestMainWindow::startsInTheNearestLanguage()
+{
+    QFETCH(QStringList, wanted);
+    QTEST(refdialer::nearestLanguage(wanted), "language");
+}
+
+void TestMainWindow::saysThatALanguageIsNotReviewed()
+{
+    openSettings([](refdialer::SettingsDialog &dialog) {
+        const auto isSaid = [&dialog](const QString &text) {
+            const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
+            return std::any_of(labels.begin(), labels.end(), [&text](const QLabel *label) {
+                return label->isVisible() && label->text().contains(text);
+            });
+        };
+        QVERIFY(!isSaid("reviewed"));
+        chooseLanguage(dialog, QString::fromUtf8("Français"));
+        QTRY_VERIFY(isSaid(QString::fromUtf8("pas encore été relus")));
+        chooseLanguage(dialog, "English");
+        QTRY_VERIFY(!isSaid("reviewed"));
+    });
+}
+
 void TestMainWindow::remembersWhetherASummaryIsWanted()
 {
     const auto toggle = [](refdialer::SettingsDialog &dialog) {
@@ -366,6 +413,9 @@ void TestMainWindow::writesDatesAsTheUsersRegionDoes_data()
     QTest::newRow("a region where nobody speaks the language")
         << none << none << QByteArray("pl_PL.UTF-8") << "de"
         << "pl_PL";
+    QTest::newRow("a language named with another region")
+        << none << none << QByteArray("pt_PT.UTF-8") << "pt_BR"
+        << "pt_PT";
     QTest::newRow("a language that Qt does not know")
         << none << none << QByteArray("xx_PL.UTF-8") << "de"
         << "pl_PL";

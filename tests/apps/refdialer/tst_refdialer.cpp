@@ -171,6 +171,11 @@ void TestRefdialer::speaksTheSystemsLanguage_data()
                             << "Diese Hilfe zeigen.";
     QTest::newRow("English") << "en_GB.UTF-8"
                              << "Show this help.";
+    QTest::newRow("Brazilian Portuguese") << "pt_BR.UTF-8"
+                                          << "Exibir esta ajuda.";
+    QTest::newRow("European Portuguese, which Brazilian is nearest to") << "pt_PT.UTF-8"
+                                                                        << "Exibir esta ajuda.";
+    QTest::newRow("Chinese") << "zh_CN.UTF-8" << QString::fromUtf8("显示此帮助。");
     QTest::newRow("one without texts") << "fi_FI.UTF-8"
                                        << "Show this help.";
     QTest::newRow("none") << "C"

@@ -8,7 +8,7 @@ rm -rf "$copy"
 mkdir -p "$copy"
 cp -r "$source"/{CMakeLists.txt,apps,cmake,docs,formats,history,host,modem,recorder,refhost,src,usage,CHANGELOG.md,LICENSE} "$copy"
 
-sed -i '/^set(languages /s/)$/ fr)/' "$copy/refhost/libcore/CMakeLists.txt"
+sed -i '/^set(languages /s/)$/ it)/' "$copy/refhost/libcore/CMakeLists.txt"
 cmake -G Ninja -S "$copy" -B "$build" -D QT_VERSION_MAJOR="$qt" \
     -D NETINFORECORD_BUILD_TESTS=OFF >/dev/null
 cmake --build "$build" --target update_translations
@@ -16,6 +16,6 @@ cmake --build "$build" --target update_translations
 texts_in() {
     grep -c '<source>' "$copy/refhost/translations/netinforecord_$1.ts"
 }
-echo "German: $(texts_in de) texts, the new language: $(texts_in fr)"
-[ "$(texts_in fr)" -eq "$(texts_in de)" ]
-grep -q '<TS .*language="fr' "$copy/refhost/translations/netinforecord_fr.ts"
+echo "German: $(texts_in de) texts, the new language: $(texts_in it)"
+[ "$(texts_in it)" -eq "$(texts_in de)" ]
+grep -q '<TS .*language="it' "$copy/refhost/translations/netinforecord_it.ts"

@@ -23,6 +23,8 @@ private slots:
     void keepsTheLanguageWhenAnotherIsUnknown_data();
     void keepsTheLanguageWhenAnotherIsUnknown();
     void namesEachLanguageInItself();
+    void laysWindowsOutAsTheLanguageIsWritten();
+    void knowsWhoseTextsAreReviewed();
 };
 
 namespace
@@ -145,6 +147,23 @@ void TestChange::namesEachLanguageInItself()
     QCOMPARE(refhost::languageName("en"), QString("English"));
     QCOMPARE(refhost::languageName("xx"), QString("xx"));
     QCOMPARE(refhost::language(), QString("en"));
+}
+
+void TestChange::laysWindowsOutAsTheLanguageIsWritten()
+{
+    const QWidget window;
+    QCOMPARE(window.layoutDirection(), Qt::LeftToRight);
+    QVERIFY(refhost::setLanguage("ar"));
+    QCOMPARE(window.layoutDirection(), Qt::RightToLeft);
+    QVERIFY(refhost::setLanguage("de"));
+    QCOMPARE(window.layoutDirection(), Qt::LeftToRight);
+}
+
+void TestChange::knowsWhoseTextsAreReviewed()
+{
+    QVERIFY(refhost::isLanguageReviewed("en"));
+    QVERIFY(!refhost::isLanguageReviewed("zh_CN"));
+    QVERIFY(!refhost::isLanguageReviewed("xx"));
 }
 
 QTEST_MAIN(TestChange)

@@ -26,6 +26,8 @@ private slots:
     void areCompleteAndUpToDate();
     void keepThePlaceholders_data();
     void keepThePlaceholders();
+    void sayWhetherTheyAreReviewed_data();
+    void sayWhetherTheyAreReviewed();
     void areInTheDesktopsFiles_data();
     void areInTheDesktopsFiles();
 };
@@ -251,6 +253,19 @@ void TestTranslations::keepThePlaceholders()
         for (const QString &translation : message.translations)
             QCOMPARE(placeholders(translation), placeholders(message.source));
     }
+}
+
+void TestTranslations::sayWhetherTheyAreReviewed_data()
+{
+    addLanguageRows();
+}
+
+void TestTranslations::sayWhetherTheyAreReviewed()
+{
+    QFETCH(QString, language);
+    QVERIFY(refhost::setLanguage(language));
+    const QString answer = Change::tr("IDS_LANGUAGE_REVIEWED", "Host");
+    QVERIFY2(answer == "yes" || answer == "no", qPrintable(answer));
 }
 
 void TestTranslations::areInTheDesktopsFiles_data()

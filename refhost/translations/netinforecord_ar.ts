@@ -1,0 +1,680 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar">
+<context>
+    <name>Host</name>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it</extracomment>
+        <translation>العربية</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>موافق</translation>
+    </message>
+</context>
+<context>
+    <name>NetInfoRecordUIPlugin</name>
+    <message>
+        <source>IDS_BTN_OK</source>
+        <extracomment>Button that closes a dialog</extracomment>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_ALLAPN</source>
+        <extracomment>Statistics dialog: entry of the profile list</extracomment>
+        <translation>كل ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_BEFORELASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>الشهر قبل الماضي</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_LASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>الشهر الماضي</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_THISMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>هذا الشهر</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_STATISTIC</source>
+        <extracomment>Title of the group of figures</extracomment>
+        <translation>الإحصائيات</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_APN</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>الملف (APN)</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_CONNECTEDTIME</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DOWNLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>المستلم</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_ENDTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>النهاية</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_STARTTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>البداية</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UPLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>المرسل</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETE</source>
+        <extracomment>History window: menu entry; the key D acts like it</extracomment>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETEALL</source>
+        <extracomment>History window: menu entry; the key A acts like it</extracomment>
+        <translation>حذف الكل</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>History window: title of both questions before a deletion</extracomment>
+        <translation>حذف الاتصالات</translation>
+    </message>
+    <message>
+        <source>IDS_STC_APN</source>
+        <extracomment>Statistics dialog: caption of the profile list, 100 pixels</extracomment>
+        <translation>ملف التعريف:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_EXPLAIN_TEXT</source>
+        <extracomment>History window: note below the table, one line</extracomment>
+        <translation>يقيس هذا الحاسوب الأوقات وأحجام البيانات، وقد تختلف عنها فاتورة مزود الخدمة.</translation>
+    </message>
+    <message>
+        <source>IDS_STC_MONTH</source>
+        <extracomment>Statistics dialog: caption of the month list, 100 pixels</extracomment>
+        <translation>الشهر:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_SINGLEPACKET_UNIT</source>
+        <extracomment>Unit of the volumes in the statistics dialog</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEARALL</source>
+        <extracomment>History window: question before all are deleted</extracomment>
+        <translation>هل تريد حذف كل الاتصالات من السجل؟ لا يمكن استعادتها.</translation>
+    </message>
+    <message>
+        <source>IDS_STR_DELETE</source>
+        <extracomment>History window: question before the selected ones are deleted</extracomment>
+        <translation>هل تريد حذف الاتصالات المحددة من السجل؟ لا يمكن استعادتها.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_SINGLE</source>
+        <extracomment>Title of the summary after a connection</extracomment>
+        <translation>آخر اتصال</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_TOTAL</source>
+        <extracomment>Title of the statistics dialog; the range of dates follows it, so one short word fits</extracomment>
+        <translation>الإحصائيات</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_DOWNLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>المستلم:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_TIME_TRANSFER</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>مدة الاتصال:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_UPLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>المرسل:</translation>
+    </message>
+</context>
+<context>
+    <name>common::ProblemText</name>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>تتعذر قراءة «‎/proc/sys/kernel/random/boot_id»، ولذلك لا تُسجَّل الاتصالات. صِل نظام الملفات ‎/proc‎.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>لا تُسجَّل الاتصالات لتعذر الكتابة في ‎%1‎ (‎%2‎). امنح نفسك إذن الكتابة هناك.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>لا تُسجَّل الاتصالات لأن ‎%1‎ يشغل مكان القفل (‎%2‎). انقله إلى مكان آخر.</translation>
+    </message>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>تتعذر مراقبة واجهات الشبكة (‎%1‎)، ولذلك لا تُسجَّل الاتصالات. تعاد المحاولة كل ثانيتين.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>قد يحتوي «‎%1‎» على اتصالات ليست في السجل، لكن تتعذر قراءته (‎%2‎). تُرك كما هو؛ انقله إلى مكان آخر.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>تتعذر الكتابة في «‎%1‎» (‎%2‎)، ولذلك تضيع الاتصالات التي لم يتمكن السجل من حفظها. امنح نفسك إذن الكتابة هناك.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>الملفان «‎%1‎» و«‎%2‎» في الطريق، ولذلك تضيع الاتصالات التي لم يتمكن السجل من حفظها. انقلهما إلى مكان آخر.</translation>
+    </message>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>لا يمكن أن توجد واجهة شبكة باسم «‎%1‎»: لا يزيد الاسم على 15 بايت والاسم البديل على 127، ولا يحتوي على «/» ولا على مسافات.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>يسجل برنامج آخر الاتصالات بالفعل، وتظهر هنا عند انتهائها.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>يسجل %1 آخر الاتصالات بالفعل (العملية %2)، وتظهر هنا عند انتهائها.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ليس ملفًا عاديًا</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>رابط صلب إلى ملف آخر</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>يخص مستخدمًا آخر</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>تالف أو يخص برنامجًا آخر</translation>
+    </message>
+    <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>تعرض ساعة النظام وقتًا لا يتسع له السجل، ولذلك يسجَّل للاتصالات ‎%1 UTC‎ بدلًا منه. اضبط الساعة.</translation>
+    </message>
+</context>
+<context>
+    <name>common::WarningText</name>
+    <message>
+        <source>%1 % of the data plan &quot;%2&quot; used</source>
+        <translation>استُهلك ‎%1%‎ من باقة البيانات «%2»</translation>
+    </message>
+    <message>
+        <source>%1 of %2; the period lasts until %3.</source>
+        <translation>‎%1‎ من ‎%2‎؛ تستمر الفترة حتى ‎%3‎.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 left until %4.</source>
+        <translation>‎%1‎ من ‎%2‎، ويتبقى ‎%3‎ حتى ‎%4‎.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Application</name>
+    <message>
+        <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
+        <translation>تعذر بدء الملحق ‎%1‎. يبيّن «refdialer --debug» إلى أين وصل.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>تُسجَّل الاتصالات في الخلفية من الآن فصاعدًا: الخدمة connrecord.service مفعّلة وتعمل.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>لا تُسجَّل الاتصالات إلا وهذه النافذة مفتوحة: الخدمة connrecord.service معطّلة وقد أُوقفت.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>ليس لجلستك systemd يمكنه بدء الخدمة. اجعل جلستك تبدأ «connrecord record» بدلًا من ذلك.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>الخدمة connrecord.service غير مثبّتة. ثبّت الحزمة connrecord التي تحتويها.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>الخدمة connrecord.service مفعّلة لكنها لم تبدأ. يبيّن «systemctl --user status connrecord» السبب.</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>رفض systemd: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>هناك اتصال جارٍ، وهذه النافذة تسجله.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>&amp;عدم السؤال مجددًا</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>التسجيل في ال&amp;خلفية</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>إي&amp;قاف التسجيل</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>يمكن لخدمة أن تواصل التسجيل دون النافذة، الآن وكلما سجلت الدخول.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::CommandLine</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>عرض هذه المساعدة.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>عرض الإصدار.</translation>
+    </message>
+    <message>
+        <source>Use the history in FILE instead of your own, to show and to record.</source>
+        <translation>استخدام السجل الذي في FILE بدلًا من سجلك للعرض والتسجيل.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>Load the history plug-in from FILE.</source>
+        <translation>تحميل ملحق السجل من FILE.</translation>
+    </message>
+    <message>
+        <source>Speak this language for once: %1.</source>
+        <translation>استخدام هذه اللغة هذه المرة: %1.</translation>
+    </message>
+    <message>
+        <source>Write the debug log to standard error.</source>
+        <translation>كتابة سجل التنقيح إلى خرج الخطأ القياسي.</translation>
+    </message>
+    <message>
+        <source>Show a temporary copy of a sample history; nothing of yours is touched.</source>
+        <translation>عرض نسخة مؤقتة من سجل نموذجي؛ لا يُمس شيء من بياناتك.</translation>
+    </message>
+    <message>
+        <source>Record the connections of the network interface NAME (or alternative name) too, not only of mobile-broadband ones; may be given several times.</source>
+        <translation>تسجيل اتصالات واجهة الشبكة NAME أيضًا (أو التي هذا اسمها البديل)، لا اتصالات النطاق العريض المحمول فقط؛ يمكن تكراره.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>Record connections under the profile (APN) NAME, not under their interface&apos;s name.</source>
+        <translation>تسجيل الاتصالات بملف التعريف (APN) المسمى NAME بدلًا من اسم واجهتها.</translation>
+    </message>
+    <message>
+        <source>Leave the dial-up service out, without which the history does not react to connections.</source>
+        <translation>الاستغناء عن خدمة الطلب الهاتفي التي لا يستجيب السجل للاتصالات من دونها.</translation>
+    </message>
+    <message>
+        <source>Draw the window to the PNG picture FILE without a display and exit.</source>
+        <translation>رسم النافذة دون شاشة في صورة PNG اسمها FILE ثم الخروج.</translation>
+    </message>
+    <message>
+        <source>Shows the history of mobile-broadband connections.</source>
+        <translation>يعرض سجل اتصالات النطاق العريض المحمول.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option.</source>
+        <translation>«‎%1‎» ليس خيارًا.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>يحتاج الخيار ‎--%1‎ إلى قيمة.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>المسار «‎%1‎» للسجل ليس بترميز UTF-8. غيّر اسم الملف أو المجلد الذي ليس اسمه كذلك، أو حدد ملفًا آخر.</translation>
+    </message>
+    <message>
+        <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
+        <translation>الخياران ‎--demo‎ و‎--store‎ لا يجتمعان: الأول يعرض سجلًا نموذجيًا والثاني سجلًا من سجلاتك.</translation>
+    </message>
+    <message>
+        <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
+        <translation>لا توجد نصوص باللغة «%1»؛ المتوفر: ‎%2‎.</translation>
+    </message>
+    <message>
+        <source>&quot;refdialer --help&quot; shows the options.</source>
+        <translation>يعرض «refdialer --help» الخيارات.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::DemoStore</name>
+    <message>
+        <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
+        <translation>يتعذر نسخ السجل النموذجي ‎%1‎ إلى ‎%2‎: ‎%3‎. أعد تثبيت refdialer أو وفّر مساحة هناك.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>سجل الاتصالات</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>الإ&amp;عدادات…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;خروج</translation>
+    </message>
+    <message>
+        <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
+        <translation>يذكر ملحق السجل أن فيه إحصائيات لكن يتعذر طلبها منه. شغّل refdialer بملحق آخر: ‎--plugin FILE‎.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Picture</name>
+    <message>
+        <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
+        <translation>تتعذر كتابة الصورة ‎%1‎: ‎%2‎. حدد ملفًا في مجلد يمكنك الكتابة فيه.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanLine</name>
+    <message>
+        <source>Data plans</source>
+        <translation>باقات البيانات</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>‎%1%</translation>
+    </message>
+    <message>
+        <source>Used of the data plan &quot;%1&quot;</source>
+        <translation>استهلاك باقة البيانات «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanText</name>
+    <message>
+        <source>%1 of %2 used, %3 over, today is the last day</source>
+        <translation>استُهلك ‎%1‎ من ‎%2‎، بزيادة ‎%3‎، واليوم هو الأخير</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %3 over, %n days left</source>
+        <translation>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، بزيادة ‎%3‎، ولم يبق أي يوم</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، بزيادة ‎%3‎، وبقي يوم واحد</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، بزيادة ‎%3‎، وبقي يومان</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، بزيادة ‎%3‎، وبقيت %n أيام</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، بزيادة ‎%3‎، وبقي %n يومًا</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، بزيادة ‎%3‎، وبقي %n يوم</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 left, today is the last day</source>
+        <translation>استُهلك ‎%1‎ من ‎%2‎، وبقي ‎%3‎، واليوم هو الأخير</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %n days left, %3 a day</source>
+        <translation>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، ولم يبق أي يوم، ‎%3‎ في اليوم</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، وبقي يوم واحد، ‎%3‎ في اليوم</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، وبقي يومان، ‎%3‎ في اليوم</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، وبقيت %n أيام، ‎%3‎ في اليوم</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، وبقي %n يومًا، ‎%3‎ في اليوم</numerusform>
+            <numerusform>استُهلك ‎%1‎ من ‎%2‎، وبقي %n يوم، ‎%3‎ في اليوم</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 used, today is the last day</source>
+        <translation>استُهلك ‎%1‎، واليوم هو الأخير</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 used, %n days left</source>
+        <translation>
+            <numerusform>استُهلك ‎%1‎، ولم يبق أي يوم</numerusform>
+            <numerusform>استُهلك ‎%1‎، وبقي يوم واحد</numerusform>
+            <numerusform>استُهلك ‎%1‎، وبقي يومان</numerusform>
+            <numerusform>استُهلك ‎%1‎، وبقيت %n أيام</numerusform>
+            <numerusform>استُهلك ‎%1‎، وبقي %n يومًا</numerusform>
+            <numerusform>استُهلك ‎%1‎، وبقي %n يوم</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended on %1</source>
+        <translation>انتهت في %1</translation>
+    </message>
+    <message>
+        <source>begins on %1</source>
+        <translation>تبدأ في %1</translation>
+    </message>
+    <message>
+        <source>Heading for %1</source>
+        <translation>في الطريق إلى ‎%1</translation>
+    </message>
+    <message>
+        <source>%1 % reached</source>
+        <translation>بُلغ ‎%1%</translation>
+    </message>
+    <message>
+        <source>Used up</source>
+        <translation>نفدت</translation>
+    </message>
+    <message>
+        <source>The period is from %1 to %2.</source>
+        <translation>تمتد الفترة من %1 إلى %2.</translation>
+    </message>
+    <message>
+        <source>%1 left.</source>
+        <translation>بقي ‎%1‎.</translation>
+    </message>
+    <message>
+        <source>At this pace it will be %1 in the end.</source>
+        <translation>بهذه الوتيرة سيكون المجموع في النهاية ‎%1‎.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PluginHandle</name>
+    <message>
+        <source>The plug-in %1 is not there.</source>
+        <translation>الملحق ‎%1‎ غير موجود.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2.</source>
+        <translation>يتعذر تحميل الملحق ‎%1‎: ‎%2‎.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
+        <translation>لا يقدّم الملحق ‎%1‎ الواجهتين %2 و%3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in for Qt %2: %3.</source>
+        <translation>‎%1‎ ليس ملحقًا لإصدار Qt %2: ‎%3‎.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
+        <translation>الملحق ‎%1‎ لغرض آخر: واجهته %2 وليست %3.</translation>
+    </message>
+    <message>
+        <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
+        <translation>أعد تثبيت refdialer، أو حدد ملف ملحق مناسب باستخدام ‎--plugin‎.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ServicePlugin</name>
+    <message>
+        <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
+        <translation>يتعذر تحميل خدمة الطلب الهاتفي ‎%1‎: ‎%2‎. أعد تثبيت refdialer، أو استغن عن الخدمة باستخدام ‎--no-dialup-service‎.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SettingsDialog</name>
+    <message>
+        <source>The service records into your own history, not into the one that this window shows.</source>
+        <translation>تسجل الخدمة في سجلك أنت، لا في السجل الذي تعرضه هذه النافذة.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>&amp;Show a summary after each connection</source>
+        <translation>عرض &amp;ملخص بعد كل اتصال</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background, also when this window is closed</source>
+        <translation>التسجيل في ال&amp;خلفية، حتى عندما تكون هذه النافذة مغلقة</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>ال&amp;لغة:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
+        <translation>يسري هذا حتى إغلاق النافذة فقط: تتعذر كتابة الإعدادات في ‎%1‎. وفّر مساحة هناك أو امنح نفسك إذن الكتابة.</translation>
+    </message>
+    <message>
+        <source>These texts have not been reviewed by speakers of the language yet.</source>
+        <translation>لم يراجع متحدثو اللغة هذه النصوص بعد.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;فرز حسب</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>ال&amp;بداية</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>ال&amp;نهاية</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>ملف الت&amp;عريف</translation>
+    </message>
+    <message>
+        <source>D&amp;uration</source>
+        <translation>ال&amp;مدة</translation>
+    </message>
+    <message>
+        <source>Up&amp;loaded</source>
+        <translation>الم&amp;رسل</translation>
+    </message>
+    <message>
+        <source>&amp;Downloaded</source>
+        <translation>الم&amp;ستلم</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;تصاعدي</translation>
+    </message>
+    <message>
+        <source>Descendin&amp;g</source>
+        <translation>تنا&amp;زلي</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::StateLine</name>
+    <message>
+        <source>Not connected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>connected since %1</source>
+        <translation>متصل منذ %1</translation>
+    </message>
+    <message>
+        <source>Sent: %1 (%2)</source>
+        <translation>المرسل: ‎%1 (‎%2)</translation>
+    </message>
+    <message>
+        <source>Received: %1 (%2)</source>
+        <translation>المستلم: ‎%1 (‎%2)</translation>
+    </message>
+    <message>
+        <source>Sample history. Changes are gone when the window closes.</source>
+        <translation>سجل نموذجي. تزول التغييرات عند إغلاق النافذة.</translation>
+    </message>
+    <message>
+        <source>History in %1</source>
+        <translation>السجل في ‎%1</translation>
+    </message>
+    <message>
+        <source>No connections recorded yet in %1</source>
+        <translation>لم تُسجَّل اتصالات بعد في ‎%1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;عرض</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>ال&amp;سجل</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;تحديث</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics…</source>
+        <translation>الإ&amp;حصائيات…</translation>
+    </message>
+    <message>
+        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
+        <translation>ملحق السجل المستخدم ليس فيه إحصائيات. شغّل refdialer بملحق فيه إحصائيات: ‎--plugin FILE‎.</translation>
+    </message>
+</context>
+</TS>

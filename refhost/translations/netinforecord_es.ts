@@ -1,0 +1,668 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name>Host</name>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it</extracomment>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>NetInfoRecordUIPlugin</name>
+    <message>
+        <source>IDS_BTN_OK</source>
+        <extracomment>Button that closes a dialog</extracomment>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_ALLAPN</source>
+        <extracomment>Statistics dialog: entry of the profile list</extracomment>
+        <translation>Todos los perfiles</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_BEFORELASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Penúltimo mes</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_LASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Mes pasado</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_THISMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Este mes</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_STATISTIC</source>
+        <extracomment>Title of the group of figures</extracomment>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_APN</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Perfil (APN)</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_CONNECTEDTIME</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DOWNLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_ENDTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_STARTTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UPLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETE</source>
+        <extracomment>History window: menu entry; the key D acts like it</extracomment>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETEALL</source>
+        <extracomment>History window: menu entry; the key A acts like it</extracomment>
+        <translation>Eliminar todo</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>History window: title of both questions before a deletion</extracomment>
+        <translation>Eliminar conexiones</translation>
+    </message>
+    <message>
+        <source>IDS_STC_APN</source>
+        <extracomment>Statistics dialog: caption of the profile list, 100 pixels</extracomment>
+        <translation>Perfil:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_EXPLAIN_TEXT</source>
+        <extracomment>History window: note below the table, one line</extracomment>
+        <translation>Tiempos y datos se miden en este equipo; la factura de su operador puede diferir.</translation>
+    </message>
+    <message>
+        <source>IDS_STC_MONTH</source>
+        <extracomment>Statistics dialog: caption of the month list, 100 pixels</extracomment>
+        <translation>Mes:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_SINGLEPACKET_UNIT</source>
+        <extracomment>Unit of the volumes in the statistics dialog</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEARALL</source>
+        <extracomment>History window: question before all are deleted</extracomment>
+        <translation>¿Desea eliminar todas las conexiones del historial? No se podrán recuperar.</translation>
+    </message>
+    <message>
+        <source>IDS_STR_DELETE</source>
+        <extracomment>History window: question before the selected ones are deleted</extracomment>
+        <translation>¿Desea eliminar del historial las conexiones seleccionadas? No se podrán recuperar.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_SINGLE</source>
+        <extracomment>Title of the summary after a connection</extracomment>
+        <translation>Última conexión</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_TOTAL</source>
+        <extracomment>Title of the statistics dialog; the range of dates follows it, so one short word fits</extracomment>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_DOWNLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Recibido:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_TIME_TRANSFER</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Conectado durante:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_UPLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Enviado:</translation>
+    </message>
+</context>
+<context>
+    <name>common::ProblemText</name>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>No se puede leer «/proc/sys/kernel/random/boot_id», así que no se registran las conexiones. Monte /proc.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>No se registran las conexiones, porque no se puede escribir en %1 (%2). Concédase permiso para escribir ahí.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>No se registran las conexiones, porque %1 ocupa el lugar del bloqueo (%2). Muévalo a otro sitio.</translation>
+    </message>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>No se pueden vigilar las interfaces de red (%1), así que no se registran las conexiones. Se vuelve a intentar cada dos segundos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>«%1» puede contener conexiones que no están en el historial, pero no se puede leer (%2). Se ha dejado como estaba; muévalo a otro sitio.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>No se puede escribir en «%1» (%2), así que se pierden las conexiones que el historial no pudo guardar. Concédase permiso para escribir ahí.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>«%1» y «%2» estorban, así que se pierden las conexiones que el historial no pudo guardar. Muévalos a otro sitio.</translation>
+    </message>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>No puede haber una interfaz de red «%1»: un nombre tiene como máximo 15 bytes, uno alternativo 127, y no contiene «/» ni espacios.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>Otro programa ya registra las conexiones; aparecen aquí cuando han terminado.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>Otro %1 ya registra las conexiones (proceso %2); aparecen aquí cuando han terminado.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>es un enlace duro a otro archivo</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>pertenece a otro usuario</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>está dañado o es de otro programa</translation>
+    </message>
+    <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>El reloj del sistema muestra una hora que el historial no puede contener, así que las conexiones reciben %1 UTC en su lugar. Ponga el reloj en hora.</translation>
+    </message>
+</context>
+<context>
+    <name>common::WarningText</name>
+    <message>
+        <source>%1 % of the data plan &quot;%2&quot; used</source>
+        <translation>Usado el %1&#xa0;% del plan de datos «%2»</translation>
+    </message>
+    <message>
+        <source>%1 of %2; the period lasts until %3.</source>
+        <translation>%1 de %2; el período dura hasta el %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 left until %4.</source>
+        <translation>%1 de %2, quedan %3 hasta el %4.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Application</name>
+    <message>
+        <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
+        <translation>El complemento %1 no pudo iniciarse. «refdialer --debug» muestra hasta dónde llegó.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>Desde ahora las conexiones se registran en segundo plano: el servicio connrecord.service está activado y en marcha.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>Las conexiones solo se registran mientras esta ventana está abierta: el servicio connrecord.service está desactivado y se ha detenido.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>Su sesión no tiene ningún systemd que pueda iniciar el servicio. Haga que su sesión inicie «connrecord record» en su lugar.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>El servicio connrecord.service no está instalado. Instale el paquete connrecord, que lo incluye.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>El servicio connrecord.service está activado, pero no se inició. «systemctl --user status connrecord» indica por qué.</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>systemd lo ha rechazado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>Hay una conexión en curso y esta ventana la registra.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>&amp;No volver a preguntar</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>&amp;Registrar en segundo plano</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>&amp;Dejar de registrar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>Un servicio puede seguir registrando sin la ventana, ahora y siempre que tenga la sesión iniciada.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::CommandLine</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Mostrar esta ayuda.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>Use the history in FILE instead of your own, to show and to record.</source>
+        <translation>Usar el historial de ARCHIVO en lugar del propio, para mostrarlo y para registrar.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARCHIVO</translation>
+    </message>
+    <message>
+        <source>Load the history plug-in from FILE.</source>
+        <translation>Cargar de ARCHIVO el complemento del historial.</translation>
+    </message>
+    <message>
+        <source>Speak this language for once: %1.</source>
+        <translation>Usar este idioma por esta vez: %1.</translation>
+    </message>
+    <message>
+        <source>Write the debug log to standard error.</source>
+        <translation>Escribir el registro de depuración en la salida de error estándar.</translation>
+    </message>
+    <message>
+        <source>Show a temporary copy of a sample history; nothing of yours is touched.</source>
+        <translation>Mostrar una copia temporal de un historial de ejemplo; no se toca nada suyo.</translation>
+    </message>
+    <message>
+        <source>Record the connections of the network interface NAME (or alternative name) too, not only of mobile-broadband ones; may be given several times.</source>
+        <translation>Registrar también las conexiones de la interfaz de red NOMBRE (o nombre alternativo), no solo las de banda ancha móvil; puede indicarse varias veces.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOMBRE</translation>
+    </message>
+    <message>
+        <source>Record connections under the profile (APN) NAME, not under their interface&apos;s name.</source>
+        <translation>Registrar las conexiones con el perfil (APN) NOMBRE y no con el nombre de su interfaz.</translation>
+    </message>
+    <message>
+        <source>Leave the dial-up service out, without which the history does not react to connections.</source>
+        <translation>Prescindir del servicio de marcado, sin el cual el historial no reacciona a las conexiones.</translation>
+    </message>
+    <message>
+        <source>Draw the window to the PNG picture FILE without a display and exit.</source>
+        <translation>Dibujar la ventana, sin pantalla, en la imagen PNG ARCHIVO y salir.</translation>
+    </message>
+    <message>
+        <source>Shows the history of mobile-broadband connections.</source>
+        <translation>Muestra el historial de las conexiones de banda ancha móvil.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option.</source>
+        <translation>«%1» no es una opción.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>La opción --%1 necesita un valor.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>La ruta «%1» del historial no es UTF-8. Cambie el nombre del archivo o de la carpeta cuyo nombre no lo sea, o indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
+        <translation>--demo y --store se excluyen: la primera muestra un historial de ejemplo; la segunda, uno suyo.</translation>
+    </message>
+    <message>
+        <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
+        <translation>No hay textos en el idioma «%1»; los hay en: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;refdialer --help&quot; shows the options.</source>
+        <translation>«refdialer --help» muestra las opciones.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::DemoStore</name>
+    <message>
+        <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
+        <translation>El historial de ejemplo %1 no se puede copiar en %2: %3. Reinstale refdialer o libere espacio ahí.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Historial de conexiones</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Preferencias…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
+        <translation>El complemento de historial dice tener estadísticas, pero no se le pueden pedir. Inicie refdialer con otro: --plugin ARCHIVO.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Picture</name>
+    <message>
+        <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
+        <translation>No se puede escribir la imagen %1: %2. Indique un archivo en una carpeta en la que pueda escribir.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanLine</name>
+    <message>
+        <source>Data plans</source>
+        <translation>Planes de datos</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Used of the data plan &quot;%1&quot;</source>
+        <translation>Consumo del plan de datos «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanText</name>
+    <message>
+        <source>%1 of %2 used, %3 over, today is the last day</source>
+        <translation>%1 de %2 usados, %3 de más, hoy es el último día</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %3 over, %n days left</source>
+        <translation>
+            <numerusform>%1 de %2 usados, %3 de más, queda %n día</numerusform>
+            <numerusform>%1 de %2 usados, %3 de más, quedan %n días</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 left, today is the last day</source>
+        <translation>%1 de %2 usados, quedan %3, hoy es el último día</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %n days left, %3 a day</source>
+        <translation>
+            <numerusform>%1 de %2 usados, queda %n día, %3 al día</numerusform>
+            <numerusform>%1 de %2 usados, quedan %n días, %3 al día</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 used, today is the last day</source>
+        <translation>%1 usados, hoy es el último día</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 used, %n days left</source>
+        <translation>
+            <numerusform>%1 usados, queda %n día</numerusform>
+            <numerusform>%1 usados, quedan %n días</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended on %1</source>
+        <translation>terminó el %1</translation>
+    </message>
+    <message>
+        <source>begins on %1</source>
+        <translation>comienza el %1</translation>
+    </message>
+    <message>
+        <source>Heading for %1</source>
+        <translation>Camino de %1</translation>
+    </message>
+    <message>
+        <source>%1 % reached</source>
+        <translation>%1&#xa0;% alcanzado</translation>
+    </message>
+    <message>
+        <source>Used up</source>
+        <translation>Agotado</translation>
+    </message>
+    <message>
+        <source>The period is from %1 to %2.</source>
+        <translation>El período va del %1 al %2.</translation>
+    </message>
+    <message>
+        <source>%1 left.</source>
+        <translation>Quedan %1.</translation>
+    </message>
+    <message>
+        <source>At this pace it will be %1 in the end.</source>
+        <translation>A este ritmo serán %1 al final.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PluginHandle</name>
+    <message>
+        <source>The plug-in %1 is not there.</source>
+        <translation>El complemento %1 no existe.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2.</source>
+        <translation>No se puede cargar el complemento %1: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
+        <translation>El complemento %1 no ofrece las interfaces %2 y %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in for Qt %2: %3.</source>
+        <translation>%1 no es un complemento para Qt %2: %3.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
+        <translation>El complemento %1 es para otra cosa: su interfaz es %2 y no %3.</translation>
+    </message>
+    <message>
+        <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
+        <translation>Reinstale refdialer o indique con --plugin el archivo de un complemento adecuado.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ServicePlugin</name>
+    <message>
+        <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
+        <translation>No se puede cargar el servicio de marcado %1: %2. Reinstale refdialer o prescinda del servicio con --no-dialup-service.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SettingsDialog</name>
+    <message>
+        <source>The service records into your own history, not into the one that this window shows.</source>
+        <translation>El servicio registra en su propio historial, no en el que muestra esta ventana.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>&amp;Show a summary after each connection</source>
+        <translation>&amp;Mostrar un resumen tras cada conexión</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background, also when this window is closed</source>
+        <translation>&amp;Registrar en segundo plano, también con esta ventana cerrada</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
+        <translation>Esto solo vale hasta que se cierre la ventana: las preferencias no se pueden escribir en %1. Libere espacio ahí o concédase permiso para escribir.</translation>
+    </message>
+    <message>
+        <source>These texts have not been reviewed by speakers of the language yet.</source>
+        <translation>Estos textos aún no los han revisado hablantes del idioma.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Inicio</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>&amp;Fin</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>&amp;Perfil</translation>
+    </message>
+    <message>
+        <source>D&amp;uration</source>
+        <translation>&amp;Duración</translation>
+    </message>
+    <message>
+        <source>Up&amp;loaded</source>
+        <translation>&amp;Enviado</translation>
+    </message>
+    <message>
+        <source>&amp;Downloaded</source>
+        <translation>&amp;Recibido</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Ascendente</translation>
+    </message>
+    <message>
+        <source>Descendin&amp;g</source>
+        <translation>De&amp;scendente</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::StateLine</name>
+    <message>
+        <source>Not connected</source>
+        <translation>Sin conexión</translation>
+    </message>
+    <message>
+        <source>connected since %1</source>
+        <translation>conectado desde %1</translation>
+    </message>
+    <message>
+        <source>Sent: %1 (%2)</source>
+        <translation>Enviado: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Received: %1 (%2)</source>
+        <translation>Recibido: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Sample history. Changes are gone when the window closes.</source>
+        <translation>Historial de ejemplo. Los cambios se pierden al cerrar la ventana.</translation>
+    </message>
+    <message>
+        <source>History in %1</source>
+        <translation>Historial en %1</translation>
+    </message>
+    <message>
+        <source>No connections recorded yet in %1</source>
+        <translation>Aún no hay conexiones registradas en %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historial</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Actualizar</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics…</source>
+        <translation>&amp;Estadísticas…</translation>
+    </message>
+    <message>
+        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
+        <translation>El complemento de historial en uso no tiene estadísticas. Inicie refdialer con uno que las tenga: --plugin ARCHIVO.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,668 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>Host</name>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it</extracomment>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NetInfoRecordUIPlugin</name>
+    <message>
+        <source>IDS_BTN_OK</source>
+        <extracomment>Button that closes a dialog</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_ALLAPN</source>
+        <extracomment>Statistics dialog: entry of the profile list</extracomment>
+        <translation>Tous les profils</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_BEFORELASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Avant-dernier mois</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_LASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Mois dernier</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_THISMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Ce mois-ci</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_STATISTIC</source>
+        <extracomment>Title of the group of figures</extracomment>
+        <translation>Statistiques</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_APN</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Profil (APN)</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_CONNECTEDTIME</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DOWNLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_ENDTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_STARTTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UPLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETE</source>
+        <extracomment>History window: menu entry; the key D acts like it</extracomment>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETEALL</source>
+        <extracomment>History window: menu entry; the key A acts like it</extracomment>
+        <translation>Tout supprimer</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>History window: title of both questions before a deletion</extracomment>
+        <translation>Supprimer des connexions</translation>
+    </message>
+    <message>
+        <source>IDS_STC_APN</source>
+        <extracomment>Statistics dialog: caption of the profile list, 100 pixels</extracomment>
+        <translation>Profil&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_EXPLAIN_TEXT</source>
+        <extracomment>History window: note below the table, one line</extracomment>
+        <translation>Durées et volumes sont mesurés sur cet ordinateur&#xa0;; votre facture peut différer.</translation>
+    </message>
+    <message>
+        <source>IDS_STC_MONTH</source>
+        <extracomment>Statistics dialog: caption of the month list, 100 pixels</extracomment>
+        <translation>Mois&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_SINGLEPACKET_UNIT</source>
+        <extracomment>Unit of the volumes in the statistics dialog</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEARALL</source>
+        <extracomment>History window: question before all are deleted</extracomment>
+        <translation>Voulez-vous supprimer toutes les connexions de l’historique&#xa0;? Elles ne pourront pas être restaurées.</translation>
+    </message>
+    <message>
+        <source>IDS_STR_DELETE</source>
+        <extracomment>History window: question before the selected ones are deleted</extracomment>
+        <translation>Voulez-vous supprimer de l’historique les connexions sélectionnées&#xa0;? Elles ne pourront pas être restaurées.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_SINGLE</source>
+        <extracomment>Title of the summary after a connection</extracomment>
+        <translation>Dernière connexion</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_TOTAL</source>
+        <extracomment>Title of the statistics dialog; the range of dates follows it, so one short word fits</extracomment>
+        <translation>Statistiques</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_DOWNLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Reçu&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_TIME_TRANSFER</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Connecté pendant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_UPLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Envoyé&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>common::ProblemText</name>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>«&#xa0;/proc/sys/kernel/random/boot_id&#xa0;» ne peut pas être lu&#xa0;; les connexions ne sont donc pas enregistrées. Montez /proc.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>Les connexions ne sont pas enregistrées, car %1 n’est pas accessible en écriture (%2). Donnez-vous le droit d’y écrire.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>Les connexions ne sont pas enregistrées, car %1 occupe la place du verrou (%2). Déplacez-le ailleurs.</translation>
+    </message>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>Les interfaces réseau ne peuvent pas être surveillées (%1)&#xa0;; les connexions ne sont donc pas enregistrées. Un nouvel essai a lieu toutes les deux secondes.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>«&#xa0;%1&#xa0;» contient peut-être des connexions absentes de l’historique, mais ne peut pas être lu (%2). Il a été laissé tel quel&#xa0;; déplacez-le ailleurs.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas accessible en écriture (%2)&#xa0;; les connexions que l’historique n’a pas pu recevoir sont donc perdues. Donnez-vous le droit d’y écrire.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» gênent&#xa0;: les connexions que l’historique n’a pas pu recevoir sont perdues. Déplacez-les ailleurs.</translation>
+    </message>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>Il ne peut pas exister d’interface réseau «&#xa0;%1&#xa0;»&#xa0;: un nom a au plus 15 octets, un nom alternatif 127, et ne contient ni «&#xa0;/&#xa0;» ni espace.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>Un autre programme enregistre déjà les connexions&#xa0;; elles apparaissent ici une fois terminées.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>Un autre %1 enregistre déjà les connexions (processus %2)&#xa0;; elles apparaissent ici une fois terminées.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>c’est un lien physique vers un autre fichier</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>appartient à un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>endommagé ou provenant d’un autre programme</translation>
+    </message>
+    <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>L’horloge du système affiche une heure que l’historique ne peut pas contenir&#xa0;; les connexions reçoivent %1 UTC à la place. Réglez l’horloge.</translation>
+    </message>
+</context>
+<context>
+    <name>common::WarningText</name>
+    <message>
+        <source>%1 % of the data plan &quot;%2&quot; used</source>
+        <translation>%1&#xa0;% du forfait de données «&#xa0;%2&#xa0;» utilisés</translation>
+    </message>
+    <message>
+        <source>%1 of %2; the period lasts until %3.</source>
+        <translation>%1 sur %2&#xa0;; la période dure jusqu’au %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 left until %4.</source>
+        <translation>%1 sur %2, reste %3 jusqu’au %4.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Application</name>
+    <message>
+        <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
+        <translation>Le greffon %1 n’a pas pu démarrer. «&#xa0;refdialer --debug&#xa0;» montre jusqu’où il est allé.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>Les connexions sont désormais enregistrées en arrière-plan&#xa0;: le service connrecord.service est activé et fonctionne.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>Les connexions ne sont enregistrées que tant que cette fenêtre est ouverte&#xa0;: le service connrecord.service est désactivé et a été arrêté.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>Votre session n’a pas de systemd qui puisse démarrer le service. Faites plutôt démarrer «&#xa0;connrecord record&#xa0;» par votre session.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>Le service connrecord.service n’est pas installé. Installez le paquet connrecord, qui le fournit.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>Le service connrecord.service est activé mais n’a pas démarré. «&#xa0;systemctl --user status connrecord&#xa0;» en donne la raison.</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>systemd a refusé&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>Une connexion est en cours, et cette fenêtre l’enregistre.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>&amp;Ne plus demander</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>&amp;Enregistrer en arrière-plan</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>A&amp;rrêter l’enregistrement</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>Un service peut poursuivre l’enregistrement sans la fenêtre, maintenant et à chacune de vos sessions.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::CommandLine</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Affiche cette aide.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Affiche la version.</translation>
+    </message>
+    <message>
+        <source>Use the history in FILE instead of your own, to show and to record.</source>
+        <translation>Utilise l’historique de FICHIER au lieu du vôtre, pour l’affichage et l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FICHIER</translation>
+    </message>
+    <message>
+        <source>Load the history plug-in from FILE.</source>
+        <translation>Charge le greffon d’historique depuis FICHIER.</translation>
+    </message>
+    <message>
+        <source>Speak this language for once: %1.</source>
+        <translation>Utilise cette langue pour cette fois&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Write the debug log to standard error.</source>
+        <translation>Écrit le journal de débogage sur la sortie d’erreur standard.</translation>
+    </message>
+    <message>
+        <source>Show a temporary copy of a sample history; nothing of yours is touched.</source>
+        <translation>Affiche une copie temporaire d’un historique d’exemple&#xa0;; vos données restent intactes.</translation>
+    </message>
+    <message>
+        <source>Record the connections of the network interface NAME (or alternative name) too, not only of mobile-broadband ones; may be given several times.</source>
+        <translation>Enregistre aussi les connexions de l’interface réseau NOM (ou nom alternatif), et pas seulement celles des interfaces mobiles&#xa0;; peut être répétée.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOM</translation>
+    </message>
+    <message>
+        <source>Record connections under the profile (APN) NAME, not under their interface&apos;s name.</source>
+        <translation>Enregistre les connexions sous le profil (APN) NOM, et non sous le nom de leur interface.</translation>
+    </message>
+    <message>
+        <source>Leave the dial-up service out, without which the history does not react to connections.</source>
+        <translation>Omet le service de numérotation, sans lequel l’historique ne réagit pas aux connexions.</translation>
+    </message>
+    <message>
+        <source>Draw the window to the PNG picture FILE without a display and exit.</source>
+        <translation>Dessine la fenêtre dans l’image PNG FICHIER, sans écran, puis quitte.</translation>
+    </message>
+    <message>
+        <source>Shows the history of mobile-broadband connections.</source>
+        <translation>Affiche l’historique des connexions mobiles à haut débit.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une option.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>L’option --%1 nécessite une valeur.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Le chemin «&#xa0;%1&#xa0;» de l’historique n’est pas en UTF-8. Renommez le fichier ou le dossier dont le nom ne l’est pas, ou indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
+        <translation>--demo et --store s’excluent&#xa0;: la première affiche un historique d’exemple, la seconde l’un des vôtres.</translation>
+    </message>
+    <message>
+        <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
+        <translation>Il n’y a pas de textes dans la langue «&#xa0;%1&#xa0;»&#xa0;; langues disponibles&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;refdialer --help&quot; shows the options.</source>
+        <translation>«&#xa0;refdialer --help&#xa0;» affiche les options.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::DemoStore</name>
+    <message>
+        <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
+        <translation>L’historique d’exemple %1 ne peut pas être copié vers %2&#xa0;: %3. Réinstallez refdialer ou libérez de la place à cet endroit.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Historique des connexions</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Paramètres…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
+        <translation>Le greffon d’historique annonce des statistiques, mais on ne peut pas les lui demander. Lancez refdialer avec un autre greffon&#xa0;: --plugin FICHIER.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Picture</name>
+    <message>
+        <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
+        <translation>L’image %1 ne peut pas être écrite&#xa0;: %2. Indiquez un fichier dans un dossier où vous avez le droit d’écrire.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanLine</name>
+    <message>
+        <source>Data plans</source>
+        <translation>Forfaits</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Used of the data plan &quot;%1&quot;</source>
+        <translation>Consommation du forfait «&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanText</name>
+    <message>
+        <source>%1 of %2 used, %3 over, today is the last day</source>
+        <translation>%1 sur %2 utilisés, %3 en trop, dernier jour aujourd’hui</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %3 over, %n days left</source>
+        <translation>
+            <numerusform>%1 sur %2 utilisés, %3 en trop, %n jour restant</numerusform>
+            <numerusform>%1 sur %2 utilisés, %3 en trop, %n jours restants</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 left, today is the last day</source>
+        <translation>%1 sur %2 utilisés, reste %3, dernier jour aujourd’hui</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %n days left, %3 a day</source>
+        <translation>
+            <numerusform>%1 sur %2 utilisés, %n jour restant, %3 par jour</numerusform>
+            <numerusform>%1 sur %2 utilisés, %n jours restants, %3 par jour</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 used, today is the last day</source>
+        <translation>%1 utilisés, dernier jour aujourd’hui</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 used, %n days left</source>
+        <translation>
+            <numerusform>%1 utilisés, %n jour restant</numerusform>
+            <numerusform>%1 utilisés, %n jours restants</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended on %1</source>
+        <translation>terminé le %1</translation>
+    </message>
+    <message>
+        <source>begins on %1</source>
+        <translation>commence le %1</translation>
+    </message>
+    <message>
+        <source>Heading for %1</source>
+        <translation>En route vers %1</translation>
+    </message>
+    <message>
+        <source>%1 % reached</source>
+        <translation>%1&#xa0;% atteints</translation>
+    </message>
+    <message>
+        <source>Used up</source>
+        <translation>Épuisé</translation>
+    </message>
+    <message>
+        <source>The period is from %1 to %2.</source>
+        <translation>La période va du %1 au %2.</translation>
+    </message>
+    <message>
+        <source>%1 left.</source>
+        <translation>Reste %1.</translation>
+    </message>
+    <message>
+        <source>At this pace it will be %1 in the end.</source>
+        <translation>À ce rythme, ce sera %1 à la fin.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PluginHandle</name>
+    <message>
+        <source>The plug-in %1 is not there.</source>
+        <translation>Le greffon %1 est introuvable.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2.</source>
+        <translation>Le greffon %1 ne peut pas être chargé&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
+        <translation>Le greffon %1 n’offre pas les interfaces %2 et %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in for Qt %2: %3.</source>
+        <translation>%1 n’est pas un greffon pour Qt %2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
+        <translation>Le greffon %1 sert à autre chose&#xa0;: son interface est %2 et non %3.</translation>
+    </message>
+    <message>
+        <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
+        <translation>Réinstallez refdialer, ou indiquez avec --plugin le fichier d’un greffon adapté.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ServicePlugin</name>
+    <message>
+        <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
+        <translation>Le service de numérotation %1 ne peut pas être chargé&#xa0;: %2. Réinstallez refdialer, ou omettez le service avec --no-dialup-service.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SettingsDialog</name>
+    <message>
+        <source>The service records into your own history, not into the one that this window shows.</source>
+        <translation>Le service enregistre dans votre propre historique, pas dans celui que cette fenêtre affiche.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>&amp;Show a summary after each connection</source>
+        <translation>Afficher un &amp;résumé après chaque connexion</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background, also when this window is closed</source>
+        <translation>&amp;Enregistrer en arrière-plan, même quand cette fenêtre est fermée</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Langue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
+        <translation>Cela ne vaut que jusqu’à la fermeture de la fenêtre&#xa0;: les paramètres ne peuvent pas être écrits dans %1. Libérez-y de la place ou donnez-vous le droit d’y écrire.</translation>
+    </message>
+    <message>
+        <source>These texts have not been reviewed by speakers of the language yet.</source>
+        <translation>Ces textes n’ont pas encore été relus par des locuteurs de la langue.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Trier par</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Début</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>&amp;Fin</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>&amp;Profil</translation>
+    </message>
+    <message>
+        <source>D&amp;uration</source>
+        <translation>D&amp;urée</translation>
+    </message>
+    <message>
+        <source>Up&amp;loaded</source>
+        <translation>&amp;Envoyé</translation>
+    </message>
+    <message>
+        <source>&amp;Downloaded</source>
+        <translation>&amp;Reçu</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Croissant</translation>
+    </message>
+    <message>
+        <source>Descendin&amp;g</source>
+        <translation>Décr&amp;oissant</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::StateLine</name>
+    <message>
+        <source>Not connected</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <source>connected since %1</source>
+        <translation>connecté depuis le %1</translation>
+    </message>
+    <message>
+        <source>Sent: %1 (%2)</source>
+        <translation>Envoyé&#xa0;: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Received: %1 (%2)</source>
+        <translation>Reçu&#xa0;: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Sample history. Changes are gone when the window closes.</source>
+        <translation>Historique d’exemple. Les modifications sont perdues à la fermeture de la fenêtre.</translation>
+    </message>
+    <message>
+        <source>History in %1</source>
+        <translation>Historique dans %1</translation>
+    </message>
+    <message>
+        <source>No connections recorded yet in %1</source>
+        <translation>Aucune connexion encore enregistrée dans %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historique</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Actualiser</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics…</source>
+        <translation>&amp;Statistiques…</translation>
+    </message>
+    <message>
+        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
+        <translation>Le greffon d’historique utilisé n’a pas de statistiques. Lancez refdialer avec un greffon qui en a&#xa0;: --plugin FICHIER.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,671 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl">
+<context>
+    <name>Host</name>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it</extracomment>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NetInfoRecordUIPlugin</name>
+    <message>
+        <source>IDS_BTN_OK</source>
+        <extracomment>Button that closes a dialog</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_ALLAPN</source>
+        <extracomment>Statistics dialog: entry of the profile list</extracomment>
+        <translation>Wszystkie profile</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_BEFORELASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Przedostatni miesiąc</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_LASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Poprzedni miesiąc</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_THISMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Bieżący miesiąc</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_STATISTIC</source>
+        <extracomment>Title of the group of figures</extracomment>
+        <translation>Statystyki</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_APN</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Profil (APN)</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_CONNECTEDTIME</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Czas trwania</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DOWNLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Pobrano</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_ENDTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Koniec</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_STARTTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Początek</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UPLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Wysłano</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETE</source>
+        <extracomment>History window: menu entry; the key D acts like it</extracomment>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETEALL</source>
+        <extracomment>History window: menu entry; the key A acts like it</extracomment>
+        <translation>Usuń wszystko</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>History window: title of both questions before a deletion</extracomment>
+        <translation>Usuwanie połączeń</translation>
+    </message>
+    <message>
+        <source>IDS_STC_APN</source>
+        <extracomment>Statistics dialog: caption of the profile list, 100 pixels</extracomment>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_EXPLAIN_TEXT</source>
+        <extracomment>History window: note below the table, one line</extracomment>
+        <translation>Czas i ilość danych mierzy ten komputer; rachunek operatora może się różnić.</translation>
+    </message>
+    <message>
+        <source>IDS_STC_MONTH</source>
+        <extracomment>Statistics dialog: caption of the month list, 100 pixels</extracomment>
+        <translation>Miesiąc:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_SINGLEPACKET_UNIT</source>
+        <extracomment>Unit of the volumes in the statistics dialog</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEARALL</source>
+        <extracomment>History window: question before all are deleted</extracomment>
+        <translation>Czy usunąć wszystkie połączenia z historii? Nie będzie można ich przywrócić.</translation>
+    </message>
+    <message>
+        <source>IDS_STR_DELETE</source>
+        <extracomment>History window: question before the selected ones are deleted</extracomment>
+        <translation>Czy usunąć wybrane połączenia z historii? Nie będzie można ich przywrócić.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_SINGLE</source>
+        <extracomment>Title of the summary after a connection</extracomment>
+        <translation>Ostatnie połączenie</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_TOTAL</source>
+        <extracomment>Title of the statistics dialog; the range of dates follows it, so one short word fits</extracomment>
+        <translation>Statystyki</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_DOWNLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Pobrano:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_TIME_TRANSFER</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Czas połączenia:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_UPLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Wysłano:</translation>
+    </message>
+</context>
+<context>
+    <name>common::ProblemText</name>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>Nie można odczytać „/proc/sys/kernel/random/boot_id”, więc połączenia nie są zapisywane. Zamontuj /proc.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>Połączenia nie są zapisywane, ponieważ nie można zapisać %1 (%2). Nadaj sobie prawo zapisu w tym miejscu.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>Połączenia nie są zapisywane, ponieważ %1 zajmuje miejsce blokady (%2). Przenieś to gdzie indziej.</translation>
+    </message>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>Nie można obserwować interfejsów sieciowych (%1), więc połączenia nie są zapisywane. Próba jest ponawiana co dwie sekundy.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>„%1” może zawierać połączenia, których nie ma w historii, ale nie można go odczytać (%2). Plik pozostawiono bez zmian; przenieś go gdzie indziej.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>Nie można zapisać „%1” (%2), więc połączenia, których historia nie mogła przyjąć, są tracone. Nadaj sobie prawo zapisu w tym miejscu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>„%1” i „%2” są na drodze, więc połączenia, których historia nie mogła przyjąć, są tracone. Przenieś je gdzie indziej.</translation>
+    </message>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>Interfejs sieciowy „%1” nie może istnieć: nazwa ma najwyżej 15 bajtów, nazwa alternatywna 127, i nie zawiera „/” ani białych znaków.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>Połączenia zapisuje już inny program. Pojawią się tutaj po zakończeniu.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>Połączenia zapisuje już inny %1 (proces %2). Pojawią się tutaj po zakończeniu.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>to nie jest zwykły plik</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>to dowiązanie twarde do innego pliku</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>należy do innego użytkownika</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>uszkodzony lub należy do innego programu</translation>
+    </message>
+    <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>Zegar systemowy pokazuje czas, którego historia nie może zapisać, więc połączenia otrzymują %1 UTC. Ustaw zegar.</translation>
+    </message>
+</context>
+<context>
+    <name>common::WarningText</name>
+    <message>
+        <source>%1 % of the data plan &quot;%2&quot; used</source>
+        <translation>Wykorzystano %1% planu danych „%2”</translation>
+    </message>
+    <message>
+        <source>%1 of %2; the period lasts until %3.</source>
+        <translation>%1 z %2; okres trwa do %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 left until %4.</source>
+        <translation>%1 z %2, pozostało %3 do %4.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Application</name>
+    <message>
+        <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
+        <translation>Wtyczka %1 nie mogła się uruchomić. „refdialer --debug” pokazuje, jak daleko doszła.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>Od teraz połączenia są zapisywane w tle: usługa connrecord.service jest włączona i działa.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>Połączenia są zapisywane tylko, gdy to okno jest otwarte: usługa connrecord.service jest wyłączona i została zatrzymana.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>W tej sesji nie ma systemd, który mógłby uruchomić usługę. Zamiast tego niech sesja uruchamia „connrecord record”.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>Usługa connrecord.service nie jest zainstalowana. Zainstaluj pakiet connrecord, który ją zawiera.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>Usługa connrecord.service jest włączona, ale nie uruchomiła się. „systemctl --user status connrecord” podaje przyczynę.</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>systemd odmówił: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>Trwa połączenie, a to okno je zapisuje.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>&amp;Nie pytaj ponownie</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>Zapisuj w &amp;tle</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>&amp;Zatrzymaj zapisywanie</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Anuluj</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>Usługa może dalej zapisywać bez okna, teraz i zawsze, gdy użytkownik jest zalogowany.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::CommandLine</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Pokazuje tę pomoc.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Pokazuje wersję.</translation>
+    </message>
+    <message>
+        <source>Use the history in FILE instead of your own, to show and to record.</source>
+        <translation>Używa historii z PLIKU zamiast własnej, do pokazywania i zapisywania.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>PLIK</translation>
+    </message>
+    <message>
+        <source>Load the history plug-in from FILE.</source>
+        <translation>Wczytuje wtyczkę historii z PLIKU.</translation>
+    </message>
+    <message>
+        <source>Speak this language for once: %1.</source>
+        <translation>Jednorazowo używa tego języka: %1.</translation>
+    </message>
+    <message>
+        <source>Write the debug log to standard error.</source>
+        <translation>Wypisuje dziennik debugowania na standardowe wyjście błędów.</translation>
+    </message>
+    <message>
+        <source>Show a temporary copy of a sample history; nothing of yours is touched.</source>
+        <translation>Pokazuje tymczasową kopię przykładowej historii; własne dane pozostają nietknięte.</translation>
+    </message>
+    <message>
+        <source>Record the connections of the network interface NAME (or alternative name) too, not only of mobile-broadband ones; may be given several times.</source>
+        <translation>Zapisuje także połączenia interfejsu sieciowego NAZWA (lub nazwa alternatywna), nie tylko mobilnych; można podać wielokrotnie.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAZWA</translation>
+    </message>
+    <message>
+        <source>Record connections under the profile (APN) NAME, not under their interface&apos;s name.</source>
+        <translation>Zapisuje połączenia pod profilem (APN) NAZWA, a nie pod nazwą ich interfejsu.</translation>
+    </message>
+    <message>
+        <source>Leave the dial-up service out, without which the history does not react to connections.</source>
+        <translation>Pomija usługę telefoniczną, bez której historia nie reaguje na połączenia.</translation>
+    </message>
+    <message>
+        <source>Draw the window to the PNG picture FILE without a display and exit.</source>
+        <translation>Rysuje okno bez ekranu do obrazu PNG o nazwie PLIK i kończy działanie.</translation>
+    </message>
+    <message>
+        <source>Shows the history of mobile-broadband connections.</source>
+        <translation>Pokazuje historię mobilnych połączeń szerokopasmowych.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option.</source>
+        <translation>„%1” nie jest opcją.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>Opcja --%1 wymaga wartości.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Ścieżka „%1” historii nie jest w UTF-8. Zmień nazwę pliku lub katalogu, który jej nie ma w UTF-8, albo podaj inny plik.</translation>
+    </message>
+    <message>
+        <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
+        <translation>--demo i --store wykluczają się: pierwsza pokazuje przykładową historię, druga jedną z własnych.</translation>
+    </message>
+    <message>
+        <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
+        <translation>Nie ma tekstów w języku „%1”; dostępne są: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;refdialer --help&quot; shows the options.</source>
+        <translation>„refdialer --help” pokazuje opcje.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::DemoStore</name>
+    <message>
+        <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
+        <translation>Nie można skopiować przykładowej historii %1 do %2: %3. Zainstaluj refdialer ponownie lub zwolnij tam miejsce.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Historia połączeń</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Plik</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Ustawienia…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Za&amp;kończ</translation>
+    </message>
+    <message>
+        <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
+        <translation>Wtyczka historii podaje, że ma statystyki, ale nie można jej o nie zapytać. Uruchom refdialer z inną: --plugin PLIK.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Picture</name>
+    <message>
+        <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
+        <translation>Nie można zapisać obrazu %1: %2. Podaj plik w katalogu, w którym wolno zapisywać.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanLine</name>
+    <message>
+        <source>Data plans</source>
+        <translation>Plany danych</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Used of the data plan &quot;%1&quot;</source>
+        <translation>Zużycie planu danych „%1”</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanText</name>
+    <message>
+        <source>%1 of %2 used, %3 over, today is the last day</source>
+        <translation>Użyto %1 z %2, przekroczono o %3, dziś ostatni dzień</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %3 over, %n days left</source>
+        <translation>
+            <numerusform>Użyto %1 z %2, przekroczono o %3, pozostał %n dzień</numerusform>
+            <numerusform>Użyto %1 z %2, przekroczono o %3, pozostały %n dni</numerusform>
+            <numerusform>Użyto %1 z %2, przekroczono o %3, pozostało %n dni</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 left, today is the last day</source>
+        <translation>Użyto %1 z %2, pozostało %3, dziś ostatni dzień</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %n days left, %3 a day</source>
+        <translation>
+            <numerusform>Użyto %1 z %2, pozostał %n dzień, %3 dziennie</numerusform>
+            <numerusform>Użyto %1 z %2, pozostały %n dni, %3 dziennie</numerusform>
+            <numerusform>Użyto %1 z %2, pozostało %n dni, %3 dziennie</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 used, today is the last day</source>
+        <translation>Użyto %1, dziś ostatni dzień</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 used, %n days left</source>
+        <translation>
+            <numerusform>Użyto %1, pozostał %n dzień</numerusform>
+            <numerusform>Użyto %1, pozostały %n dni</numerusform>
+            <numerusform>Użyto %1, pozostało %n dni</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended on %1</source>
+        <translation>zakończył się %1</translation>
+    </message>
+    <message>
+        <source>begins on %1</source>
+        <translation>rozpoczyna się %1</translation>
+    </message>
+    <message>
+        <source>Heading for %1</source>
+        <translation>Zmierza do %1</translation>
+    </message>
+    <message>
+        <source>%1 % reached</source>
+        <translation>Osiągnięto %1%</translation>
+    </message>
+    <message>
+        <source>Used up</source>
+        <translation>Wyczerpany</translation>
+    </message>
+    <message>
+        <source>The period is from %1 to %2.</source>
+        <translation>Okres trwa od %1 do %2.</translation>
+    </message>
+    <message>
+        <source>%1 left.</source>
+        <translation>Pozostało %1.</translation>
+    </message>
+    <message>
+        <source>At this pace it will be %1 in the end.</source>
+        <translation>W tym tempie na koniec będzie %1.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PluginHandle</name>
+    <message>
+        <source>The plug-in %1 is not there.</source>
+        <translation>Nie ma wtyczki %1.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2.</source>
+        <translation>Nie można wczytać wtyczki %1: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
+        <translation>Wtyczka %1 nie oferuje interfejsów %2 i %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in for Qt %2: %3.</source>
+        <translation>%1 nie jest wtyczką dla Qt %2: %3.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
+        <translation>Wtyczka %1 służy do czegoś innego: jej interfejs to %2, a nie %3.</translation>
+    </message>
+    <message>
+        <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
+        <translation>Zainstaluj refdialer ponownie albo podaj plik odpowiedniej wtyczki opcją --plugin.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ServicePlugin</name>
+    <message>
+        <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
+        <translation>Nie można wczytać usługi telefonicznej %1: %2. Zainstaluj refdialer ponownie albo pomiń usługę opcją --no-dialup-service.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SettingsDialog</name>
+    <message>
+        <source>The service records into your own history, not into the one that this window shows.</source>
+        <translation>Usługa zapisuje do własnej historii użytkownika, a nie do tej, którą pokazuje to okno.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>&amp;Show a summary after each connection</source>
+        <translation>&amp;Pokazuj podsumowanie po każdym połączeniu</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background, also when this window is closed</source>
+        <translation>Zapisuj w &amp;tle, także gdy to okno jest zamknięte</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Język:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Zamknij</translation>
+    </message>
+    <message>
+        <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
+        <translation>To obowiązuje tylko do zamknięcia okna: nie można zapisać ustawień w %1. Zwolnij tam miejsce albo nadaj sobie prawo zapisu.</translation>
+    </message>
+    <message>
+        <source>These texts have not been reviewed by speakers of the language yet.</source>
+        <translation>Tych tekstów nie sprawdziły jeszcze osoby mówiące tym językiem.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Sortuj według</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Początek</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>&amp;Koniec</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>P&amp;rofil</translation>
+    </message>
+    <message>
+        <source>D&amp;uration</source>
+        <translation>&amp;Czas trwania</translation>
+    </message>
+    <message>
+        <source>Up&amp;loaded</source>
+        <translation>&amp;Wysłano</translation>
+    </message>
+    <message>
+        <source>&amp;Downloaded</source>
+        <translation>Po&amp;brano</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>Ros&amp;nąco</translation>
+    </message>
+    <message>
+        <source>Descendin&amp;g</source>
+        <translation>&amp;Malejąco</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::StateLine</name>
+    <message>
+        <source>Not connected</source>
+        <translation>Brak połączenia</translation>
+    </message>
+    <message>
+        <source>connected since %1</source>
+        <translation>połączono od %1</translation>
+    </message>
+    <message>
+        <source>Sent: %1 (%2)</source>
+        <translation>Wysłano: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Received: %1 (%2)</source>
+        <translation>Pobrano: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Sample history. Changes are gone when the window closes.</source>
+        <translation>Przykładowa historia. Zmiany znikną po zamknięciu okna.</translation>
+    </message>
+    <message>
+        <source>History in %1</source>
+        <translation>Historia w %1</translation>
+    </message>
+    <message>
+        <source>No connections recorded yet in %1</source>
+        <translation>Nie ma jeszcze zapisanych połączeń w %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Widok</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historia</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Odśwież</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics…</source>
+        <translation>S&amp;tatystyki…</translation>
+    </message>
+    <message>
+        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
+        <translation>Używana wtyczka historii nie ma statystyk. Uruchom refdialer z wtyczką, która je ma: --plugin PLIK.</translation>
+    </message>
+</context>
+</TS>

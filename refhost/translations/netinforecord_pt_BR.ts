@@ -1,0 +1,668 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR">
+<context>
+    <name>Host</name>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it</extracomment>
+        <translation>Português (Brasil)</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NetInfoRecordUIPlugin</name>
+    <message>
+        <source>IDS_BTN_OK</source>
+        <extracomment>Button that closes a dialog</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_ALLAPN</source>
+        <extracomment>Statistics dialog: entry of the profile list</extracomment>
+        <translation>Todos os perfis</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_BEFORELASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Penúltimo mês</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_LASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Mês passado</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_THISMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Este mês</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_STATISTIC</source>
+        <extracomment>Title of the group of figures</extracomment>
+        <translation>Estatísticas</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_APN</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Perfil (APN)</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_CONNECTEDTIME</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DOWNLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Recebido</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_ENDTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_STARTTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UPLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETE</source>
+        <extracomment>History window: menu entry; the key D acts like it</extracomment>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETEALL</source>
+        <extracomment>History window: menu entry; the key A acts like it</extracomment>
+        <translation>Excluir tudo</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>History window: title of both questions before a deletion</extracomment>
+        <translation>Excluir conexões</translation>
+    </message>
+    <message>
+        <source>IDS_STC_APN</source>
+        <extracomment>Statistics dialog: caption of the profile list, 100 pixels</extracomment>
+        <translation>Perfil:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_EXPLAIN_TEXT</source>
+        <extracomment>History window: note below the table, one line</extracomment>
+        <translation>Tempos e dados são medidos neste computador; a conta da sua operadora pode diferir.</translation>
+    </message>
+    <message>
+        <source>IDS_STC_MONTH</source>
+        <extracomment>Statistics dialog: caption of the month list, 100 pixels</extracomment>
+        <translation>Mês:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_SINGLEPACKET_UNIT</source>
+        <extracomment>Unit of the volumes in the statistics dialog</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEARALL</source>
+        <extracomment>History window: question before all are deleted</extracomment>
+        <translation>Deseja excluir todas as conexões do histórico? Elas não poderão ser restauradas.</translation>
+    </message>
+    <message>
+        <source>IDS_STR_DELETE</source>
+        <extracomment>History window: question before the selected ones are deleted</extracomment>
+        <translation>Deseja excluir do histórico as conexões selecionadas? Elas não poderão ser restauradas.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_SINGLE</source>
+        <extracomment>Title of the summary after a connection</extracomment>
+        <translation>Última conexão</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_TOTAL</source>
+        <extracomment>Title of the statistics dialog; the range of dates follows it, so one short word fits</extracomment>
+        <translation>Estatísticas</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_DOWNLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Recebido:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_TIME_TRANSFER</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Conectado por:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_UPLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Enviado:</translation>
+    </message>
+</context>
+<context>
+    <name>common::ProblemText</name>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>Não é possível ler “/proc/sys/kernel/random/boot_id”; por isso, as conexões não são registradas. Monte /proc.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>As conexões não são registradas, pois não é possível gravar em %1 (%2). Dê a si mesmo permissão para gravar ali.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>As conexões não são registradas, pois %1 ocupa o lugar da trava (%2). Mova-o para outro lugar.</translation>
+    </message>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>Não é possível observar as interfaces de rede (%1); por isso, as conexões não são registradas. Uma nova tentativa é feita a cada dois segundos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>“%1” pode conter conexões que não estão no histórico, mas não pode ser lido (%2). Ele foi deixado como estava; mova-o para outro lugar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>Não é possível gravar em “%1” (%2); por isso, perdem-se as conexões que o histórico não pôde receber. Dê a si mesmo permissão para gravar ali.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>“%1” e “%2” estão no caminho; por isso, perdem-se as conexões que o histórico não pôde receber. Mova-os para outro lugar.</translation>
+    </message>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>Não pode haver uma interface de rede “%1”: um nome tem no máximo 15 bytes, um alternativo 127, e não contém “/” nem espaços.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>Outro programa já registra as conexões; elas aparecem aqui quando terminam.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>Outro %1 já registra as conexões (processo %2); elas aparecem aqui quando terminam.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>não é um arquivo comum</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>é um link físico para outro arquivo</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>pertence a outro usuário</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>está danificado ou é de outro programa</translation>
+    </message>
+    <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>O relógio do sistema mostra uma hora que o histórico não comporta; por isso, as conexões recebem %1 UTC. Acerte o relógio.</translation>
+    </message>
+</context>
+<context>
+    <name>common::WarningText</name>
+    <message>
+        <source>%1 % of the data plan &quot;%2&quot; used</source>
+        <translation>%1% do plano de dados “%2” usados</translation>
+    </message>
+    <message>
+        <source>%1 of %2; the period lasts until %3.</source>
+        <translation>%1 de %2; o período vai até %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 left until %4.</source>
+        <translation>%1 de %2, restam %3 até %4.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Application</name>
+    <message>
+        <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
+        <translation>O plug-in %1 não pôde ser iniciado. “refdialer --debug” mostra até onde ele chegou.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>A partir de agora, as conexões são registradas em segundo plano: o serviço connrecord.service está ativado e em execução.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>As conexões só são registradas enquanto esta janela está aberta: o serviço connrecord.service está desativado e foi parado.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>Não há systemd na sua sessão que possa iniciar o serviço. Em vez disso, faça sua sessão iniciar “connrecord record”.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>O serviço connrecord.service não está instalado. Instale o pacote connrecord, que o contém.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>O serviço connrecord.service está ativado, mas não iniciou. “systemctl --user status connrecord” diz por quê.</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>O systemd recusou: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>Há uma conexão em andamento, e esta janela a registra.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>&amp;Não perguntar novamente</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>&amp;Registrar em segundo plano</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>&amp;Parar de registrar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>Um serviço pode continuar registrando sem a janela, agora e sempre que sua sessão estiver aberta.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::CommandLine</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Exibir esta ajuda.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Exibir a versão.</translation>
+    </message>
+    <message>
+        <source>Use the history in FILE instead of your own, to show and to record.</source>
+        <translation>Usar o histórico em ARQUIVO em vez do seu, para exibir e registrar.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARQUIVO</translation>
+    </message>
+    <message>
+        <source>Load the history plug-in from FILE.</source>
+        <translation>Carregar de ARQUIVO o plug-in do histórico.</translation>
+    </message>
+    <message>
+        <source>Speak this language for once: %1.</source>
+        <translation>Usar este idioma só desta vez: %1.</translation>
+    </message>
+    <message>
+        <source>Write the debug log to standard error.</source>
+        <translation>Gravar o registro de depuração na saída de erro padrão.</translation>
+    </message>
+    <message>
+        <source>Show a temporary copy of a sample history; nothing of yours is touched.</source>
+        <translation>Exibir uma cópia temporária de um histórico de exemplo; nada seu é alterado.</translation>
+    </message>
+    <message>
+        <source>Record the connections of the network interface NAME (or alternative name) too, not only of mobile-broadband ones; may be given several times.</source>
+        <translation>Registrar também as conexões da interface de rede NOME (ou nome alternativo), não só as de banda larga móvel; pode ser usada várias vezes.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOME</translation>
+    </message>
+    <message>
+        <source>Record connections under the profile (APN) NAME, not under their interface&apos;s name.</source>
+        <translation>Registrar as conexões com o perfil (APN) NOME, e não com o nome da interface.</translation>
+    </message>
+    <message>
+        <source>Leave the dial-up service out, without which the history does not react to connections.</source>
+        <translation>Dispensar o serviço de discagem, sem o qual o histórico não reage às conexões.</translation>
+    </message>
+    <message>
+        <source>Draw the window to the PNG picture FILE without a display and exit.</source>
+        <translation>Desenhar a janela, sem tela, na imagem PNG ARQUIVO e sair.</translation>
+    </message>
+    <message>
+        <source>Shows the history of mobile-broadband connections.</source>
+        <translation>Exibe o histórico das conexões de banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option.</source>
+        <translation>“%1” não é uma opção.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>A opção --%1 precisa de um valor.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>O caminho “%1” do histórico não está em UTF-8. Renomeie o arquivo ou a pasta cujo nome não está, ou informe outro arquivo.</translation>
+    </message>
+    <message>
+        <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
+        <translation>--demo e --store excluem-se: a primeira exibe um histórico de exemplo; a segunda, um dos seus.</translation>
+    </message>
+    <message>
+        <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
+        <translation>Não há textos no idioma “%1”; há em: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;refdialer --help&quot; shows the options.</source>
+        <translation>“refdialer --help” mostra as opções.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::DemoStore</name>
+    <message>
+        <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
+        <translation>Não é possível copiar o histórico de exemplo %1 para %2: %3. Reinstale o refdialer ou libere espaço ali.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Histórico de conexões</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Configurações…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
+        <translation>O plug-in de histórico diz ter estatísticas, mas não é possível pedi-las. Inicie o refdialer com outro: --plugin ARQUIVO.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Picture</name>
+    <message>
+        <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
+        <translation>Não é possível gravar a imagem %1: %2. Informe um arquivo em uma pasta na qual você possa gravar.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanLine</name>
+    <message>
+        <source>Data plans</source>
+        <translation>Planos de dados</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Used of the data plan &quot;%1&quot;</source>
+        <translation>Consumo do plano de dados “%1”</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanText</name>
+    <message>
+        <source>%1 of %2 used, %3 over, today is the last day</source>
+        <translation>%1 de %2 usados, %3 a mais, hoje é o último dia</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %3 over, %n days left</source>
+        <translation>
+            <numerusform>%1 de %2 usados, %3 a mais, resta %n dia</numerusform>
+            <numerusform>%1 de %2 usados, %3 a mais, restam %n dias</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 left, today is the last day</source>
+        <translation>%1 de %2 usados, restam %3, hoje é o último dia</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %n days left, %3 a day</source>
+        <translation>
+            <numerusform>%1 de %2 usados, resta %n dia, %3 por dia</numerusform>
+            <numerusform>%1 de %2 usados, restam %n dias, %3 por dia</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 used, today is the last day</source>
+        <translation>%1 usados, hoje é o último dia</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 used, %n days left</source>
+        <translation>
+            <numerusform>%1 usados, resta %n dia</numerusform>
+            <numerusform>%1 usados, restam %n dias</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended on %1</source>
+        <translation>terminou em %1</translation>
+    </message>
+    <message>
+        <source>begins on %1</source>
+        <translation>começa em %1</translation>
+    </message>
+    <message>
+        <source>Heading for %1</source>
+        <translation>A caminho de %1</translation>
+    </message>
+    <message>
+        <source>%1 % reached</source>
+        <translation>%1% atingidos</translation>
+    </message>
+    <message>
+        <source>Used up</source>
+        <translation>Esgotado</translation>
+    </message>
+    <message>
+        <source>The period is from %1 to %2.</source>
+        <translation>O período vai de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>%1 left.</source>
+        <translation>Restam %1.</translation>
+    </message>
+    <message>
+        <source>At this pace it will be %1 in the end.</source>
+        <translation>Neste ritmo, serão %1 no final.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PluginHandle</name>
+    <message>
+        <source>The plug-in %1 is not there.</source>
+        <translation>O plug-in %1 não existe.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2.</source>
+        <translation>Não é possível carregar o plug-in %1: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
+        <translation>O plug-in %1 não oferece as interfaces %2 e %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in for Qt %2: %3.</source>
+        <translation>%1 não é um plug-in para Qt %2: %3.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
+        <translation>O plug-in %1 é para outra coisa: sua interface é %2, e não %3.</translation>
+    </message>
+    <message>
+        <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
+        <translation>Reinstale o refdialer ou informe com --plugin o arquivo de um plug-in adequado.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ServicePlugin</name>
+    <message>
+        <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
+        <translation>Não é possível carregar o serviço de discagem %1: %2. Reinstale o refdialer ou dispense o serviço com --no-dialup-service.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SettingsDialog</name>
+    <message>
+        <source>The service records into your own history, not into the one that this window shows.</source>
+        <translation>O serviço registra no seu próprio histórico, não no que esta janela exibe.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>&amp;Show a summary after each connection</source>
+        <translation>&amp;Mostrar um resumo após cada conexão</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background, also when this window is closed</source>
+        <translation>&amp;Registrar em segundo plano, também com esta janela fechada</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
+        <translation>Isto só vale até a janela ser fechada: não é possível gravar as configurações em %1. Libere espaço ali ou dê a si mesmo permissão para gravar.</translation>
+    </message>
+    <message>
+        <source>These texts have not been reviewed by speakers of the language yet.</source>
+        <translation>Estes textos ainda não foram revisados por falantes do idioma.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Início</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>&amp;Fim</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>&amp;Perfil</translation>
+    </message>
+    <message>
+        <source>D&amp;uration</source>
+        <translation>&amp;Duração</translation>
+    </message>
+    <message>
+        <source>Up&amp;loaded</source>
+        <translation>&amp;Enviado</translation>
+    </message>
+    <message>
+        <source>&amp;Downloaded</source>
+        <translation>&amp;Recebido</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Crescente</translation>
+    </message>
+    <message>
+        <source>Descendin&amp;g</source>
+        <translation>Decre&amp;scente</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::StateLine</name>
+    <message>
+        <source>Not connected</source>
+        <translation>Sem conexão</translation>
+    </message>
+    <message>
+        <source>connected since %1</source>
+        <translation>conectado desde %1</translation>
+    </message>
+    <message>
+        <source>Sent: %1 (%2)</source>
+        <translation>Enviado: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Received: %1 (%2)</source>
+        <translation>Recebido: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Sample history. Changes are gone when the window closes.</source>
+        <translation>Histórico de exemplo. As alterações se perdem ao fechar a janela.</translation>
+    </message>
+    <message>
+        <source>History in %1</source>
+        <translation>Histórico em %1</translation>
+    </message>
+    <message>
+        <source>No connections recorded yet in %1</source>
+        <translation>Ainda não há conexões registradas em %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>E&amp;xibir</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Histórico</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Atualizar</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics…</source>
+        <translation>&amp;Estatísticas…</translation>
+    </message>
+    <message>
+        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
+        <translation>O plug-in de histórico em uso não tem estatísticas. Inicie o refdialer com um que as tenha: --plugin ARQUIVO.</translation>
+    </message>
+</context>
+</TS>

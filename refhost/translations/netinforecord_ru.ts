@@ -1,0 +1,671 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru">
+<context>
+    <name>Host</name>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it</extracomment>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>ОК</translation>
+    </message>
+</context>
+<context>
+    <name>NetInfoRecordUIPlugin</name>
+    <message>
+        <source>IDS_BTN_OK</source>
+        <extracomment>Button that closes a dialog</extracomment>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_ALLAPN</source>
+        <extracomment>Statistics dialog: entry of the profile list</extracomment>
+        <translation>Все профили</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_BEFORELASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Позапрошлый месяц</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_LASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Прошлый месяц</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_THISMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Этот месяц</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_STATISTIC</source>
+        <extracomment>Title of the group of figures</extracomment>
+        <translation>Статистика</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_APN</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Профиль APN</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_CONNECTEDTIME</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Длительность</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DOWNLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Получено</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_ENDTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Конец</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_STARTTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Начало</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UPLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Отправлено</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETE</source>
+        <extracomment>History window: menu entry; the key D acts like it</extracomment>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETEALL</source>
+        <extracomment>History window: menu entry; the key A acts like it</extracomment>
+        <translation>Удалить все</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>History window: title of both questions before a deletion</extracomment>
+        <translation>Удаление соединений</translation>
+    </message>
+    <message>
+        <source>IDS_STC_APN</source>
+        <extracomment>Statistics dialog: caption of the profile list, 100 pixels</extracomment>
+        <translation>Профиль:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_EXPLAIN_TEXT</source>
+        <extracomment>History window: note below the table, one line</extracomment>
+        <translation>Время и объём данных измеряет этот компьютер; счёт оператора может отличаться.</translation>
+    </message>
+    <message>
+        <source>IDS_STC_MONTH</source>
+        <extracomment>Statistics dialog: caption of the month list, 100 pixels</extracomment>
+        <translation>Месяц:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_SINGLEPACKET_UNIT</source>
+        <extracomment>Unit of the volumes in the statistics dialog</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEARALL</source>
+        <extracomment>History window: question before all are deleted</extracomment>
+        <translation>Удалить из истории все соединения? Восстановить их будет невозможно.</translation>
+    </message>
+    <message>
+        <source>IDS_STR_DELETE</source>
+        <extracomment>History window: question before the selected ones are deleted</extracomment>
+        <translation>Удалить из истории выбранные соединения? Восстановить их будет невозможно.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_SINGLE</source>
+        <extracomment>Title of the summary after a connection</extracomment>
+        <translation>Последнее соединение</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_TOTAL</source>
+        <extracomment>Title of the statistics dialog; the range of dates follows it, so one short word fits</extracomment>
+        <translation>Статистика</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_DOWNLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Получено:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_TIME_TRANSFER</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Длительность:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_UPLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Отправлено:</translation>
+    </message>
+</context>
+<context>
+    <name>common::ProblemText</name>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>Не удаётся прочитать «/proc/sys/kernel/random/boot_id», поэтому соединения не записываются. Подключите /proc.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>Соединения не записываются: запись в %1 невозможна (%2). Дайте себе право записи туда.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>Соединения не записываются: %1 занимает место файла блокировки (%2). Переместите его.</translation>
+    </message>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>Не удаётся наблюдать за сетевыми интерфейсами (%1), поэтому соединения не записываются. Попытка повторяется каждые две секунды.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>«%1», возможно, хранит соединения, которых нет в истории, но не читается (%2). Файл оставлен как есть; переместите его.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>Запись в «%1» невозможна (%2), поэтому соединения, которые история не смогла принять, теряются. Дайте себе право записи туда.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>«%1» и «%2» мешают, поэтому соединения, которые история не смогла принять, теряются. Переместите их.</translation>
+    </message>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>Сетевого интерфейса «%1» не может быть: имя занимает не более 15 байт, альтернативное — не более 127, и не содержит ни «/», ни пробелов.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>Соединения уже записывает другая программа; они появятся здесь, когда завершатся.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>Соединения уже записывает другой %1 (процесс %2); они появятся здесь, когда завершатся.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>это жёсткая ссылка на другой файл</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>принадлежит другому пользователю</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>повреждён или создан другой программой</translation>
+    </message>
+    <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>Часы системы показывают время, которое не помещается в историю, поэтому соединения получают %1 UTC. Установите часы.</translation>
+    </message>
+</context>
+<context>
+    <name>common::WarningText</name>
+    <message>
+        <source>%1 % of the data plan &quot;%2&quot; used</source>
+        <translation>Израсходовано %1&#xa0;% тарифного плана «%2»</translation>
+    </message>
+    <message>
+        <source>%1 of %2; the period lasts until %3.</source>
+        <translation>%1 из %2; период длится до %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 left until %4.</source>
+        <translation>%1 из %2, осталось %3 до %4.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Application</name>
+    <message>
+        <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
+        <translation>Модуль %1 не смог запуститься. «refdialer --debug» покажет, как далеко он продвинулся.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>Теперь соединения записываются в фоновом режиме: служба connrecord.service включена и работает.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>Соединения записываются, только пока открыто это окно: служба connrecord.service отключена и остановлена.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>В вашем сеансе нет systemd, который мог бы запустить службу. Вместо этого настройте в сеансе запуск «connrecord record».</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>Служба connrecord.service не установлена. Установите пакет connrecord, в который она входит.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>Служба connrecord.service включена, но не запустилась. Причину покажет «systemctl --user status connrecord».</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>systemd ответил отказом: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>Соединение активно, и это окно его записывает.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>&amp;Больше не спрашивать</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>Записывать в &amp;фоне</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>&amp;Прекратить запись</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>Служба может продолжать запись и без окна — сейчас и всегда, когда вы в системе.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::CommandLine</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Показать эту справку.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Показать версию.</translation>
+    </message>
+    <message>
+        <source>Use the history in FILE instead of your own, to show and to record.</source>
+        <translation>Показывать историю из ФАЙЛА и записывать в неё, а не в вашу собственную.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ФАЙЛ</translation>
+    </message>
+    <message>
+        <source>Load the history plug-in from FILE.</source>
+        <translation>Загрузить модуль истории из ФАЙЛА.</translation>
+    </message>
+    <message>
+        <source>Speak this language for once: %1.</source>
+        <translation>На этот раз использовать язык: %1.</translation>
+    </message>
+    <message>
+        <source>Write the debug log to standard error.</source>
+        <translation>Выводить отладочный журнал в стандартный поток ошибок.</translation>
+    </message>
+    <message>
+        <source>Show a temporary copy of a sample history; nothing of yours is touched.</source>
+        <translation>Показать временную копию примера истории; ваши данные не затрагиваются.</translation>
+    </message>
+    <message>
+        <source>Record the connections of the network interface NAME (or alternative name) too, not only of mobile-broadband ones; may be given several times.</source>
+        <translation>Записывать соединения и сетевого интерфейса ИМЯ (или с таким альтернативным именем), а не только мобильных; можно указать несколько раз.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>ИМЯ</translation>
+    </message>
+    <message>
+        <source>Record connections under the profile (APN) NAME, not under their interface&apos;s name.</source>
+        <translation>Записывать соединения под профилем (APN) ИМЯ, а не под именем их интерфейса.</translation>
+    </message>
+    <message>
+        <source>Leave the dial-up service out, without which the history does not react to connections.</source>
+        <translation>Обойтись без службы набора номера; без неё история не реагирует на соединения.</translation>
+    </message>
+    <message>
+        <source>Draw the window to the PNG picture FILE without a display and exit.</source>
+        <translation>Нарисовать окно без экрана в изображение PNG с именем ФАЙЛ и завершить работу.</translation>
+    </message>
+    <message>
+        <source>Shows the history of mobile-broadband connections.</source>
+        <translation>Показывает историю мобильных широкополосных соединений.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option.</source>
+        <translation>«%1» не является параметром.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>Параметру --%1 нужно значение.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Путь «%1» к истории не в кодировке UTF-8. Переименуйте файл или папку, имя которых не в UTF-8, или укажите другой файл.</translation>
+    </message>
+    <message>
+        <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
+        <translation>--demo и --store исключают друг друга: первый показывает пример истории, второй — одну из ваших.</translation>
+    </message>
+    <message>
+        <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
+        <translation>Нет текстов на языке «%1»; есть на: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;refdialer --help&quot; shows the options.</source>
+        <translation>«refdialer --help» покажет параметры.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::DemoStore</name>
+    <message>
+        <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
+        <translation>Не удаётся скопировать пример истории %1 в %2: %3. Переустановите refdialer или освободите там место.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>История соединений</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Настройки…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
+        <translation>Модуль истории сообщает, что у него есть статистика, но запросить её нельзя. Запустите refdialer с другим модулем: --plugin ФАЙЛ.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Picture</name>
+    <message>
+        <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
+        <translation>Не удаётся записать изображение %1: %2. Укажите файл в папке, в которую вы можете писать.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanLine</name>
+    <message>
+        <source>Data plans</source>
+        <translation>Тарифные планы</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Used of the data plan &quot;%1&quot;</source>
+        <translation>Расход по тарифному плану «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanText</name>
+    <message>
+        <source>%1 of %2 used, %3 over, today is the last day</source>
+        <translation>Израсходовано %1 из %2, сверх плана %3, сегодня последний день</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %3 over, %n days left</source>
+        <translation>
+            <numerusform>Израсходовано %1 из %2, сверх плана %3, остался %n день</numerusform>
+            <numerusform>Израсходовано %1 из %2, сверх плана %3, осталось %n дня</numerusform>
+            <numerusform>Израсходовано %1 из %2, сверх плана %3, осталось %n дней</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 left, today is the last day</source>
+        <translation>Израсходовано %1 из %2, осталось %3, сегодня последний день</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %n days left, %3 a day</source>
+        <translation>
+            <numerusform>Израсходовано %1 из %2, остался %n день, %3 в день</numerusform>
+            <numerusform>Израсходовано %1 из %2, осталось %n дня, %3 в день</numerusform>
+            <numerusform>Израсходовано %1 из %2, осталось %n дней, %3 в день</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 used, today is the last day</source>
+        <translation>Израсходовано %1, сегодня последний день</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 used, %n days left</source>
+        <translation>
+            <numerusform>Израсходовано %1, остался %n день</numerusform>
+            <numerusform>Израсходовано %1, осталось %n дня</numerusform>
+            <numerusform>Израсходовано %1, осталось %n дней</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended on %1</source>
+        <translation>закончился %1</translation>
+    </message>
+    <message>
+        <source>begins on %1</source>
+        <translation>начинается %1</translation>
+    </message>
+    <message>
+        <source>Heading for %1</source>
+        <translation>Дойдёт до %1</translation>
+    </message>
+    <message>
+        <source>%1 % reached</source>
+        <translation>Достигнуто %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Used up</source>
+        <translation>Исчерпан</translation>
+    </message>
+    <message>
+        <source>The period is from %1 to %2.</source>
+        <translation>Период с %1 по %2.</translation>
+    </message>
+    <message>
+        <source>%1 left.</source>
+        <translation>Осталось %1.</translation>
+    </message>
+    <message>
+        <source>At this pace it will be %1 in the end.</source>
+        <translation>При таком темпе в конце будет %1.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PluginHandle</name>
+    <message>
+        <source>The plug-in %1 is not there.</source>
+        <translation>Модуля %1 нет.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2.</source>
+        <translation>Не удаётся загрузить модуль %1: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
+        <translation>У модуля %1 нет интерфейсов %2 и %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in for Qt %2: %3.</source>
+        <translation>%1 не является модулем для Qt %2: %3.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
+        <translation>Модуль %1 предназначен для другого: его интерфейс — %2, а не %3.</translation>
+    </message>
+    <message>
+        <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
+        <translation>Переустановите refdialer или укажите файл подходящего модуля параметром --plugin.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ServicePlugin</name>
+    <message>
+        <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
+        <translation>Не удаётся загрузить службу набора номера %1: %2. Переустановите refdialer или откажитесь от службы параметром --no-dialup-service.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SettingsDialog</name>
+    <message>
+        <source>The service records into your own history, not into the one that this window shows.</source>
+        <translation>Служба записывает в вашу собственную историю, а не в ту, которую показывает это окно.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>&amp;Show a summary after each connection</source>
+        <translation>Показывать &amp;сводку после каждого соединения</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background, also when this window is closed</source>
+        <translation>Записывать в &amp;фоновом режиме, даже когда это окно закрыто</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Язык:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
+        <translation>Это действует только до закрытия окна: настройки не удаётся записать в %1. Освободите там место или дайте себе право записи.</translation>
+    </message>
+    <message>
+        <source>These texts have not been reviewed by speakers of the language yet.</source>
+        <translation>Эти тексты ещё не проверены носителями языка.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Сортировать по</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Началу</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>&amp;Концу</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>&amp;Профилю</translation>
+    </message>
+    <message>
+        <source>D&amp;uration</source>
+        <translation>&amp;Длительности</translation>
+    </message>
+    <message>
+        <source>Up&amp;loaded</source>
+        <translation>&amp;Отправленному</translation>
+    </message>
+    <message>
+        <source>&amp;Downloaded</source>
+        <translation>По&amp;лученному</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>По &amp;возрастанию</translation>
+    </message>
+    <message>
+        <source>Descendin&amp;g</source>
+        <translation>По &amp;убыванию</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::StateLine</name>
+    <message>
+        <source>Not connected</source>
+        <translation>Нет соединения</translation>
+    </message>
+    <message>
+        <source>connected since %1</source>
+        <translation>соединение с %1</translation>
+    </message>
+    <message>
+        <source>Sent: %1 (%2)</source>
+        <translation>Отправлено: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Received: %1 (%2)</source>
+        <translation>Получено: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Sample history. Changes are gone when the window closes.</source>
+        <translation>Пример истории. Изменения исчезнут при закрытии окна.</translation>
+    </message>
+    <message>
+        <source>History in %1</source>
+        <translation>История в %1</translation>
+    </message>
+    <message>
+        <source>No connections recorded yet in %1</source>
+        <translation>В %1 ещё нет записанных соединений</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;История</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Обновить</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics…</source>
+        <translation>С&amp;татистика…</translation>
+    </message>
+    <message>
+        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
+        <translation>У используемого модуля истории нет статистики. Запустите refdialer с модулем, у которого она есть: --plugin ФАЙЛ.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,665 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr">
+<context>
+    <name>Host</name>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_NAME</source>
+        <extracomment>What speakers of this language call it</extracomment>
+        <translation>Türkçe</translation>
+    </message>
+    <message>
+        <source>IDS_LANGUAGE_REVIEWED</source>
+        <extracomment>Never shown: &quot;no&quot;, and &quot;yes&quot; once speakers of this language have read every text</extracomment>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of a message box</extracomment>
+        <translation>Tamam</translation>
+    </message>
+</context>
+<context>
+    <name>NetInfoRecordUIPlugin</name>
+    <message>
+        <source>IDS_BTN_OK</source>
+        <extracomment>Button that closes a dialog</extracomment>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_ALLAPN</source>
+        <extracomment>Statistics dialog: entry of the profile list</extracomment>
+        <translation>Tüm profiller</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_BEFORELASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Önceki aydan önceki ay</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_LASTMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Geçen ay</translation>
+    </message>
+    <message>
+        <source>IDS_COMBO_THISMONTH</source>
+        <extracomment>Statistics dialog: entry of the month list</extracomment>
+        <translation>Bu ay</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_STATISTIC</source>
+        <extracomment>Title of the group of figures</extracomment>
+        <translation>İstatistikler</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_APN</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Profil (APN)</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_CONNECTEDTIME</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Süre</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_DOWNLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Alınan</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_ENDTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Bitiş</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_STARTTIME</source>
+        <extracomment>History window: column of 135 pixels</extracomment>
+        <translation>Başlangıç</translation>
+    </message>
+    <message>
+        <source>IDS_LIST_UPLOADED</source>
+        <extracomment>History window: column of 110 pixels</extracomment>
+        <translation>Gönderilen</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETE</source>
+        <extracomment>History window: menu entry; the key D acts like it</extracomment>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>IDS_MENU_DELETEALL</source>
+        <extracomment>History window: menu entry; the key A acts like it</extracomment>
+        <translation>Tümünü sil</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>History window: title of both questions before a deletion</extracomment>
+        <translation>Bağlantıları sil</translation>
+    </message>
+    <message>
+        <source>IDS_STC_APN</source>
+        <extracomment>Statistics dialog: caption of the profile list, 100 pixels</extracomment>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_EXPLAIN_TEXT</source>
+        <extracomment>History window: note below the table, one line</extracomment>
+        <translation>Süreleri ve veri miktarını bu bilgisayar ölçer; operatörünüzün faturası farklı olabilir.</translation>
+    </message>
+    <message>
+        <source>IDS_STC_MONTH</source>
+        <extracomment>Statistics dialog: caption of the month list, 100 pixels</extracomment>
+        <translation>Ay:</translation>
+    </message>
+    <message>
+        <source>IDS_STC_SINGLEPACKET_UNIT</source>
+        <extracomment>Unit of the volumes in the statistics dialog</extracomment>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEARALL</source>
+        <extracomment>History window: question before all are deleted</extracomment>
+        <translation>Geçmişteki tüm bağlantıları silmek istiyor musunuz? Geri getirilemezler.</translation>
+    </message>
+    <message>
+        <source>IDS_STR_DELETE</source>
+        <extracomment>History window: question before the selected ones are deleted</extracomment>
+        <translation>Seçili bağlantıları geçmişten silmek istiyor musunuz? Geri getirilemezler.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_SINGLE</source>
+        <extracomment>Title of the summary after a connection</extracomment>
+        <translation>Son bağlantı</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_TOTAL</source>
+        <extracomment>Title of the statistics dialog; the range of dates follows it, so one short word fits</extracomment>
+        <translation>İstatistikler</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_DOWNLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Alınan:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_TIME_TRANSFER</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Bağlı kalınan:</translation>
+    </message>
+    <message>
+        <source>IDS_TREE_UPLOADED_DATA</source>
+        <extracomment>Caption of a figure</extracomment>
+        <translation>Gönderilen:</translation>
+    </message>
+</context>
+<context>
+    <name>common::ProblemText</name>
+    <message>
+        <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
+        <translation>“/proc/sys/kernel/random/boot_id” okunamıyor, bu yüzden bağlantılar kaydedilmiyor. /proc dosya sistemini bağlayın.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
+        <translation>Bağlantılar kaydedilmiyor, çünkü %1 yazılamıyor (%2). Kendinize oraya yazma izni verin.</translation>
+    </message>
+    <message>
+        <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
+        <translation>Bağlantılar kaydedilmiyor, çünkü %1 kilidin yerini tutuyor (%2). Onu başka yere taşıyın.</translation>
+    </message>
+    <message>
+        <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
+        <translation>Ağ arayüzleri izlenemiyor (%1), bu yüzden bağlantılar kaydedilmiyor. İki saniyede bir yeniden deneniyor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
+        <translation>“%1” geçmişte olmayan bağlantılar içeriyor olabilir, ancak okunamıyor (%2). Olduğu gibi bırakıldı; onu başka yere taşıyın.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
+        <translation>“%1” yazılamıyor (%2), bu yüzden geçmişin alamadığı bağlantılar kayboluyor. Kendinize oraya yazma izni verin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
+        <translation>“%1” ve “%2” engel oluyor, bu yüzden geçmişin alamadığı bağlantılar kayboluyor. Onları başka yere taşıyın.</translation>
+    </message>
+    <message>
+        <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
+        <translation>“%1” adlı bir ağ arayüzü olamaz: bir ad en çok 15 bayt, alternatif ad en çok 127 bayttır; “/” ve boşluk içermez.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another program already, and appear here when they have ended.</source>
+        <translation>Bağlantıları zaten başka bir program kaydediyor; sona erdiklerinde burada görünürler.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded by another %1 already (process %2), and appear here when they have ended.</source>
+        <translation>Bağlantıları zaten başka bir %1 kaydediyor (süreç %2); sona erdiklerinde burada görünürler.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>normal bir dosya değil</translation>
+    </message>
+    <message>
+        <source>it is a hard link to another file</source>
+        <translation>başka bir dosyaya sabit bağ</translation>
+    </message>
+    <message>
+        <source>it belongs to another user</source>
+        <translation>başka bir kullanıcıya ait</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another program</source>
+        <translation>bozuk ya da başka bir programa ait</translation>
+    </message>
+    <message>
+        <source>The system&apos;s clock shows a time that the history cannot hold, so connections get %1 UTC instead; set the clock.</source>
+        <translation>Sistem saati, geçmişin tutamayacağı bir zamanı gösteriyor; bu yüzden bağlantılara %1 UTC yazılıyor. Saati ayarlayın.</translation>
+    </message>
+</context>
+<context>
+    <name>common::WarningText</name>
+    <message>
+        <source>%1 % of the data plan &quot;%2&quot; used</source>
+        <translation>“%2” veri planının %%1 kadarı kullanıldı</translation>
+    </message>
+    <message>
+        <source>%1 of %2; the period lasts until %3.</source>
+        <translation>%1 / %2; dönem %3 tarihine kadar sürüyor.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 left until %4.</source>
+        <translation>%1 / %2, %4 tarihine kadar %3 kaldı.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Application</name>
+    <message>
+        <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
+        <translation>%1 eklentisi başlatılamadı. “refdialer --debug” nereye kadar geldiğini gösterir.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::BackgroundUnit</name>
+    <message>
+        <source>Connections are recorded in the background from now on: the service connrecord.service is enabled and runs.</source>
+        <translation>Bağlantılar artık arka planda kaydediliyor: connrecord.service hizmeti etkin ve çalışıyor.</translation>
+    </message>
+    <message>
+        <source>Connections are recorded only while this window is open: the service connrecord.service is disabled and has been stopped.</source>
+        <translation>Bağlantılar yalnızca bu pencere açıkken kaydediliyor: connrecord.service hizmeti devre dışı ve durduruldu.</translation>
+    </message>
+    <message>
+        <source>There is no systemd for your session that could start the service. Have your session start &quot;connrecord record&quot; instead.</source>
+        <translation>Oturumunuzda hizmeti başlatabilecek bir systemd yok. Bunun yerine oturumunuzun “connrecord record” komutunu başlatmasını sağlayın.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is not installed. Install the package connrecord, which brings it.</source>
+        <translation>connrecord.service hizmeti kurulu değil. Onu içeren connrecord paketini kurun.</translation>
+    </message>
+    <message>
+        <source>The service connrecord.service is enabled but did not start. &quot;systemctl --user status connrecord&quot; tells why.</source>
+        <translation>connrecord.service hizmeti etkin, ancak başlamadı. “systemctl --user status connrecord” nedenini söyler.</translation>
+    </message>
+    <message>
+        <source>systemd has refused: %1</source>
+        <translation>systemd reddetti: %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ClosingQuestion</name>
+    <message>
+        <source>A connection lasts, and this window records it.</source>
+        <translation>Bir bağlantı sürüyor ve bu pencere onu kaydediyor.</translation>
+    </message>
+    <message>
+        <source>&amp;Do not ask again</source>
+        <translation>Bir daha &amp;sorma</translation>
+    </message>
+    <message>
+        <source>Record in the &amp;background</source>
+        <translation>&amp;Arka planda kaydet</translation>
+    </message>
+    <message>
+        <source>&amp;Stop recording</source>
+        <translation>Kaydı &amp;durdur</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+    <message>
+        <source>A service can go on recording without the window, now and whenever you are logged in.</source>
+        <translation>Bir hizmet, pencere olmadan da kaydı sürdürebilir: şimdi ve oturumunuzun açık olduğu her zaman.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::CommandLine</name>
+    <message>
+        <source>Show this help.</source>
+        <translation>Bu yardımı göster.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Sürümü göster.</translation>
+    </message>
+    <message>
+        <source>Use the history in FILE instead of your own, to show and to record.</source>
+        <translation>Göstermek ve kaydetmek için kendi geçmişiniz yerine DOSYA içindeki geçmişi kullan.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DOSYA</translation>
+    </message>
+    <message>
+        <source>Load the history plug-in from FILE.</source>
+        <translation>Geçmiş eklentisini DOSYA içinden yükle.</translation>
+    </message>
+    <message>
+        <source>Speak this language for once: %1.</source>
+        <translation>Yalnızca bu kez şu dili kullan: %1.</translation>
+    </message>
+    <message>
+        <source>Write the debug log to standard error.</source>
+        <translation>Hata ayıklama günlüğünü standart hataya yaz.</translation>
+    </message>
+    <message>
+        <source>Show a temporary copy of a sample history; nothing of yours is touched.</source>
+        <translation>Örnek bir geçmişin geçici kopyasını göster; size ait hiçbir şeye dokunulmaz.</translation>
+    </message>
+    <message>
+        <source>Record the connections of the network interface NAME (or alternative name) too, not only of mobile-broadband ones; may be given several times.</source>
+        <translation>Yalnızca mobil geniş bant arayüzlerinin değil, AD adlı (ya da alternatif adı bu olan) ağ arayüzünün bağlantılarını da kaydet; birden çok kez verilebilir.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>AD</translation>
+    </message>
+    <message>
+        <source>Record connections under the profile (APN) NAME, not under their interface&apos;s name.</source>
+        <translation>Bağlantıları arayüzlerinin adıyla değil, AD adlı profille (APN) kaydet.</translation>
+    </message>
+    <message>
+        <source>Leave the dial-up service out, without which the history does not react to connections.</source>
+        <translation>Çevirmeli bağlantı hizmetini kullanma; onsuz geçmiş bağlantılara tepki vermez.</translation>
+    </message>
+    <message>
+        <source>Draw the window to the PNG picture FILE without a display and exit.</source>
+        <translation>Pencereyi ekransız olarak DOSYA adlı PNG resmine çiz ve çık.</translation>
+    </message>
+    <message>
+        <source>Shows the history of mobile-broadband connections.</source>
+        <translation>Mobil geniş bant bağlantılarının geçmişini gösterir.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option.</source>
+        <translation>“%1” bir seçenek değil.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>--%1 seçeneğine bir değer gerekli.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Geçmişin “%1” yolu UTF-8 değil. Adı UTF-8 olmayan dosyayı ya da klasörü yeniden adlandırın ya da başka bir dosya verin.</translation>
+    </message>
+    <message>
+        <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
+        <translation>--demo ve --store birlikte kullanılamaz: ilki örnek bir geçmişi, ikincisi sizinkilerden birini gösterir.</translation>
+    </message>
+    <message>
+        <source>There are no texts in the language &quot;%1&quot;; there are: %2.</source>
+        <translation>“%1” dilinde metin yok; olanlar: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;refdialer --help&quot; shows the options.</source>
+        <translation>“refdialer --help” seçenekleri gösterir.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::DemoStore</name>
+    <message>
+        <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
+        <translation>Örnek geçmiş %1, %2 konumuna kopyalanamıyor: %3. refdialer’ı yeniden kurun ya da orada yer açın.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Bağlantı geçmişi</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Dosya</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Ayarlar…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Çık</translation>
+    </message>
+    <message>
+        <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
+        <translation>Geçmiş eklentisi istatistikleri olduğunu söylüyor, ancak bunlar istenemiyor. refdialer’ı başka bir eklentiyle başlatın: --plugin DOSYA.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Picture</name>
+    <message>
+        <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
+        <translation>%1 resmi yazılamıyor: %2. Yazabildiğiniz bir klasörde bir dosya verin.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanLine</name>
+    <message>
+        <source>Data plans</source>
+        <translation>Veri planları</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%%1</translation>
+    </message>
+    <message>
+        <source>Used of the data plan &quot;%1&quot;</source>
+        <translation>“%1” veri planının kullanımı</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanText</name>
+    <message>
+        <source>%1 of %2 used, %3 over, today is the last day</source>
+        <translation>%1 / %2 kullanıldı, %3 aşıldı, bugün son gün</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %3 over, %n days left</source>
+        <translation>
+            <numerusform>%1 / %2 kullanıldı, %3 aşıldı, %n gün kaldı</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 used, %3 left, today is the last day</source>
+        <translation>%1 / %2 kullanıldı, %3 kaldı, bugün son gün</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 used, %n days left, %3 a day</source>
+        <translation>
+            <numerusform>%1 / %2 kullanıldı, %n gün kaldı, günde %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 used, today is the last day</source>
+        <translation>%1 kullanıldı, bugün son gün</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 used, %n days left</source>
+        <translation>
+            <numerusform>%1 kullanıldı, %n gün kaldı</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ended on %1</source>
+        <translation>bitiş: %1</translation>
+    </message>
+    <message>
+        <source>begins on %1</source>
+        <translation>başlangıç: %1</translation>
+    </message>
+    <message>
+        <source>Heading for %1</source>
+        <translation>%1 yolunda</translation>
+    </message>
+    <message>
+        <source>%1 % reached</source>
+        <translation>%%1 doldu</translation>
+    </message>
+    <message>
+        <source>Used up</source>
+        <translation>Tükendi</translation>
+    </message>
+    <message>
+        <source>The period is from %1 to %2.</source>
+        <translation>Dönem: %1 – %2.</translation>
+    </message>
+    <message>
+        <source>%1 left.</source>
+        <translation>%1 kaldı.</translation>
+    </message>
+    <message>
+        <source>At this pace it will be %1 in the end.</source>
+        <translation>Bu hızla sonunda %1 olacak.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PluginHandle</name>
+    <message>
+        <source>The plug-in %1 is not there.</source>
+        <translation>%1 eklentisi yok.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2.</source>
+        <translation>%1 eklentisi yüklenemiyor: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
+        <translation>%1 eklentisi %2 ve %3 arayüzlerini sunmuyor.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in for Qt %2: %3.</source>
+        <translation>%1, Qt %2 için bir eklenti değil: %3.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
+        <translation>%1 eklentisi başka bir şey için: arayüzü %2, %3 değil.</translation>
+    </message>
+    <message>
+        <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
+        <translation>refdialer’ı yeniden kurun ya da uygun bir eklentinin dosyasını --plugin ile verin.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ServicePlugin</name>
+    <message>
+        <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
+        <translation>Çevirmeli bağlantı hizmeti %1 yüklenemiyor: %2. refdialer’ı yeniden kurun ya da hizmeti --no-dialup-service ile dışarıda bırakın.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SettingsDialog</name>
+    <message>
+        <source>The service records into your own history, not into the one that this window shows.</source>
+        <translation>Hizmet, bu pencerenin gösterdiği geçmişe değil, kendi geçmişinize kaydeder.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ayarlar</translation>
+    </message>
+    <message>
+        <source>&amp;Show a summary after each connection</source>
+        <translation>Her bağlantıdan sonra bir &amp;özet göster</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background, also when this window is closed</source>
+        <translation>Bu pencere kapalıyken de &amp;arka planda kaydet</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Dil:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Kapat</translation>
+    </message>
+    <message>
+        <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
+        <translation>Bu yalnızca pencere kapanana kadar geçerli: ayarlar %1 içine yazılamıyor. Orada yer açın ya da kendinize yazma izni verin.</translation>
+    </message>
+    <message>
+        <source>These texts have not been reviewed by speakers of the language yet.</source>
+        <translation>Bu metinler henüz bu dili konuşanlarca gözden geçirilmedi.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Sırala</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Başlangıç</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>Bi&amp;tiş</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>&amp;Profil</translation>
+    </message>
+    <message>
+        <source>D&amp;uration</source>
+        <translation>&amp;Süre</translation>
+    </message>
+    <message>
+        <source>Up&amp;loaded</source>
+        <translation>&amp;Gönderilen</translation>
+    </message>
+    <message>
+        <source>&amp;Downloaded</source>
+        <translation>&amp;Alınan</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>A&amp;rtan</translation>
+    </message>
+    <message>
+        <source>Descendin&amp;g</source>
+        <translation>A&amp;zalan</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::StateLine</name>
+    <message>
+        <source>Not connected</source>
+        <translation>Bağlı değil</translation>
+    </message>
+    <message>
+        <source>connected since %1</source>
+        <translation>bağlantı başlangıcı: %1</translation>
+    </message>
+    <message>
+        <source>Sent: %1 (%2)</source>
+        <translation>Gönderilen: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Received: %1 (%2)</source>
+        <translation>Alınan: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Sample history. Changes are gone when the window closes.</source>
+        <translation>Örnek geçmiş. Değişiklikler pencere kapanınca kaybolur.</translation>
+    </message>
+    <message>
+        <source>History in %1</source>
+        <translation>Geçmiş: %1</translation>
+    </message>
+    <message>
+        <source>No connections recorded yet in %1</source>
+        <translation>%1 içinde henüz kayıtlı bağlantı yok</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Görünüm</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Geçmiş</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Yenile</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics…</source>
+        <translation>İs&amp;tatistikler…</translation>
+    </message>
+    <message>
+        <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
+        <translation>Kullanılan geçmiş eklentisinin istatistikleri yok. refdialer’ı istatistikleri olan bir eklentiyle başlatın: --plugin DOSYA.</translation>
+    </message>
+</context>
+</TS>
