@@ -47,7 +47,7 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     , m_ports(ports.release())
     , m_clock(std::move(clock))
     , m_intervals(intervals)
-    , m_timer(this)
+    , m_ticks(intervals.tick, intervals.ticksPerCheckpoint, this)
     , m_retryTimer(this)
 {
     qRegisterMetaType<history::Connection>();
@@ -59,9 +59,7 @@ ConnectionRecorder::ConnectionRecorder(const QString &storePath, const QStringLi
     connect(m_ports, &modem::PortSource::availabilityChanged, this,
             &ConnectionRecorder::handleAllPorts);
     connect(m_links, &LinkSource::failed, this, &ConnectionRecorder::stop);
-    m_timer.setObjectName(QStringLiteral("ticks"));
-    m_timer.setInterval(intervals.tick);
-    connect(&m_timer, &QTimer::timeout, this, &ConnectionRecorder::tick);
+    connect(&m_ticks, &Ticks::ticked, this, &ConnectionRecorder::tick);
     connect(&m_retryTimer, &QTimer::timeout, this, &ConnectionRecorder::tryAgain);
 }
 
@@ -112,7 +110,7 @@ bool ConnectionRecorder::tryToStart()
     removeObstacle();
     m_session->begin();
     connect(m_links, &LinkSource::linkChanged, this, &ConnectionRecorder::handleChange);
-    m_timer.start();
+    m_ticks.start();
     m_isRecording = true;
     return true;
 }
@@ -139,8 +137,8 @@ void ConnectionRecorder::handlePort(const QString &interfaceName)
 
 void ConnectionRecorder::tickIfBusy()
 {
-    if (!m_timer.isActive() && m_session->isBusy())
-        m_timer.start();
+    if (!m_ticks.areRunning() && m_session->isBusy())
+        m_ticks.start();
 }
 
 void ConnectionRecorder::handleAllPorts()
@@ -150,18 +148,18 @@ void ConnectionRecorder::handleAllPorts()
         handlePort(port.first);
 }
 
-void ConnectionRecorder::tick()
+void ConnectionRecorder::tick(bool isCheckpoint)
 {
-    m_session->tick();
+    m_session->tick(isCheckpoint);
     if (!m_session->isBusy())
-        m_timer.stop();
+        m_ticks.stop();
 }
 
 /// Who does not record or does not see the links must not settle what is open, for
 /// another recorder may be at it.
 void ConnectionRecorder::giveUp()
 {
-    m_timer.stop();
+    m_ticks.stop();
     disconnect(m_links, &LinkSource::linkChanged, this, &ConnectionRecorder::handleChange);
     m_session.reset();
     m_lock.reset();
@@ -185,7 +183,6 @@ bool ConnectionRecorder::openSession()
     m_patience.renew();
     m_session = std::make_unique<RecordingSession>(
         std::move(store.value()), knownPath(), bootId, m_interfaceNames, m_profileName,
-        m_intervals.ticksPerCheckpoint,
         RecordingSession::Surroundings{*m_links, *m_ports, *m_clock, m_lastId}, listener());
     return true;
 }

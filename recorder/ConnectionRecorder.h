@@ -4,6 +4,7 @@
 #include "ConnectionState.h"
 #include "LockPatience.h"
 #include "Problem.h"
+#include "Ticks.h"
 #include "history/Store.h"
 
 #include <QObject>
@@ -36,7 +37,8 @@ struct RecorderIntervals {
     std::chrono::milliseconds tick = std::chrono::seconds(1);
     std::chrono::milliseconds retry = std::chrono::seconds(2); ///< of the start
     /// With every so many ticks, the store is brought up to date: it is to be at most five
-    /// seconds behind, and the kernel's answer and the writing take their time too.
+    /// seconds behind, and the kernel's answer and the writing take their time too. While
+    /// nobody watches, only these ticks come.
     int ticksPerCheckpoint = 4;
     /// For how long the store is left to a recorder that way was made for.
     std::chrono::milliseconds courtesy = std::chrono::seconds(10);
@@ -91,6 +93,8 @@ public:
     /// Another recorder wants to record: leaves what is connected open, as end() does, and
     /// the store to that one for a while. If nobody has it then, it records again.
     void makeWay();
+    /// Whether anybody wants to see what connections move at the moment, as in the beginning.
+    void setWatched(bool isWatched) { m_ticks.setWatched(isWatched); }
     /// Who recorded may have ended: tries again now what is tried again from time to time.
     void tryNow();
 
@@ -133,7 +137,7 @@ private:
     void handleChange(const LinkChange &change);
     void handlePort(const QString &interfaceName);
     void handleAllPorts();
-    void tick();
+    void tick(bool isCheckpoint);
     void tickIfBusy();
     bool isAnothersTurn();
     void giveUp();
@@ -156,7 +160,7 @@ private:
     bool m_isRecording = false;
     bool m_isLate = false; ///< the first start is over
     const RecorderIntervals m_intervals;
-    QTimer m_timer; ///< runs while there is something to watch
+    Ticks m_ticks; ///< run while there is something to watch
     QTimer m_retryTimer;
     std::int64_t m_lastId = 0;
 };

@@ -31,11 +31,10 @@ bool showTheSame(const history::SeenLink &a, const history::SeenLink &b)
 
 RecordingSession::RecordingSession(history::Store store, const QString &storePath,
                                    const std::string &bootId, const QStringList &interfaceNames,
-                                   const QString &profileName, int ticksPerCheckpoint,
-                                   Surroundings surroundings, const SessionListener &listener)
+                                   const QString &profileName, Surroundings surroundings,
+                                   const SessionListener &listener)
     : m_bootId(bootId)
     , m_profileName(profileName)
-    , m_ticksPerCheckpoint(ticksPerCheckpoint)
     , m_surroundings(surroundings)
     , m_listener(listener)
     , m_watched(interfaceNames)
@@ -285,10 +284,9 @@ void RecordingSession::report(LiveConnection &connection)
     connection.isStateDue = false;
 }
 
-void RecordingSession::tick()
+void RecordingSession::tick(bool isCheckpoint)
 {
-    m_ticks = (m_ticks + 1) % m_ticksPerCheckpoint;
-    const bool isCheckpoint = m_ticks == 0 || m_book.isLate();
+    isCheckpoint |= m_book.isLate();
     if (isCheckpoint) {
         m_book.writePending();
         keepIdleCounters();

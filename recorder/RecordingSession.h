@@ -53,17 +53,16 @@ public:
     /// `storePath` is the one that all recorders know the store by.
     RecordingSession(history::Store store, const QString &storePath, const std::string &bootId,
                      const QStringList &interfaceNames, const QString &profileName,
-                     int ticksPerCheckpoint, Surroundings surroundings,
-                     const SessionListener &listener);
+                     Surroundings surroundings, const SessionListener &listener);
 
     /// Settles what earlier processes left open, and records the links from now on.
     void begin();
     void handleChange(const LinkChange &change);
     /// What is known of the modem's data port of this name has changed.
     void handlePort(const QString &interfaceName);
-    /// Asks for counters and tries again what could not be written; every few times, the
-    /// store is brought up to date.
-    void tick();
+    /// Asks for counters and tries again what could not be written; a checkpoint brings the
+    /// store up to date besides.
+    void tick(bool isCheckpoint);
     /// Whether there is anything for tick() to do: a line that is up, or something that is
     /// not in the store yet.
     bool isBusy() const;
@@ -109,7 +108,6 @@ private:
 
     const std::string m_bootId;
     QString m_profileName;
-    const int m_ticksPerCheckpoint;
     const Surroundings m_surroundings;
     const SessionListener m_listener;
     WatchedLinks m_watched;
@@ -123,7 +121,6 @@ private:
     std::vector<Link> m_linksAtStart;
     std::vector<history::SeenLink> m_keptIdle; ///< what the store knows of links without one
     std::optional<std::int64_t> m_standIn;     ///< for what the clock shows
-    int m_ticks = 0;
 };
 
 } // namespace recorder

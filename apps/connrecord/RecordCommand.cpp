@@ -11,11 +11,8 @@
 #include "apps/common/QuitOnSignal.h"
 #include "formats/Utf8Text.h"
 #include "history/Store.h"
-#include "modem/Modems.h"
 #include "recorder/ConnectionRecorder.h"
 #include "recorder/InterfaceName.h"
-#include "recorder/LinkMonitor.h"
-#include "recorder/SystemClock.h"
 #include "recorder/bus/RecorderService.h"
 
 #include <QCoreApplication>
@@ -33,10 +30,6 @@ namespace
 using recorder::ConnectionRecorder;
 using recorder::ConnectionState;
 using recorder::Problem;
-
-/// Nobody looks at figures that change, so it wakes up as rarely as the store allows.
-constexpr recorder::RecorderIntervals intervals = {std::chrono::seconds(4), std::chrono::seconds(2),
-                                                   1};
 
 QStringList interfaceNames(const std::vector<std::string> &names)
 {
@@ -173,7 +166,7 @@ private:
 MemorySaver::MemorySaver(const ConnectionRecorder &recorder, const ::common::PlanWarner &planWarner)
 {
     // All that such an event brings with it is over then, as the search for the buses.
-    m_timer.setInterval(intervals.tick);
+    m_timer.setInterval(std::chrono::seconds(4));
     m_timer.setSingleShot(true);
     QObject::connect(&m_timer, &QTimer::timeout, giveBackUnusedMemory);
     const auto saveLater = [this] { m_timer.start(); };
@@ -199,9 +192,7 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
     checkStore(common.storePath);
     const ::common::QuitOnSignal quitOnSignal;
     const QString storePath = QFile::decodeName(common.storePath.c_str());
-    ConnectionRecorder recorder(storePath, names, std::make_unique<recorder::LinkMonitor>(),
-                                std::make_unique<modem::Modems>(),
-                                std::make_unique<recorder::SystemClock>(), intervals);
+    ConnectionRecorder recorder(storePath, names);
     recorder.setProfileName(profile);
     Reporter reporter(recorder);
     reporter.tellOfStart(recorder.start());

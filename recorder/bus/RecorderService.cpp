@@ -36,6 +36,8 @@ RecorderService::RecorderService(ConnectionRecorder &recorder, const QString &st
                                  Place place, ProblemText problemText, const QString &busAddress,
                                  std::chrono::milliseconds interval, QObject *parent)
     : QObject(parent)
+    , m_recorder(recorder)
+    , m_hasWindow(place == Place::Foreground)
     , m_busAddress(busAddress)
     , m_name(nameFor(storePath))
     , m_bus(std::make_unique<BusConnection>(
@@ -43,10 +45,11 @@ RecorderService::RecorderService(ConnectionRecorder &recorder, const QString &st
                                                                 HandOver::rulesFor(m_name)}}))
     , m_object(
           std::make_unique<RecorderObject>(recorder, storePath, std::move(problemText), interval))
-    , m_listeners(*m_bus, [this] { m_object->setWatched(m_listeners.areThere()); })
+    , m_listeners(*m_bus, [this] { tellWhetherWatched(); })
     , m_handOver(std::make_unique<HandOver>(recorder, *m_bus, m_name, place))
 {
     new ConnectionRecorder1Adaptor(m_object.get()); // a child
+    tellWhetherWatched();
     connect(m_bus.get(), &BusConnection::connected, this, &RecorderService::publish);
     connect(m_bus.get(), &BusConnection::disconnected, this, [this] {
         m_listeners.forgetAll();
@@ -110,6 +113,12 @@ void RecorderService::publish()
     requestName();
     m_handOver->begin();
     updateClaim();
+}
+
+void RecorderService::tellWhetherWatched()
+{
+    m_object->setWatched(m_listeners.areThere());
+    m_recorder.setWatched(m_hasWindow || m_listeners.areThere());
 }
 
 void RecorderService::updateClaim()

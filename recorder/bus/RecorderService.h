@@ -42,7 +42,8 @@ public:
     using ProblemText = std::function<QString(const Problem &)>;
 
     /// A recorder in the foreground, which ends with a window of its user's, makes way for
-    /// one in the background as soon as that comes.
+    /// one in the background as soon as that comes. What one in the background records is
+    /// watched only by who says so over the bus.
     enum class Place { Foreground, Background };
 
     /// For the store at `storePath`; `problemText` words problems as the program does. The
@@ -66,10 +67,13 @@ public:
 
 private:
     void publish();
+    void tellWhetherWatched();
     void renewName();
     void requestName();
     void updateClaim();
 
+    ConnectionRecorder &m_recorder;
+    const bool m_hasWindow;
     const QString m_busAddress;
     const QString m_name;
     const std::unique_ptr<modem::BusConnection> m_bus;

@@ -19,6 +19,7 @@ private slots:
     void bringsTheRowUpToDate();
     void writesNothingWhileNothingIsMoved();
     void asksForNothingWhileNoLineIsUp();
+    void bringsTheStoreUpToDateWithEachTickThatNobodyWatches();
     void leavesTheRowOpenWhenTheProgramEnds();
     void takesWhatHasHappenedWhenTheProgramEnds();
     void writesTheRowAnewWhenTheFileIsReplaced();
@@ -115,6 +116,30 @@ void RecordedRowsTest::asksForNothingWhileNoLineIsUp()
     m_atStart = {downLink(3, "wwan0", 7, 8)};
     QVERIFY(start());
     QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5 down 6 normal"));
+}
+
+void RecordedRowsTest::bringsTheStoreUpToDateWithEachTickThatNobodyWatches()
+{
+    QVERIFY(start());
+    const auto *const timer = m_recorder->findChild<QTimer *>(QStringLiteral("ticks"));
+    QTRY_VERIFY(!timer->isActive());
+    m_recorder->setWatched(false);
+    connectLink(3, "wwan0", 0, 0);
+    std::int64_t uploaded = 0;
+    const auto isStoredAfterTick = [&] {
+        m_links->requests.clear();
+        // It looks after each tick, not only after several.
+        if (!QTest::qWaitFor([&] { return !m_links->requests.empty(); }))
+            return false;
+        m_links->tell(runningLink(3, "wwan0", ++uploaded, 0));
+        return openRowsIn(m_path).front().uploadedBytes == uploaded;
+    };
+    for (int tick = 0; tick < 2 * shortIntervals.ticksPerCheckpoint; ++tick)
+        QVERIFY(isStoredAfterTick());
+    // Who begins to watch need not wait so long, and keeps nothing from being written.
+    m_recorder->setWatched(true);
+    QVERIFY(timer->remainingTime() <= shortIntervals.tick.count());
+    QVERIFY(isStoredAfterTick());
 }
 
 void RecordedRowsTest::leavesTheRowOpenWhenTheProgramEnds()

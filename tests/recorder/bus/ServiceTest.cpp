@@ -22,10 +22,10 @@ void ServiceTest::cleanup()
     RecorderTest::cleanup();
 }
 
-void ServiceTest::publish(std::chrono::milliseconds interval)
+void ServiceTest::publish(std::chrono::milliseconds interval, RecorderService::Place place)
 {
     start();
-    m_service = makeService(*m_recorder, interval);
+    m_service = makeService(*m_recorder, interval, place);
     m_service->start();
     m_client = makeClient();
     QTRY_VERIFY(m_client->isServiceThere());

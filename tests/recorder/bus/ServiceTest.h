@@ -20,7 +20,9 @@ protected slots:
 
 protected:
     /// Starts the recorder and its service; nothing is told twice in such an interval.
-    void publish(std::chrono::milliseconds interval = std::chrono::milliseconds(1));
+    void
+    publish(std::chrono::milliseconds interval = std::chrono::milliseconds(1),
+            recorder::RecorderService::Place place = recorder::RecorderService::Place::Foreground);
     std::unique_ptr<recorder::RecorderService>
     makeService(recorder::ConnectionRecorder &recorder,
                 std::chrono::milliseconds interval = std::chrono::milliseconds(1),

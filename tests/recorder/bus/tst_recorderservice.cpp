@@ -55,6 +55,8 @@ private slots:
     void tellsFiguresOncePerInterval();
     void tellsFiguresUntilTheLastListenerWantsNoMore();
     void tellsNoFiguresToAListenerThatHasDied();
+    void asksForFiguresMoreOftenWhileSomebodyWatches();
+    void asksForFiguresOftenInTheForeground();
     void introspectsAsDescribed();
     void changesNothing();
 
@@ -63,6 +65,8 @@ private:
     void connectWatched();
     /// Ends it, which the figures do not tell.
     void disconnectUnwatched();
+    /// Milliseconds from one question for figures to the next.
+    int ticks() const { return m_recorder->findChild<QTimer *>("ticks")->interval(); }
 };
 
 void TestRecorderService::tellsThatTheHistoryHasChanged()
@@ -204,6 +208,31 @@ void TestRecorderService::tellsNoFiguresToAListenerThatHasDied()
     listener->leave();
     QTRY_VERIFY(!m_client->isThere(name));
     disconnectUnwatched();
+}
+
+void TestRecorderService::asksForFiguresMoreOftenWhileSomebodyWatches()
+{
+    publish(std::chrono::milliseconds(1), RecorderService::Place::Background);
+    connectLink(7, "ppp0", 100, 200);
+    const int often = int(shortIntervals.tick.count());
+    const int seldom = often * shortIntervals.ticksPerCheckpoint;
+    QTRY_COMPARE(ticks(), seldom);
+    QCOMPARE(m_client->call("Watch").type(), QDBusMessage::ReplyMessage);
+    QTRY_COMPARE(ticks(), often);
+    QCOMPARE(m_client->call("Unwatch").type(), QDBusMessage::ReplyMessage);
+    QTRY_COMPARE(ticks(), seldom);
+}
+
+void TestRecorderService::asksForFiguresOftenInTheForeground()
+{
+    publish();
+    connectLink(7, "ppp0", 100, 200);
+    QCOMPARE(m_client->call("Watch").type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(m_client->call("Unwatch").type(), QDBusMessage::ReplyMessage);
+    for (int i = 0; i < shortIntervals.ticksPerCheckpoint; ++i) {
+        move(100 + i, 200);
+        QCOMPARE(ticks(), int(shortIntervals.tick.count()));
+    }
 }
 
 void TestRecorderService::introspectsAsDescribed()
