@@ -39,6 +39,13 @@ QDBusMessage startingNoService(QDBusMessage call)
     return call;
 }
 
+/// Newer versions of Qt do not tell whose an answer is, but the bus lets nobody else answer.
+bool isAnswerOf(const QString &service, const QDBusMessage &reply)
+{
+    return reply.type() == QDBusMessage::ReplyMessage &&
+           (reply.service().isEmpty() || reply.service() == service);
+}
+
 } // namespace
 
 QDBusMessage busCall(const char *method, const QVariantList &arguments)
@@ -47,11 +54,6 @@ QDBusMessage busCall(const char *method, const QVariantList &arguments)
                                                        QLatin1String(method));
     call.setArguments(arguments);
     return call;
-}
-
-bool isFrom(const QDBusMessage &message, const QString &name)
-{
-    return message.service().isEmpty() || message.service() == name;
 }
 
 BusConnection::BusConnection(const QString &address, std::vector<Subscription> subscriptions,
@@ -134,8 +136,7 @@ void BusConnection::ask(const QDBusMessage &call, const QString &signature, cons
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [service = call.service(), signature, handler](QDBusPendingCallWatcher *finished) {
                 const QDBusMessage reply = finished->reply();
-                const bool isProper = reply.type() == QDBusMessage::ReplyMessage &&
-                                      isFrom(reply, service) && reply.signature() == signature;
+                const bool isProper = isAnswerOf(service, reply) && reply.signature() == signature;
                 finished->deleteLater();
                 handler(isProper ? reply.arguments() : QVariantList());
             });

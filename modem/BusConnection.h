@@ -20,10 +20,6 @@ namespace modem
 /// A call of a method of the bus itself.
 QDBusMessage busCall(const char *method, const QVariantList &arguments = {});
 
-/// Whether a message that has been received comes from this name. Newer versions of Qt do not
-/// tell; then the rules by which the bus has delivered it have to do.
-bool isFrom(const QDBusMessage &message, const QString &name);
-
 /// A connection to a message bus that never waits: neither for a bus that is not there
 /// yet, nor for one that accepts and then says nothing. QtDBus's own connections to a
 /// bus are greeted by it before anything else goes on, and all of a program's share one

@@ -143,8 +143,8 @@ void Modems::handleSignal(const QDBusMessage &message)
 {
     if (const auto change = ownerChangeIn(message)) {
         if (change->name == names::service)
-            askForOwner(); // of the bus, which is who it says
-    } else if (!m_owner.isEmpty() && isFrom(message, m_owner)) {
+            setOwner(change->owner);
+    } else if (!m_owner.isEmpty() && message.service() == m_owner) {
         handleNews(message);
         publish();
     }

@@ -11,7 +11,7 @@ namespace modem
 
 std::optional<OwnerChange> ownerChangeIn(const QDBusMessage &message)
 {
-    const bool isOfTheBus = isFrom(message, names::bus) &&
+    const bool isOfTheBus = message.service() == names::bus &&
                             message.member() == names::ownerChanged &&
                             message.signature() == QLatin1String("sss");
     if (!isOfTheBus)

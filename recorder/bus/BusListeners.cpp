@@ -34,17 +34,15 @@ void BusListeners::add(const QString &client)
     if (m_clients.contains(client))
         return;
     m_clients.insert(client);
-    // Where Qt does not tell who calls, nobody can tell that they leave.
-    if (!client.isEmpty())
-        follow(client);
+    m_bus.tell(busCall("AddMatch", {departureOf(client)}));
+    askWhetherStillThere(client);
     if (m_clients.size() == 1)
         m_changed();
 }
 
-void BusListeners::follow(const QString &client)
+/// It may have left before the bus was asked to tell that.
+void BusListeners::askWhetherStillThere(const QString &client)
 {
-    m_bus.tell(busCall("AddMatch", {departureOf(client)}));
-    // It may have left before the bus was asked to tell that.
     m_bus.ask(busCall("NameHasOwner", {client}), QStringLiteral("b"),
               [this, client](const QVariantList &reply) {
                   if (reply.isEmpty() || !reply.first().toBool())

@@ -36,7 +36,7 @@ public:
     void handleOwnerChange(const QDBusMessage &message);
 
 private:
-    void follow(const QString &client);
+    void askWhetherStillThere(const QString &client);
 
     modem::BusConnection &m_bus;
     const std::function<void()> m_changed;

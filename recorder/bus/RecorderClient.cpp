@@ -104,7 +104,7 @@ void RecorderClient::handleMessage(const QDBusMessage &message)
             setOwner(change->owner);
         return;
     }
-    if (m_owner.isEmpty() || !modem::isFrom(message, m_owner))
+    if (m_owner.isEmpty() || message.service() != m_owner)
         return;
     const QVariantList arguments = message.arguments();
     if (message.signature() == QLatin1String("sa{sv}as")) {
