@@ -31,6 +31,8 @@ QString realPath(const QString &file)
 QString busNameFor(const QString &name, const QString &storeFile)
 {
     const QByteArray path = realBytes(storeFile);
+    // Wherever XDG_DATA_HOME points to in one of the programs: all that share a bus have to
+    // mean the same history by the same name.
     if (path ==
         realBytes(QDir::homePath() + QLatin1String("/.local/share/refdialer/connections.db")))
         return name;
