@@ -2,6 +2,8 @@
 #include "RecorderTest.h"
 #include "StoreLock.h"
 
+#include <QFile>
+
 using history::Connection;
 
 namespace
@@ -35,7 +37,7 @@ private slots:
     void staysEndedWhenTheModemIsGone();
     void tellsWhatAPortMovedUnwatched();
     void keepsWhoseAConnectionIs();
-    void keepsWhoseAnUnwrittenConnectionIs();
+    void keepsWhoseAnUnwrittenConnectionIsAndItsHours();
     void tellsHomeAndRoamingApartWithoutAnEnd();
     void tellsTheHoursApart();
     void resumesTheHours();
@@ -254,20 +256,33 @@ void RecordedPortsTest::keepsWhoseAConnectionIs()
 }
 
 /// Also while it is kept beside a history that cannot be written.
-void RecordedPortsTest::keepsWhoseAnUnwrittenConnectionIs()
+void RecordedPortsTest::keepsWhoseAnUnwrittenConnectionIsAndItsHours()
 {
     QVERIFY(start());
     m_ports->comeAvailable();
     m_ports->tell("wwan0", true, subscriberOf(modem::Roaming::Roaming));
+    m_ports->tell("wwan1", true, subscriberOf(modem::Roaming::Roaming));
     {
         const StoreLock lock(m_path);
         connectLink(3, "wwan0", 0, 0);
-        m_links->tell(downLink(3, "wwan0", 1, 2));
+        connectLink(4, "wwan1", 0, 0);
+        m_links->tell(runningLink(3, "wwan0", 1, 2));
+        m_links->tell(runningLink(4, "wwan1", 100, 200));
+        m_clock->pass(3600000);
+        m_ports->tell("wwan0", true, subscriberOf(modem::Roaming::Home));
+        m_links->tell(downLink(3, "wwan0", 11, 22));
+        // The other one lasts.
+        m_links->toCome = {runningLink(4, "wwan1", 130, 240)};
         m_recorder.reset();
     }
+    QVERIFY(QFile::exists(m_path + "-unwritten"));
     QVERIFY(start());
-    QCOMPARE(ownerOf(firstRecord()), roamingOwner);
-    QCOMPARE(hours(), QStringList("0 roaming 1 2"));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"wwan0 up 11 down 22 normal", "wwan1 up 130 down 240 recovered"}));
+    for (const Connection &connection : connectionsIn(m_path))
+        QCOMPARE(ownerOf(connection), roamingOwner);
+    QCOMPARE(hours(), QStringList({"0 roaming 1 2", "0 roaming 100 200", "1 home 10 20",
+                                   "1 roaming 30 40"}));
 }
 
 void RecordedPortsTest::tellsHomeAndRoamingApartWithoutAnEnd()
