@@ -39,16 +39,16 @@ run() {
              END { exit skipped }'
 }
 
-# Each target writes what it finds to build/fuzz/tests/found, its own log beside.
+# Each target writes what it finds to build/ci/tests/found, its own log beside.
 fuzz() {
-    build fuzz
+    build ci
     export QT_QPA_PLATFORM=offscreen TZ=Europe/Berlin LC_ALL=C.UTF-8
     export LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0
     export FUZZ_SECONDS=${FUZZ_SECONDS:-1800}
     # shellcheck disable=SC2016  # the inner shell expands them
-    xargs -a build/fuzz/tests/fuzzers -P 2 -L 1 bash -c '
-        found=build/fuzz/tests/found/$0
-        build/fuzz/tests/fuzz_"$0" -max_total_time="$FUZZ_SECONDS" -max_len="$1" \
+    xargs -a build/ci/tests/fuzzers -P 2 -L 1 bash -c '
+        found=build/ci/tests/found/$0
+        build/ci/tests/fuzz_"$0" -max_total_time="$FUZZ_SECONDS" -max_len="$1" \
             -timeout=10 -rss_limit_mb=4096 -artifact_prefix="$found-" "$found" "${@:2}" \
             >"$found.log" 2>&1 || { tail -n 40 "$found.log" >&2; exit 255; }
         printf "%s: %s\n" "$0" "$(grep -a "^Done" "$found.log")"'
@@ -60,7 +60,7 @@ for campaign in "${campaigns[@]}"; do
     host)
         run qt5 tst_hostilehost 1000000
         run ci tst_hostilehost 200000
-        run clang tst_hostilehost 200000
+        run gcc tst_hostilehost 200000
         ;;
     kills) run qt5 'tst_(store|recorder)kills' 1000 ;;
     hands) run qt5 tst_changesofhands 1000 ;;
@@ -69,8 +69,8 @@ for campaign in "${campaigns[@]}"; do
     texts) run qt5 '^tst_(time|sdk|volume)text$' 1000000 ;;
     abi)
         run ci '^(tst_slots|tst_exports|tst_interface|minimal_host_.*|sdk_exports)$'
-        run qt5 '^minimal_host_of_the_other_compiler$'
-        run dev '^minimal_host_of_the_other_compiler$'
+        run qt5 '^plugin_for_host_makers$'
+        run dev '^plugin_for_host_makers$'
         ;;
     *)
         say "There is no campaign \"$campaign\"; there are host, kills, hands, reconnects, texts, fuzz and abi."

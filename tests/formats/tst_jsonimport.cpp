@@ -54,6 +54,17 @@ std::vector<history::Connection> imported(QByteArray json)
     return reader->imported().connections;
 }
 
+/// Why it is not imported; empty if it is.
+QByteArray refusalOf(const QByteArray &json)
+{
+    try {
+        imported(json);
+    } catch (const InputError &error) {
+        return error.what();
+    }
+    return {};
+}
+
 QByteArray object(const QByteArray &from = {}, const QByteArray &to = {})
 {
     return QByteArray(R"({"profile":"a","start":"2024-01-31T22:00:00Z",)"
@@ -135,20 +146,15 @@ void JsonImportTest::tellsWhereAndWhy()
 {
     QFETCH(QByteArray, json);
     QFETCH(QByteArray, told);
-    try {
-        imported(json);
-        QFAIL("it was taken");
-    } catch (const InputError &error) {
-        const QByteArray sentence = error.what();
-        QVERIFY2(sentence.contains(told), sentence);
-        QVERIFY2(sentence.endsWith(". Nothing was imported."), sentence);
-    }
+    const QByteArray sentence = refusalOf(json);
+    QVERIFY2(sentence.contains(told), sentence);
+    QVERIFY2(sentence.endsWith(". Nothing was imported."), sentence);
 }
 
 void JsonImportTest::refusesWhatWouldFillTheMemory()
 {
-    QVERIFY_EXCEPTION_THROWN(imported("[{\"profile\":\"" + QByteArray(20000000, 'x')), InputError);
-    QVERIFY_EXCEPTION_THROWN(imported(QByteArray(20000000, '[')), InputError);
+    QVERIFY(!refusalOf("[{\"profile\":\"" + QByteArray(20000000, 'x')).isEmpty());
+    QVERIFY(!refusalOf(QByteArray(20000000, '[')).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(JsonImportTest)

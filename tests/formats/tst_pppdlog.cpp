@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "PppdSample.h"
 
+#include <QBuffer>
 #include <QTest>
+
+#include <optional>
 
 using namespace formats;
 using namespace history;
@@ -158,16 +161,20 @@ void PppdLogTest::refusesMoreThanItMayKeep_data()
 void PppdLogTest::refusesMoreThanItMayKeep()
 {
     QFETCH(QByteArray, lines);
-    const auto read = [&lines](std::size_t largestSize) {
+    const auto read = [&lines](std::size_t largestSize) -> std::optional<std::size_t> {
         QBuffer buffer(&lines);
         buffer.open(QIODevice::ReadOnly);
         LineReader reader(buffer, longestLogLine);
-        return readPppdLog(
-                   reader, [](std::int64_t) {}, largestSize)
-            .size();
+        try {
+            return readPppdLog(
+                       reader, [](std::int64_t) {}, largestSize)
+                .size();
+        } catch (const LogTooLarge &) {
+            return std::nullopt;
+        }
     };
-    QCOMPARE(read(10), std::size_t(10));
-    QVERIFY_EXCEPTION_THROWN(read(9), LogTooLarge);
+    QVERIFY(read(10) == std::size_t(10));
+    QVERIFY(!read(9));
 }
 
 void PppdLogTest::survivesWhatIsNoLog_data()

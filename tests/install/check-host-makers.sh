@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# check-host-makers.sh SOURCE FOLDER QT: builds and installs the plug-in as part of
-# another project, then hosts against it, in FOLDER.
+# check-host-makers.sh SOURCE FOLDER QT STATISTICS: builds and installs the plug-in, ON
+# with its statistics or OFF without, as part of another project, then hosts against it,
+# in FOLDER.
 set -euo pipefail
-source=$1 folder=$2 qt=$3
+source=$1 folder=$2 qt=$3 statistics=$4
 here=$(cd "$(dirname "$0")" && pwd)
 prefix=$folder/prefix
 rm -rf "$prefix"
@@ -11,6 +12,7 @@ export LD_LIBRARY_PATH=
 
 cmake -G Ninja -S "$here/host-with-targets" -B "$folder/plugin" \
     -D NETINFORECORD_SOURCE="$source" -D QT_VERSION_MAJOR="$qt" \
+    -D NETINFORECORD_WIRE_STATISTICS="$statistics" \
     -D CMAKE_BUILD_TYPE=Release -D CMAKE_INSTALL_LIBDIR=lib >"$folder.log"
 cmake --build "$folder/plugin"
 cmake --install "$folder/plugin" --prefix "$prefix" >>"$folder.log"

@@ -258,7 +258,7 @@ void ConnrecordLogFilesTest::refusesABrokenArchive()
 void ConnrecordLogFilesTest::keepsLittleOfALargeArchiveInMemory()
 {
 #ifdef SANITIZED
-    QSKIP("the sanitizers need more memory than the limit leaves");
+    QSKIP("the sanitizers need more memory than the limit leaves", "");
 #endif
     // 256 MiB in one line, then a log.
     QByteArray log = QByteArray(256 << 20, 'x') + '\n' + readFile(dataFile("weekday-year.log"));
@@ -275,7 +275,7 @@ void ConnrecordLogFilesTest::keepsLittleOfALargeArchiveInMemory()
 void ConnrecordLogFilesTest::refusesMoreMessagesThanFitIntoMemory()
 {
 #ifdef SANITIZED
-    QSKIP("the sanitizers need more memory than the limit leaves");
+    QSKIP("the sanitizers need more memory than the limit leaves", "");
 #endif
     // Few bytes in an archive, and each of the two would be little enough.
     const QByteArray messages = QByteArray("Exit.\n").repeated(500001);

@@ -98,7 +98,7 @@ void TestRecorderService::showsWhetherItRecords()
     Problem problem;
     problem.kind = Problem::Kind::LinksUnwatchable;
     emit m_links->failed(problem);
-    QTRY_COMPARE(m_client->toldValues("Recording"), QVariantList({false}));
+    QTRY_COMPARE(m_client->toldValues("Recording"), QVariantList({QVariant(false)}));
     const QString text = QString("problem %1").arg(int(problem.kind));
     QTRY_COMPARE(m_client->toldValues("Problem"), QVariantList({text}));
     QCOMPARE(m_client->property("Problem"), QVariant(text));
@@ -116,7 +116,7 @@ void TestRecorderService::showsThatItWaitsForAnotherRecorder()
     QTRY_COMPARE(m_client->property("Waiting"), QVariant(true));
     QCOMPARE(m_client->property("Recording"), QVariant(false));
     other.reset();
-    QTRY_COMPARE(m_client->toldValues("Recording"), QVariantList({true}));
+    QTRY_COMPARE(m_client->toldValues("Recording"), QVariantList({QVariant(true)}));
     QCOMPARE(m_client->property("Waiting"), QVariant(false));
 }
 
