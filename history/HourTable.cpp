@@ -87,10 +87,10 @@ std::string HourTable::selection(bool isOpen) const
 {
     const std::string whose = std::string("SELECT c.key, ") + (isOpen ? "1" : "0") +
                               ", profile, operator_name, operator_code, sim, ";
-    return whose + "hour_utc AS utc, is_roaming, h.uploaded_bytes, h.downloaded_bytes FROM " +
+    return whose + "hour_utc AS utc, is_roaming, h.uploaded_bytes, h.downloaded_bytes, 1 FROM " +
            m_hours + " h JOIN " + m_connections +
            " c ON c.key = h.connection WHERE hour_utc >= ?1 AND hour_utc < ?2 UNION ALL " + whose +
-           "start_utc, 0, uploaded_bytes, downloaded_bytes FROM " + m_connections +
+           "start_utc, 0, uploaded_bytes, downloaded_bytes, 0 FROM " + m_connections +
            " c WHERE start_utc >= ?1 AND start_utc < ?2 AND NOT EXISTS (SELECT 1 FROM " + m_hours +
            " WHERE connection = c.key)";
 }

@@ -30,6 +30,7 @@ struct ConnectionHour {
     bool isRoaming = false;
     std::int64_t uploadedBytes = 0;
     std::int64_t downloadedBytes = 0;
+    bool isKnown = true; ///< the connection has hours
 };
 
 /// Times from one second up to another one, which is outside, in seconds since

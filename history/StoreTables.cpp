@@ -66,6 +66,7 @@ ConnectionHour hourIn(const Row &row)
     hour.isRoaming = row.integer(7) != 0;
     hour.uploadedBytes = row.integer(8);
     hour.downloadedBytes = row.integer(9);
+    hour.isKnown = row.integer(10) != 0;
     return hour;
 }
 

@@ -61,8 +61,6 @@ void putOnOneLineEach(std::vector<history::Connection> &connections)
     }
 }
 
-/// A connection without hours is given as one that counts at its start: if that is a whole
-/// hour, its bytes in that hour are the same.
 void addHours(const history::Store &store, std::vector<history::Connection> &connections)
 {
     std::unordered_map<std::int64_t, history::Connection *> withKey;
@@ -70,7 +68,7 @@ void addHours(const history::Store &store, std::vector<history::Connection> &con
         withKey[connection.key] = &connection;
     for (const history::ConnectionHour &hour : valueOrFailure(store.hours())) {
         const auto found = hour.isOpen ? withKey.end() : withKey.find(hour.key);
-        if (found != withKey.end() && history::startOfHour(hour.utc) == hour.utc)
+        if (found != withKey.end() && hour.isKnown)
             found->second->hours.push_back(
                 {hour.utc, hour.isRoaming, hour.uploadedBytes, hour.downloadedBytes});
     }

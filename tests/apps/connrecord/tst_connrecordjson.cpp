@@ -45,7 +45,7 @@ void ConnrecordJsonTest::bringsBackEverythingWithItsHours()
     const SampleHistory history;
     QVERIFY(Store::openOrCreate(history.path().toStdString()).value().add(connectionWithHours()));
     const QByteArray exported = history.run({"export", "--format", "json"}).output;
-    QCOMPARE(exported.count("\"hour\""), 3 + 3); // three of them start at a whole hour
+    QCOMPARE(exported.count("\"hour\""), 3); // of the one connection that has any
 
     const QString other = history.folder() + "/other.db";
     const QStringList onOther = {"--store", other};
