@@ -25,7 +25,8 @@ void tellStatus(const std::string &sentence)
 
 void tellStopping()
 {
-    sd_notify(keepEnvironment, "STOPPING=1");
+    // What it did until now is shown no longer.
+    sd_notify(keepEnvironment, "STOPPING=1\nSTATUS=");
 }
 
 } // namespace connrecord
