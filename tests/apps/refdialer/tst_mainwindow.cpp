@@ -256,8 +256,8 @@ void TestMainWindow::openSettings(const std::function<void(refdialer::SettingsDi
 
 void TestMainWindow::speaksTheLanguageOfTheSettings()
 {
-    m_calls.clear();
     openSettings([this](refdialer::SettingsDialog &dialog) {
+        m_calls.clear();
         chooseGerman(dialog);
         QCOMPARE(m_calls, QStringList({"ChangeLang de, texts in de", "Notify 1024, 0, 0"}));
         QTRY_COMPARE(dialog.windowTitle(), QString("Einstellungen"));
@@ -323,10 +323,8 @@ void TestMainWindow::saysThatALanguageIsNotReviewed()
             });
         };
         QVERIFY(!isSaid("reviewed"));
-        chooseLanguage(dialog, QString::fromUtf8("Français"));
-        QTRY_VERIFY(isSaid(QString::fromUtf8("pas encore été relus")));
-        chooseLanguage(dialog, "English");
-        QTRY_VERIFY(!isSaid("reviewed"));
+        chooseGerman(dialog);
+        QTRY_VERIFY(isSaid("noch nicht durchgesehen"));
     });
 }
 
