@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "LocalDays.h"
 
+#include "LocalClock.h"
+
 #include <QDateTime>
 #include <QTimeZone>
 
@@ -22,7 +24,7 @@ std::int64_t utcMidnight(const QDate &day)
 
 QDate localDay(std::int64_t utc)
 {
-    return QDateTime::fromSecsSinceEpoch(utc).date();
+    return LocalClock().dayAt(utc);
 }
 
 bool LocalDays::contains(const QDate &day) const

@@ -11,7 +11,7 @@ namespace usage
 {
 
 /// The day of the local calendar at that moment, in seconds since 1970-01-01
-/// 00:00 UTC.
+/// 00:00 UTC. Who asks for many has a LocalClock.
 QDate localDay(std::int64_t utc);
 
 /// Days of the local calendar from the first to the last, both included. A null

@@ -2,7 +2,7 @@
 #include "Totals.h"
 
 #include "BillingPeriod.h"
-#include "LocalDays.h"
+#include "LocalClock.h"
 
 #include <QDateTime>
 
@@ -34,25 +34,42 @@ const std::string &operatorOf(const Source &source)
     return source.operatorName.empty() ? source.operatorCode : source.operatorName;
 }
 
-/// A number that rises from one period to the next; nothing between billing periods.
-std::optional<std::int64_t> periodNumber(std::int64_t utc, const Grouping &grouping,
-                                         PeriodFinder &billing)
+/// Which period of the grouping a moment is in.
+class PeriodNumbers
 {
-    switch (grouping.period) {
+public:
+    explicit PeriodNumbers(const Grouping &grouping)
+        : m_period(grouping.period)
+        , m_billing(grouping.billing)
+    {
+    }
+
+    /// A number that rises from one period to the next; nothing between billing periods.
+    std::optional<std::int64_t> at(std::int64_t utc);
+
+private:
+    const Period m_period;
+    const LocalClock m_clock;
+    PeriodFinder m_billing;
+};
+
+std::optional<std::int64_t> PeriodNumbers::at(std::int64_t utc)
+{
+    switch (m_period) {
     case Period::All:
         return 0;
     case Period::Hour:
         return history::startOfHour(utc);
     case Period::Day:
-        return localDay(utc).toJulianDay();
+        return m_clock.dayAt(utc).toJulianDay();
     case Period::Month: {
-        const QDate day = localDay(utc);
+        const QDate day = m_clock.dayAt(utc);
         return day.year() * 100 + day.month();
     }
     case Period::Year:
-        return localDay(utc).year();
+        return m_clock.dayAt(utc).year();
     case Period::Billing: {
-        const auto period = billing.at(utc);
+        const auto period = m_billing.at(utc);
         return period ? std::optional(period->first.toJulianDay()) : std::nullopt;
     }
     }
@@ -60,12 +77,12 @@ std::optional<std::int64_t> periodNumber(std::int64_t utc, const Grouping &group
 }
 
 std::optional<GroupKey> groupOf(const CountedBytes &counted, const Grouping &grouping,
-                                PeriodFinder &billing)
+                                PeriodNumbers &periods)
 {
     const auto part = [](bool isApart, const std::string &text) {
         return isApart ? text : std::string();
     };
-    const auto period = periodNumber(counted.utc, grouping, billing);
+    const auto period = periods.at(counted.utc);
     if (!period)
         return std::nullopt;
     return GroupKey{part(grouping.byProfile, counted.profile), part(grouping.bySim, counted.sim),
@@ -145,9 +162,9 @@ CountedBytes countedAtStart(const history::Connection &connection)
 std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping &grouping)
 {
     std::map<GroupKey, Group> groups;
-    PeriodFinder billing(grouping.billing);
+    PeriodNumbers periods(grouping);
     for (const CountedBytes &each : counted) {
-        const auto key = groupOf(each, grouping, billing);
+        const auto key = groupOf(each, grouping, periods);
         if (!key)
             continue;
         Group &group = groups[*key];

@@ -3,6 +3,7 @@
 
 #include "OptionValue.h"
 #include "StoreResult.h"
+#include "usage/LocalClock.h"
 #include "usage/SimNumber.h"
 
 #include <algorithm>
@@ -42,10 +43,11 @@ std::vector<history::Connection> selectedFrom(const history::Store &store,
     const usage::LocalDays days = daysOf(request.days);
     const std::size_t most = mostOf(request.limit);
     auto connections = valueOrFailure(store.list(days.widerRange()));
+    const usage::LocalClock clock;
     const auto isLeftOut = [&](const history::Connection &connection) {
         return (request.profile && connection.profile != *request.profile) ||
                (request.sim && !usage::isSimNumber(connection.sim, *request.sim)) ||
-               !days.contains(usage::localDay(connection.startUtc));
+               !days.contains(clock.dayAt(connection.startUtc));
     };
     connections.erase(std::remove_if(connections.begin(), connections.end(), isLeftOut),
                       connections.end());

@@ -5,6 +5,7 @@
 #include "PlanCommands.h"
 #include "StoreResult.h"
 #include "TotalsText.h"
+#include "usage/LocalClock.h"
 #include "usage/PlanUse.h"
 
 #include <algorithm>
@@ -39,9 +40,10 @@ std::vector<usage::CountedBytes> allCounted(const history::Store &store,
 std::vector<usage::CountedBytes> countedOn(const usage::LocalDays &days,
                                            std::vector<usage::CountedBytes> counted)
 {
+    const usage::LocalClock clock;
     counted.erase(std::remove_if(counted.begin(), counted.end(),
-                                 [&days](const usage::CountedBytes &each) {
-                                     return !days.contains(usage::localDay(each.utc));
+                                 [&](const usage::CountedBytes &each) {
+                                     return !days.contains(clock.dayAt(each.utc));
                                  }),
                   counted.end());
     return counted;

@@ -2,8 +2,12 @@
 #include "usage/LocalDays.h"
 
 #include "LocalZone.h"
+#include "usage/LocalClock.h"
 
+#include <QDateTime>
 #include <QTest>
+
+#include <random>
 
 using namespace usage;
 
@@ -19,6 +23,9 @@ private slots:
     void leavesNoMomentOfItsDaysOutOfTheRange_data();
     void leavesNoMomentOfItsDaysOutOfTheRange();
     void leavesAnOpenSideOpen();
+    void agreesWithQtOnRandomMoments_data();
+    void agreesWithQtOnRandomMoments();
+    void looksAtTheZoneWhenItIsMade();
 };
 
 void LocalDaysTest::knowsTheDayOnTheWallsCalendar_data()
@@ -116,6 +123,43 @@ void LocalDaysTest::leavesAnOpenSideOpen()
     const history::TimeRange always;
     QCOMPARE((LocalDays{QDate(), QDate(2024, 1, 1)}.widerRange().fromUtc), always.fromUtc);
     QCOMPARE((LocalDays{QDate(2024, 1, 1), QDate()}.widerRange().untilUtc), always.untilUtc);
+}
+
+void LocalDaysTest::agreesWithQtOnRandomMoments_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    for (const char *const zone :
+         {"UTC", "Europe/Berlin", "America/New_York", "Asia/Kolkata", "Asia/Kathmandu",
+          "Australia/Lord_Howe", "America/St_Johns", "Pacific/Apia", "Pacific/Kiritimati",
+          "Africa/Casablanca", "America/Sao_Paulo", "CET-1CEST,M3.5.0,M10.5.0/3"})
+        QTest::newRow(zone) << QByteArray(zone);
+}
+
+void LocalDaysTest::agreesWithQtOnRandomMoments()
+{
+    QFETCH(QByteArray, zone);
+    const LocalZone local(zone.constData());
+    const LocalClock clock;
+    std::mt19937_64 random{20261122};
+    std::uniform_int_distribution<std::int64_t> moments(0, 2145916799); // 1970 to 2037
+    std::uniform_int_distribution<std::int64_t> minutesAround(-180, 180);
+    for (int i = 0; i < 2000; ++i) {
+        // Half of them stand where days and summer time begin and end.
+        const std::int64_t moment = moments(random);
+        const std::int64_t midnight = QDateTime(localDay(moment), QTime(0, 0)).toSecsSinceEpoch() +
+                                      minutesAround(random) * 60;
+        for (const std::int64_t utc : {moment, midnight})
+            QCOMPARE(clock.dayAt(utc), QDateTime::fromSecsSinceEpoch(utc).date());
+    }
+}
+
+void LocalDaysTest::looksAtTheZoneWhenItIsMade()
+{
+    constexpr std::int64_t utc = 1704063600; // 2023-12-31 23:00
+    const LocalZone west("America/New_York");
+    QCOMPARE(LocalClock().dayAt(utc), QDate(2023, 12, 31));
+    const LocalZone east("Europe/Berlin");
+    QCOMPARE(LocalClock().dayAt(utc), QDate(2024, 1, 1));
 }
 
 QTEST_GUILESS_MAIN(LocalDaysTest)

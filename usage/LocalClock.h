@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDate>
+
+#include <cstdint>
+
+namespace usage
+{
+
+/// The local calendar at many moments, in the time zone of the moment when this is made.
+/// Finding out about the zone costs more than all that is asked of it afterwards.
+class LocalClock
+{
+public:
+    LocalClock();
+
+    /// The day at that moment, in seconds since 1970-01-01 00:00 UTC.
+    QDate dayAt(std::int64_t utc) const;
+};
+
+} // namespace usage
