@@ -170,6 +170,11 @@ Result<std::uint64_t> Store::revision() const
     return d->read([](StoreTables &tables) { return tables.revision(); });
 }
 
+Result<Overview> Store::overview() const
+{
+    return d->read([](StoreTables &tables) { return tables.overview(); });
+}
+
 Result<std::int64_t> Store::add(const Connection &connection)
 {
     return d->write(connection, [&](StoreTables &tables) { return tables.insert(connection); });

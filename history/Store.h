@@ -40,6 +40,13 @@ struct TimeRange {
     std::int64_t untilUtc = std::numeric_limits<std::int64_t>::max();
 };
 
+/// What the connections of a history, the ones that last included, are of.
+struct Overview {
+    std::optional<std::int64_t> firstUtc; ///< the start of the first one; none without any
+    std::vector<std::string> profiles;    ///< each once, in the order of their bytes
+    std::vector<std::string> sims;        ///< likewise; known ones only
+};
+
 /// What a look at every record of a history has shown.
 struct Examination {
     std::vector<std::string> problems; ///< sentences; none if it is sound
@@ -88,6 +95,7 @@ public:
     /// if something has, or if another file has taken its place; 0 without a file. Costs next
     /// to nothing.
     Result<std::uint64_t> revision() const;
+    Result<Overview> overview() const;
 
     /// Stores one connection and returns its key.
     Result<std::int64_t> add(const Connection &connection);

@@ -152,6 +152,28 @@ std::vector<ConnectionHour> StoreTables::hours(const TimeRange &range)
     return hours;
 }
 
+Overview StoreTables::overview()
+{
+    const auto textsOf = [this](const std::string &column) {
+        RowQuery query(m_database, "SELECT " + column + " FROM connection UNION SELECT " + column +
+                                       " FROM open_connection ORDER BY 1");
+        std::vector<std::string> texts;
+        while (query.next())
+            texts.emplace_back(query.row().text(0));
+        return texts;
+    };
+    Overview overview;
+    RowQuery first(m_database, "SELECT min(utc) FROM (SELECT min(start_utc) AS utc FROM connection"
+                               " UNION ALL SELECT min(start_utc) FROM open_connection)");
+    first.next();
+    overview.firstUtc = first.row().integerIfAny(0);
+    overview.profiles = textsOf("profile");
+    overview.sims = textsOf("sim");
+    if (!overview.sims.empty() && overview.sims.front().empty())
+        overview.sims.erase(overview.sims.begin());
+    return overview;
+}
+
 std::vector<OpenConnection> StoreTables::listOpen()
 {
     std::vector<OpenConnection> open = openConnections.all();

@@ -43,6 +43,7 @@ public:
     bool remove(std::int64_t key);
     std::size_t remove(const std::vector<std::int64_t> &keys);
     std::vector<ConnectionHour> hours(const TimeRange &range);
+    Overview overview();
     std::vector<OpenConnection> listOpen();
     OpenConnection begin(const OpenConnection &connection);
     std::int64_t checkpoint(const OpenConnection &connection, const std::string &origin);

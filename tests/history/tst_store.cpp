@@ -38,6 +38,7 @@ private slots:
     void knowsWhetherItsConnectionsAreTheSame();
     void leavesOpenConnectionsOutOfTheFingerprint();
     void tellsWhetherAnythingHasBeenWritten();
+    void knowsWhatItsConnectionsAreOf();
 
     void removesTheConnectionsWithTheseKeys();
     void removesAllOrNone();
@@ -254,6 +255,29 @@ void StoreTest::tellsWhetherAnythingHasBeenWritten()
     QVERIFY(QFile::remove(QString::fromStdString(m_path)));
     QVERIFY(isNew());
     QCOMPARE(former, std::uint64_t(0));
+}
+
+void StoreTest::knowsWhatItsConnectionsAreOf()
+{
+    auto store = Store::openForReading(m_path);
+    const auto overview = [&store] { return store.value().overview().value(); };
+    QVERIFY(!overview().firstUtc);
+    QVERIFY(overview().profiles.empty() && overview().sims.empty());
+    Connection withSim = connection("web", 300, 400);
+    withSim.sim = "8949";
+    storeWith(m_path, {withSim, connection("internet", 200, 300), connection("web", 400, 500)});
+    QCOMPARE(overview().firstUtc.value(), std::int64_t(200));
+    QCOMPARE(overview().profiles, std::vector<std::string>({"internet", "web"}));
+    QCOMPARE(overview().sims, std::vector<std::string>({"8949"}));
+    history::OpenConnection open;
+    open.bootId = "boot";
+    open.profile = "a new one";
+    open.sim = "8948";
+    open.startUtc = 100;
+    QVERIFY(Store::openOrCreate(m_path).value().begin(open));
+    QCOMPARE(overview().firstUtc.value(), std::int64_t(100));
+    QCOMPARE(overview().profiles, std::vector<std::string>({"a new one", "internet", "web"}));
+    QCOMPARE(overview().sims, std::vector<std::string>({"8948", "8949"}));
 }
 
 void StoreTest::removesTheConnectionsWithTheseKeys()
