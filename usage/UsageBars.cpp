@@ -4,7 +4,6 @@
 #include "LocalClock.h"
 #include "PlanUse.h"
 #include "SaturatingMath.h"
-#include "Totals.h"
 
 #include <algorithm>
 #include <numeric>
@@ -48,25 +47,15 @@ std::vector<UsageBar> emptyBars(BarUnit unit, const BillingPeriod &span)
     return bars;
 }
 
-std::vector<CountedBytes> countedIn(const std::vector<history::ConnectionHour> &hours,
-                                    const DataPlan &plan, const BillingPeriod &span)
+std::size_t placeOf(const QDate &day, BarUnit unit, const BillingPeriod &span)
 {
-    const LocalClock clock;
-    std::vector<CountedBytes> counted;
-    for (const history::ConnectionHour &hour : hours) {
-        if (span.contains(clock.dayAt(hour.utc)) &&
-            isCovered(plan, hour.profile, hour.sim, hour.isRoaming))
-            counted.push_back(countedWhenMoved(hour));
-    }
-    return counted;
+    return static_cast<std::size_t>(unit == BarUnit::Day ? span.first.daysTo(day)
+                                                         : day.month() - 1);
 }
 
-/// The bar's place, from the number that its Period has in a Sum.
-std::size_t placeOf(std::int64_t period, BarUnit unit, const BillingPeriod &span)
+void add(std::int64_t &sum, std::int64_t bytes)
 {
-    constexpr std::int64_t monthsOfYear = 100; // 202411 is a November
-    return static_cast<std::size_t>(unit == BarUnit::Day ? period - span.first.toJulianDay()
-                                                         : period % monthsOfYear - 1);
+    sum = saturatingSum(sum, bytes);
 }
 
 } // namespace
@@ -91,14 +80,15 @@ BillingPeriod spanNear(const PeriodRule &rule, BarUnit unit, const QDate &day)
 std::vector<UsageBar> usageBars(const std::vector<history::ConnectionHour> &hours,
                                 const DataPlan &plan, BarUnit unit, const BillingPeriod &span)
 {
-    Grouping grouping;
-    grouping.period = unit == BarUnit::Day ? Period::Day : Period::Month;
-    grouping.byRoaming = true;
+    const LocalClock clock;
     std::vector<UsageBar> bars = emptyBars(unit, span);
-    for (const Sum &sum : sumsOf(countedIn(hours, plan, span), grouping)) {
-        UsageBar &bar = bars[placeOf(sum.period, unit, span)];
-        bar.bytes[sum.isRoaming ? ReceivedRoaming : ReceivedAtHome] = sum.downloadedBytes;
-        bar.bytes[sum.isRoaming ? SentRoaming : SentAtHome] = sum.uploadedBytes;
+    for (const history::ConnectionHour &hour : hours) {
+        const QDate day = clock.dayAt(hour.utc);
+        if (!span.contains(day) || !isCovered(plan, hour.profile, hour.sim, hour.isRoaming))
+            continue;
+        auto &bytes = bars[placeOf(day, unit, span)].bytes;
+        add(bytes[hour.isRoaming ? ReceivedRoaming : ReceivedAtHome], hour.downloadedBytes);
+        add(bytes[hour.isRoaming ? SentRoaming : SentAtHome], hour.uploadedBytes);
     }
     return bars;
 }
@@ -108,7 +98,7 @@ UsageBar sumOf(const std::vector<UsageBar> &bars)
     UsageBar sum;
     for (const UsageBar &bar : bars) {
         for (std::size_t part = 0; part < bar.bytes.size(); ++part)
-            sum.bytes[part] = saturatingSum(sum.bytes[part], bar.bytes[part]);
+            add(sum.bytes[part], bar.bytes[part]);
     }
     if (!bars.empty())
         sum.first = bars.front().first;

@@ -24,7 +24,6 @@ struct UsageBar {
     QDate first;
     std::array<std::int64_t, usagePartCount> bytes = {}; ///< by UsagePart
 
-    /// At most what 64 bits hold.
     std::int64_t total() const;
     bool hasRoaming() const { return bytes[ReceivedRoaming] != 0 || bytes[SentRoaming] != 0; }
 
@@ -40,12 +39,12 @@ struct UsageBar {
 BillingPeriod spanNear(const history::PeriodRule &rule, BarUnit unit, const QDate &day);
 
 /// One bar for each day or month of the span, a year's for months, by time, of those hours
-/// that the plan covers. Throws SumTooLarge.
+/// that the plan covers. A sum that 64 bits do not hold stops at their end.
 std::vector<UsageBar> usageBars(const std::vector<history::ConnectionHour> &hours,
                                 const history::DataPlan &plan, BarUnit unit,
                                 const BillingPeriod &span);
 
-/// The sum of all bars, with the day of the first one; each part is at most what 64 bits hold.
+/// The sum of all bars, with the day of the first one.
 UsageBar sumOf(const std::vector<UsageBar> &bars);
 
 } // namespace usage

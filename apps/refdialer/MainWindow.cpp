@@ -12,6 +12,7 @@
 #include "PluginHandle.h"
 #include "ProblemLine.h"
 #include "SettingsDialog.h"
+#include "UsagePage.h"
 #include "ViewMenu.h"
 #include "recorder/bus/RecorderService.h"
 #include "refhost/libcore/Host.h"
@@ -53,6 +54,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     , m_pages(new QTabWidget)
     , m_historyPage(new HistoryPage(plugin, source.file))
     , m_area(m_historyPage->area())
+    , m_usagePage(new UsagePage(source.file.toStdString()))
 {
     auto *const content = new QWidget;
     auto *const layout = new QVBoxLayout(content);
@@ -141,8 +143,10 @@ void MainWindow::closeIfInBackground()
 void MainWindow::createPages()
 {
     m_pages->setDocumentMode(true);
-    m_pages->setTabBarAutoHide(true);
     m_pages->addTab(m_historyPage, QString());
+    m_pages->addTab(m_usagePage, QString());
+    connect(m_pages, &QTabWidget::currentChanged, this,
+            [this] { setHistoryVisible(m_pages->currentWidget() == m_historyPage); });
 }
 
 void MainWindow::createMenus()
@@ -158,9 +162,11 @@ void MainWindow::createMenus()
 
     auto *const viewMenu = new ViewMenu(m_plugin.hasStatistics(), menuBar());
     menuBar()->addMenu(viewMenu);
-    connect(viewMenu, &ViewMenu::historyToggled, this, &MainWindow::setHistoryVisible);
+    connect(viewMenu, &ViewMenu::pageChosen, m_pages, &QTabWidget::setCurrentIndex);
+    connect(m_pages, &QTabWidget::currentChanged, viewMenu, &ViewMenu::setPage);
     connect(viewMenu, &ViewMenu::orderChosen, &m_area, &HistoryArea::sort);
     connect(viewMenu, &ViewMenu::refreshWanted, &m_area, &HistoryArea::refresh);
+    connect(viewMenu, &ViewMenu::refreshWanted, m_usagePage, &UsagePage::refresh);
     connect(viewMenu, &ViewMenu::statisticsWanted, this, &MainWindow::showStatistics);
 }
 
@@ -172,6 +178,7 @@ void MainWindow::retranslate()
     m_settingsAction->setText(tr("&Settings…"));
     m_quitAction->setText(tr("&Quit"));
     m_pages->setTabText(m_pages->indexOf(m_historyPage), tr("History"));
+    m_pages->setTabText(m_pages->indexOf(m_usagePage), tr("Usage"));
 }
 
 void MainWindow::setHistoryVisible(bool isVisible)

@@ -20,6 +20,7 @@ class HistoryPage;
 class LineState;
 class PlanWatch;
 class PluginHandle;
+class UsagePage;
 
 /// The window: what is connected above, the pages below.
 class MainWindow : public QMainWindow
@@ -63,6 +64,7 @@ private:
     QTabWidget *m_pages;
     HistoryPage *m_historyPage;
     HistoryArea &m_area;
+    UsagePage *m_usagePage;
     QMenu *m_fileMenu;
     QAction *m_settingsAction;
     QAction *m_quitAction;

@@ -3,6 +3,7 @@
 
 #include "SortMenu.h"
 
+#include <QActionGroup>
 #include <QEvent>
 
 namespace refdialer
@@ -11,10 +12,8 @@ namespace refdialer
 ViewMenu::ViewMenu(bool hasStatistics, QWidget *parent)
     : QMenu(parent)
 {
-    m_historyAction = addAction(QString());
-    m_historyAction->setCheckable(true);
-    m_historyAction->setChecked(true);
-    connect(m_historyAction, &QAction::toggled, this, &ViewMenu::historyToggled);
+    addPages();
+    addSeparator();
     auto *const sortMenu = new SortMenu(this);
     addMenu(sortMenu);
     connect(sortMenu, &SortMenu::orderChosen, this, &ViewMenu::orderChosen);
@@ -30,6 +29,26 @@ ViewMenu::ViewMenu(bool hasStatistics, QWidget *parent)
     retranslate();
 }
 
+void ViewMenu::addPages()
+{
+    auto *const group = new QActionGroup(this);
+    for (const char *const key : {"Ctrl+1", "Ctrl+2"}) {
+        const int page = int(m_pageActions.size());
+        QAction *const action = addAction(QString());
+        action->setCheckable(true);
+        action->setShortcut(QKeySequence(QLatin1String(key)));
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, page] { emit pageChosen(page); });
+        m_pageActions.push_back(action);
+    }
+    setPage(0);
+}
+
+void ViewMenu::setPage(int page)
+{
+    m_pageActions[std::size_t(page)]->setChecked(true);
+}
+
 void ViewMenu::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -40,7 +59,8 @@ void ViewMenu::changeEvent(QEvent *event)
 void ViewMenu::retranslate()
 {
     setTitle(tr("&View"));
-    m_historyAction->setText(tr("&History"));
+    m_pageActions[0]->setText(tr("&History"));
+    m_pageActions[1]->setText(tr("&Usage"));
     m_refreshAction->setText(tr("&Refresh"));
     m_statisticsAction->setText(tr("S&tatistics…"));
     if (!m_statisticsAction->isEnabled()) {

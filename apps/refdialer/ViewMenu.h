@@ -5,12 +5,12 @@
 
 #include <QMenu>
 
+#include <vector>
+
 namespace refdialer
 {
 
-class SortMenu;
-
-/// What is shown of the history, and how.
+/// Which page of the window is shown, and how.
 class ViewMenu : public QMenu
 {
     Q_OBJECT
@@ -19,8 +19,11 @@ public:
     /// Without statistics their entry is grey and says why.
     explicit ViewMenu(bool hasStatistics, QWidget *parent = nullptr);
 
+    /// In the order of the window's pages.
+    void setPage(int page);
+
 signals:
-    void historyToggled(bool isVisible);
+    void pageChosen(int page);
     void orderChosen(const refdialer::HistoryOrder &order);
     void refreshWanted();
     void statisticsWanted();
@@ -29,9 +32,10 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void addPages();
     void retranslate();
 
-    QAction *m_historyAction;
+    std::vector<QAction *> m_pageActions;
     QAction *m_refreshAction;
     QAction *m_statisticsAction;
 };

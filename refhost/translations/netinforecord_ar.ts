@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>السجل</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>الاستهلاك</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>السا&amp;بق</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>ال&amp;تالي</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -655,6 +670,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>اعر&amp;ض:</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>الأ&amp;عمدة:</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>حسب اليوم</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>حسب الشهر</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>ك&amp;جدول</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>ا&amp;نسخ النص</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>انسخ ال&amp;صورة</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>الاستهلاك</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>تنتقل مفاتيح الأسهم من عمود إلى آخر.</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>لم يُسجَّل شيء بعد. يظهر هنا ما تنقله اتصالاتك.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>لم يُرسل أو يُستقبل شيء في هذه المدة.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>الباقة: %1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>ملف التعريف: %1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>شريحة تنتهي بـ %1</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>كل الاتصالات</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>المستقبل محليًا</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>المرسل محليًا</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>المستقبل أثناء التجوال</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>المرسل أثناء التجوال</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>من %1 إلى %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1: لا شيء</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1: استُقبل %2، أُرسل %3</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1: استُقبل %2 محليًا و%3 أثناء التجوال، أُرسل %4 محليًا و%5 أثناء التجوال</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>الشهر</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>المجموع</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -675,6 +805,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>ملحق السجل المستخدم ليس فيه إحصائيات. شغّل refdialer بملحق فيه إحصائيات: ‎--plugin FILE‎.</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>الا&amp;ستهلاك</translation>
     </message>
 </context>
 </TS>

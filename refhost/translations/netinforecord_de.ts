@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>Verlauf</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>Verbrauch</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>Zu&amp;rück</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -643,6 +658,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>An&amp;zeigen:</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>&amp;Balken:</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Nach Tagen</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>Nach Monaten</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>Te&amp;xt kopieren</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>B&amp;ild kopieren</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Verbrauch</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>Die Pfeiltasten gehen von Balken zu Balken.</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>Es ist noch nichts aufgezeichnet. Was Ihre Verbindungen übertragen, erscheint hier.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>In dieser Zeit wurde nichts gesendet oder empfangen.</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>Als Tabe&amp;lle</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Tarif: %1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Profil: %1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>SIM mit den letzten Ziffern %1</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Alle Verbindungen</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>Zu Hause empfangen</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>Zu Hause gesendet</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>Im Roaming empfangen</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>Im Roaming gesendet</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1: nichts</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1: %2 empfangen, %3 gesendet</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1: zu Hause %2 und im Roaming %3 empfangen, zu Hause %4 und im Roaming %5 gesendet</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Zusammen</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -663,6 +793,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>Die benutzte Verlaufserweiterung hat keine Statistik. Starten Sie refdialer mit einer, die sie hat: --plugin DATEI.</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>Verb&amp;rauch</translation>
     </message>
 </context>
 </TS>

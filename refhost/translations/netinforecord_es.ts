@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>Historial</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>Consumo</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>A&amp;nterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>Sigu&amp;iente</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -643,6 +658,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>&amp;Mostrar:</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>&amp;Barras:</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Por día</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>Por mes</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>Como &amp;tabla</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>Copiar te&amp;xto</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>Copiar ima&amp;gen</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Consumo</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>Las teclas de flecha van de barra en barra.</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>Aún no se ha registrado nada. Lo que transfieran sus conexiones aparecerá aquí.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>En este tiempo no se envió ni recibió nada.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Plan: %1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Perfil: %1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>SIM terminada en %1</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Todas las conexiones</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>Recibido sin itinerancia</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>Enviado sin itinerancia</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>Recibido en itinerancia</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>Enviado en itinerancia</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>Del %1 al %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1: nada</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1: %2 recibidos, %3 enviados</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1: %2 recibidos sin itinerancia y %3 en itinerancia, %4 enviados sin itinerancia y %5 en itinerancia</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Día</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Mes</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -663,6 +793,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>El complemento de historial en uso no tiene estadísticas. Inicie refdialer con uno que las tenga: --plugin ARCHIVO.</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>&amp;Consumo</translation>
     </message>
 </context>
 </TS>

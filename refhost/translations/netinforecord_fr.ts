@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>Historique</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>Consommation</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>P&amp;récédent</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Suivant</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -643,6 +658,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>&amp;Montrer :</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>&amp;Barres :</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Par jour</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>Par mois</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>En &amp;tableau</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>Copier le te&amp;xte</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>Copier l’&amp;image</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Consommation</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>Les touches fléchées passent d’une barre à l’autre.</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>Rien n’est encore enregistré. Ce que transfèrent vos connexions apparaît ici.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>Rien n’a été envoyé ni reçu pendant cette période.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Forfait : %1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Profil : %1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>SIM se terminant par %1</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Toutes les connexions</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>Reçu hors itinérance</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>Envoyé hors itinérance</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>Reçu en itinérance</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>Envoyé en itinérance</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>Du %1 au %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1 : rien</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1 : %2 reçus, %3 envoyés</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1 : %2 reçus hors itinérance et %3 en itinérance, %4 envoyés hors itinérance et %5 en itinérance</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Mois</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -663,6 +793,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>Le greffon d’historique utilisé n’a pas de statistiques. Lancez refdialer avec un greffon qui en a&#xa0;: --plugin FICHIER.</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>Cons&amp;ommation</translation>
     </message>
 </context>
 </TS>

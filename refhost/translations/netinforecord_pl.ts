@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>Historia</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>Zużycie</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>Pop&amp;rzedni</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Następny</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -646,6 +661,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>Poka&amp;ż:</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>&amp;Słupki:</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Według dni</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>Według miesięcy</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>Jako &amp;tabela</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>Kopiuj te&amp;kst</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>Kopiuj &amp;obraz</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Zużycie</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>Klawisze strzałek przechodzą od słupka do słupka.</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>Nic jeszcze nie zapisano. Tu pojawi się to, co przesyłają połączenia.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>W tym czasie niczego nie wysłano ani nie pobrano.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Plan: %1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Profil: %1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>SIM o końcówce %1</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Wszystkie połączenia</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>Pobrano w kraju</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>Wysłano w kraju</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>Pobrano w roamingu</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>Wysłano w roamingu</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>Od %1 do %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1: nic</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1: pobrano %2, wysłano %3</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1: pobrano %2 w kraju i %3 w roamingu, wysłano %4 w kraju i %5 w roamingu</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Dzień</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Miesiąc</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Razem</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -666,6 +796,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>Używana wtyczka historii nie ma statystyk. Uruchom refdialer z wtyczką, która je ma: --plugin PLIK.</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>&amp;Zużycie</translation>
     </message>
 </context>
 </TS>

@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>Histórico</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>Consumo</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>A&amp;nterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>Pró&amp;ximo</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -643,6 +658,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>&amp;Mostrar:</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>&amp;Barras:</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Por dia</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>Por mês</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>Como &amp;tabela</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>Copiar te&amp;xto</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>Copiar &amp;imagem</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Consumo</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>As teclas de seta vão de barra em barra.</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>Nada foi registrado ainda. O que suas conexões transferirem aparecerá aqui.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>Nada foi enviado ou recebido neste período.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Plano: %1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Perfil: %1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>SIM com final %1</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Todas as conexões</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>Recebido sem roaming</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>Enviado sem roaming</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>Recebido em roaming</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>Enviado em roaming</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1: nada</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1: %2 recebidos, %3 enviados</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1: %2 recebidos sem roaming e %3 em roaming, %4 enviados sem roaming e %5 em roaming</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Dia</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Mês</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -663,6 +793,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>O plug-in de histórico em uso não tem estatísticas. Inicie o refdialer com um que as tenha: --plugin ARQUIVO.</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>&amp;Consumo</translation>
     </message>
 </context>
 </TS>

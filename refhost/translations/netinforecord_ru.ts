@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>История</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>Расход</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>Пр&amp;едыдущий</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>Сл&amp;едующий</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -646,6 +661,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>&amp;Показать:</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>С&amp;толбцы:</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>По дням</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>По месяцам</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>&amp;Таблицей</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>Копировать те&amp;кст</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>Копировать р&amp;исунок</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Расход</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>Клавиши со стрелками переходят от столбца к столбцу.</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>Пока ничего не записано. Здесь появится то, что передают соединения.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>За это время ничего не отправлено и не получено.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Тарифный план: %1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Профиль: %1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>SIM-карта, номер на %1</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Все соединения</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>Получено дома</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>Отправлено дома</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>Получено в роуминге</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>Отправлено в роуминге</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>С %1 по %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1: ничего</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1: получено %2, отправлено %3</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1: получено %2 дома и %3 в роуминге, отправлено %4 дома и %5 в роуминге</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>День</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Месяц</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Всего</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -666,6 +796,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>У используемого модуля истории нет статистики. Запустите refdialer с модулем, у которого она есть: --plugin ФАЙЛ.</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>&amp;Расход</translation>
     </message>
 </context>
 </TS>

@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>Geçmiş</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>Kullanım</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>Ö&amp;nceki</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Sonraki</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -640,6 +655,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>&amp;Göster:</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>Çu&amp;buklar:</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Güne göre</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>Aya göre</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>&amp;Tablo olarak</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>&amp;Metni kopyala</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>&amp;Resmi kopyala</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Kullanım</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>Ok tuşları çubuktan çubuğa gider.</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>Henüz hiçbir şey kaydedilmedi. Bağlantılarınızın aktardıkları burada görünür.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>Bu sürede hiçbir şey gönderilmedi ya da alınmadı.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Tarife: %1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>Profil: %1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>%1 ile biten SIM</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Tüm bağlantılar</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>Yurt içinde alınan</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>Yurt içinde gönderilen</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>Dolaşımda alınan</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>Dolaşımda gönderilen</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1: hiçbir şey</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1: %2 alındı, %3 gönderildi</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1: yurt içinde %2 ve dolaşımda %3 alındı, yurt içinde %4 ve dolaşımda %5 gönderildi</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Gün</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Ay</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Toplam</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -660,6 +790,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>Kullanılan geçmiş eklentisinin istatistikleri yok. refdialer’ı istatistikleri olan bir eklentiyle başlatın: --plugin DOSYA.</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>K&amp;ullanım</translation>
     </message>
 </context>
 </TS>

@@ -412,6 +412,21 @@
         <source>History</source>
         <translation>历史记录</translation>
     </message>
+    <message>
+        <source>Usage</source>
+        <translation>用量</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodRow</name>
+    <message>
+        <source>P&amp;revious</source>
+        <translation>上一个(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>下一个(&amp;N)</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Picture</name>
@@ -640,6 +655,121 @@
     </message>
 </context>
 <context>
+    <name>refdialer::UsagePage</name>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>显示(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>&amp;Bars:</source>
+        <translation>条形(&amp;B)：</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>按日</translation>
+    </message>
+    <message>
+        <source>By month</source>
+        <translation>按月</translation>
+    </message>
+    <message>
+        <source>As &amp;table</source>
+        <translation>以表格显示(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Copy te&amp;xt</source>
+        <translation>复制文本(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Copy p&amp;icture</source>
+        <translation>复制图片(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>用量</translation>
+    </message>
+    <message>
+        <source>The arrow keys go from bar to bar.</source>
+        <translation>方向键在条形之间移动。</translation>
+    </message>
+    <message>
+        <source>Nothing has been recorded yet. What your connections move appears here.</source>
+        <translation>尚无记录。您的连接传输的数据会显示在这里。</translation>
+    </message>
+    <message>
+        <source>Nothing was sent or received in this time.</source>
+        <translation>这段时间内没有发送或接收数据。</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::UsageText</name>
+    <message>
+        <source>Plan: %1</source>
+        <translation>套餐：%1</translation>
+    </message>
+    <message>
+        <source>Profile: %1</source>
+        <translation>配置：%1</translation>
+    </message>
+    <message>
+        <source>SIM ending in %1</source>
+        <translation>尾号为 %1 的 SIM 卡</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>所有连接</translation>
+    </message>
+    <message>
+        <source>Received at home</source>
+        <translation>本地接收</translation>
+    </message>
+    <message>
+        <source>Sent at home</source>
+        <translation>本地发送</translation>
+    </message>
+    <message>
+        <source>Received roaming</source>
+        <translation>漫游接收</translation>
+    </message>
+    <message>
+        <source>Sent roaming</source>
+        <translation>漫游发送</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>a month and its year</extracomment>
+        <translation>%2年%1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>%1: nothing</source>
+        <translation>%1：无</translation>
+    </message>
+    <message>
+        <source>%1: received %2, sent %3</source>
+        <translation>%1：接收 %2，发送 %3</translation>
+    </message>
+    <message>
+        <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
+        <translation>%1：本地接收 %2、漫游接收 %3，本地发送 %4、漫游发送 %5</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>月份</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>合计</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
@@ -660,6 +790,10 @@
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
         <translation>正在使用的历史记录插件没有统计功能。请使用带有统计功能的插件启动 refdialer：--plugin 文件。</translation>
+    </message>
+    <message>
+        <source>&amp;Usage</source>
+        <translation>用量(&amp;U)</translation>
     </message>
 </context>
 </TS>

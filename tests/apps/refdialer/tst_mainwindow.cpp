@@ -9,6 +9,7 @@
 #include "apps/refdialer/SettingsDialog.h"
 #include "apps/refdialer/SortMenu.h"
 #include "apps/refdialer/SummaryChoice.h"
+#include "apps/refdialer/UsagePage.h"
 
 #include <QAction>
 #include <QApplication>
@@ -19,6 +20,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -40,7 +42,8 @@ private slots:
 
     void showsTheHistoryInItsArea();
     void fitsTheHistoryToItsAreaWhenResized();
-    void hidesTheHistoryAndShowsItAgain();
+    void hidesTheHistoryUnderAnotherPage();
+    void goesToItsPagesByKeys();
     void showsTheNewestConnectionFirst();
 
     void sortsOnceAsChosen();
@@ -167,16 +170,32 @@ void TestMainWindow::fitsTheHistoryToItsAreaWhenResized()
     QCOMPARE(m_calls.last(), "FitSize " + RecordingPlugin::textOf(m_recording->area()->rect()));
 }
 
-void TestMainWindow::hidesTheHistoryAndShowsItAgain()
+void TestMainWindow::hidesTheHistoryUnderAnotherPage()
 {
     QAction *const history = entry({"View", "History"});
+    QAction *const usage = entry({"View", "Usage"});
     QVERIFY(history && history->isChecked());
-    history->trigger();
+    usage->trigger();
     QCOMPARE(m_calls.last(), QString("Hide"));
-    QVERIFY(!history->isChecked());
+    QVERIFY(usage->isChecked() && !history->isChecked());
+    QVERIFY(!m_recording->area()->isVisible());
+    QVERIFY(m_window->findChild<refdialer::UsagePage *>()->isVisible());
     history->trigger();
     QCOMPARE(m_calls.last(), "ShowWindow " + RecordingPlugin::textOf(m_recording->area()->rect()));
-    QVERIFY(history->isChecked());
+    QVERIFY(history->isChecked() && m_recording->area()->isVisible());
+}
+
+void TestMainWindow::goesToItsPagesByKeys()
+{
+    const auto &pages = *m_window->findChild<QTabWidget *>();
+    QCOMPARE(pages.currentIndex(), 0);
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(pages.tabText(pages.currentIndex()), QString("Usage"));
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_1, Qt::ControlModifier);
+    QCOMPARE(pages.tabText(pages.currentIndex()), QString("History"));
+    // The menu follows the tabs.
+    m_window->findChild<QTabWidget *>()->setCurrentIndex(1);
+    QVERIFY(entry({"View", "Usage"})->isChecked());
 }
 
 void TestMainWindow::showsTheNewestConnectionFirst()
@@ -480,10 +499,11 @@ void TestMainWindow::endsThePluginOnceWhenDestroyed()
 void TestMainWindow::leavesThePluginAloneAfterItsEnd()
 {
     QAction *const history = entry({"View", "History"});
+    QAction *const usage = entry({"View", "Usage"});
     QAction *const ascending = entry({"View", "Sort by", "Ascending"});
     m_window->close();
     m_calls.clear();
-    history->trigger();
+    usage->trigger();
     history->trigger();
     ascending->trigger();
     m_state.begin({});

@@ -126,7 +126,7 @@ void StatisticsEntryTest::hasAKey()
 
 void StatisticsEntryTest::opensTheStatisticsWhileTheHistoryIsHidden()
 {
-    menuEntry(m_history->window(), {"View", "History"})->trigger();
+    menuEntry(m_history->window(), {"View", "Usage"})->trigger();
     entry()->trigger();
     QCOMPARE(QApplication::activeModalWidget() != nullptr, isWired);
 }
