@@ -421,7 +421,7 @@
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
-        <translation>السا&amp;بق</translation>
+        <translation>الساب&amp;ق</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -673,11 +673,11 @@
     <name>refdialer::UsagePage</name>
     <message>
         <source>Sho&amp;w:</source>
-        <translation>اعر&amp;ض:</translation>
+        <translation>إ&amp;ظهار:</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
-        <translation>الأ&amp;عمدة:</translation>
+        <translation>الأعم&amp;دة:</translation>
     </message>
     <message>
         <source>By day</source>
@@ -693,11 +693,11 @@
     </message>
     <message>
         <source>Copy te&amp;xt</source>
-        <translation>ا&amp;نسخ النص</translation>
+        <translation>نسخ ال&amp;نص</translation>
     </message>
     <message>
         <source>Copy p&amp;icture</source>
-        <translation>انسخ ال&amp;صورة</translation>
+        <translation>نسخ ال&amp;صورة</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>The arrow keys go from bar to bar.</source>
-        <translation>تنتقل مفاتيح الأسهم من عمود إلى آخر.</translation>
+        <translation>تنتقل مفاتيح الأسهم من عمود إلى عمود.</translation>
     </message>
     <message>
         <source>Nothing has been recorded yet. What your connections move appears here.</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Nothing was sent or received in this time.</source>
-        <translation>لم يُرسل أو يُستقبل شيء في هذه المدة.</translation>
+        <translation>لم يُرسل أو يُستلم شيء في هذه المدة.</translation>
     </message>
 </context>
 <context>
@@ -728,7 +728,7 @@
     </message>
     <message>
         <source>SIM ending in %1</source>
-        <translation>شريحة تنتهي بـ %1</translation>
+        <translation>شريحة تنتهي بالرقم ‎%1</translation>
     </message>
     <message>
         <source>All connections</source>
@@ -736,7 +736,7 @@
     </message>
     <message>
         <source>Received at home</source>
-        <translation>المستقبل محليًا</translation>
+        <translation>المستلم محليًا</translation>
     </message>
     <message>
         <source>Sent at home</source>
@@ -744,7 +744,7 @@
     </message>
     <message>
         <source>Received roaming</source>
-        <translation>المستقبل أثناء التجوال</translation>
+        <translation>المستلم أثناء التجوال</translation>
     </message>
     <message>
         <source>Sent roaming</source>
@@ -765,11 +765,11 @@
     </message>
     <message>
         <source>%1: received %2, sent %3</source>
-        <translation>%1: استُقبل %2، أُرسل %3</translation>
+        <translation>%1: المستلم ‎%2‎، المرسل ‎%3</translation>
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1: استُقبل %2 محليًا و%3 أثناء التجوال، أُرسل %4 محليًا و%5 أثناء التجوال</translation>
+        <translation>%1: المستلم ‎%2‎ محليًا و‎%3‎ أثناء التجوال، والمرسل ‎%4‎ محليًا و‎%5‎ أثناء التجوال</translation>
     </message>
     <message>
         <source>Day</source>
@@ -808,7 +808,7 @@
     </message>
     <message>
         <source>&amp;Usage</source>
-        <translation>الا&amp;ستهلاك</translation>
+        <translation>الاست&amp;هلاك</translation>
     </message>
 </context>
 </TS>

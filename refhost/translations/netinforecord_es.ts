@@ -421,11 +421,11 @@
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
-        <translation>A&amp;nterior</translation>
+        <translation>An&amp;terior</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>Sigu&amp;iente</translation>
+        <translation>&amp;Siguiente</translation>
     </message>
 </context>
 <context>
@@ -677,7 +677,7 @@
     </message>
     <message>
         <source>As &amp;table</source>
-        <translation>Como &amp;tabla</translation>
+        <translation>Como tab&amp;la</translation>
     </message>
     <message>
         <source>Copy te&amp;xt</source>
@@ -697,11 +697,11 @@
     </message>
     <message>
         <source>Nothing has been recorded yet. What your connections move appears here.</source>
-        <translation>Aún no se ha registrado nada. Lo que transfieran sus conexiones aparecerá aquí.</translation>
+        <translation>Aún no se ha registrado nada. Lo que transfieran sus conexiones aparece aquí.</translation>
     </message>
     <message>
         <source>Nothing was sent or received in this time.</source>
-        <translation>En este tiempo no se envió ni recibió nada.</translation>
+        <translation>No se envió ni recibió nada en este tiempo.</translation>
     </message>
 </context>
 <context>
@@ -753,11 +753,11 @@
     </message>
     <message>
         <source>%1: received %2, sent %3</source>
-        <translation>%1: %2 recibidos, %3 enviados</translation>
+        <translation>%1: recibido %2, enviado %3</translation>
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1: %2 recibidos sin itinerancia y %3 en itinerancia, %4 enviados sin itinerancia y %5 en itinerancia</translation>
+        <translation>%1: recibido %2 sin itinerancia y %3 en itinerancia, enviado %4 sin itinerancia y %5 en itinerancia</translation>
     </message>
     <message>
         <source>Day</source>

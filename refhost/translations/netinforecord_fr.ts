@@ -421,7 +421,7 @@
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
-        <translation>P&amp;récédent</translation>
+        <translation>&amp;Précédent</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -661,11 +661,11 @@
     <name>refdialer::UsagePage</name>
     <message>
         <source>Sho&amp;w:</source>
-        <translation>&amp;Montrer :</translation>
+        <translation>Affic&amp;her&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
-        <translation>&amp;Barres :</translation>
+        <translation>&amp;Barres&#xa0;:</translation>
     </message>
     <message>
         <source>By day</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Copy p&amp;icture</source>
-        <translation>Copier l’&amp;image</translation>
+        <translation>Copier l’i&amp;mage</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -693,11 +693,11 @@
     </message>
     <message>
         <source>The arrow keys go from bar to bar.</source>
-        <translation>Les touches fléchées passent d’une barre à l’autre.</translation>
+        <translation>Les touches fléchées vont d’une barre à l’autre.</translation>
     </message>
     <message>
         <source>Nothing has been recorded yet. What your connections move appears here.</source>
-        <translation>Rien n’est encore enregistré. Ce que transfèrent vos connexions apparaît ici.</translation>
+        <translation>Rien n’a encore été enregistré. Ce que vos connexions transfèrent apparaît ici.</translation>
     </message>
     <message>
         <source>Nothing was sent or received in this time.</source>
@@ -708,11 +708,11 @@
     <name>refdialer::UsageText</name>
     <message>
         <source>Plan: %1</source>
-        <translation>Forfait : %1</translation>
+        <translation>Forfait&#xa0;: %1</translation>
     </message>
     <message>
         <source>Profile: %1</source>
-        <translation>Profil : %1</translation>
+        <translation>Profil&#xa0;: %1</translation>
     </message>
     <message>
         <source>SIM ending in %1</source>
@@ -749,15 +749,15 @@
     </message>
     <message>
         <source>%1: nothing</source>
-        <translation>%1 : rien</translation>
+        <translation>%1&#xa0;: rien</translation>
     </message>
     <message>
         <source>%1: received %2, sent %3</source>
-        <translation>%1 : %2 reçus, %3 envoyés</translation>
+        <translation>%1&#xa0;: reçu %2, envoyé %3</translation>
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1 : %2 reçus hors itinérance et %3 en itinérance, %4 envoyés hors itinérance et %5 en itinérance</translation>
+        <translation>%1&#xa0;: reçu %2 hors itinérance et %3 en itinérance, envoyé %4 hors itinérance et %5 en itinérance</translation>
     </message>
     <message>
         <source>Day</source>
@@ -796,7 +796,7 @@
     </message>
     <message>
         <source>&amp;Usage</source>
-        <translation>Cons&amp;ommation</translation>
+        <translation>&amp;Consommation</translation>
     </message>
 </context>
 </TS>

@@ -421,11 +421,11 @@
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
-        <translation>Pop&amp;rzedni</translation>
+        <translation>Popr&amp;zedni</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>&amp;Następny</translation>
+        <translation>Nas&amp;tępny</translation>
     </message>
 </context>
 <context>
@@ -664,7 +664,7 @@
     <name>refdialer::UsagePage</name>
     <message>
         <source>Sho&amp;w:</source>
-        <translation>Poka&amp;ż:</translation>
+        <translation>Pok&amp;aż:</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
@@ -680,7 +680,7 @@
     </message>
     <message>
         <source>As &amp;table</source>
-        <translation>Jako &amp;tabela</translation>
+        <translation>Jako ta&amp;bela</translation>
     </message>
     <message>
         <source>Copy te&amp;xt</source>
@@ -688,7 +688,7 @@
     </message>
     <message>
         <source>Copy p&amp;icture</source>
-        <translation>Kopiuj &amp;obraz</translation>
+        <translation>Kopiuj ob&amp;raz</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -700,11 +700,11 @@
     </message>
     <message>
         <source>Nothing has been recorded yet. What your connections move appears here.</source>
-        <translation>Nic jeszcze nie zapisano. Tu pojawi się to, co przesyłają połączenia.</translation>
+        <translation>Nic jeszcze nie zapisano. Tutaj pojawi się to, co przesyłają połączenia.</translation>
     </message>
     <message>
         <source>Nothing was sent or received in this time.</source>
-        <translation>W tym czasie niczego nie wysłano ani nie pobrano.</translation>
+        <translation>W tym czasie nic nie wysłano ani nie pobrano.</translation>
     </message>
 </context>
 <context>
@@ -719,7 +719,7 @@
     </message>
     <message>
         <source>SIM ending in %1</source>
-        <translation>SIM o końcówce %1</translation>
+        <translation>SIM z końcówką %1</translation>
     </message>
     <message>
         <source>All connections</source>
@@ -727,11 +727,11 @@
     </message>
     <message>
         <source>Received at home</source>
-        <translation>Pobrano w kraju</translation>
+        <translation>Pobrano poza roamingiem</translation>
     </message>
     <message>
         <source>Sent at home</source>
-        <translation>Wysłano w kraju</translation>
+        <translation>Wysłano poza roamingiem</translation>
     </message>
     <message>
         <source>Received roaming</source>
@@ -760,7 +760,7 @@
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1: pobrano %2 w kraju i %3 w roamingu, wysłano %4 w kraju i %5 w roamingu</translation>
+        <translation>%1: pobrano %2 poza roamingiem i %3 w roamingu, wysłano %4 poza roamingiem i %5 w roamingu</translation>
     </message>
     <message>
         <source>Day</source>

@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>Pró&amp;ximo</translation>
+        <translation>Próxi&amp;mo</translation>
     </message>
 </context>
 <context>
@@ -661,7 +661,7 @@
     <name>refdialer::UsagePage</name>
     <message>
         <source>Sho&amp;w:</source>
-        <translation>&amp;Mostrar:</translation>
+        <translation>Mo&amp;strar:</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
@@ -681,11 +681,11 @@
     </message>
     <message>
         <source>Copy te&amp;xt</source>
-        <translation>Copiar te&amp;xto</translation>
+        <translation>&amp;Copiar texto</translation>
     </message>
     <message>
         <source>Copy p&amp;icture</source>
-        <translation>Copiar &amp;imagem</translation>
+        <translation>Copiar ima&amp;gem</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -693,15 +693,15 @@
     </message>
     <message>
         <source>The arrow keys go from bar to bar.</source>
-        <translation>As teclas de seta vão de barra em barra.</translation>
+        <translation>As setas do teclado vão de barra em barra.</translation>
     </message>
     <message>
         <source>Nothing has been recorded yet. What your connections move appears here.</source>
-        <translation>Nada foi registrado ainda. O que suas conexões transferirem aparecerá aqui.</translation>
+        <translation>Nada foi registrado ainda. O que suas conexões transferem aparece aqui.</translation>
     </message>
     <message>
         <source>Nothing was sent or received in this time.</source>
-        <translation>Nada foi enviado ou recebido neste período.</translation>
+        <translation>Nada foi enviado nem recebido neste período.</translation>
     </message>
 </context>
 <context>
@@ -716,7 +716,7 @@
     </message>
     <message>
         <source>SIM ending in %1</source>
-        <translation>SIM com final %1</translation>
+        <translation>SIM terminado em %1</translation>
     </message>
     <message>
         <source>All connections</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation>%1 a %2</translation>
+        <translation>De %1 a %2</translation>
     </message>
     <message>
         <source>%1: nothing</source>
@@ -753,11 +753,11 @@
     </message>
     <message>
         <source>%1: received %2, sent %3</source>
-        <translation>%1: %2 recebidos, %3 enviados</translation>
+        <translation>%1: recebido %2, enviado %3</translation>
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1: %2 recebidos sem roaming e %3 em roaming, %4 enviados sem roaming e %5 em roaming</translation>
+        <translation>%1: recebido %2 sem roaming e %3 em roaming, enviado %4 sem roaming e %5 em roaming</translation>
     </message>
     <message>
         <source>Day</source>

@@ -421,11 +421,11 @@
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
-        <translation>Пр&amp;едыдущий</translation>
+        <translation>&amp;Назад</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>Сл&amp;едующий</translation>
+        <translation>Дал&amp;ее</translation>
     </message>
 </context>
 <context>
@@ -664,11 +664,11 @@
     <name>refdialer::UsagePage</name>
     <message>
         <source>Sho&amp;w:</source>
-        <translation>&amp;Показать:</translation>
+        <translation>Показ&amp;ать:</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
-        <translation>С&amp;толбцы:</translation>
+        <translation>Стол&amp;бцы:</translation>
     </message>
     <message>
         <source>By day</source>
@@ -680,7 +680,7 @@
     </message>
     <message>
         <source>As &amp;table</source>
-        <translation>&amp;Таблицей</translation>
+        <translation>Табли&amp;цей</translation>
     </message>
     <message>
         <source>Copy te&amp;xt</source>
@@ -700,7 +700,7 @@
     </message>
     <message>
         <source>Nothing has been recorded yet. What your connections move appears here.</source>
-        <translation>Пока ничего не записано. Здесь появится то, что передают соединения.</translation>
+        <translation>Пока ничего не записано. Здесь появится то, что передают ваши соединения.</translation>
     </message>
     <message>
         <source>Nothing was sent or received in this time.</source>
@@ -711,7 +711,7 @@
     <name>refdialer::UsageText</name>
     <message>
         <source>Plan: %1</source>
-        <translation>Тарифный план: %1</translation>
+        <translation>План: %1</translation>
     </message>
     <message>
         <source>Profile: %1</source>
@@ -719,7 +719,7 @@
     </message>
     <message>
         <source>SIM ending in %1</source>
-        <translation>SIM-карта, номер на %1</translation>
+        <translation>SIM с окончанием %1</translation>
     </message>
     <message>
         <source>All connections</source>
@@ -727,11 +727,11 @@
     </message>
     <message>
         <source>Received at home</source>
-        <translation>Получено дома</translation>
+        <translation>Получено вне роуминга</translation>
     </message>
     <message>
         <source>Sent at home</source>
-        <translation>Отправлено дома</translation>
+        <translation>Отправлено вне роуминга</translation>
     </message>
     <message>
         <source>Received roaming</source>
@@ -760,7 +760,7 @@
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1: получено %2 дома и %3 в роуминге, отправлено %4 дома и %5 в роуминге</translation>
+        <translation>%1: получено %2 вне роуминга и %3 в роуминге, отправлено %4 вне роуминга и %5 в роуминге</translation>
     </message>
     <message>
         <source>Day</source>

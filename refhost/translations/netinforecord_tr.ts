@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>&amp;Sonraki</translation>
+        <translation>Sonra&amp;ki</translation>
     </message>
 </context>
 <context>
@@ -658,7 +658,7 @@
     <name>refdialer::UsagePage</name>
     <message>
         <source>Sho&amp;w:</source>
-        <translation>&amp;Göster:</translation>
+        <translation>Gö&amp;ster:</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
@@ -705,7 +705,7 @@
     <name>refdialer::UsageText</name>
     <message>
         <source>Plan: %1</source>
-        <translation>Tarife: %1</translation>
+        <translation>Plan: %1</translation>
     </message>
     <message>
         <source>Profile: %1</source>
@@ -721,19 +721,19 @@
     </message>
     <message>
         <source>Received at home</source>
-        <translation>Yurt içinde alınan</translation>
+        <translation>Alınan (dolaşım dışı)</translation>
     </message>
     <message>
         <source>Sent at home</source>
-        <translation>Yurt içinde gönderilen</translation>
+        <translation>Gönderilen (dolaşım dışı)</translation>
     </message>
     <message>
         <source>Received roaming</source>
-        <translation>Dolaşımda alınan</translation>
+        <translation>Alınan (dolaşım)</translation>
     </message>
     <message>
         <source>Sent roaming</source>
-        <translation>Dolaşımda gönderilen</translation>
+        <translation>Gönderilen (dolaşım)</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -750,11 +750,11 @@
     </message>
     <message>
         <source>%1: received %2, sent %3</source>
-        <translation>%1: %2 alındı, %3 gönderildi</translation>
+        <translation>%1: alınan %2, gönderilen %3</translation>
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1: yurt içinde %2 ve dolaşımda %3 alındı, yurt içinde %4 ve dolaşımda %5 gönderildi</translation>
+        <translation>%1: alınan %2 dolaşım dışı ve %3 dolaşım, gönderilen %4 dolaşım dışı ve %5 dolaşım</translation>
     </message>
     <message>
         <source>Day</source>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>&amp;Usage</source>
-        <translation>K&amp;ullanım</translation>
+        <translation>&amp;Kullanım</translation>
     </message>
 </context>
 </TS>

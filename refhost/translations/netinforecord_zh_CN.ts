@@ -662,11 +662,11 @@
     </message>
     <message>
         <source>&amp;Bars:</source>
-        <translation>条形(&amp;B)：</translation>
+        <translation>柱形(&amp;B)：</translation>
     </message>
     <message>
         <source>By day</source>
-        <translation>按日</translation>
+        <translation>按天</translation>
     </message>
     <message>
         <source>By month</source>
@@ -674,7 +674,7 @@
     </message>
     <message>
         <source>As &amp;table</source>
-        <translation>以表格显示(&amp;T)</translation>
+        <translation>表格形式(&amp;T)</translation>
     </message>
     <message>
         <source>Copy te&amp;xt</source>
@@ -690,15 +690,15 @@
     </message>
     <message>
         <source>The arrow keys go from bar to bar.</source>
-        <translation>方向键在条形之间移动。</translation>
+        <translation>方向键在柱形之间移动。</translation>
     </message>
     <message>
         <source>Nothing has been recorded yet. What your connections move appears here.</source>
-        <translation>尚无记录。您的连接传输的数据会显示在这里。</translation>
+        <translation>还没有任何记录。您的连接传输的流量会显示在这里。</translation>
     </message>
     <message>
         <source>Nothing was sent or received in this time.</source>
-        <translation>这段时间内没有发送或接收数据。</translation>
+        <translation>这段时间内没有发送或接收任何数据。</translation>
     </message>
 </context>
 <context>
@@ -721,11 +721,11 @@
     </message>
     <message>
         <source>Received at home</source>
-        <translation>本地接收</translation>
+        <translation>非漫游接收</translation>
     </message>
     <message>
         <source>Sent at home</source>
-        <translation>本地发送</translation>
+        <translation>非漫游发送</translation>
     </message>
     <message>
         <source>Received roaming</source>
@@ -750,11 +750,11 @@
     </message>
     <message>
         <source>%1: received %2, sent %3</source>
-        <translation>%1：接收 %2，发送 %3</translation>
+        <translation>%1：已接收 %2，已发送 %3</translation>
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1：本地接收 %2、漫游接收 %3，本地发送 %4、漫游发送 %5</translation>
+        <translation>%1：非漫游接收 %2，漫游接收 %3；非漫游发送 %4，漫游发送 %5</translation>
     </message>
     <message>
         <source>Day</source>
