@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "HistoryWindow.h"
+#include "MenuEntry.h"
+#include "apps/refdialer/UsagePage.h"
 #include "refhost/libcore/Host.h"
 
+#include <QAction>
 #include <QFile>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
 
@@ -21,6 +26,7 @@ private slots:
     void showsTimesThat31BitsDoNotHold();
     void showsAnEmptyTableBeforeThereIsAStore();
     void speaksTheLanguageOfTheProgram();
+    void hidesUnderAnotherPage();
 
 private:
     QString cell(int row, int column) const { return m_history->column(column).at(row); }
@@ -74,6 +80,35 @@ void TestHistory::speaksTheLanguageOfTheProgram()
     QVERIFY(refhost::setLanguage("de"));
     m_history->plugin().changeLanguage("de");
     QCOMPARE(m_history->table().horizontalHeaderItem(5)->text(), QString("Empfangen"));
+}
+
+void TestHistory::hidesUnderAnotherPage()
+{
+    QVERIFY(m_history->open());
+    const auto &pages = *m_history->window().findChild<QTabWidget *>();
+    const QWidget &shownByPlugin = *m_history->table().parentWidget();
+    QAction *const history = menuEntry(m_history->window(), {"View", "History"});
+    QAction *const usage = menuEntry(m_history->window(), {"View", "Usage"});
+    const auto isHistory = [&] {
+        return pages.tabText(pages.currentIndex()) == "History" && history->isChecked() &&
+               !usage->isChecked() && m_history->table().isVisible();
+    };
+    const auto isUsage = [&] {
+        return pages.tabText(pages.currentIndex()) == "Usage" && usage->isChecked() &&
+               !history->isChecked() && shownByPlugin.isHidden() &&
+               m_history->window().findChild<refdialer::UsagePage *>()->isVisible();
+    };
+    QVERIFY(isHistory());
+    usage->trigger();
+    QVERIFY(isUsage());
+    history->trigger();
+    QVERIFY(isHistory());
+    m_history->pressKey(Qt::Key_2, Qt::ControlModifier);
+    QVERIFY(isUsage());
+    m_history->pressKey(Qt::Key_1, Qt::ControlModifier);
+    QVERIFY(isHistory());
+    QTest::mouseClick(pages.tabBar(), Qt::LeftButton, {}, pages.tabBar()->tabRect(1).center());
+    QVERIFY(isUsage());
 }
 
 QTEST_MAIN(TestHistory)

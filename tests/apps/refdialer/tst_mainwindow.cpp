@@ -9,7 +9,6 @@
 #include "apps/refdialer/SettingsDialog.h"
 #include "apps/refdialer/SortMenu.h"
 #include "apps/refdialer/SummaryChoice.h"
-#include "apps/refdialer/UsagePage.h"
 
 #include <QAction>
 #include <QApplication>
@@ -20,7 +19,6 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -42,8 +40,6 @@ private slots:
 
     void showsTheHistoryInItsArea();
     void fitsTheHistoryToItsAreaWhenResized();
-    void hidesTheHistoryUnderAnotherPage();
-    void goesToItsPagesByKeys();
     void showsTheNewestConnectionFirst();
 
     void sortsOnceAsChosen();
@@ -168,34 +164,6 @@ void TestMainWindow::fitsTheHistoryToItsAreaWhenResized()
     m_window->resize(1000, 700);
     QTRY_VERIFY(m_recording->area()->width() > 900);
     QCOMPARE(m_calls.last(), "FitSize " + RecordingPlugin::textOf(m_recording->area()->rect()));
-}
-
-void TestMainWindow::hidesTheHistoryUnderAnotherPage()
-{
-    QAction *const history = entry({"View", "History"});
-    QAction *const usage = entry({"View", "Usage"});
-    QVERIFY(history && history->isChecked());
-    usage->trigger();
-    QCOMPARE(m_calls.last(), QString("Hide"));
-    QVERIFY(usage->isChecked() && !history->isChecked());
-    QVERIFY(!m_recording->area()->isVisible());
-    QVERIFY(m_window->findChild<refdialer::UsagePage *>()->isVisible());
-    history->trigger();
-    QCOMPARE(m_calls.last(), "ShowWindow " + RecordingPlugin::textOf(m_recording->area()->rect()));
-    QVERIFY(history->isChecked() && m_recording->area()->isVisible());
-}
-
-void TestMainWindow::goesToItsPagesByKeys()
-{
-    const auto &pages = *m_window->findChild<QTabWidget *>();
-    QCOMPARE(pages.currentIndex(), 0);
-    QTest::keyClick(m_window->windowHandle(), Qt::Key_2, Qt::ControlModifier);
-    QCOMPARE(pages.tabText(pages.currentIndex()), QString("Usage"));
-    QTest::keyClick(m_window->windowHandle(), Qt::Key_1, Qt::ControlModifier);
-    QCOMPARE(pages.tabText(pages.currentIndex()), QString("History"));
-    // The menu follows the tabs.
-    m_window->findChild<QTabWidget *>()->setCurrentIndex(1);
-    QVERIFY(entry({"View", "Usage"})->isChecked());
 }
 
 void TestMainWindow::showsTheNewestConnectionFirst()
