@@ -108,4 +108,15 @@ Result<std::vector<PeriodUse>> pastUses(const Store &store, const DataPlan &plan
     return uses;
 }
 
+Result<std::vector<PeriodUse>> allUses(const Store &store, const DataPlan &plan, std::int64_t utc)
+{
+    const auto present = currentStatus(store, plan, utc);
+    if (!present)
+        return present.error();
+    auto uses = pastUses(store, plan, utc);
+    if (uses && present.value())
+        uses.value().insert(uses.value().begin(), *present.value());
+    return uses;
+}
+
 } // namespace usage

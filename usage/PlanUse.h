@@ -31,4 +31,8 @@ statusAt(const history::Store &store, const history::DataPlan &plan, std::int64_
 history::Result<std::vector<PeriodUse>> pastUses(const history::Store &store,
                                                  const history::DataPlan &plan, std::int64_t utc);
 
+/// Those, behind the one that holds `utc`, if there is one.
+history::Result<std::vector<PeriodUse>> allUses(const history::Store &store,
+                                                const history::DataPlan &plan, std::int64_t utc);
+
 } // namespace usage

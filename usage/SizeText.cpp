@@ -21,7 +21,7 @@ struct Unit {
 };
 
 constexpr std::int64_t kilobyte = 1024;
-constexpr std::array<Unit, 6> writtenUnits = {{
+constexpr std::array<Unit, 6> units = {{
     {"", 1},
     {"B", 1},
     {"KB", kilobyte},
@@ -35,7 +35,7 @@ std::optional<std::int64_t> unitNamed(std::string_view name)
     std::string capitals(name);
     for (char &each : capitals)
         each = static_cast<char>(std::toupper(static_cast<unsigned char>(each)));
-    for (const Unit &unit : writtenUnits) {
+    for (const Unit &unit : units) {
         if (unit.name == capitals)
             return unit.bytes;
     }
@@ -55,6 +55,11 @@ Wide numberOf(std::string_view digits)
     for (const char digit : digits)
         number = number * 10 + (digit - '0');
     return number;
+}
+
+QString nameOf(const Unit &unit)
+{
+    return QString::fromLatin1(unit.name.data(), static_cast<int>(unit.name.size()));
 }
 
 struct ShownSize {
@@ -109,6 +114,28 @@ QString rateText(std::int64_t bytesPerSecond)
             ? QString::number(static_cast<qlonglong>(bytesPerSecond)) + QLatin1String(" B")
             : sizeText(bytesPerSecond);
     return size + QLatin1String("/s");
+}
+
+QStringList writtenUnits()
+{
+    QStringList names;
+    for (const Unit &unit : units) {
+        if (!unit.name.empty())
+            names.append(nameOf(unit));
+    }
+    return names;
+}
+
+WrittenSize writtenSize(std::int64_t bytes)
+{
+    for (auto unit = units.rbegin(); unit != units.rend(); ++unit) {
+        const double value = static_cast<double>(bytes) / static_cast<double>(unit->bytes);
+        const QString number = withoutTrailingZeros(QString::number(value, 'f', 2));
+        const auto read = bytesIn((number + nameOf(*unit)).toStdString());
+        if (std::abs(value) >= 1 && read->isInRange && read->value == bytes)
+            return {number, nameOf(*unit)};
+    }
+    return {QString::number(static_cast<qlonglong>(bytes)), nameOf(units[1])};
 }
 
 std::optional<WholeNumber> bytesIn(std::string_view text)

@@ -4,6 +4,7 @@
 #include "TextScanner.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <optional>
@@ -21,6 +22,18 @@ QString shortSizeText(std::int64_t bytes);
 
 /// "249 B/s"; from 1024 bytes on in the units above: "1.50 KB/s".
 QString rateText(std::int64_t bytesPerSecond);
+
+/// The names of the units that sizes are written in, from the smallest on.
+QStringList writtenUnits();
+
+/// A number and the name of its unit.
+struct WrittenSize {
+    QString number;
+    QString unit;
+};
+/// So that bytesIn() reads exactly these bytes again, in the largest unit of which two decimals
+/// are enough for that.
+WrittenSize writtenSize(std::int64_t bytes);
 
 /// The bytes that somebody has written as "10GB", "1.5 GB" or "500": in B, KB, MB, GB or TB,
 /// of 1024 each, a part of a byte cut, "-" in front allowed. Nothing if it is none of these.

@@ -5,8 +5,8 @@
 #include "Output.h"
 #include "PlanText.h"
 #include "StoreResult.h"
-#include "usage/BillingPeriod.h"
 #include "usage/LocalDays.h"
+#include "usage/PlanChange.h"
 #include "usage/SizeText.h"
 
 #include <algorithm>
@@ -58,8 +58,6 @@ std::vector<int> percentagesIn(const std::string &text)
             optionNumber("--warn", text.substr(begin, end - begin), history::highestPercentage)));
         begin = end + 1;
     }
-    std::sort(percentages.begin(), percentages.end());
-    percentages.erase(std::unique(percentages.begin(), percentages.end()), percentages.end());
     return percentages;
 }
 
@@ -112,12 +110,7 @@ void setPeriod(DataPlan &plan, const PlanRequest &request)
 void setAlreadyUsed(DataPlan &plan, const std::string &text)
 {
     const std::int64_t bytes = optionSize("--already-used", text);
-    const QDate today = usage::localDay(std::time(nullptr));
-    if (bytes == 0)
-        plan.usedElsewhere.reset();
-    else if (usage::periodOf(plan.period, today))
-        plan.usedElsewhere = history::UsedElsewhere{bytes, today.toJulianDay()};
-    else
+    if (!usage::setUsedElsewhere(plan, bytes, usage::localDay(std::time(nullptr))))
         throw Failure(ExitCode::Refused, "Nothing can be already used of the plan \"" + plan.name +
                                              "\": today lies in no period of it.");
 }
@@ -133,8 +126,8 @@ void setWhatIsGiven(DataPlan &plan, const PlanRequest &request)
     if (request.alreadyUsed)
         setAlreadyUsed(plan, *request.alreadyUsed);
     if (request.warnings)
-        plan.warnAtPercent =
-            *request.warnings == nothing ? std::vector<int>() : percentagesIn(*request.warnings);
+        usage::setWarnings(plan, *request.warnings == nothing ? std::vector<int>()
+                                                              : percentagesIn(*request.warnings));
 }
 
 std::optional<DataPlan> findPlan(const history::Store &store, const std::string &name)

@@ -8,6 +8,7 @@
 #include "LanguageChoice.h"
 #include "LineState.h"
 #include "PlanLine.h"
+#include "PlanMenu.h"
 #include "PlanWatch.h"
 #include "PluginHandle.h"
 #include "ProblemLine.h"
@@ -51,6 +52,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     , m_state(state)
     , m_background(makeBackgroundUnit(source, this))
     , m_plans(std::make_unique<PlanWatch>(source.file))
+    , m_planLine(new PlanLine(*m_plans))
     , m_pages(new QTabWidget)
     , m_historyPage(new HistoryPage(plugin, source.file))
     , m_area(m_historyPage->area())
@@ -61,7 +63,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     // Each part brings margins of its own.
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new StateLine(source, state));
-    layout->addWidget(new PlanLine(*m_plans));
+    layout->addWidget(m_planLine);
     layout->addWidget(m_pages, 1);
     layout->addWidget(new ProblemLine(state, content));
     setCentralWidget(content);
@@ -168,6 +170,11 @@ void MainWindow::createMenus()
     connect(viewMenu, &ViewMenu::refreshWanted, &m_area, &HistoryArea::refresh);
     connect(viewMenu, &ViewMenu::refreshWanted, m_usagePage, &UsagePage::refresh);
     connect(viewMenu, &ViewMenu::statisticsWanted, this, &MainWindow::showStatistics);
+
+    auto *const planMenu = new PlanMenu(*m_plans, this);
+    menuBar()->addMenu(planMenu);
+    connect(m_planLine, &PlanLine::plansWanted, planMenu, &PlanMenu::showPlans);
+    connect(m_planLine, &PlanLine::planWanted, planMenu, &PlanMenu::addPlan);
 }
 
 void MainWindow::retranslate()

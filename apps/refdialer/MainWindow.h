@@ -18,6 +18,7 @@ class BackgroundUnit;
 class HistoryArea;
 class HistoryPage;
 class LineState;
+class PlanLine;
 class PlanWatch;
 class PluginHandle;
 class UsagePage;
@@ -61,6 +62,7 @@ private:
     BackgroundUnit *const m_background;
     bool m_isClosingDecided = false;
     const std::unique_ptr<PlanWatch> m_plans;
+    PlanLine *m_planLine;
     QTabWidget *m_pages;
     HistoryPage *m_historyPage;
     HistoryArea &m_area;

@@ -2,6 +2,7 @@
 #include "PlanLine.h"
 
 #include "ElidedLabel.h"
+#include "PlanOffer.h"
 #include "PlanText.h"
 #include "PlanWatch.h"
 
@@ -9,6 +10,7 @@
 #include <QGridLayout>
 #include <QLocale>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QStyle>
 
 #include <algorithm>
@@ -65,6 +67,8 @@ PlanLine::PlanLine(const PlanWatch &plans, QWidget *parent)
     : QWidget(parent)
     , m_plans(plans)
     , m_layout(new QGridLayout(this))
+    , m_all(new QPushButton)
+    , m_offer(new PlanOffer)
     , m_problem(new ElidedLabel(Qt::ElideRight))
 {
     const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
@@ -73,7 +77,13 @@ PlanLine::PlanLine(const PlanWatch &plans, QWidget *parent)
     m_layout->setVerticalSpacing(margin / 4);
     m_layout->setColumnStretch(3, 1);
     m_problem->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_layout->addWidget(m_problem, int(mostLines), 0, 1, 4);
+    int line = int(mostLines);
+    m_layout->addWidget(m_all, line++, 0, 1, 4, Qt::AlignLeft);
+    for (QWidget *const each : {static_cast<QWidget *>(m_offer), static_cast<QWidget *>(m_problem)})
+        m_layout->addWidget(each, line++, 0, 1, 4);
+    connect(m_all, &QPushButton::clicked, this, &PlanLine::plansWanted);
+    connect(m_offer, &PlanOffer::accepted, this, &PlanLine::planWanted);
+    connect(m_offer, &PlanOffer::declined, this, &PlanLine::showPlans);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(&m_plans, &PlanWatch::changed, this, &PlanLine::showPlans);
     showPlans();
@@ -99,9 +109,13 @@ void PlanLine::showPlans()
         else
             hideRow(m_rows[i]);
     }
+    m_all->setText(tr("All data plans…"));
+    m_all->setVisible(shown < plans.size());
     m_problem->setText(m_plans.problem());
     m_problem->setVisible(!m_plans.problem().isEmpty());
-    setVisible(shown > 0 || !m_plans.problem().isEmpty());
+    const bool isOffering = plans.empty() && m_plans.hasHistory() && m_offer->isWelcome();
+    m_offer->setVisible(isOffering);
+    setVisible(shown > 0 || isOffering || !m_plans.problem().isEmpty());
 }
 
 void PlanLine::addRow()

@@ -9,6 +9,7 @@
 class QGridLayout;
 class QLabel;
 class QProgressBar;
+class QPushButton;
 
 namespace usage
 {
@@ -19,10 +20,12 @@ namespace refdialer
 {
 
 class ElidedLabel;
+class PlanOffer;
 class PlanWatch;
 
 /// What is left of the data plans, a line for each: first those that are spent, then those
-/// that are nearly so. Takes no room as long as there is no plan.
+/// that are nearly so. Without a plan it offers to make one, once there is a history and unless
+/// the user does not want that; else it takes no room.
 class PlanLine : public QWidget
 {
     Q_OBJECT
@@ -30,6 +33,11 @@ class PlanLine : public QWidget
 public:
     /// The plans must outlive the line.
     explicit PlanLine(const PlanWatch &plans, QWidget *parent = nullptr);
+
+signals:
+    void plansWanted();
+    /// The user wants to make one.
+    void planWanted();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -51,6 +59,8 @@ private:
     const PlanWatch &m_plans;
     QGridLayout *m_layout;
     std::vector<Row> m_rows; ///< some may be hidden
+    QPushButton *m_all;      ///< shown if there are more plans than lines
+    PlanOffer *m_offer;
     ElidedLabel *m_problem;
 };
 

@@ -117,6 +117,20 @@ QString PlanText::details(const StandingPlan &standing, const QLocale &locale)
     return sentences.join(QLatin1Char(' '));
 }
 
+QString PlanText::period(const PeriodRule &rule, const QLocale &locale)
+{
+    const auto day = [&locale](history::JulianDay number) {
+        return dayText(QDate::fromJulianDay(number), locale);
+    };
+    if (const auto *const monthly = std::get_if<history::MonthlyFrom>(&rule))
+        return tr("Monthly from day %1").arg(monthly->day);
+    if (const auto *const every = std::get_if<history::EveryDays>(&rule))
+        return tr("Every %n days from %1", nullptr, static_cast<int>(every->days))
+            .arg(day(every->from));
+    const auto &once = std::get<history::OnceBetween>(rule);
+    return tr("Once from %1 to %2").arg(day(once.first), day(once.last));
+}
+
 std::optional<int> percentUsed(const StandingPlan &standing)
 {
     const auto &amount = standing.plan.amount;

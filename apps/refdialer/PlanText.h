@@ -29,6 +29,8 @@ public:
     static QString alarm(const usage::StandingPlan &standing);
     /// The rest, in whole sentences: its period, and what is left of it.
     static QString details(const usage::StandingPlan &standing, const QLocale &locale);
+    /// The rule that its periods follow.
+    static QString period(const history::PeriodRule &rule, const QLocale &locale);
 
 private:
     static QString ofPeriod(const usage::PlanStatus &status, std::int64_t amount);

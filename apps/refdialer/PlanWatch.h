@@ -36,6 +36,8 @@ public:
     const std::vector<usage::StandingPlan> &plans() const { return m_plans; }
     /// Whether that is known at all.
     bool isRead() const { return m_isRead; }
+    /// Whether there is a history to have plans: read, and not just to be made some day.
+    bool hasHistory() const { return m_isRead && m_occasion && m_occasion->revision != 0; }
     /// Why it is not known, a sentence for the user; empty if it is. While another program
     /// keeps the history locked, what was known before holds.
     QString problem() const { return m_problem; }

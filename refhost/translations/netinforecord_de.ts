@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>Profil (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>Nummer der SIM oder ihr Ende</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Alle Verbindungen</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>Ein Profil (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>Eine SIM</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>Verbindungen, für die der Tarif gilt</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Ohne Namen</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>Ohne SIM-Nummer</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>Zeiträume eines Datentarifs</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>Zeiträume, der jetzige zuerst</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Erster Tag</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Verbraucht</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Übrig</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>&amp;Tarif:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>Der Verlauf wird gelesen …</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>Noch kein Zeitraum dieses Tarifs hat begonnen.</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>Jeden Monat</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>Alle so viele Tage</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>Einmal (Prepaid)</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>Art des Zeitraums</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>Ab &amp;Tag des Monats:</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>Ein Monat ohne diesen Tag beginnt mit seinem letzten.</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>Ta&amp;ge:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>&amp;Letzter Tag:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>Er&amp;ster Tag eines Zeitraums:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>Er&amp;ster Tag:</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Bearbeiten …</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>&amp;Entfernen …</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Frühere Zeiträume …</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>Datentarife</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Tarif</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Hinzufügen …</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>Es gibt noch keinen Datentarif. Mit einem zeigt das Fenster, wie viel davon übrig ist, und warnt, bevor er verbraucht ist.</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>Den Datentarif „%1“ entfernen?</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>Der Verlauf bleibt, wie er ist.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>Im Heimatnetz</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Beim Roaming</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>Im Heimatnetz und beim Roaming</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>Gesendetes und Empfangenes</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Empfangenes</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendetes</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>Neuer Datentarif</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>Datentarif</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>&amp;Für:</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>&amp;Wo:</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>Was &amp;zählt:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>&amp;Datenmenge je Zeitraum:</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>Z&amp;eitraum:</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>Anderswo &amp;verbraucht in diesem Zeitraum:</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>Wa&amp;rnen bei Prozent:</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>Datenmenge je Zeitraum</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Einheit der Datenmenge</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>Anderswo verbraucht in diesem Zeitraum</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>Einheit des anderswo Verbrauchten</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>Was der Anbieter zählt und der Verlauf nicht kennt, etwa vor seinem Beginn; weniger als 0 zieht ab.</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>Geben Sie dem Tarif einen Namen.</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>Geben Sie dem Tarif einen kürzeren Namen.</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>Ein anderer Tarif heißt schon so.</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>Schreiben Sie die Nummer der SIM oder ihr Ende.</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>Nennen Sie das Profil.</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>Keine SIM hat eine so lange Nummer.</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>Weniger als nichts hat kein Tarif.</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>Der letzte Tag liegt vor dem ersten.</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>Heute liegt in keinem Zeitraum dieses Tarifs.</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>Schreiben Sie Prozentzahlen von 1 bis %1, etwa 80, 100.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>Schreiben Sie eine Zahl, etwa 10 oder 1,5.</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>Das ist mehr, als sich zählen lässt.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>Verbrauch des Datentarifs „%1“</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>Alle Datentarife …</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>&amp;Tarife</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>&amp;Datentarife …</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Frühere Zeiträume …</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>Datentarif einrichten …</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>Nicht anbieten</translation>
+    </message>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>Hier steht, wie viel vom Datentarif übrig ist.</translation>
     </message>
 </context>
 <context>
@@ -516,6 +893,21 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>In diesem Tempo sind es am Ende %1.</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>Monatlich ab Tag %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>Jeden Tag ab %1</numerusform>
+            <numerusform>Alle %n Tage ab %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>Einmal von %1 bis %2</translation>
     </message>
 </context>
 <context>

@@ -24,5 +24,12 @@
             <numerusform>%1 used, %n days left</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>Every day from %1</numerusform>
+            <numerusform>Every %n days from %1</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -18,6 +18,8 @@ private slots:
     void writesSizesAndRatesAsTheHistoryDoes();
     void writesShortSizes_data();
     void writesShortSizes();
+    void writesSizesToBeReadAgain_data();
+    void writesSizesToBeReadAgain();
     void writesLessThanNothing();
     void readsSizes_data();
     void readsSizes();
@@ -86,6 +88,35 @@ void SizeTextTest::writesShortSizes()
 {
     QFETCH(qint64, bytes);
     QTEST(shortSizeText(bytes), "size");
+}
+
+void SizeTextTest::writesSizesToBeReadAgain_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("size");
+    const auto row = [](const char *name, qint64 bytes, const char *size) {
+        QTest::newRow(name) << bytes << QString::fromLatin1(size);
+    };
+    row("nothing", 0, "0 B");
+    row("a number of bytes", 1000, "1000 B");
+    row("a whole number", 10737418240, "10 GB");
+    row("a fraction", 1610612736, "1.5 GB");
+    row("a part of a byte was cut", 1664299827, "1.55 GB");
+    row("a byte more", 1664299828, "1664299828 B");
+    row("a fraction of a unit that is less than one", 536870912, "512 MB");
+    row("terabytes", 2748779069440, "2.5 TB");
+    row("less than nothing", -2048, "-2 KB");
+    row("the largest", std::numeric_limits<qint64>::max(), "9223372036854775807 B");
+}
+
+void SizeTextTest::writesSizesToBeReadAgain()
+{
+    QFETCH(qint64, bytes);
+    const WrittenSize written = writtenSize(bytes);
+    const QString size = written.number + ' ' + written.unit;
+    QTEST(size, "size");
+    QCOMPARE(bytesIn(size.toStdString())->value, bytes);
+    QVERIFY(writtenUnits().contains(written.unit));
 }
 
 void SizeTextTest::writesLessThanNothing()

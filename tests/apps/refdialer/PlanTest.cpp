@@ -3,6 +3,7 @@
 
 #include "refhost/libcore/Host.h"
 
+#include <QPushButton>
 #include <QTest>
 
 using namespace history;
@@ -47,4 +48,30 @@ Connection movedIn(const QString &hour, std::int64_t bytes, bool isRoaming)
     moved.downloadedBytes = bytes;
     moved.hours = {{utcOf(hour), isRoaming, 0, bytes}};
     return moved;
+}
+
+void press(const QWidget &window, const QString &text)
+{
+    for (QPushButton *const button : window.findChildren<QPushButton *>()) {
+        if (button->text().remove('&') == text && button->window() == &window)
+            return button->click();
+    }
+    qFatal("There is no button %s.", qPrintable(text));
+}
+
+void choose(const QWidget &window, const QString &name, const QString &text)
+{
+    auto &box = named<QComboBox>(window, name);
+    box.setCurrentIndex(box.findText(text));
+    QCOMPARE(box.currentText(), text);
+}
+
+QStringList messagesIn(const QWidget &window)
+{
+    QStringList texts;
+    for (const QLabel *const label : window.findChildren<QLabel *>()) {
+        if (label->wordWrap() && !label->isHidden())
+            texts.append(label->text());
+    }
+    return texts;
 }

@@ -7,6 +7,9 @@
 #include "StoreTestCase.h"
 #include "apps/refdialer/PlanWatch.h"
 
+#include <QComboBox>
+#include <QLabel>
+
 #include <memory>
 
 constexpr std::int64_t megabyte = 1 << 20;
@@ -37,3 +40,27 @@ history::DataPlan planCalled(const std::string &name,
 
 /// A connection that received so much in the hour that begins then.
 history::Connection movedIn(const QString &hour, std::int64_t bytes, bool isRoaming = false);
+
+/// The widget that this text names to those who cannot see it, or that stands beside the
+/// label with it.
+template <typename Widget>
+Widget &named(const QWidget &window, const QString &name)
+{
+    for (Widget *const each : window.findChildren<Widget *>()) {
+        if (each->accessibleName() == name)
+            return *each;
+    }
+    for (const QLabel *const label : window.findChildren<QLabel *>()) {
+        auto *const widget = qobject_cast<Widget *>(label->buddy());
+        if (widget && label->text().remove('&') == name + ':')
+            return *widget;
+    }
+    qFatal("There is no %s.", qPrintable(name));
+}
+
+/// Presses the window's button with this text.
+void press(const QWidget &window, const QString &text);
+/// Chooses the entry with this text in the box of that name.
+void choose(const QWidget &window, const QString &name, const QString &text);
+/// The messages that a dialog shows, from top to bottom.
+QStringList messagesIn(const QWidget &window);

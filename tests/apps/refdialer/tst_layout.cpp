@@ -3,6 +3,11 @@
 #include "HistoryWindow.h"
 #include "apps/common/ProblemText.h"
 #include "apps/refdialer/ClosingChoice.h"
+#include "apps/refdialer/PastPeriodsDialog.h"
+#include "apps/refdialer/PlanDialog.h"
+#include "apps/refdialer/PlanEditor.h"
+#include "apps/refdialer/PlanLine.h"
+#include "apps/refdialer/PlanWatch.h"
 #include "apps/refdialer/SettingsDialog.h"
 #include "apps/refdialer/StateLine.h"
 #include "apps/refdialer/SummaryChoice.h"
@@ -164,6 +169,30 @@ void lookAtTheStatistics(HistoryWindow &history, const Look &look)
         lookAtModal(look, [&history] { QVERIFY(history.plugin().showStatistics()); });
 }
 
+void lookAtThePlans(HistoryWindow &history, const Look &look)
+{
+    auto store = history::Store::openOrCreate(history.storePath());
+    history::DataPlan plan;
+    plan.name = profile.toStdString();
+    plan.amount = 1023LL << 30;
+    plan.period = history::EveryDays{28};
+    QVERIFY(store.value().setPlan(plan));
+    refdialer::PlanWatch plans(QString::fromStdString(history.storePath()));
+    plans.finish();
+    refdialer::PlanLine line(plans);
+    line.resize(history.window().width(), line.sizeHint().height());
+    refdialer::PlanDialog dialog(plans, &history.window());
+    refdialer::PlanEditor editor(plans, plan, &history.window());
+    refdialer::PastPeriodsDialog periods(plans, 0, &history.window());
+    plans.finish();
+    for (QWidget *const window :
+         std::initializer_list<QWidget *>{&line, &dialog, &editor, &periods}) {
+        window->show();
+        look(*window);
+        window->close();
+    }
+}
+
 /// A new window or page gets a line here.
 const struct {
     const char *name;
@@ -178,6 +207,7 @@ const struct {
     {"deletion", lookAtTheDeletion},
     {"summary", lookAtTheSummary},
     {"statistics", lookAtTheStatistics},
+    {"plans", lookAtThePlans},
 };
 
 template <class Widget>

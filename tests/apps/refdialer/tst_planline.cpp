@@ -1,16 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "LocalZone.h"
 #include "PlanTest.h"
+#include "apps/refdialer/PastPeriodsDialog.h"
+#include "apps/refdialer/PlanDialog.h"
+#include "apps/refdialer/PlanEditor.h"
 #include "apps/refdialer/PlanLine.h"
+#include "apps/refdialer/PlanMenu.h"
 #include "refhost/libcore/Host.h"
 
 #include <SQLiteCpp/Database.h>
 
+#include <QApplication>
+#include <QClipboard>
 #include <QProgressBar>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTableWidget>
 #include <QTest>
 
 using namespace history;
+using refdialer::PastPeriodsDialog;
+using refdialer::PlanDialog;
+using refdialer::PlanEditor;
 using refdialer::PlanLine;
+using refdialer::PlanMenu;
 using refdialer::PlanWatch;
 
 namespace
@@ -36,6 +49,26 @@ QString shownText(const PlanLine &line)
     return parts.join('|');
 }
 
+/// 3 MB in the last hour of October, 5 MB in November's first.
+void addPast(Store &store)
+{
+    QVERIFY(store.add(movedIn("2026-09-10T10:00:00Z", 12 * megabyte)));
+    QVERIFY(store.add(movedIn("2026-10-31T22:00:00Z", 3 * megabyte)));
+    QVERIFY(store.add(movedIn("2026-10-31T23:00:00Z", 5 * megabyte)));
+}
+
+QStringList rowsOf(const QTableWidget &table)
+{
+    QStringList rows;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        QStringList cells{table.verticalHeaderItem(row)->text()};
+        for (int column = 0; column < table.columnCount(); ++column)
+            cells.append(table.item(row, column)->text());
+        rows.append(cells.join('|'));
+    }
+    return rows;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(DataPlan)
@@ -51,7 +84,8 @@ private slots:
     void tellsHowAPlanStands_data();
     void tellsHowAPlanStands();
     void marksHowMuchIsUsedWithTheBar();
-    void takesNoRoomWithoutAPlan();
+    void takesNoRoomWithoutAHistory();
+    void offersAPlan();
     void showsTheWorstOfManyPlans();
     void followsTheRunningConnection();
     void followsOtherProgramsByItself();
@@ -60,6 +94,10 @@ private slots:
     void waitsForALockedHistory();
     void saysWhyPlansCannotBeRead();
     void speaksTheLanguageOfTheProgram();
+
+    void showsThePeriodsBefore();
+    void copiesPeriods();
+    void opensItsDialogsFromTheMenu();
 
 private:
     QString shown();
@@ -70,6 +108,7 @@ private:
 void TestPlanLine::init()
 {
     PlanTest::init();
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder->path());
     m_line = std::make_unique<PlanLine>(*m_watch);
     m_line->setLocale(QLocale("en_GB"));
 }
@@ -175,16 +214,36 @@ void TestPlanLine::marksHowMuchIsUsedWithTheBar()
     QCOMPARE(bar->text(), QString("200 %"));
 }
 
-void TestPlanLine::takesNoRoomWithoutAPlan()
+void TestPlanLine::takesNoRoomWithoutAHistory()
 {
-    readPlans();
     QVERIFY(m_line->isHidden());
-    QVERIFY(m_store->setPlan(planCalled("home", gigabyte)));
-    readPlans();
-    QVERIFY(!m_line->isHidden());
-    QVERIFY(m_store->removePlan("home").value());
+    m_store.reset();
+    QVERIFY(QFile::remove(QString::fromStdString(m_path)));
     QCOMPARE(shown(), QString());
     QVERIFY(m_line->isHidden());
+}
+
+void TestPlanLine::offersAPlan()
+{
+    const QString offer = "See here how much of a data plan is left.|Set up a data "
+                          "plan…|Do not offer";
+    QCOMPARE(shown(), offer);
+    QVERIFY(!m_line->isHidden());
+    QSignalSpy wanted(m_line.get(), &PlanLine::planWanted);
+    press(*m_line, "Set up a data plan…");
+    QCOMPARE(wanted.size(), 1);
+    QVERIFY(m_store->setPlan(planCalled("home", gigabyte)));
+    QVERIFY(shown().startsWith("home|0 %"));
+    QVERIFY(m_store->removePlan("home").value());
+    QCOMPARE(shown(), offer);
+
+    press(*m_line, "Do not offer");
+    QVERIFY(m_line->isHidden());
+    const PlanLine later(*m_watch);
+    QVERIFY(later.isHidden());
+    QVERIFY(m_store->setPlan(planCalled("home", gigabyte)));
+    readPlans();
+    QVERIFY(!later.isHidden());
 }
 
 void TestPlanLine::showsTheWorstOfManyPlans()
@@ -193,9 +252,13 @@ void TestPlanLine::showsTheWorstOfManyPlans()
     for (const auto &[name, amount] : std::vector<std::pair<const char *, std::int64_t>>{
              {"a", 100 * megabyte}, {"b", 9 * megabyte}, {"c", 80 * megabyte}, {"d", megabyte}})
         QVERIFY(m_store->setPlan(planCalled(name, amount)));
-    QCOMPARE(shown(), QString("d|800 %|Used up|8 MB of 1 MB used, 7 MB over, 12 days left|"
-                              "b|88 %|80 % reached|8 MB of 9 MB used, 12 days left, 85.3 KB a day|"
-                              "a|8 %|8 MB of 100 MB used, 12 days left, 7.67 MB a day"));
+    QCOMPARE(shown(),
+             QString("All data plans…|d|800 %|Used up|8 MB of 1 MB used, 7 MB over, 12 days left|"
+                     "b|88 %|80 % reached|8 MB of 9 MB used, 12 days left, 85.3 KB a day|"
+                     "a|8 %|8 MB of 100 MB used, 12 days left, 7.67 MB a day"));
+    QSignalSpy wanted(m_line.get(), &PlanLine::plansWanted);
+    press(*m_line, "All data plans…");
+    QCOMPARE(wanted.size(), 1);
 }
 
 void TestPlanLine::followsTheRunningConnection()
@@ -279,6 +342,66 @@ void TestPlanLine::speaksTheLanguageOfTheProgram()
     QTRY_COMPARE(
         shownText(*m_line),
         QString("home|80 %|80 % erreicht|8 GB von 10 GB verbraucht, noch 12 Tage, 171 MB am Tag"));
+}
+
+void TestPlanLine::showsThePeriodsBefore()
+{
+    addPast(*m_store);
+    DataPlan plan = planOf(MonthlyFrom{1}, 10 * megabyte);
+    plan.usedElsewhere = UsedElsewhere{megabyte, dayNumber("2026-11-05")};
+    QVERIFY(m_store->setPlan(plan));
+    DataPlan over = planCalled("over");
+    over.period = OnceBetween{dayNumber("2026-10-01"), dayNumber("2026-10-31")};
+    over.key = m_store->setPlan(over).value();
+    readPlans();
+    PastPeriodsDialog dialog(*m_watch, over.key, m_line.get());
+    m_watch->finish();
+    const auto &table = *dialog.findChild<QTableWidget *>();
+    QCOMPARE(rowsOf(table), QStringList("|01/10/2026|31/10/2026|3.00 MB|"));
+    choose(dialog, "Plan", "plan");
+    m_watch->finish();
+    QCOMPARE(rowsOf(table), (QStringList{"Present|01/11/2026|30/11/2026|6.00 MB|4.00 MB",
+                                         "|01/10/2026|31/10/2026|3.00 MB|7.00 MB",
+                                         "|01/09/2026|30/09/2026|12.00 MB|-2.00 MB"}));
+    QCOMPARE(messagesIn(dialog), QStringList());
+}
+
+void TestPlanLine::copiesPeriods()
+{
+    addPast(*m_store);
+    QVERIFY(m_store->setPlan(planOf(MonthlyFrom{1}, 10 * megabyte)));
+    readPlans();
+    PastPeriodsDialog dialog(*m_watch, 0, m_line.get());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    m_watch->finish();
+    auto &table = *dialog.findChild<QTableWidget *>();
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(),
+             QString("First day\tLast day\tUsed\tLeft\n"
+                     "01/11/2026\t30/11/2026\t5.00 MB\t5.00 MB\n"
+                     "01/10/2026\t31/10/2026\t3.00 MB\t7.00 MB\n"));
+    table.clearSelection();
+    press(dialog, "Copy");
+    QCOMPARE(QApplication::clipboard()->text().count('\n'), 4);
+}
+
+void TestPlanLine::opensItsDialogsFromTheMenu()
+{
+    PlanMenu menu(*m_watch, m_line.get());
+    QAction *const plans = menu.actions().at(0);
+    QAction *const periods = menu.actions().at(1);
+    QVERIFY(!periods->isEnabled());
+    plans->trigger();
+    QVERIFY(m_line->findChild<PlanDialog *>());
+    QVERIFY(m_store->setPlan(planCalled("home")));
+    readPlans();
+    periods->trigger();
+    QVERIFY(m_line->findChild<PastPeriodsDialog *>());
+    menu.addPlan();
+    QVERIFY(m_line->findChild<PlanEditor *>());
 }
 
 QTEST_MAIN(TestPlanLine)
