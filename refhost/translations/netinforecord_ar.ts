@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>الملف (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>رقم الشريحة أو آخره</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>كل الاتصالات</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>ملف تعريف واحد (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>شريحة SIM واحدة</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>الاتصالات التي تشملها الباقة</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>بلا اسم</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>بلا رقم شريحة</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>فترات باقة بيانات</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>الفترات، والحالية أولًا</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>اليوم الأول</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>اليوم الأخير</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>المستهلك</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>المتبقي</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>ال&amp;باقة:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>قراءة السجل…</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>لم تبدأ أي فترة من هذه الباقة.</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>الحالية</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>كل شهر</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>كل عدد من الأيام</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>مرة واحدة (مسبقة الدفع)</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>نوع الفترة</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>من &amp;يوم الشهر:</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>الشهر الذي ليس فيه هذا اليوم يبدأ بآخر أيامه.</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>عدد الأ&amp;يام:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>اليوم الأ&amp;ول من فترة:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>اليوم الأ&amp;ول:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>اليوم الأ&amp;خير:</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;تحرير…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>إ&amp;زالة…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>الفترات ال&amp;سابقة…</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>باقات البيانات</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>الباقة</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>الكمية</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>الفترة</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>إ&amp;ضافة…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>لا توجد باقة بيانات بعد. عند وجودها تعرض النافذة كم بقي منها وتحذر قبل نفادها.</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>هل تريد إزالة باقة البيانات «%1»؟</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>يبقى السجل كما هو.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>إ&amp;زالة</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>محليًا</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>أثناء التجوال</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>محليًا وأثناء التجوال</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>المرسل والمستلم</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>المستلم</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>المرسل</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>بلا حد</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>لا شيء</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>باقة بيانات جديدة</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>باقة بيانات</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>الا&amp;سم:</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>تشم&amp;ل:</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>أي&amp;ن:</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>ما يُح&amp;تسب:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>ال&amp;كمية في الفترة:</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>ال&amp;فترة:</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>المست&amp;هلك في مكان آخر في هذه الفترة:</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>الت&amp;حذير عند (%):</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>الكمية في الفترة</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>وحدة الكمية</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>المستهلك في مكان آخر في هذه الفترة</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>وحدة المستهلك في مكان آخر</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>ما يحتسبه مزود الخدمة ولا يعرفه السجل، مثل ما قبل بدايته؛ وما دون 0 يُطرح.</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>أبدًا</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>أعط الباقة اسمًا.</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>أعط الباقة اسمًا أقصر.</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>لباقة أخرى هذا الاسم من قبل.</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>اكتب رقم الشريحة أو آخره.</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>حدد ملف التعريف.</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>ليس لأي شريحة رقم بهذا الطول.</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>لا تقل الباقة عن لا شيء.</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>اليوم الأخير قبل الأول.</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>اليوم ليس في أي فترة من هذه الباقة.</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>اكتب نسبًا مئوية من 1 إلى %1، مثل 80, 100.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>اكتب عددًا، مثل 10 أو 1.5.</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>هذا أكثر مما يمكن عدّه.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>استهلاك باقة البيانات «%1»</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>كل باقات البيانات…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>ال&amp;باقات</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>&amp;باقات البيانات…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>الفترات ال&amp;سابقة…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>اعرف هنا كم بقي من باقة البيانات.</translation>
+    </message>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>إعداد باقة بيانات…</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>عدم العرض</translation>
     </message>
 </context>
 <context>
@@ -528,6 +905,25 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>بهذه الوتيرة سيكون المجموع في النهاية ‎%1‎.</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>شهريًا من اليوم %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>كل %n يوم من %1</numerusform>
+            <numerusform>كل يوم من %1</numerusform>
+            <numerusform>كل يومين من %1</numerusform>
+            <numerusform>كل %n أيام من %1</numerusform>
+            <numerusform>كل %n يومًا من %1</numerusform>
+            <numerusform>كل %n يوم من %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>مرة واحدة من %1 إلى %2</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>Perfil (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>Número de la SIM, o su final</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Todas las conexiones</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>Un perfil (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>Una SIM</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>Conexiones a las que se aplica el plan</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Sin nombre</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>Sin número de SIM</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>Períodos de un plan de datos</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>Períodos, primero el actual</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Primer día</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Último día</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Usado</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Restante</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>&amp;Plan:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opiar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>Leyendo el historial…</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>No ha comenzado ningún período de este plan.</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Actual</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>Cada mes</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>Cada tantos días</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>Una vez (prepago)</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>Tipo de período</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>Desde el día del &amp;mes:</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>Un mes sin ese día comienza con el último que tenga.</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>Día&amp;s:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>Pr&amp;imer día de un período:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>Pr&amp;imer día:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>Ú&amp;ltimo día:</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Editar…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>&amp;Quitar…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Períodos anteriores…</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>Planes de datos</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Cantidad</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Período</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Añadir…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>Aún no hay ningún plan de datos. Con uno, la ventana muestra cuánto queda de él y avisa antes de que se agote.</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>¿Quitar el plan de datos «%1»?</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>El historial queda como está.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>Sin itinerancia</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>En itinerancia</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>Sin itinerancia y en itinerancia</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>Enviado y recibido</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>sin límite</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>Plan de datos nuevo</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>Plan de datos</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>&amp;Para:</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>&amp;Dónde:</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>&amp;Qué cuenta:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>Can&amp;tidad por período:</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>P&amp;eríodo:</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>&amp;Usado en otra parte en este período:</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>&amp;Avisar al (en %):</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>Cantidad por período</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Unidad de la cantidad</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>Usado en otra parte en este período</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>Unidad de lo usado en otra parte</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>Lo que el operador cuenta y el historial no conoce, por ejemplo de antes de su comienzo; menos de 0 lo resta.</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nunca</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>Ponga un nombre al plan.</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>Ponga un nombre más corto al plan.</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>Otro plan ya tiene este nombre.</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>Escriba el número de la SIM o su final.</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>Indique el perfil.</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>Ninguna SIM tiene un número tan largo.</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>Un plan no puede ser de menos que nada.</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>El último día es anterior al primero.</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>Hoy no está en ningún período de este plan.</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>Escriba porcentajes de 1 a %1, por ejemplo 80, 100.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>Escriba un número, por ejemplo 10 o 1,5.</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>Es más de lo que se puede contar.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>Consumo del plan de datos «%1»</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>Todos los planes de datos…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>&amp;Planes</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>Planes de &amp;datos…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Períodos anteriores…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>Vea aquí cuánto queda de un plan de datos.</translation>
+    </message>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>Configurar un plan de datos…</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>No ofrecer</translation>
     </message>
 </context>
 <context>
@@ -516,6 +893,21 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>A este ritmo serán %1 al final.</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>Cada mes desde el día %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>Cada %n día desde el %1</numerusform>
+            <numerusform>Cada %n días desde el %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>Una vez, del %1 al %2</translation>
     </message>
 </context>
 <context>

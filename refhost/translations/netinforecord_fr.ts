@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>Profil (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>Numéro de la SIM, ou sa fin</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Toutes les connexions</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>Un profil (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>Une SIM</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>Connexions auxquelles le forfait s’applique</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Sans nom</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>Sans numéro de SIM</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>Périodes d’un forfait</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>Périodes, la période actuelle en premier</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Premier jour</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Dernier jour</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Utilisé</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Restant</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>F&amp;orfait&#xa0;:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>Lecture de l’historique…</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>Aucune période de ce forfait n’a commencé.</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>En cours</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>Chaque mois</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>Tous les N jours</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>Une fois (prépayé)</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>Type de période</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>À partir du &amp;jour du mois&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>Un mois sans ce jour commence par son dernier jour.</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>&amp;Jours&#xa0;:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>Pre&amp;mier jour d’une période&#xa0;:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>Pre&amp;mier jour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>&amp;Dernier jour&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Modifier…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>&amp;Supprimer…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Périodes passées…</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>Forfaits de données</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Forfait</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Période</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Ajouter…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>Il n’y a pas encore de forfait. Avec un forfait, la fenêtre montre combien il en reste et avertit avant qu’il soit épuisé.</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>Supprimer le forfait «&#xa0;%1&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>L’historique reste tel quel.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>Hors itinérance</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>En itinérance</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>Hors itinérance et en itinérance</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>Envoyé et reçu</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>illimité</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>Nouveau forfait</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>Forfait</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>&amp;Pour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>&amp;Où&#xa0;:</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>Ce &amp;qui compte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>&amp;Volume par période&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>Pé&amp;riode&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>Utilisé a&amp;illeurs dans cette période&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>Aver&amp;tir à (en %)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>Volume par période</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Unité du volume</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>Utilisé ailleurs dans cette période</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>Unité de ce qui a été utilisé ailleurs</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>Ce que l’opérateur compte et que l’historique ignore, par exemple avant son début&#xa0;; moins de 0 en retranche.</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>jamais</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>Donnez un nom au forfait.</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>Donnez un nom plus court au forfait.</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>Un autre forfait porte déjà ce nom.</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>Écrivez le numéro de la SIM, ou sa fin.</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>Indiquez le profil.</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>Aucune SIM n’a un numéro aussi long.</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>Un forfait ne peut pas être inférieur à zéro.</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>Le dernier jour précède le premier.</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>Aujourd’hui n’est dans aucune période de ce forfait.</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>Écrivez des pourcentages de 1 à %1, par exemple 80, 100.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>Écrivez un nombre, par exemple 10 ou 1,5.</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>C’est plus qu’on ne peut compter.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>Consommation du forfait «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>Tous les forfaits…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>F&amp;orfaits</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>&amp;Forfaits de données…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Périodes passées…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>Voyez ici ce qu’il reste d’un forfait de données.</translation>
+    </message>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>Définir un forfait…</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>Ne pas proposer</translation>
     </message>
 </context>
 <context>
@@ -516,6 +893,21 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>À ce rythme, ce sera %1 à la fin.</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>Chaque mois à partir du jour %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>Tous les %n jours à partir du %1</numerusform>
+            <numerusform>Tous les %n jours à partir du %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>Une fois, du %1 au %2</translation>
     </message>
 </context>
 <context>

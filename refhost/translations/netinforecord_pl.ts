@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>Profil (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>Numer karty SIM lub jego końcówka</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Wszystkie połączenia</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>Jeden profil (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>Jedna karta SIM</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>Połączenia, których dotyczy plan</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Bez nazwy</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>Bez numeru karty SIM</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>Okresy planu danych</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>Okresy, bieżący jako pierwszy</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Pierwszy dzień</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Ostatni dzień</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Użyto</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Pozostało</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>&amp;Plan:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Zamknij</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>Odczytywanie historii…</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>Żaden okres tego planu jeszcze się nie zaczął.</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Bieżący</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>Co miesiąc</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>Co określoną liczbę dni</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>Jednorazowo (na kartę)</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>Rodzaj okresu</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>Od dnia miesią&amp;ca:</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>Miesiąc bez tego dnia zaczyna się od swojego ostatniego.</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>&amp;Co ile dni:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>Pi&amp;erwszy dzień okresu:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>Pi&amp;erwszy dzień:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>O&amp;statni dzień:</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Edytuj…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>&amp;Usuń…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Poprzednie okresy…</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>Plany danych</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Ilość</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Okres</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Dodaj…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Zamknij</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>Nie ma jeszcze planu danych. Dzięki niemu okno pokaże, ile jeszcze zostało, i ostrzeże przed wyczerpaniem.</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>Usunąć plan danych „%1”?</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>Historia pozostaje bez zmian.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Usuń</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>Poza roamingiem</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>W roamingu</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>Poza roamingiem i w roamingu</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>Wysłane i pobrane</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Pobrane</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Wysłane</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>bez limitu</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nic</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>Nowy plan danych</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>Plan danych</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Anuluj</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nazwa:</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>&amp;Dla:</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>&amp;Gdzie:</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>Co się &amp;liczy:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>&amp;Ilość na okres:</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>&amp;Okres:</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>&amp;Użyto gdzie indziej w tym okresie:</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>Os&amp;trzegaj przy (%):</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>Ilość na okres</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Jednostka ilości</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>Użyto gdzie indziej w tym okresie</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>Jednostka tego, co użyto gdzie indziej</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>To, co liczy operator, a czego nie zna historia, na przykład sprzed jej początku; mniej niż 0 odejmuje.</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nigdy</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>Nadaj planowi nazwę.</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>Nadaj planowi krótszą nazwę.</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>Inny plan ma już tę nazwę.</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>Wpisz numer karty SIM lub jego końcówkę.</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>Podaj profil.</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>Żadna karta SIM nie ma tak długiego numeru.</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>Plan nie może być mniejszy niż nic.</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>Ostatni dzień jest przed pierwszym.</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>Dzisiejszy dzień nie należy do żadnego okresu tego planu.</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>Wpisz wartości procentowe od 1 do %1, na przykład 80, 100.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>Wpisz liczbę, na przykład 10 lub 1,5.</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>To więcej, niż można policzyć.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>Zużycie planu danych „%1”</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>Wszystkie plany danych…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>Pla&amp;ny</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>&amp;Plany danych…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>P&amp;oprzednie okresy…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>Tutaj widać, ile zostało z planu danych.</translation>
+    </message>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>Skonfiguruj plan danych…</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>Nie proponuj</translation>
     </message>
 </context>
 <context>
@@ -519,6 +896,22 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>W tym tempie na koniec będzie %1.</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>Co miesiąc od dnia %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>Co %n dzień od %1</numerusform>
+            <numerusform>Co %n dni od %1</numerusform>
+            <numerusform>Co %n dni od %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>Jednorazowo od %1 do %2</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>Perfil (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>Número do SIM, ou seu final</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Todas as conexões</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>Um perfil (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>Um SIM</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>Conexões às quais o plano se aplica</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Sem nome</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>Sem número de SIM</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>Períodos de um plano de dados</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>Períodos, o atual primeiro</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Primeiro dia</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Último dia</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Usado</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Restante</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>&amp;Plano:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opiar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>Lendo o histórico…</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>Nenhum período deste plano começou.</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Atual</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>Todo mês</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>A cada tantos dias</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>Uma vez (pré-pago)</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>Tipo de período</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>A partir do dia do &amp;mês:</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>Um mês sem esse dia começa em seu último dia.</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>Dia&amp;s:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>Pr&amp;imeiro dia de um período:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>Pr&amp;imeiro dia:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>Ú&amp;ltimo dia:</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Editar…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>&amp;Remover…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Períodos anteriores…</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>Planos de dados</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Quantidade</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Período</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Adicionar…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>Ainda não há plano de dados. Com um, a janela mostra quanto resta dele e avisa antes que se esgote.</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>Remover o plano de dados “%1”?</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>O histórico fica como está.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Remover</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>Sem roaming</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Em roaming</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>Sem roaming e em roaming</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>Enviado e recebido</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recebido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>sem limite</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>Novo plano de dados</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>Plano de dados</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nome:</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>&amp;Para:</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>&amp;Onde:</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>O &amp;que conta:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>Quan&amp;tidade por período:</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>P&amp;eríodo:</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>&amp;Usado em outro lugar neste período:</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>&amp;Avisar em (%):</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>Quantidade por período</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Unidade da quantidade</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>Usado em outro lugar neste período</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>Unidade do que foi usado em outro lugar</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>O que a operadora conta e o histórico não conhece, por exemplo de antes do seu início; menos de 0 subtrai.</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nunca</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>Dê um nome ao plano.</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>Dê um nome mais curto ao plano.</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>Outro plano já tem esse nome.</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>Escreva o número do SIM ou seu final.</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>Informe o perfil.</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>Nenhum SIM tem um número tão longo.</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>Um plano não pode ser menor que nada.</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>O último dia vem antes do primeiro.</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>Hoje não está em nenhum período deste plano.</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>Escreva porcentagens de 1 a %1, por exemplo 80, 100.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>Escreva um número, por exemplo 10 ou 1,5.</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>É mais do que se pode contar.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>Consumo do plano de dados “%1”</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>Todos os planos de dados…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>&amp;Planos</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>Planos de &amp;dados…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Períodos anteriores…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>Veja aqui quanto resta de um plano de dados.</translation>
+    </message>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>Configurar um plano de dados…</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>Não oferecer</translation>
     </message>
 </context>
 <context>
@@ -516,6 +893,21 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>Neste ritmo, serão %1 no final.</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>Todo mês a partir do dia %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>A cada %n dia a partir de %1</numerusform>
+            <numerusform>A cada %n dias a partir de %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>Uma vez, de %1 a %2</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>Профиль (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>Номер SIM или его конец</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Все соединения</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>Один профиль (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>Одна SIM</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>Соединения, к которым относится план</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Без названия</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>Без номера SIM</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>Периоды тарифного плана</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>Периоды, текущий первым</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Первый день</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Последний день</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Израсходовано</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Осталось</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>&amp;План:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>Чтение истории…</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>Ни один период этого плана ещё не начался.</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Текущий</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>Каждый месяц</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>Каждые несколько дней</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>Один раз (предоплата)</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>Вид периода</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>С числа &amp;месяца:</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>Месяц без этого числа начинается с последнего.</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>Дне&amp;й:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>П&amp;ервый день периода:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>П&amp;ервый день:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>Пос&amp;ледний день:</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Изменить…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>&amp;Удалить…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Прошлые периоды…</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>Тарифные планы</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>План</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Объём</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Период</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Добавить…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>Тарифного плана пока нет. С ним окно показывает, сколько осталось, и предупреждает, прежде чем он будет исчерпан.</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>Удалить тарифный план «%1»?</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>История останется без изменений.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>Вне роуминга</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>В роуминге</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>Вне роуминга и в роуминге</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>Отправленное и полученное</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Полученное</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Отправленное</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>не ограничен</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>ничего</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>Новый тарифный план</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>Тарифный план</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>О&amp;тмена</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Название:</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>&amp;Для:</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>&amp;Где:</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>&amp;Что считается:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>&amp;Объём за период:</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>&amp;Период:</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>&amp;Использовано в другом месте за этот период:</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>П&amp;редупреждать при (%):</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>Объём за период</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Единица объёма</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>Использовано в другом месте за этот период</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>Единица использованного в другом месте</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>То, что учитывает оператор и чего не знает история, например до её начала; меньше 0 — вычитается.</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>никогда</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>Дайте плану название.</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>Дайте плану название покороче.</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>Другой план уже так называется.</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>Введите номер SIM или его конец.</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>Укажите профиль.</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>У SIM не бывает такого длинного номера.</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>План не может быть меньше нуля.</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>Последний день раньше первого.</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>Сегодняшний день не входит ни в один период этого плана.</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>Введите проценты от 1 до %1, например 80, 100.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>Введите число, например 10 или 1,5.</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>Это больше, чем можно сосчитать.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>Расход по тарифному плану «%1»</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>Все тарифные планы…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>&amp;Тарифы</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>&amp;Тарифные планы…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Прошлые периоды…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>Здесь видно, сколько осталось от тарифного плана.</translation>
+    </message>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>Настроить тарифный план…</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>Не предлагать</translation>
     </message>
 </context>
 <context>
@@ -519,6 +896,22 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>При таком темпе в конце будет %1.</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>Ежемесячно с %1 числа</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>Каждый %n день с %1</numerusform>
+            <numerusform>Каждые %n дня с %1</numerusform>
+            <numerusform>Каждые %n дней с %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>Один раз с %1 по %2</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>Profil (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>SIM numarası ya da sonu</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>Tüm bağlantılar</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>Bir profil (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>Bir SIM</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>Planın geçerli olduğu bağlantılar</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Adsız</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>SIM numarası olmayan</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>Bir veri planının dönemleri</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>Dönemler, şimdiki ilk sırada</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>İlk gün</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Son gün</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Kullanılan</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Kalan</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>&amp;Plan:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>K&amp;opyala</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Kapat</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>Geçmiş okunuyor…</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>Bu planın hiçbir dönemi başlamadı.</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>Şimdiki</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>Her ay</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>Belirli sayıda günde bir</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>Bir kez (ön ödemeli)</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>Dönem türü</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>Ayın şu &amp;gününden:</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>Bu günü olmayan bir ay son günüyle başlar.</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>&amp;Gün sayısı:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>Bir dönemin i&amp;lk günü:</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>İ&amp;lk gün:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>S&amp;on gün:</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Düzenle…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>Ka&amp;ldır…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Geçmiş dönemler…</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>Veri planları</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Miktar</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Dönem</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Ekle…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Kapat</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>Henüz veri planı yok. Bir plan olduğunda pencere ne kadar kaldığını gösterir ve tükenmeden önce uyarır.</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>“%1” veri planı kaldırılsın mı?</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>Geçmiş olduğu gibi kalır.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Ka&amp;ldır</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>Dolaşım dışı</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Dolaşım</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>Dolaşım dışı ve dolaşım</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>Gönderilen ve alınan</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Alınan</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gönderilen</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>sınırsız</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>hiç</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>Yeni veri planı</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>Veri planı</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Ad:</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>&amp;Kapsam:</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>&amp;Nerede:</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>&amp;Sayılan:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>Dönem &amp;miktarı:</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>&amp;Dönem:</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>Bu dönemde &amp;başka yerde kullanılan:</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>&amp;Uyarı yüzdeleri:</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>Dönem miktarı</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Miktarın birimi</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>Bu dönemde başka yerde kullanılan</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>Başka yerde kullanılanın birimi</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>Operatörün saydığı ve geçmişin bilmediği, örneğin başlangıcından önceki; 0’dan azı düşülür.</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>hiçbir zaman</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>Plana bir ad verin.</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>Plana daha kısa bir ad verin.</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>Başka bir planın adı zaten bu.</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>SIM numarasını ya da sonunu yazın.</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>Profilin adını verin.</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>Hiçbir SIM bu kadar uzun numaralı değildir.</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>Sıfırdan az plan olamaz.</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>Son gün ilk günden önce.</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>Bugün bu planın hiçbir döneminde değil.</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>1 ile %1 arasında yüzdeler yazın, örneğin 80, 100.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>Bir sayı yazın, örneğin 10 ya da 1,5.</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>Bu, sayılabilecek olandan fazla.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>“%1” veri planının kullanımı</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>Tüm veri planları…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>&amp;Planlar</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>&amp;Veri planları…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>&amp;Geçmiş dönemler…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>Bir veri planından ne kadar kaldığını burada görün.</translation>
+    </message>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>Veri planı oluştur…</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>Önerme</translation>
     </message>
 </context>
 <context>
@@ -513,6 +890,20 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>Bu hızla sonunda %1 olacak.</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>Her ayın %1. gününden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>%1 tarihinden %n günde bir</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>%1 – %2 arasında bir kez</translation>
     </message>
 </context>
 <context>

@@ -380,6 +380,41 @@
     </message>
 </context>
 <context>
+    <name>refdialer::CoverageEdit</name>
+    <message>
+        <source>Profile (APN)</source>
+        <translation>配置 (APN)</translation>
+    </message>
+    <message>
+        <source>Number of the SIM, or its end</source>
+        <translation>SIM 卡号或其尾号</translation>
+    </message>
+    <message>
+        <source>All connections</source>
+        <translation>所有连接</translation>
+    </message>
+    <message>
+        <source>One profile (APN)</source>
+        <translation>一个配置 (APN)</translation>
+    </message>
+    <message>
+        <source>One SIM</source>
+        <translation>一张 SIM 卡</translation>
+    </message>
+    <message>
+        <source>Connections that the plan is for</source>
+        <translation>套餐适用的连接</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>无名称</translation>
+    </message>
+    <message>
+        <source>Without a SIM number</source>
+        <translation>无 SIM 卡号</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -418,6 +453,100 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PastPeriodsDialog</name>
+    <message>
+        <source>Periods of a data plan</source>
+        <translation>流量套餐的周期</translation>
+    </message>
+    <message>
+        <source>Periods, the present one first</source>
+        <translation>周期，当前周期在前</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>第一天</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>最后一天</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>已用</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>剩余</translation>
+    </message>
+    <message>
+        <source>&amp;Plan:</source>
+        <translation>套餐(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>复制(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>正在读取历史记录…</translation>
+    </message>
+    <message>
+        <source>No period of this plan has begun.</source>
+        <translation>此套餐尚无已开始的周期。</translation>
+    </message>
+    <message>
+        <source>Present</source>
+        <translation>当前</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PeriodEdit</name>
+    <message>
+        <source>Every month</source>
+        <translation>每月</translation>
+    </message>
+    <message>
+        <source>Every so many days</source>
+        <translation>每隔若干天</translation>
+    </message>
+    <message>
+        <source>Once (prepaid)</source>
+        <translation>一次性（预付费）</translation>
+    </message>
+    <message>
+        <source>Kind of period</source>
+        <translation>周期类型</translation>
+    </message>
+    <message>
+        <source>From &amp;day of the month:</source>
+        <translation>每月起始日(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>A month without this day begins with its last one.</source>
+        <translation>没有该日的月份从其最后一天开始。</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>天数(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day of a period:</source>
+        <translation>周期的第一天(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>F&amp;irst day:</source>
+        <translation>第一天(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>最后一天(&amp;L)：</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
@@ -436,6 +565,220 @@
     </message>
 </context>
 <context>
+    <name>refdialer::PlanDialog</name>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>编辑(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>移除(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>以往周期(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Data plans</source>
+        <translation>流量套餐</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>套餐</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>流量</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>周期</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>添加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
+        <translation>还没有流量套餐。设置套餐后，窗口会显示剩余流量，并在用完之前提醒您。</translation>
+    </message>
+    <message>
+        <source>Remove the data plan &quot;%1&quot;?</source>
+        <translation>要移除流量套餐“%1”吗？</translation>
+    </message>
+    <message>
+        <source>The history stays as it is.</source>
+        <translation>历史记录保持不变。</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanEditor</name>
+    <message>
+        <source>At home</source>
+        <translation>非漫游</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>漫游</translation>
+    </message>
+    <message>
+        <source>At home and roaming</source>
+        <translation>非漫游和漫游</translation>
+    </message>
+    <message>
+        <source>Sent and received</source>
+        <translation>已发送和已接收</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>not limited</source>
+        <translation>不限量</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>New data plan</source>
+        <translation>新建流量套餐</translation>
+    </message>
+    <message>
+        <source>Data plan</source>
+        <translation>流量套餐</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;For:</source>
+        <translation>适用于(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;Where:</source>
+        <translation>位置(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>W&amp;hat counts:</source>
+        <translation>计入(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>&amp;Amount in a period:</source>
+        <translation>每周期流量(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation>周期(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Used elsewhere in this period:</source>
+        <translation>本周期在别处已用(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Warn a&amp;t percent:</source>
+        <translation>提醒百分比(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Amount in a period</source>
+        <translation>每周期流量</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>流量单位</translation>
+    </message>
+    <message>
+        <source>Used elsewhere in this period</source>
+        <translation>本周期在别处已用</translation>
+    </message>
+    <message>
+        <source>Unit of what was used elsewhere</source>
+        <translation>别处已用流量的单位</translation>
+    </message>
+    <message>
+        <source>What the provider counts and the history does not know of, such as before it began; less than 0 takes off.</source>
+        <translation>运营商计入而历史记录不知道的流量，例如记录开始之前的；小于 0 表示扣减。</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>从不</translation>
+    </message>
+    <message>
+        <source>Give the plan a name.</source>
+        <translation>请为套餐命名。</translation>
+    </message>
+    <message>
+        <source>Give the plan a shorter name.</source>
+        <translation>请为套餐取一个较短的名称。</translation>
+    </message>
+    <message>
+        <source>Another plan has this name already.</source>
+        <translation>已有另一个套餐使用此名称。</translation>
+    </message>
+    <message>
+        <source>Write the SIM&apos;s number, or the end of it.</source>
+        <translation>请输入 SIM 卡号或其尾号。</translation>
+    </message>
+    <message>
+        <source>Name the profile.</source>
+        <translation>请指定配置。</translation>
+    </message>
+    <message>
+        <source>No SIM has so long a number.</source>
+        <translation>没有这么长的 SIM 卡号。</translation>
+    </message>
+    <message>
+        <source>There is no plan of less than nothing.</source>
+        <translation>套餐不能少于零。</translation>
+    </message>
+    <message>
+        <source>The last day is before the first one.</source>
+        <translation>最后一天早于第一天。</translation>
+    </message>
+    <message>
+        <source>Today is in no period of this plan.</source>
+        <translation>今天不在此套餐的任何周期内。</translation>
+    </message>
+    <message>
+        <source>Write percentages from 1 to %1, such as 80, 100.</source>
+        <translation>请输入 1 到 %1 的百分比，例如 80, 100。</translation>
+    </message>
+    <message>
+        <source>Write a number, such as 10 or 1.5.</source>
+        <translation>请输入数字，例如 10 或 1.5。</translation>
+    </message>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>超出了可以计数的范围。</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::PlanLine</name>
     <message>
         <source>Data plans</source>
@@ -448,6 +791,40 @@
     <message>
         <source>Used of the data plan &quot;%1&quot;</source>
         <translation>流量套餐“%1”的用量</translation>
+    </message>
+    <message>
+        <source>All data plans…</source>
+        <translation>所有流量套餐…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanMenu</name>
+    <message>
+        <source>&amp;Plans</source>
+        <translation>套餐(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Data plans…</source>
+        <translation>流量套餐(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Past periods…</source>
+        <translation>以往周期(&amp;P)…</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::PlanOffer</name>
+    <message>
+        <source>See here how much of a data plan is left.</source>
+        <translation>在此查看流量套餐还剩多少。</translation>
+    </message>
+    <message>
+        <source>Set up a data plan…</source>
+        <translation>设置流量套餐…</translation>
+    </message>
+    <message>
+        <source>Do not offer</source>
+        <translation>不再提示</translation>
     </message>
 </context>
 <context>
@@ -513,6 +890,20 @@
     <message>
         <source>At this pace it will be %1 in the end.</source>
         <translation>按此速度，最终将达到 %1。</translation>
+    </message>
+    <message>
+        <source>Monthly from day %1</source>
+        <translation>每月 %1 日起</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n days from %1</source>
+        <translation>
+            <numerusform>自 %1 起每 %n 天</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Once from %1 to %2</source>
+        <translation>一次性，%1 至 %2</translation>
     </message>
 </context>
 <context>
