@@ -192,7 +192,7 @@ QString PlanEditor::takeName()
         return tr("Give the plan a shorter name.");
     const auto &plans = m_plans.plans();
     const bool isTaken = std::any_of(plans.begin(), plans.end(), [this](const auto &other) {
-        return other.plan.name == m_plan.name && other.plan.key != m_plan.key;
+        return other.plan.name == m_plan.name && other.plan.key != m_former.key;
     });
     return isTaken ? tr("Another plan has this name already.") : QString();
 }

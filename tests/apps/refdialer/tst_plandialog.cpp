@@ -130,7 +130,8 @@ void TestPlanDialog::cleanup()
 
 DataPlan TestPlanDialog::stored(const std::string &name) const
 {
-    for (const DataPlan &plan : m_store->plans().value()) {
+    const auto plans = m_store->plans();
+    for (const DataPlan &plan : plans.value()) {
         if (plan.name == name)
             return plan;
     }
@@ -419,6 +420,9 @@ void TestPlanDialog::opensTheEditorFromTheKeyboard()
     QVERIFY(dialog.isVisible());
     QTest::keyClick(editor, Qt::Key_Escape);
     QTRY_VERIFY(!dialog.findChild<PlanEditor *>());
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    dialog.findChild<QTreeWidget *>()->setFocus();
     QTest::keyClick(dialog.findChild<QTreeWidget *>(), Qt::Key_Delete);
     QVERIFY(dialog.findChild<QMessageBox *>());
 }
