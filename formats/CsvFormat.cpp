@@ -7,6 +7,7 @@
 #include "Utf8Text.h"
 #include "history/ConnectionFields.h"
 #include "usage/CalendarTime.h"
+#include "usage/TextScanner.h"
 
 #include <algorithm>
 #include <array>
@@ -177,15 +178,20 @@ std::string csvColumnName(std::size_t column)
     return column < columnCount ? columnNames()[column] : std::to_string(column + 1);
 }
 
-QByteArray toCsv(const std::vector<history::Connection> &connections)
+QByteArray toCsv(const std::vector<history::Connection> &connections,
+                 const history::Store::Progress &progress)
 {
     QByteArray csv = QByteArray::fromStdString(header() + '\n');
-    for (const history::Connection &connection : connections)
+    std::size_t done = 0;
+    for (const history::Connection &connection : connections) {
         csv += QByteArray::fromStdString(line(connection));
+        if (progress)
+            progress(++done);
+    }
     return csv;
 }
 
-std::vector<history::Connection> connectionsFromCsv(LineReader &lines, const ReadProgress &progress)
+std::vector<history::Connection> connectionsFromCsv(LineReader &lines)
 {
     CsvReader reader(lines, columnCount);
     const auto firstRow = reader.next();
@@ -201,9 +207,16 @@ std::vector<history::Connection> connectionsFromCsv(LineReader &lines, const Rea
             break;
         }
         connections.push_back(RowReader(*row, columns).connection());
-        progress(lines.bytesRead());
     }
     return connections;
+}
+
+bool isBeginningOfCsv(std::string_view beginning)
+{
+    std::string_view text = withoutByteOrderMark(beginning);
+    if (usage::startsWith(text, "\""))
+        text.remove_prefix(1);
+    return usage::startsWith(text, columnNames().front());
 }
 
 } // namespace formats

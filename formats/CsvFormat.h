@@ -6,8 +6,8 @@
 #include <QByteArray>
 
 #include <cstdint>
-#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace formats
@@ -15,18 +15,18 @@ namespace formats
 
 class LineReader;
 
-/// Told how many bytes of the input have been read so far.
-using ReadProgress = std::function<void(std::int64_t bytes)>;
-
 /// The name of a column of our CSV files, "10" and so on behind the last one.
 std::string csvColumnName(std::size_t column);
 
 /// The connections, without their keys, with a header, each line ended by a
 /// line feed.
-QByteArray toCsv(const std::vector<history::Connection> &connections);
+QByteArray toCsv(const std::vector<history::Connection> &connections,
+                 const history::Store::Progress &progress = {});
 
 /// What toCsv() writes, read back. Throws CsvError.
-std::vector<history::Connection> connectionsFromCsv(LineReader &lines,
-                                                    const ReadProgress &progress);
+std::vector<history::Connection> connectionsFromCsv(LineReader &lines);
+
+/// Whether a file that begins so looks like one of these.
+bool isBeginningOfCsv(std::string_view beginning);
 
 } // namespace formats

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "CsvFormat.h"
 #include "CsvReader.h"
 #include "ImportReader.h"
 #include "InputError.h"
@@ -22,9 +23,9 @@ private:
 
 void CsvImport::read(const ImportSource &source, const ReadProgress &progress)
 {
-    LineReader lines(source.device, longestCsvLine + 1);
+    LineReader lines(source.device, longestCsvLine + 1, progress);
     try {
-        m_imported.connections = connectionsFromCsv(lines, progress);
+        m_imported.connections = connectionsFromCsv(lines);
         lines.checkReadToTheEnd(source.name);
     } catch (const CsvError &error) {
         lines.checkReadToTheEnd(source.name);

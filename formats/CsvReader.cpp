@@ -2,17 +2,11 @@
 #include "CsvReader.h"
 
 #include "LineReader.h"
+#include "Utf8Text.h"
 #include "usage/TextScanner.h"
 
 namespace formats
 {
-
-namespace
-{
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-} // namespace
 
 CsvReader::CsvReader(LineReader &lines, std::size_t mostColumns)
     : m_lines(lines)
@@ -38,8 +32,8 @@ bool CsvReader::startLine()
 {
     if (!nextLine())
         return false;
-    if (m_lines.lineNumber() == 1 && usage::startsWith(m_rest, byteOrderMark))
-        m_rest.remove_prefix(byteOrderMark.size());
+    if (m_lines.lineNumber() == 1)
+        m_rest = withoutByteOrderMark(m_rest);
     return true;
 }
 

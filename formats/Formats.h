@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CsvFormat.h"
 #include "ImportReader.h"
 #include "JsonFormat.h"
 
+#include <QtGlobal>
+
 #include <array>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,32 +17,51 @@ namespace formats
 {
 
 /// A kind of file that can be imported: one row of the table from which the command
-/// line and the fuzz targets take it, and with which a test compares the manual.
+/// line, the window and the fuzz targets take it, and with which a test compares the
+/// manual.
 struct ImportFormat {
     const char *name;
-    const char *help; ///< one line, to be read after the name
+    const char *help;   ///< one line, to be read after the name
+    const char *title;  ///< for a window, which translates it in the context "formats"
+    const char *suffix; ///< that names of such files mostly have; empty for any
     bool takesSeveralFiles;
+    bool (*isBeginning)(std::string_view beginning); ///< whether a file of it may begin so
     std::unique_ptr<ImportReader> (*reader)(const ImportOptions &options);
 };
 
+/// The last one takes what is none of the others.
 constexpr std::array<ImportFormat, 3> importFormats = {{
-    {"csv", "a file such as export writes", false, csvImport},
-    {"json", "a file such as export writes with the same format", false, jsonImport},
-    {"pppd", "a system log with messages of pppd", true, pppdImport},
+    {"csv", "a file such as export writes", QT_TRANSLATE_NOOP("formats", "CSV table"), "csv", false,
+     isBeginningOfCsv, csvImport},
+    {"json", "a file such as export writes with the same format",
+     QT_TRANSLATE_NOOP("formats", "JSON"), "json", false, isBeginningOfJson, jsonImport},
+    {"pppd", "a system log with messages of pppd",
+     QT_TRANSLATE_NOOP("formats", "System log with messages of pppd"), "", true,
+     [](std::string_view /*beginning*/) { return true; }, pppdImport},
 }};
+
+/// What the file holds by its beginning, whatever its name. Throws InputError if it
+/// cannot be opened.
+const ImportFormat &recognisedFormat(const std::string &path);
 
 /// A kind of file that can be exported.
 struct ExportFormat {
     const char *name;
     const char *help;
+    const char *title;
+    const char *suffix;
     bool breaksLines;  ///< a text with line breaks is on several lines
     bool carriesHours; ///< of the connections, which have to be given then
-    QByteArray (*text)(const std::vector<history::Connection> &connections);
+    QByteArray (*text)(const std::vector<history::Connection> &connections,
+                       const history::Store::Progress &progress);
 };
 
 constexpr std::array<ExportFormat, 2> exportFormats = {{
-    {"csv", "a table, without the bytes by the hour", true, false, toCsv},
-    {"json", "for programs, with the bytes by the hour", false, true, toJsonText},
+    {"csv", "a table, without the bytes by the hour", QT_TRANSLATE_NOOP("formats", "CSV table"),
+     "csv", true, false, toCsv},
+    {"json", "for programs, with the bytes by the hour",
+     QT_TRANSLATE_NOOP("formats", "JSON with the bytes by the hour"), "json", false, true,
+     toJsonText},
 }};
 
 /// The table's row of that name; null if there is none.

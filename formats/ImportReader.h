@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CsvFormat.h"
 #include "Imported.h"
+#include "LineReader.h"
 
 #include <cstdint>
 #include <memory>

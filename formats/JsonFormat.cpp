@@ -163,17 +163,29 @@ void checkMembers(const Json &json)
 
 } // namespace
 
-Json toJson(const std::vector<history::Connection> &connections)
+Json toJson(const std::vector<history::Connection> &connections,
+            const history::Store::Progress &progress)
 {
     Json array = Json::array();
-    for (const history::Connection &connection : connections)
+    for (const history::Connection &connection : connections) {
         array.push_back(toJson(connection));
+        if (progress)
+            progress(array.size());
+    }
     return array;
 }
 
-QByteArray toJsonText(const std::vector<history::Connection> &connections)
+QByteArray toJsonText(const std::vector<history::Connection> &connections,
+                      const history::Store::Progress &progress)
 {
-    return jsonText(toJson(connections));
+    return jsonText(toJson(connections, progress));
+}
+
+bool isBeginningOfJson(std::string_view beginning)
+{
+    const std::string_view text = withoutByteOrderMark(beginning);
+    const std::size_t first = text.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && text[first] == '[';
 }
 
 history::Connection connectionFromJson(const Json &json)

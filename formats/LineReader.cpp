@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace formats
 {
@@ -18,9 +19,10 @@ constexpr int chunkBytes = 256 * 1024;
 
 } // namespace
 
-LineReader::LineReader(QIODevice &device, std::size_t longestLine)
+LineReader::LineReader(QIODevice &device, std::size_t longestLine, ReadProgress progress)
     : m_device(device)
     , m_longestLine(longestLine)
+    , m_progress(std::move(progress))
     , m_chunk(chunkBytes, Qt::Uninitialized)
 {
 }
@@ -67,6 +69,8 @@ bool LineReader::hasBytes()
     m_position = 0;
     m_chunkSize = static_cast<int>(std::max<qint64>(count, 0));
     m_bytesRead += m_chunkSize;
+    if (m_progress)
+        m_progress(m_bytesRead);
     return m_chunkSize > 0;
 }
 

@@ -4,6 +4,7 @@
 #include <QByteArray>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -12,12 +13,17 @@ class QIODevice;
 namespace formats
 {
 
+/// Told how many bytes of the input have been read so far.
+using ReadProgress = std::function<void(std::int64_t bytes)>;
+
 /// Reads a device line by line, each line as the bytes before its line feed.
 class LineReader
 {
 public:
-    /// What of a line is longer than `longestLine` bytes is passed over.
-    explicit LineReader(QIODevice &device, std::size_t longestLine = std::string_view::npos);
+    /// What of a line is longer than `longestLine` bytes is passed over. The progress is
+    /// told in the middle of long lines too.
+    explicit LineReader(QIODevice &device, std::size_t longestLine = std::string_view::npos,
+                        ReadProgress progress = {});
 
     /// Whether there is one more line, which line() then gives.
     bool next();
@@ -28,7 +34,6 @@ public:
     std::string_view line() const { return m_line; }
     /// Counted from 1.
     std::int64_t lineNumber() const { return m_lineNumber; }
-    std::int64_t bytesRead() const { return m_bytesRead; }
     /// Whether the lines ended because the device cannot be read.
     bool hasFailed() const { return m_hasFailed; }
     /// Throws InputError in that case, with a sentence that names the source.
@@ -40,6 +45,7 @@ private:
 
     QIODevice &m_device;
     std::size_t m_longestLine;
+    ReadProgress m_progress;
     QByteArray m_chunk;
     int m_chunkSize = 0;
     int m_position = 0;

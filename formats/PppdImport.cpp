@@ -38,9 +38,9 @@ private:
 void PppdImport::read(const ImportSource &source, const ReadProgress &progress)
 {
     m_names.push_back(source.name);
-    LineReader lines(source.device, longestLogLine);
+    LineReader lines(source.device, longestLogLine, progress);
     try {
-        m_files.push_back({readPppdLog(lines, progress, m_sizeLeft), source.changedUtc});
+        m_files.push_back({readPppdLog(lines, m_sizeLeft), source.changedUtc});
         m_sizeLeft -= m_files.back().log.size();
     } catch (const LogTooLarge &) {
         throw InputError(source.name + " is too much: together, more than " +

@@ -112,7 +112,7 @@ void reverse(PppdLog &log)
 
 } // namespace
 
-PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress, std::size_t largestSize)
+PppdLog readPppdLog(LineReader &lines, std::size_t largestSize)
 {
     PppdLog log;
     std::size_t run = 0;
@@ -125,7 +125,6 @@ PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress, std::size_t
             log.events.push_back(eventFrom(reader, std::move(*message), run));
         if (log.size() > largestSize)
             throw LogTooLarge();
-        progress(lines.bytesRead());
     }
     if (isNewestFirst(log))
         reverse(log);

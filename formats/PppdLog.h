@@ -50,8 +50,7 @@ struct LogTooLarge {
 };
 
 /// Reads a system log, also one whose newest line is the first.
-PppdLog readPppdLog(LineReader &lines, const ReadProgress &progress,
-                    std::size_t largestSize = largestLogSize);
+PppdLog readPppdLog(LineReader &lines, std::size_t largestSize = largestLogSize);
 
 /// A log may hold copies of the messages of pppd and chat under the name of the script
 /// that started them, or no process names at all: such lines count only where the log

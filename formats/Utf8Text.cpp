@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Utf8Text.h"
 
+#include "usage/TextScanner.h"
+
 #include <QByteArrayList>
 #include <QVector>
 
@@ -73,6 +75,12 @@ QString fromUtf8(std::string_view text)
 std::string cleanedUtf8(std::string_view text)
 {
     return fromUtf8(text).replace(QChar(u'\0'), QChar(QChar::ReplacementCharacter)).toStdString();
+}
+
+std::string_view withoutByteOrderMark(std::string_view text)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return usage::startsWith(text, mark) ? text.substr(mark.size()) : text;
 }
 
 QString printable(const QString &text, int most)

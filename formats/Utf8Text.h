@@ -20,6 +20,8 @@ QString fromUtf8(std::string_view text);
 /// U+FFFD.
 std::string cleanedUtf8(std::string_view text);
 
+std::string_view withoutByteOrderMark(std::string_view text);
+
 constexpr int unlimited = std::numeric_limits<int>::max();
 
 /// The text as one line that a terminal shows and does not obey: characters that

@@ -5,7 +5,6 @@
 #include "Commands.h"
 #include "Complaint.h"
 #include "Failure.h"
-#include "HistoryFiles.h"
 #include "ImportCommand.h"
 #include "OptionChoice.h"
 #include "Output.h"
@@ -105,7 +104,7 @@ private:
     RemoveRequest m_removal;
     ExportRequest m_export{{}, &formats::exportFormats.front(), standardOutputPath};
     std::string m_copyPath;
-    ImportRequest m_import;
+    common::ImportRequest m_import;
     TotalsRequest m_totals;
     PlanRequest m_plan;
     StatusRequest m_status;

@@ -2,10 +2,10 @@
 #include "Commands.h"
 
 #include "ConnectionText.h"
-#include "HistoryFiles.h"
 #include "OptionValue.h"
 #include "Output.h"
 #include "StoreResult.h"
+#include "apps/common/ExportedHours.h"
 #include "formats/Formats.h"
 #include "formats/Utf8Text.h"
 #include "history/ConnectionFields.h"
@@ -13,7 +13,6 @@
 
 #include <cstdint>
 #include <type_traits>
-#include <unordered_map>
 
 namespace connrecord
 {
@@ -61,19 +60,6 @@ void putOnOneLineEach(std::vector<history::Connection> &connections)
     }
 }
 
-void addHours(const history::Store &store, std::vector<history::Connection> &connections)
-{
-    std::unordered_map<std::int64_t, history::Connection *> withKey;
-    for (history::Connection &connection : connections)
-        withKey[connection.key] = &connection;
-    for (const history::ConnectionHour &hour : valueOrFailure(store.hours())) {
-        const auto found = hour.isOpen ? withKey.end() : withKey.find(hour.key);
-        if (found != withKey.end() && hour.isKnown)
-            found->second->hours.push_back(
-                {hour.utc, hour.isRoaming, hour.uploadedBytes, hour.downloadedBytes});
-    }
-}
-
 } // namespace
 
 void listConnections(const CommonRequest &common, const SelectionRequest &selection)
@@ -103,10 +89,10 @@ void exportConnections(const CommonRequest &common, const ExportRequest &request
     const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
     auto connections = selectedFrom(store, request.selection);
     if (request.format->carriesHours)
-        addHours(store, connections);
+        common::addHours(valueOrFailure(store.hours()), connections);
     if (request.format->breaksLines && output.isTerminal())
         putOnOneLineEach(connections);
-    output.write(request.format->text(connections));
+    output.write(request.format->text(connections, {}));
 }
 
 } // namespace connrecord

@@ -6,7 +6,6 @@
 #include "Output.h"
 #include "ProgressLine.h"
 #include "StoreResult.h"
-#include "formats/InputFile.h"
 #include "formats/JsonText.h"
 #include "formats/Utf8Text.h"
 
@@ -14,11 +13,15 @@
 
 #include <unistd.h>
 
+#include <optional>
+
 namespace connrecord
 {
 
 namespace
 {
+
+using common::ImportRequest;
 
 /// What is shorter than one step is done before anybody asks.
 constexpr std::int64_t bytesPerStep = 4194304;
@@ -40,30 +43,43 @@ private:
     QFile m_file;
 };
 
-formats::Imported read(const ImportRequest &request, QIODevice *terminal)
-try {
-    const auto reader = request.format->reader(request.options);
-    for (const std::string &path : request.paths) {
-        formats::InputFile file(path);
-        ProgressLine line(terminal, "Reading " + file.name(), bytesPerStep, file.size());
-        reader->read({file.device(), file.name(), file.modifiedUtc()},
-                     [&line](std::int64_t bytes) { line.update(bytes); });
+/// A line on the terminal for each file, and for the store.
+class TerminalProgress : public common::ImportProgress
+{
+public:
+    void beginReading(const std::string & /*path*/, const formats::InputFile &file) override
+    {
+        m_line.emplace(m_terminal.device(), "Reading " + file.name(), bytesPerStep, file.size());
     }
-    return reader->imported();
+    void beginStoring(std::int64_t connections) override
+    {
+        m_line.emplace(m_terminal.device(), "Storing", connectionsPerStep, connections);
+    }
+    void update(std::int64_t done) override { m_line->update(done); }
+
+private:
+    Terminal m_terminal;
+    std::optional<ProgressLine> m_line;
+};
+
+formats::Imported read(const ImportRequest &request, TerminalProgress &progress)
+try {
+    return common::readFiles(request, progress);
 } catch (const formats::YearError &error) {
     throw Failure(ExitCode::Refused, std::string("For --year, ") + error.what());
 }
 
-history::Store::Merged store(const std::string &storePath, const formats::Imported &imported,
-                             QIODevice *terminal)
+struct Import {
+    formats::Imported imported;
+    history::Store::Merged merged;
+};
+
+Import importFiles(const std::string &storePath, const ImportRequest &request)
 {
-    ProgressLine line(terminal, "Storing", connectionsPerStep,
-                      static_cast<std::int64_t>(imported.connections.size()));
-    const auto progress = [&line](std::size_t done) {
-        line.update(static_cast<std::int64_t>(done));
-    };
-    auto store = valueOrFailure(history::Store::openOrCreate(storePath));
-    return valueOrFailure(formats::addImported(store, imported, progress));
+    TerminalProgress progress;
+    Import done{read(request, progress), {}};
+    done.merged = valueOrFailure(common::storeImported(storePath, done.imported, progress));
+    return done;
 }
 
 void warnOfGuess(const formats::GuessedYear &guess)
@@ -119,12 +135,10 @@ void checkRequest(const ImportRequest &request)
 
 } // namespace
 
-void importConnections(const CommonRequest &common, const ImportRequest &request)
+void importConnections(const CommonRequest &common, const common::ImportRequest &request)
 {
     checkRequest(request);
-    Terminal terminal;
-    const formats::Imported imported = read(request, terminal.device());
-    const history::Store::Merged merged = store(common.storePath, imported, terminal.device());
+    const auto [imported, merged] = importFiles(common.storePath, request);
     if (imported.guessedYear)
         warnOfGuess(*imported.guessedYear);
     Output().write(common.json

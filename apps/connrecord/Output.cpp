@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Output.h"
 
-#include "FilePlace.h"
-#include "ReplacementFile.h"
+#include "apps/common/FilePlace.h"
+#include "apps/common/HistoryFiles.h"
+#include "apps/common/ReplacementFile.h"
 #include "formats/Utf8Text.h"
 
 #include <fcntl.h>
@@ -40,6 +41,15 @@ std::string outputName(const std::string &path)
     return '"' + formats::printable(path, formats::unlimited) + '"';
 }
 
+void checkIsNotOfHistory(const std::string &outputPath, const std::string &storePath)
+{
+    if (common::belongsToHistory(outputPath == standardOutputPath ? "/dev/stdout" : outputPath,
+                                 storePath))
+        throw Failure(ExitCode::Output, outputName(outputPath) +
+                                            " cannot be written: it belongs to the history \"" +
+                                            storePath + "\". Give another file.");
+}
+
 Output::Output(const std::string &path)
     : m_name(outputName(path))
 {
@@ -67,7 +77,7 @@ void Output::open(const std::string &path)
 {
     if (path == standardOutputPath)
         return use(STDOUT_FILENO, dontClose);
-    if (const auto descriptor = descriptorAt(path))
+    if (const auto descriptor = common::descriptorAt(path))
         return use(*descriptor, dontClose);
     const mode_t present = modeAt(path);
     // A disk is hardly what somebody means.
@@ -75,7 +85,7 @@ void Output::open(const std::string &path)
         throw cannotWrite("it is a block device");
     if (present != 0 && !S_ISREG(present))
         return openInPlace(path);
-    m_replacedFile = placeOf(path);
+    m_replacedFile = common::placeOf(path);
 }
 
 void Output::openInPlace(const std::string &path)
@@ -101,9 +111,8 @@ void Output::writeAll(const QByteArray &bytes)
 void Output::replaceBy(const QByteArray &contents)
 {
     try {
-        ReplacementFile replacement(*m_replacedFile);
-        use(replacement.descriptor(), dontClose);
-        writeAll(contents);
+        common::ReplacementFile replacement(*m_replacedFile);
+        replacement.write(contents);
         replacement.putInPlace();
     } catch (const std::system_error &error) {
         throw cannotWrite(error.code().message());

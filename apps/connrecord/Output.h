@@ -19,6 +19,12 @@ inline constexpr const char *standardOutputPath = "-";
 /// The way a sentence names it.
 std::string outputName(const std::string &path);
 
+/// Throws Failure if the history at `storePath`, or one of the files that are kept
+/// beside it, is where a result is about to go: the file that this path leads to
+/// by whatever names, or standard output if it is "-". Files of the history that
+/// do not exist at the moment count too.
+void checkIsNotOfHistory(const std::string &outputPath, const std::string &storePath);
+
 /// Where the result of a command goes. An ordinary file gets its place, and its
 /// earlier contents stay whole, until the new ones are; a new file is the user's
 /// alone. Everything else, such as a pipe, a terminal or what this process has

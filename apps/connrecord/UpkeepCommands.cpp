@@ -2,11 +2,10 @@
 #include "UpkeepCommands.h"
 
 #include "Complaint.h"
-#include "FilePlace.h"
-#include "HistoryFiles.h"
 #include "Output.h"
-#include "ReplacementFile.h"
 #include "StoreResult.h"
+#include "apps/common/FilePlace.h"
+#include "apps/common/ReplacementFile.h"
 #include "formats/JsonText.h"
 
 #include <filesystem>
@@ -79,7 +78,7 @@ void backUp(const CommonRequest &common, const std::string &copyPath)
                                     "another name");
     const auto store = existingHistory(common.storePath);
     try {
-        ReplacementFile file(placeOf(copyPath));
+        common::ReplacementFile file(common::placeOf(copyPath));
         copy(store, common.storePath, file.temporaryPath());
         file.putInFreePlace();
     } catch (const std::system_error &error) {

@@ -13,7 +13,7 @@ inline formats::PppdLog pppdLogOf(QByteArray contents)
     QBuffer buffer(&contents);
     buffer.open(QIODevice::ReadOnly);
     formats::LineReader lines(buffer, formats::longestLogLine);
-    formats::PppdLog log = formats::readPppdLog(lines, [](std::int64_t) {});
+    formats::PppdLog log = formats::readPppdLog(lines);
     formats::dropCopies(log.events);
     return log;
 }

@@ -58,7 +58,7 @@ std::vector<history::Connection> readBack(QByteArray csv)
     QBuffer buffer(&csv);
     buffer.open(QIODevice::ReadOnly);
     LineReader lines(buffer, longestCsvLine + 1);
-    return connectionsFromCsv(lines, [](std::int64_t) {});
+    return connectionsFromCsv(lines);
 }
 
 /// Reading this fails; the place and reason as one text.

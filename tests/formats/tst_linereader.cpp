@@ -16,7 +16,8 @@ private slots:
     void givesTheBytesBeforeEachLineFeed();
     void cutsWhatIsLongerThanTheLongestLine();
     void readsLinesAcrossChunks();
-    void countsLinesAndBytes();
+    void countsLines();
+    void tellsHowFarItIsInTheMiddleOfALine();
     void tellsADeviceThatCannotBeRead();
 };
 
@@ -103,7 +104,7 @@ void LineReaderTest::readsLinesAcrossChunks()
     QCOMPARE(linesOf(reader), (QList<QByteArray>{longLine, "short", longLine}));
 }
 
-void LineReaderTest::countsLinesAndBytes()
+void LineReaderTest::countsLines()
 {
     QByteArray contents = "a\n\nccc";
     QBuffer buffer(&contents);
@@ -115,7 +116,19 @@ void LineReaderTest::countsLinesAndBytes()
     QVERIFY(reader.next());
     QVERIFY(reader.next());
     QCOMPARE(reader.lineNumber(), std::int64_t(3));
-    QCOMPARE(reader.bytesRead(), std::int64_t(6));
+}
+
+void LineReaderTest::tellsHowFarItIsInTheMiddleOfALine()
+{
+    QByteArray contents(1 << 20, 'x');
+    QBuffer buffer(&contents);
+    buffer.open(QIODevice::ReadOnly);
+    QList<qint64> told;
+    LineReader reader(buffer, 10, [&told](std::int64_t bytes) { told.append(bytes); });
+
+    QCOMPARE(linesOf(reader), QList<QByteArray>{QByteArray(10, 'x')});
+    QVERIFY(told.first() < contents.size());
+    QCOMPARE(told.last(), qint64(contents.size()));
 }
 
 void LineReaderTest::tellsADeviceThatCannotBeRead()

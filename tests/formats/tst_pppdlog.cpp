@@ -166,9 +166,7 @@ void PppdLogTest::refusesMoreThanItMayKeep()
         buffer.open(QIODevice::ReadOnly);
         LineReader reader(buffer, longestLogLine);
         try {
-            return readPppdLog(
-                       reader, [](std::int64_t) {}, largestSize)
-                .size();
+            return readPppdLog(reader, largestSize).size();
         } catch (const LogTooLarge &) {
             return std::nullopt;
         }

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "HistoryFiles.h"
 
-#include "Failure.h"
 #include "FilePlace.h"
-#include "Output.h"
 #include "history/FilesBesideStore.h"
 
 #include <algorithm>
 #include <array>
 
-namespace connrecord
+namespace common
 {
 
 namespace
@@ -24,7 +22,7 @@ constexpr std::array<const char *, 7> suffixes = {"",
                                                   history::unwrittenSuffix,
                                                   history::secondUnwrittenSuffix};
 
-bool isOfHistory(const std::filesystem::path &path, const std::filesystem::path &store)
+bool isBesideHistory(const std::filesystem::path &path, const std::filesystem::path &store)
 {
     return std::any_of(suffixes.begin(), suffixes.end(), [&](const char *suffix) {
         std::filesystem::path file = store;
@@ -34,15 +32,10 @@ bool isOfHistory(const std::filesystem::path &path, const std::filesystem::path 
 
 } // namespace
 
-void checkIsNotOfHistory(const std::string &outputPath, const std::string &storePath)
+bool belongsToHistory(const std::filesystem::path &path, const std::filesystem::path &store)
 {
-    const std::filesystem::path path =
-        outputPath == standardOutputPath ? "/dev/stdout" : outputPath;
     // SQLite puts its files beside the one that a link leads to, others may not.
-    if (isOfHistory(path, storePath) || isOfHistory(path, placeOf(storePath)))
-        throw Failure(ExitCode::Output, outputName(outputPath) +
-                                            " cannot be written: it belongs to the history \"" +
-                                            storePath + "\". Give another file.");
+    return isBesideHistory(path, store) || isBesideHistory(path, placeOf(store));
 }
 
-} // namespace connrecord
+} // namespace common

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <optional>
 
-namespace connrecord
+namespace common
 {
 
 /// Where a file of this path is or would be made: an absolute path that no
@@ -19,4 +19,4 @@ bool leadToSameFile(const std::filesystem::path &path, const std::filesystem::pa
 /// nothing for every other path.
 std::optional<int> descriptorAt(const std::filesystem::path &path);
 
-} // namespace connrecord
+} // namespace common

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <system_error>
 
-namespace connrecord
+namespace common
 {
 
 namespace
@@ -41,6 +41,16 @@ ReplacementFile::~ReplacementFile()
     close(m_descriptor);
 }
 
+void ReplacementFile::write(const QByteArray &bytes)
+{
+    const char *const end = bytes.constEnd();
+    for (const char *next = bytes.constBegin(); next < end;) {
+        const ssize_t written = ::write(m_descriptor, next, static_cast<std::size_t>(end - next));
+        check(written >= 0 || errno == EINTR);
+        next += written > 0 ? written : 0;
+    }
+}
+
 void ReplacementFile::putInPlace()
 {
     keepPermissions();
@@ -66,4 +76,4 @@ void ReplacementFile::keepPermissions() const
         check(fchmod(m_descriptor, present.st_mode & permissions) == 0);
 }
 
-} // namespace connrecord
+} // namespace common

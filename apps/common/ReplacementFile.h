@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
+
 #include <filesystem>
 #include <string>
 
-namespace connrecord
+namespace common
 {
 
 /// The future contents of a file, beside it until they are whole. A new file is
@@ -20,9 +22,8 @@ public:
     ReplacementFile(const ReplacementFile &) = delete;
     ReplacementFile &operator=(const ReplacementFile &) = delete;
 
-    /// Open for writing until the end of this object.
-    int descriptor() const { return m_descriptor; }
-    /// Where the contents are until then.
+    void write(const QByteArray &bytes);
+    /// Where the contents are until they are in place.
     const std::string &temporaryPath() const { return m_temporaryPath; }
     /// To be called when everything is written: what was there before is replaced
     /// at once, and what replaces it is on the disk.
@@ -38,4 +39,4 @@ private:
     int m_descriptor;
 };
 
-} // namespace connrecord
+} // namespace common

@@ -6,7 +6,7 @@
 #include <limits>
 #include <system_error>
 
-namespace connrecord
+namespace common
 {
 
 namespace
@@ -66,4 +66,4 @@ std::optional<int> descriptorAt(const std::filesystem::path &path)
     return static_cast<int>(number->value);
 }
 
-} // namespace connrecord
+} // namespace common
