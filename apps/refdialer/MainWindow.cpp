@@ -3,6 +3,7 @@
 
 #include "BackgroundUnit.h"
 #include "ClosingChoice.h"
+#include "FileMenu.h"
 #include "HistoryArea.h"
 #include "HistoryPage.h"
 #include "LanguageChoice.h"
@@ -18,10 +19,8 @@
 #include "recorder/bus/RecorderService.h"
 #include "refhost/libcore/Host.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTabWidget>
@@ -57,6 +56,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     , m_historyPage(new HistoryPage(plugin, source.file))
     , m_area(m_historyPage->area())
     , m_usagePage(new UsagePage(source.file.toStdString()))
+    , m_fileMenu(new FileMenu(source.file, this))
 {
     auto *const content = new QWidget;
     auto *const layout = new QVBoxLayout(content);
@@ -105,7 +105,7 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!mayClose()) {
+    if (!mayClose() || !m_fileMenu->mayClose()) {
         event->ignore();
         return;
     }
@@ -153,14 +153,9 @@ void MainWindow::createPages()
 
 void MainWindow::createMenus()
 {
-    m_fileMenu = menuBar()->addMenu(QString());
-    m_settingsAction = m_fileMenu->addAction(QString());
-    m_settingsAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+,")));
-    connect(m_settingsAction, &QAction::triggered, this, &MainWindow::showSettings);
-    m_fileMenu->addSeparator();
-    m_quitAction = m_fileMenu->addAction(QString());
-    m_quitAction->setShortcut(QKeySequence::Quit);
-    connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
+    menuBar()->addMenu(m_fileMenu);
+    connect(m_fileMenu, &FileMenu::settingsChosen, this, &MainWindow::showSettings);
+    connect(m_fileMenu, &FileMenu::quitChosen, this, &QWidget::close);
 
     auto *const viewMenu = new ViewMenu(m_plugin.hasStatistics(), menuBar());
     menuBar()->addMenu(viewMenu);
@@ -181,9 +176,6 @@ void MainWindow::retranslate()
 {
     setLocale(localeFor(refhost::language()));
     setWindowTitle(tr("Connection history"));
-    m_fileMenu->setTitle(tr("&File"));
-    m_settingsAction->setText(tr("&Settings…"));
-    m_quitAction->setText(tr("&Quit"));
     m_pages->setTabText(m_pages->indexOf(m_historyPage), tr("History"));
     m_pages->setTabText(m_pages->indexOf(m_usagePage), tr("Usage"));
 }

@@ -7,14 +7,13 @@
 
 #include <memory>
 
-class QAction;
-class QMenu;
 class QTabWidget;
 
 namespace refdialer
 {
 
 class BackgroundUnit;
+class FileMenu;
 class HistoryArea;
 class HistoryPage;
 class LineState;
@@ -67,9 +66,7 @@ private:
     HistoryPage *m_historyPage;
     HistoryArea &m_area;
     UsagePage *m_usagePage;
-    QMenu *m_fileMenu;
-    QAction *m_settingsAction;
-    QAction *m_quitAction;
+    FileMenu *m_fileMenu;
 };
 
 } // namespace refdialer

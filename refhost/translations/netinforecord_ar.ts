@@ -236,6 +236,25 @@
     </message>
 </context>
 <context>
+    <name>formats</name>
+    <message>
+        <source>CSV table</source>
+        <translation>جدول CSV</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>System log with messages of pppd</source>
+        <translation>سجل نظام فيه رسائل pppd</translation>
+    </message>
+    <message>
+        <source>JSON with the bytes by the hour</source>
+        <translation>JSON مع البايتات لكل ساعة</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
@@ -422,14 +441,72 @@
     </message>
 </context>
 <context>
-    <name>refdialer::MainWindow</name>
+    <name>refdialer::ExportWork</name>
     <message>
-        <source>Connection history</source>
-        <translation>سجل الاتصالات</translation>
+        <source>Connections exported: %1</source>
+        <translation>الاتصالات المصدّرة: ‎%1‎</translation>
     </message>
+    <message>
+        <source>They are in &quot;%1&quot;.</source>
+        <translation>وهي في «‎%1‎».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
+        <translation>تتعذر الكتابة في «‎%1‎»: ‎%2‎. تحقق من القرص والمجلد وأذوناته.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileChooser</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>المجلد:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>ا&amp;سم الملف:</translation>
+    </message>
+    <message>
+        <source>Kind of file:</source>
+        <translation>نوع الملف:</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>استيراد</translation>
+    </message>
+    <message>
+        <source>All files, recognised by what they hold (%1)</source>
+        <translation>كل الملفات، تُعرف من محتواها (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>ا&amp;ستيراد</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>تصدير</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>ت&amp;صدير</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileMenu</name>
     <message>
         <source>&amp;File</source>
         <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>ا&amp;ستيراد…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>ت&amp;صدير…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
@@ -438,6 +515,75 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;خروج</translation>
+    </message>
+    <message>
+        <source>Connections are being imported or exported.</source>
+        <translation>يجري استيراد اتصالات أو تصديرها.</translation>
+    </message>
+    <message>
+        <source>If the window closes now, that is cancelled: nothing is imported, and the file to export to stays as it is.</source>
+        <translation>إذا أُغلقت النافذة الآن فسيُلغى ذلك: لن يُستورد شيء، ويبقى ملف التصدير كما هو.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the window</source>
+        <translation>إ&amp;غلاق النافذة</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>ا&amp;نتظار</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileProblem</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, a pipe or a device. Choose a file.</source>
+        <translation>«‎%1‎» مجلد أو أنبوب أو جهاز. اختر ملفًا.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
+        <translation>«‎%1‎» من ملفات السجل الذي تعرضه هذه النافذة. اختر ملفًا آخر.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ImportWork</name>
+    <message>
+        <source>Of several files at once, only logs can be imported. Choose one file at a time.</source>
+        <translation>من عدة ملفات معًا لا يمكن استيراد سوى سجلات النظام. اختر ملفًا واحدًا في كل مرة.</translation>
+    </message>
+    <message>
+        <source>%1
+
+It was taken to be: %2. If it is something else, choose its kind together with the file.</source>
+        <translation>%1
+
+قُرئ على أنه: %2. إن كان شيئًا آخر فاختر نوعه مع الملف.</translation>
+    </message>
+    <message>
+        <source>Connections added: %1</source>
+        <translation>الاتصالات المضافة: ‎%1‎</translation>
+    </message>
+    <message>
+        <source>In the history already: %1</source>
+        <translation>موجودة في السجل من قبل: ‎%1‎</translation>
+    </message>
+    <message>
+        <source>Completed by what the log knows: %1</source>
+        <translation>مُكمَّلة من سجل النظام: ‎%1‎</translation>
+    </message>
+    <message>
+        <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
+        <translation>‎%1‎ لا يبيّن السنوات؛ افتُرض أن سطره الأخير من سنة ‎%2‎. إن كان ذلك خطأ فاحذف ما أُضيف واستورد بالأمر «‎connrecord import --year‎».</translation>
+    </message>
+    <message>
+        <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
+        <translation>لم يُستخدم، ‎%1‎: ‎%2‎؛ أول مرة في السطر ‎%3‎ من «‎%4‎»: ‎%5‎</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>سجل الاتصالات</translation>
     </message>
     <message>
         <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
@@ -1063,6 +1209,75 @@
     <message>
         <source>No connections recorded yet in %1</source>
         <translation>لم تُسجَّل اتصالات بعد في ‎%1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Transfer</name>
+    <message>
+        <source>There is not enough memory for this. Close other programs, or take smaller files.</source>
+        <translation>الذاكرة لا تكفي لهذا. أغلق برامج أخرى، أو استخدم ملفات أصغر.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferDialog</name>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>لم يُستورد شيء.</translation>
+    </message>
+    <message>
+        <source>Nothing was exported.</source>
+        <translation>لم يُصدَّر شيء.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>استيراد</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>تصدير</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>التقدم</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>جارٍ الإلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferProgress</name>
+    <message>
+        <source>Reading &quot;%1&quot;: %2 of %3</source>
+        <translation>قراءة «‎%1‎»: ‎%2‎ من ‎%3‎</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;: %2</source>
+        <translation>قراءة «‎%1‎»: ‎%2‎</translation>
+    </message>
+    <message>
+        <source>Adding connections to the history: %1 of %2</source>
+        <translation>إضافة الاتصالات إلى السجل: ‎%1‎ من ‎%2‎</translation>
+    </message>
+    <message>
+        <source>Reading the history</source>
+        <translation>قراءة السجل</translation>
+    </message>
+    <message>
+        <source>Writing connections: %1 of %2</source>
+        <translation>كتابة الاتصالات: ‎%1‎ من ‎%2‎</translation>
     </message>
 </context>
 <context>

@@ -236,6 +236,25 @@
     </message>
 </context>
 <context>
+    <name>formats</name>
+    <message>
+        <source>CSV table</source>
+        <translation>CSV-Tabelle</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>System log with messages of pppd</source>
+        <translation>Systemprotokoll mit Meldungen von pppd</translation>
+    </message>
+    <message>
+        <source>JSON with the bytes by the hour</source>
+        <translation>JSON mit den Bytes je Stunde</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
@@ -422,22 +441,149 @@
     </message>
 </context>
 <context>
-    <name>refdialer::MainWindow</name>
+    <name>refdialer::ExportWork</name>
     <message>
-        <source>Connection history</source>
-        <translation>Verbindungsverlauf</translation>
+        <source>Connections exported: %1</source>
+        <translation>Exportierte Verbindungen: %1</translation>
     </message>
+    <message>
+        <source>They are in &quot;%1&quot;.</source>
+        <translation>Sie stehen in „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2. Prüfen Sie Datenträger, Ordner und Rechte.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileChooser</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Ordner:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>Datei&amp;name:</translation>
+    </message>
+    <message>
+        <source>Kind of file:</source>
+        <translation>Art der Datei:</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>All files, recognised by what they hold (%1)</source>
+        <translation>Alle Dateien, am Inhalt erkannt (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileMenu</name>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>Ein&amp;stellungen …</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>&amp;Settings…</source>
-        <translation>&amp;Einstellungen …</translation>
+        <source>Connections are being imported or exported.</source>
+        <translation>Es werden gerade Verbindungen importiert oder exportiert.</translation>
+    </message>
+    <message>
+        <source>If the window closes now, that is cancelled: nothing is imported, and the file to export to stays as it is.</source>
+        <translation>Schließt das Fenster jetzt, wird das abgebrochen: Importiert wird nichts, und die Datei, in die exportiert wird, bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the window</source>
+        <translation>Fenster &amp;schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>&amp;Warten</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileProblem</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, a pipe or a device. Choose a file.</source>
+        <translation>„%1“ ist ein Ordner, eine Pipe oder ein Gerät. Wählen Sie eine Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
+        <translation>„%1“ gehört zum Verlauf, den dieses Fenster zeigt. Wählen Sie eine andere Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ImportWork</name>
+    <message>
+        <source>Of several files at once, only logs can be imported. Choose one file at a time.</source>
+        <translation>Mehrere Dateien auf einmal können nur Protokolle sein. Wählen Sie jeweils eine Datei.</translation>
+    </message>
+    <message>
+        <source>%1
+
+It was taken to be: %2. If it is something else, choose its kind together with the file.</source>
+        <translation>%1
+
+Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit der Datei.</translation>
+    </message>
+    <message>
+        <source>Connections added: %1</source>
+        <translation>Neue Verbindungen: %1</translation>
+    </message>
+    <message>
+        <source>In the history already: %1</source>
+        <translation>Bereits im Verlauf: %1</translation>
+    </message>
+    <message>
+        <source>Completed by what the log knows: %1</source>
+        <translation>Aus dem Protokoll ergänzt: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
+        <translation>%1 zeigt keine Jahre; als Jahr der letzten Zeile wurde %2 angenommen. Ist das falsch, löschen Sie, was neu ist, und importieren Sie mit „connrecord import --year“.</translation>
+    </message>
+    <message>
+        <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
+        <translation>Nicht benutzt, %1: %2; zuerst in Zeile %3 von „%4“: %5</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Verbindungsverlauf</translation>
     </message>
     <message>
         <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
@@ -1047,6 +1193,75 @@
     <message>
         <source>Received: %1 (%2)</source>
         <translation>Empfangen: %1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Transfer</name>
+    <message>
+        <source>There is not enough memory for this. Close other programs, or take smaller files.</source>
+        <translation>Dafür reicht der Speicher nicht. Schließen Sie andere Programme, oder nehmen Sie kleinere Dateien.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferDialog</name>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nichts wurde importiert.</translation>
+    </message>
+    <message>
+        <source>Nothing was exported.</source>
+        <translation>Nichts wurde exportiert.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>Wird abgebrochen</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferProgress</name>
+    <message>
+        <source>Reading &quot;%1&quot;: %2 of %3</source>
+        <translation>„%1“ wird gelesen: %2 von %3</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;: %2</source>
+        <translation>„%1“ wird gelesen: %2</translation>
+    </message>
+    <message>
+        <source>Adding connections to the history: %1 of %2</source>
+        <translation>Verbindungen kommen in den Verlauf: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Reading the history</source>
+        <translation>Der Verlauf wird gelesen</translation>
+    </message>
+    <message>
+        <source>Writing connections: %1 of %2</source>
+        <translation>Verbindungen werden geschrieben: %1 von %2</translation>
     </message>
 </context>
 <context>

@@ -236,6 +236,25 @@
     </message>
 </context>
 <context>
+    <name>formats</name>
+    <message>
+        <source>CSV table</source>
+        <translation>Tabla CSV</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>System log with messages of pppd</source>
+        <translation>Registro del sistema con mensajes de pppd</translation>
+    </message>
+    <message>
+        <source>JSON with the bytes by the hour</source>
+        <translation>JSON con los bytes por hora</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
@@ -422,14 +441,72 @@
     </message>
 </context>
 <context>
-    <name>refdialer::MainWindow</name>
+    <name>refdialer::ExportWork</name>
     <message>
-        <source>Connection history</source>
-        <translation>Historial de conexiones</translation>
+        <source>Connections exported: %1</source>
+        <translation>Conexiones exportadas: %1</translation>
     </message>
+    <message>
+        <source>They are in &quot;%1&quot;.</source>
+        <translation>Están en «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
+        <translation>No se puede escribir «%1»: %2. Compruebe el disco, la carpeta y sus permisos.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileChooser</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Carpeta:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Nombre del archivo:</translation>
+    </message>
+    <message>
+        <source>Kind of file:</source>
+        <translation>Tipo de archivo:</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>All files, recognised by what they hold (%1)</source>
+        <translation>Todos los archivos, reconocidos por su contenido (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileMenu</name>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportar…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
@@ -438,6 +515,75 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Connections are being imported or exported.</source>
+        <translation>Se están importando o exportando conexiones.</translation>
+    </message>
+    <message>
+        <source>If the window closes now, that is cancelled: nothing is imported, and the file to export to stays as it is.</source>
+        <translation>Si la ventana se cierra ahora, eso se cancela: no se importa nada, y el archivo de destino queda como está.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the window</source>
+        <translation>&amp;Cerrar la ventana</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>&amp;Esperar</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileProblem</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, a pipe or a device. Choose a file.</source>
+        <translation>«%1» es una carpeta, una tubería o un dispositivo. Elija un archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
+        <translation>«%1» pertenece al historial que muestra esta ventana. Elija otro archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ImportWork</name>
+    <message>
+        <source>Of several files at once, only logs can be imported. Choose one file at a time.</source>
+        <translation>De varios archivos a la vez solo se pueden importar registros. Elija un archivo cada vez.</translation>
+    </message>
+    <message>
+        <source>%1
+
+It was taken to be: %2. If it is something else, choose its kind together with the file.</source>
+        <translation>%1
+
+Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</translation>
+    </message>
+    <message>
+        <source>Connections added: %1</source>
+        <translation>Conexiones añadidas: %1</translation>
+    </message>
+    <message>
+        <source>In the history already: %1</source>
+        <translation>Ya en el historial: %1</translation>
+    </message>
+    <message>
+        <source>Completed by what the log knows: %1</source>
+        <translation>Completadas con lo que sabe el registro: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
+        <translation>%1 no muestra los años; se supuso que su última línea es de %2. Si no es así, elimine lo añadido e importe con «connrecord import --year».</translation>
+    </message>
+    <message>
+        <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
+        <translation>Sin usar, %1: %2; primero en la línea %3 de «%4»: %5</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Historial de conexiones</translation>
     </message>
     <message>
         <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
@@ -1047,6 +1193,75 @@
     <message>
         <source>No connections recorded yet in %1</source>
         <translation>Aún no hay conexiones registradas en %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Transfer</name>
+    <message>
+        <source>There is not enough memory for this. Close other programs, or take smaller files.</source>
+        <translation>No hay memoria suficiente para esto. Cierre otros programas o tome archivos más pequeños.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferDialog</name>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>Nothing was exported.</source>
+        <translation>No se ha exportado nada.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>Cancelando</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferProgress</name>
+    <message>
+        <source>Reading &quot;%1&quot;: %2 of %3</source>
+        <translation>Leyendo «%1»: %2 de %3</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;: %2</source>
+        <translation>Leyendo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Adding connections to the history: %1 of %2</source>
+        <translation>Añadiendo conexiones al historial: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Reading the history</source>
+        <translation>Leyendo el historial</translation>
+    </message>
+    <message>
+        <source>Writing connections: %1 of %2</source>
+        <translation>Escribiendo conexiones: %1 de %2</translation>
     </message>
 </context>
 <context>

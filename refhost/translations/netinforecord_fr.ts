@@ -236,6 +236,25 @@
     </message>
 </context>
 <context>
+    <name>formats</name>
+    <message>
+        <source>CSV table</source>
+        <translation>Tableau CSV</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>System log with messages of pppd</source>
+        <translation>Journal système avec des messages de pppd</translation>
+    </message>
+    <message>
+        <source>JSON with the bytes by the hour</source>
+        <translation>JSON avec les octets par heure</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
@@ -422,14 +441,72 @@
     </message>
 </context>
 <context>
-    <name>refdialer::MainWindow</name>
+    <name>refdialer::ExportWork</name>
     <message>
-        <source>Connection history</source>
-        <translation>Historique des connexions</translation>
+        <source>Connections exported: %1</source>
+        <translation>Connexions exportées&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>They are in &quot;%1&quot;.</source>
+        <translation>Elles sont dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2. Vérifiez le disque, le dossier et ses droits.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileChooser</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Dossier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Nom du fichier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Kind of file:</source>
+        <translation>Type de fichier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>All files, recognised by what they hold (%1)</source>
+        <translation>Tous les fichiers, reconnus à leur contenu (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importer</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exporter</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileMenu</name>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importer…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exporter…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
@@ -438,6 +515,75 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Connections are being imported or exported.</source>
+        <translation>Des connexions sont en cours d’importation ou d’exportation.</translation>
+    </message>
+    <message>
+        <source>If the window closes now, that is cancelled: nothing is imported, and the file to export to stays as it is.</source>
+        <translation>Si la fenêtre se ferme maintenant, cela est annulé&#xa0;: rien n’est importé, et le fichier de destination reste tel quel.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the window</source>
+        <translation>&amp;Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>&amp;Attendre</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileProblem</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, a pipe or a device. Choose a file.</source>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, un tube ou un périphérique. Choisissez un fichier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
+        <translation>«&#xa0;%1&#xa0;» appartient à l’historique que cette fenêtre affiche. Choisissez un autre fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ImportWork</name>
+    <message>
+        <source>Of several files at once, only logs can be imported. Choose one file at a time.</source>
+        <translation>De plusieurs fichiers à la fois, seuls des journaux peuvent être importés. Choisissez un seul fichier à la fois.</translation>
+    </message>
+    <message>
+        <source>%1
+
+It was taken to be: %2. If it is something else, choose its kind together with the file.</source>
+        <translation>%1
+
+Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec le fichier.</translation>
+    </message>
+    <message>
+        <source>Connections added: %1</source>
+        <translation>Connexions ajoutées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>In the history already: %1</source>
+        <translation>Déjà dans l’historique&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Completed by what the log knows: %1</source>
+        <translation>Complétées d’après le journal&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
+        <translation>%1 n’indique pas les années&#xa0;; sa dernière ligne a été supposée de %2. Si c’est faux, supprimez ce qui a été ajouté et importez avec «&#xa0;connrecord import --year&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
+        <translation>Non utilisé, %1&#xa0;: %2&#xa0;; d’abord à la ligne %3 de «&#xa0;%4&#xa0;»&#xa0;: %5</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Historique des connexions</translation>
     </message>
     <message>
         <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
@@ -1047,6 +1193,75 @@
     <message>
         <source>No connections recorded yet in %1</source>
         <translation>Aucune connexion encore enregistrée dans %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Transfer</name>
+    <message>
+        <source>There is not enough memory for this. Close other programs, or take smaller files.</source>
+        <translation>La mémoire ne suffit pas pour cela. Fermez d’autres programmes, ou prenez des fichiers plus petits.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferDialog</name>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>Nothing was exported.</source>
+        <translation>Rien n’a été exporté.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>Annulation</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferProgress</name>
+    <message>
+        <source>Reading &quot;%1&quot;: %2 of %3</source>
+        <translation>Lecture de «&#xa0;%1&#xa0;»&#xa0;: %2 sur %3</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;: %2</source>
+        <translation>Lecture de «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Adding connections to the history: %1 of %2</source>
+        <translation>Ajout de connexions à l’historique&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Reading the history</source>
+        <translation>Lecture de l’historique</translation>
+    </message>
+    <message>
+        <source>Writing connections: %1 of %2</source>
+        <translation>Écriture des connexions&#xa0;: %1 sur %2</translation>
     </message>
 </context>
 <context>

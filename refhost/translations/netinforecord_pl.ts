@@ -236,6 +236,25 @@
     </message>
 </context>
 <context>
+    <name>formats</name>
+    <message>
+        <source>CSV table</source>
+        <translation>Tabela CSV</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>System log with messages of pppd</source>
+        <translation>Dziennik systemowy z komunikatami pppd</translation>
+    </message>
+    <message>
+        <source>JSON with the bytes by the hour</source>
+        <translation>JSON z bajtami na godzinę</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
@@ -422,14 +441,72 @@
     </message>
 </context>
 <context>
-    <name>refdialer::MainWindow</name>
+    <name>refdialer::ExportWork</name>
     <message>
-        <source>Connection history</source>
-        <translation>Historia połączeń</translation>
+        <source>Connections exported: %1</source>
+        <translation>Wyeksportowane połączenia: %1</translation>
     </message>
+    <message>
+        <source>They are in &quot;%1&quot;.</source>
+        <translation>Są w „%1”.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
+        <translation>Nie można zapisać „%1”: %2. Sprawdź dysk, folder i jego uprawnienia.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileChooser</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Anuluj</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Folder:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Nazwa pliku:</translation>
+    </message>
+    <message>
+        <source>Kind of file:</source>
+        <translation>Rodzaj pliku:</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>All files, recognised by what they hold (%1)</source>
+        <translation>Wszystkie pliki, rozpoznawane po zawartości (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importuj</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Eksport</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Eksportuj</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileMenu</name>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Plik</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importuj…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Eksportuj…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
@@ -438,6 +515,75 @@
     <message>
         <source>&amp;Quit</source>
         <translation>Za&amp;kończ</translation>
+    </message>
+    <message>
+        <source>Connections are being imported or exported.</source>
+        <translation>Trwa import lub eksport połączeń.</translation>
+    </message>
+    <message>
+        <source>If the window closes now, that is cancelled: nothing is imported, and the file to export to stays as it is.</source>
+        <translation>Jeśli okno zamknie się teraz, zostanie to anulowane: nic nie zostanie zaimportowane, a plik docelowy pozostanie bez zmian.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the window</source>
+        <translation>&amp;Zamknij okno</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>&amp;Czekaj</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileProblem</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, a pipe or a device. Choose a file.</source>
+        <translation>„%1” to folder, potok lub urządzenie. Wybierz plik.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
+        <translation>„%1” należy do historii, którą pokazuje to okno. Wybierz inny plik.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ImportWork</name>
+    <message>
+        <source>Of several files at once, only logs can be imported. Choose one file at a time.</source>
+        <translation>Z kilku plików naraz można importować tylko dzienniki. Wybierz po jednym pliku.</translation>
+    </message>
+    <message>
+        <source>%1
+
+It was taken to be: %2. If it is something else, choose its kind together with the file.</source>
+        <translation>%1
+
+Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</translation>
+    </message>
+    <message>
+        <source>Connections added: %1</source>
+        <translation>Dodane połączenia: %1</translation>
+    </message>
+    <message>
+        <source>In the history already: %1</source>
+        <translation>Już w historii: %1</translation>
+    </message>
+    <message>
+        <source>Completed by what the log knows: %1</source>
+        <translation>Uzupełnione według dziennika: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
+        <translation>%1 nie podaje lat; przyjęto, że ostatni wiersz jest z roku %2. Jeśli to błąd, usuń to, co dodano, i zaimportuj za pomocą „connrecord import --year”.</translation>
+    </message>
+    <message>
+        <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
+        <translation>Nie użyto, %1: %2; najpierw w wierszu %3 pliku „%4”: %5</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Historia połączeń</translation>
     </message>
     <message>
         <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
@@ -1051,6 +1197,75 @@
     <message>
         <source>No connections recorded yet in %1</source>
         <translation>Nie ma jeszcze zapisanych połączeń w %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Transfer</name>
+    <message>
+        <source>There is not enough memory for this. Close other programs, or take smaller files.</source>
+        <translation>Brak pamięci na tę czynność. Zamknij inne programy lub weź mniejsze pliki.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferDialog</name>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nic nie zaimportowano.</translation>
+    </message>
+    <message>
+        <source>Nothing was exported.</source>
+        <translation>Nic nie wyeksportowano.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Eksport</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Szczegóły</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Zamknij</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Anuluj</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>Anulowanie</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferProgress</name>
+    <message>
+        <source>Reading &quot;%1&quot;: %2 of %3</source>
+        <translation>Odczyt „%1”: %2 z %3</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;: %2</source>
+        <translation>Odczyt „%1”: %2</translation>
+    </message>
+    <message>
+        <source>Adding connections to the history: %1 of %2</source>
+        <translation>Dodawanie połączeń do historii: %1 z %2</translation>
+    </message>
+    <message>
+        <source>Reading the history</source>
+        <translation>Odczyt historii</translation>
+    </message>
+    <message>
+        <source>Writing connections: %1 of %2</source>
+        <translation>Zapis połączeń: %1 z %2</translation>
     </message>
 </context>
 <context>

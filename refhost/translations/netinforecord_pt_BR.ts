@@ -236,6 +236,25 @@
     </message>
 </context>
 <context>
+    <name>formats</name>
+    <message>
+        <source>CSV table</source>
+        <translation>Tabela CSV</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>System log with messages of pppd</source>
+        <translation>Log do sistema com mensagens do pppd</translation>
+    </message>
+    <message>
+        <source>JSON with the bytes by the hour</source>
+        <translation>JSON com os bytes por hora</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
@@ -422,14 +441,72 @@
     </message>
 </context>
 <context>
-    <name>refdialer::MainWindow</name>
+    <name>refdialer::ExportWork</name>
     <message>
-        <source>Connection history</source>
-        <translation>Histórico de conexões</translation>
+        <source>Connections exported: %1</source>
+        <translation>Conexões exportadas: %1</translation>
     </message>
+    <message>
+        <source>They are in &quot;%1&quot;.</source>
+        <translation>Estão em “%1”.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
+        <translation>Não é possível gravar “%1”: %2. Verifique o disco, a pasta e suas permissões.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileChooser</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Pasta:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Nome do arquivo:</translation>
+    </message>
+    <message>
+        <source>Kind of file:</source>
+        <translation>Tipo de arquivo:</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>All files, recognised by what they hold (%1)</source>
+        <translation>Todos os arquivos, reconhecidos pelo conteúdo (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileMenu</name>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportar…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
@@ -438,6 +515,75 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>Connections are being imported or exported.</source>
+        <translation>Conexões estão sendo importadas ou exportadas.</translation>
+    </message>
+    <message>
+        <source>If the window closes now, that is cancelled: nothing is imported, and the file to export to stays as it is.</source>
+        <translation>Se a janela fechar agora, isso será cancelado: nada será importado, e o arquivo de destino ficará como está.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the window</source>
+        <translation>&amp;Fechar a janela</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>&amp;Esperar</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileProblem</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, a pipe or a device. Choose a file.</source>
+        <translation>“%1” é uma pasta, um pipe ou um dispositivo. Escolha um arquivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
+        <translation>“%1” pertence ao histórico que esta janela exibe. Escolha outro arquivo.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ImportWork</name>
+    <message>
+        <source>Of several files at once, only logs can be imported. Choose one file at a time.</source>
+        <translation>De vários arquivos de uma vez, só é possível importar logs. Escolha um arquivo por vez.</translation>
+    </message>
+    <message>
+        <source>%1
+
+It was taken to be: %2. If it is something else, choose its kind together with the file.</source>
+        <translation>%1
+
+Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</translation>
+    </message>
+    <message>
+        <source>Connections added: %1</source>
+        <translation>Conexões adicionadas: %1</translation>
+    </message>
+    <message>
+        <source>In the history already: %1</source>
+        <translation>Já no histórico: %1</translation>
+    </message>
+    <message>
+        <source>Completed by what the log knows: %1</source>
+        <translation>Completadas com o que o log sabe: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
+        <translation>%1 não mostra os anos; supôs-se que a última linha é de %2. Se estiver errado, exclua o que foi adicionado e importe com “connrecord import --year”.</translation>
+    </message>
+    <message>
+        <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
+        <translation>Não usado, %1: %2; primeiro na linha %3 de “%4”: %5</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Histórico de conexões</translation>
     </message>
     <message>
         <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
@@ -1047,6 +1193,75 @@
     <message>
         <source>No connections recorded yet in %1</source>
         <translation>Ainda não há conexões registradas em %1</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Transfer</name>
+    <message>
+        <source>There is not enough memory for this. Close other programs, or take smaller files.</source>
+        <translation>Não há memória suficiente para isso. Feche outros programas ou use arquivos menores.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferDialog</name>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nada foi importado.</translation>
+    </message>
+    <message>
+        <source>Nothing was exported.</source>
+        <translation>Nada foi exportado.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>Cancelando</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferProgress</name>
+    <message>
+        <source>Reading &quot;%1&quot;: %2 of %3</source>
+        <translation>Lendo “%1”: %2 de %3</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;: %2</source>
+        <translation>Lendo “%1”: %2</translation>
+    </message>
+    <message>
+        <source>Adding connections to the history: %1 of %2</source>
+        <translation>Adicionando conexões ao histórico: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Reading the history</source>
+        <translation>Lendo o histórico</translation>
+    </message>
+    <message>
+        <source>Writing connections: %1 of %2</source>
+        <translation>Gravando conexões: %1 de %2</translation>
     </message>
 </context>
 <context>

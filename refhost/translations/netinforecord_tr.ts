@@ -236,6 +236,25 @@
     </message>
 </context>
 <context>
+    <name>formats</name>
+    <message>
+        <source>CSV table</source>
+        <translation>CSV tablosu</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>System log with messages of pppd</source>
+        <translation>pppd iletileri içeren sistem günlüğü</translation>
+    </message>
+    <message>
+        <source>JSON with the bytes by the hour</source>
+        <translation>Saatlik baytlarla JSON</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
@@ -422,14 +441,72 @@
     </message>
 </context>
 <context>
-    <name>refdialer::MainWindow</name>
+    <name>refdialer::ExportWork</name>
     <message>
-        <source>Connection history</source>
-        <translation>Bağlantı geçmişi</translation>
+        <source>Connections exported: %1</source>
+        <translation>Dışa aktarılan bağlantılar: %1</translation>
     </message>
+    <message>
+        <source>They are in &quot;%1&quot;.</source>
+        <translation>Bunlar “%1” içinde.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
+        <translation>“%1” yazılamıyor: %2. Diski, klasörü ve izinlerini denetleyin.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileChooser</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Klasör:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>Dosya &amp;adı:</translation>
+    </message>
+    <message>
+        <source>Kind of file:</source>
+        <translation>Dosya türü:</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>İçe aktar</translation>
+    </message>
+    <message>
+        <source>All files, recognised by what they hold (%1)</source>
+        <translation>Tüm dosyalar, içeriğinden tanınır (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>İç&amp;e aktar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Dışa aktar</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Dışa aktar</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileMenu</name>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Dosya</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>İç&amp;e aktar…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Dışa aktar…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
@@ -438,6 +515,75 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Çık</translation>
+    </message>
+    <message>
+        <source>Connections are being imported or exported.</source>
+        <translation>Bağlantılar içe veya dışa aktarılıyor.</translation>
+    </message>
+    <message>
+        <source>If the window closes now, that is cancelled: nothing is imported, and the file to export to stays as it is.</source>
+        <translation>Pencere şimdi kapanırsa bu iptal edilir: hiçbir şey içe aktarılmaz ve dışa aktarılacak dosya olduğu gibi kalır.</translation>
+    </message>
+    <message>
+        <source>&amp;Close the window</source>
+        <translation>&amp;Pencereyi kapat</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>&amp;Bekle</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::FileProblem</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, a pipe or a device. Choose a file.</source>
+        <translation>“%1” bir klasör, boru veya aygıt. Bir dosya seçin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
+        <translation>“%1” bu pencerenin gösterdiği geçmişe ait. Başka bir dosya seçin.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::ImportWork</name>
+    <message>
+        <source>Of several files at once, only logs can be imported. Choose one file at a time.</source>
+        <translation>Birden çok dosyadan yalnızca günlükler birlikte içe aktarılabilir. Her seferinde bir dosya seçin.</translation>
+    </message>
+    <message>
+        <source>%1
+
+It was taken to be: %2. If it is something else, choose its kind together with the file.</source>
+        <translation>%1
+
+Şöyle okundu: %2. Başka bir şeyse türünü dosyayla birlikte seçin.</translation>
+    </message>
+    <message>
+        <source>Connections added: %1</source>
+        <translation>Eklenen bağlantılar: %1</translation>
+    </message>
+    <message>
+        <source>In the history already: %1</source>
+        <translation>Geçmişte zaten var: %1</translation>
+    </message>
+    <message>
+        <source>Completed by what the log knows: %1</source>
+        <translation>Günlükten tamamlanan: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
+        <translation>%1 yılları göstermiyor; son satırının %2 yılından olduğu varsayıldı. Bu yanlışsa ekleneni silin ve “connrecord import --year” ile içe aktarın.</translation>
+    </message>
+    <message>
+        <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
+        <translation>Kullanılmadı, %1: %2; ilk olarak “%4” dosyasının %3. satırında: %5</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::MainWindow</name>
+    <message>
+        <source>Connection history</source>
+        <translation>Bağlantı geçmişi</translation>
     </message>
     <message>
         <source>The history plug-in says that it has statistics but cannot be asked for them. Start refdialer with another one: --plugin FILE.</source>
@@ -1043,6 +1189,75 @@
     <message>
         <source>No connections recorded yet in %1</source>
         <translation>%1 içinde henüz kayıtlı bağlantı yok</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::Transfer</name>
+    <message>
+        <source>There is not enough memory for this. Close other programs, or take smaller files.</source>
+        <translation>Bunun için bellek yetmiyor. Başka programları kapatın veya daha küçük dosyalar alın.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferDialog</name>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Hiçbir şey içe aktarılmadı.</translation>
+    </message>
+    <message>
+        <source>Nothing was exported.</source>
+        <translation>Hiçbir şey dışa aktarılmadı.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>İçe aktar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Dışa aktar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>İlerleme</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Ayrıntılar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Kapat</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>İptal ediliyor</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::TransferProgress</name>
+    <message>
+        <source>Reading &quot;%1&quot;: %2 of %3</source>
+        <translation>“%1” okunuyor: %2 / %3</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;: %2</source>
+        <translation>“%1” okunuyor: %2</translation>
+    </message>
+    <message>
+        <source>Adding connections to the history: %1 of %2</source>
+        <translation>Bağlantılar geçmişe ekleniyor: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Reading the history</source>
+        <translation>Geçmiş okunuyor</translation>
+    </message>
+    <message>
+        <source>Writing connections: %1 of %2</source>
+        <translation>Bağlantılar yazılıyor: %1 / %2</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,7 @@
 #include "apps/refdialer/SettingsDialog.h"
 #include "apps/refdialer/StateLine.h"
 #include "apps/refdialer/SummaryChoice.h"
+#include "apps/refdialer/TransferDialog.h"
 #include "refhost/libcore/Host.h"
 
 #include <QApplication>
@@ -193,6 +194,24 @@ void lookAtThePlans(HistoryWindow &history, const Look &look)
     }
 }
 
+void lookAtTheImport(HistoryWindow &history, const Look &look)
+{
+    refdialer::TransferDialog dialog(refdialer::TransferKind::Import, &history.window());
+    dialog.show();
+    const std::atomic<bool> isCancelled = false;
+    refdialer::TransferProgress progress(isCancelled, [&](const refdialer::TransferState &state) {
+        dialog.showState(state);
+        QCoreApplication::processEvents();
+        look(dialog);
+    });
+    progress.beginStoring(1000000);
+    progress.beginListing();
+    progress.beginWriting(1000000);
+    dialog.showResult({refdialer::TransferResult::Kind::Failed, {}, profile});
+    QCoreApplication::processEvents();
+    look(dialog);
+}
+
 /// A new window or page gets a line here.
 const struct {
     const char *name;
@@ -208,6 +227,7 @@ const struct {
     {"summary", lookAtTheSummary},
     {"statistics", lookAtTheStatistics},
     {"plans", lookAtThePlans},
+    {"import", lookAtTheImport},
 };
 
 template <class Widget>

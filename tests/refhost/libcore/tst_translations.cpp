@@ -145,7 +145,8 @@ void addLanguageRows()
 void addFileRows()
 {
     const QStringList identifiers("refhost/translations/Identifiers.h");
-    const QStringList program{"refhost/libcore", "apps/common", "apps/refdialer"};
+    const QStringList program{"refhost/libcore", "formats/Formats.h", "apps/common",
+                              "apps/refdialer"};
     QTest::addColumn<QString>("file");
     QTest::addColumn<QStringList>("sources");
     QTest::newRow("English") << "netinforecord_en" << identifiers;
