@@ -68,7 +68,7 @@ void UsagePainter::paint(QPainter &painter) const
     paintNumbers(painter);
     paintGroups(painter);
     painter.setPen(m_parts.shade(1));
-    painter.drawText(m_geometry.plot(), Qt::AlignCenter | Qt::TextWordWrap, m_contents.note);
+    painter.drawText(m_geometry.plot(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_contents.note);
     if (m_contents.hasKeyboard)
         paintFocus(painter);
 }
@@ -147,9 +147,8 @@ std::vector<UsagePainter::Group> UsagePainter::groups() const
 /// The longest name that there is room for; may be empty.
 QString UsagePainter::groupText(const Group &group) const
 {
-    const QString year = QString::number(group.first.year());
     if (m_contents.unit == BarUnit::Month)
-        return year;
+        return QString::number(group.first.year());
     const QString texts[] = {
         UsageText::monthName(group.first, m_locale),
         m_locale.standaloneMonthName(group.first.month(), QLocale::LongFormat),
