@@ -68,6 +68,7 @@ PlanDialog::PlanDialog(PlanWatch &plans, QWidget *parent)
     m_list->setRootIsDecorated(false);
     m_list->setAllColumnsShowFocus(true);
     m_list->setUniformRowHeights(true);
+    m_list->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
 
