@@ -12,9 +12,12 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace refdialer
 {
@@ -43,6 +46,18 @@ QString headerText(const QTableWidget &table)
     return cells.join(QLatin1Char('\t'));
 }
 
+/// The least at which columns of one width cut nothing.
+int leastWidth(const QTableWidget &table)
+{
+    const QAbstractItemView &view = table;
+    int column = 0;
+    for (int i = 0; i < table.columnCount(); ++i)
+        column = std::max(
+            {column, view.sizeHintForColumn(i), table.horizontalHeader()->sectionSizeHint(i)});
+    return table.columnCount() * column + table.verticalHeader()->sizeHint().width() +
+           table.verticalScrollBar()->sizeHint().width() + 2 * table.frameWidth();
+}
+
 } // namespace
 
 PastPeriodsDialog::PastPeriodsDialog(PlanWatch &plans, std::int64_t planKey, QWidget *parent)
@@ -60,6 +75,7 @@ PastPeriodsDialog::PastPeriodsDialog(PlanWatch &plans, std::int64_t planKey, QWi
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->setMinimumWidth(leastWidth(*m_table));
     m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
 
@@ -129,6 +145,7 @@ void PastPeriodsDialog::showUses(const Result<std::vector<PeriodUse>> &uses)
         return;
     for (const PeriodUse &use : uses.value())
         addRow(use);
+    m_table->setMinimumWidth(leastWidth(*m_table));
     m_table->setCurrentCell(0, 0);
 }
 
