@@ -94,6 +94,8 @@ PastPeriodsDialog::PastPeriodsDialog(PlanWatch &plans, std::int64_t planKey, QWi
     layout->addWidget(m_message);
     layout->addLayout(buttons);
 
+    // Wide enough for the heads of the columns in every language.
+    resize(90 * fontMetrics().averageCharWidth(), 20 * fontMetrics().height());
     addPlans(planKey);
     connect(m_plan, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &PastPeriodsDialog::read);
