@@ -2,6 +2,7 @@
 #include "PlanWarner.h"
 
 #include "NotificationService.h"
+#include "RecordingChoices.h"
 #include "WarningText.h"
 #include "history/Store.h"
 #include "recorder/ConnectionRecorder.h"
@@ -60,7 +61,8 @@ void PlanWarner::check()
             }
         }
     });
-    if (isAnyDue)
+    // Not given yet, and so still to come once they are wanted again.
+    if (isAnyDue && arePlanWarningsWanted())
         lookForService();
     emit checked();
 }
@@ -78,7 +80,7 @@ void PlanWarner::lookForService()
 /// nobody gets it twice.
 void PlanWarner::warn()
 {
-    if (!m_recorder.isRecording())
+    if (!m_recorder.isRecording() || !arePlanWarningsWanted())
         return;
     withReachedPlans([this](Store &store, const ReachedPlans &reached) {
         for (const ReachedPlan &each : reached) {

@@ -29,7 +29,8 @@ class NotificationService;
 /// Warns of data plans that are used up to a percentage that the user has named, while its
 /// recorder, and no other program's, records: with a desktop notification for each plan, of the
 /// highest of the percentages that are new, once in a period, whichever program gives it. Where
-/// there is no notification service, that is not given: it comes as soon as there is one.
+/// there is no notification service, or the user wants none (arePlanWarningsWanted), that is
+/// not given: it comes as soon as there is one.
 ///
 /// Looks at the plans when bytes have come into the history, and does nothing else. Lives on
 /// the recorder's thread, and is made when that has been started.

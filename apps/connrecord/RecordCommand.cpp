@@ -9,6 +9,7 @@
 #include "apps/common/PlanWarner.h"
 #include "apps/common/ProblemText.h"
 #include "apps/common/QuitOnSignal.h"
+#include "apps/common/RecordingChoices.h"
 #include "formats/Utf8Text.h"
 #include "history/Store.h"
 #include "recorder/ConnectionRecorder.h"
@@ -31,8 +32,11 @@ using recorder::ConnectionRecorder;
 using recorder::ConnectionState;
 using recorder::Problem;
 
+/// Those that are given, or else those that the user has chosen in refdialer.
 QStringList interfaceNames(const std::vector<std::string> &names)
 {
+    if (names.empty())
+        return common::chosenInterfaces();
     QStringList checked;
     for (const std::string &name : names) {
         const QString text = QString::fromStdString(name);

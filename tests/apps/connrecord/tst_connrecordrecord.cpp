@@ -4,6 +4,9 @@
 #include "RecordingProgram.h"
 #include "ServiceManager.h"
 
+#include <QDir>
+#include <QFile>
+
 #include <csignal>
 
 /// The command that records, with real interfaces in a network of this test's own.
@@ -26,6 +29,7 @@ private slots:
     void leavesWhatLastsToTheNextOne_data();
     void leavesWhatLastsToTheNextOne();
     void recordsANamedInterfaceUnderTheProfile();
+    void recordsTheInterfacesOfTheSettings();
     void takesOverFromAnotherRecorder();
     void tellsTheServiceManager_data();
     void tellsTheServiceManager();
@@ -125,6 +129,20 @@ void ConnrecordRecordTest::recordsANamedInterfaceUnderTheProfile()
     QTRY_VERIFY(program.said().contains("Connected: internet.example (far0).\n"));
     QTRY_VERIFY(program.said().contains("Connected: internet.example (wwan0).\n"));
     QCOMPARE(openRowsIn(m_path).front().profile, std::string("internet.example"));
+}
+
+void ConnrecordRecordTest::recordsTheInterfacesOfTheSettings()
+{
+    QVERIFY(QDir(m_folder->path()).mkpath("refdialer"));
+    QFile settings(m_folder->filePath("refdialer/refdialer.conf"));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[refdialer]\ninterfaces=far0 no/interface\n");
+    settings.close();
+    RecordingProgram program(arguments(), {{"XDG_CONFIG_HOME", m_folder->path()}});
+    QTRY_COMPARE(program.said(), recording);
+    QVERIFY(m_line->goUp());
+    QTRY_VERIFY(program.said().contains("Connected: far0.\n"));
+    QTRY_VERIFY(program.said().contains("Connected: wwan0.\n"));
 }
 
 void ConnrecordRecordTest::takesOverFromAnotherRecorder()

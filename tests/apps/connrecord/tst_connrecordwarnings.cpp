@@ -6,6 +6,7 @@
 #include "RecorderTest.h"
 #include "RecordingProgram.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <csignal>
@@ -35,12 +36,15 @@ private slots:
     void warnsWhenTheServiceComes();
     void warnsWhenTheBusComes();
     void hasTheBusStartTheService();
+    void warnsOnlyWhileThatIsWanted();
 
 private:
     using Program = std::unique_ptr<RecordingProgram>;
     Program start() const;
     /// Warns at these percentages of 100 datagrams.
     void addPlan(const char *name, const std::vector<int> &percentages) const;
+    /// As refdialer's settings have it.
+    void wantWarnings(bool areWanted) const;
     bool use(int datagrams) const { return m_line->upload(datagrams, datagramSize); }
     QStringList titles() const { return m_desktop->titles(); }
 
@@ -94,7 +98,17 @@ ConnrecordWarningsTest::Program ConnrecordWarningsTest::start() const
 {
     return std::make_unique<RecordingProgram>(
         QStringList{"--store", m_path, "record"},
-        RecordingProgram::Environment{{"DBUS_SESSION_BUS_ADDRESS", m_bus->address()}});
+        RecordingProgram::Environment{{"DBUS_SESSION_BUS_ADDRESS", m_bus->address()},
+                                      {"XDG_CONFIG_HOME", m_folder->path()}});
+}
+
+void ConnrecordWarningsTest::wantWarnings(bool areWanted) const
+{
+    QVERIFY(QDir(m_folder->path()).mkpath("refdialer"));
+    QFile settings(m_folder->filePath("refdialer/refdialer.conf"));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write(areWanted ? "[refdialer]\nplanWarnings=true\n"
+                             : "[refdialer]\nplanWarnings=false\n");
 }
 
 void ConnrecordWarningsTest::addPlan(const char *name, const std::vector<int> &percentages) const
@@ -241,6 +255,21 @@ void ConnrecordWarningsTest::hasTheBusStartTheService()
     // What it has started is no service.
     QVERIFY(m_desktop->takeName());
     QTRY_COMPARE_WITH_TIMEOUT(titles(), QStringList(title("home", 50)), checkpointTimeout);
+}
+
+void ConnrecordWarningsTest::warnsOnlyWhileThatIsWanted()
+{
+    wantWarnings(false);
+    addPlan("home", {50, 100});
+    const Program program = start();
+    QTRY_VERIFY(program->said().contains("Connected"));
+    QVERIFY(use(50));
+    QTRY_VERIFY_WITH_TIMEOUT(program->said().contains(title("home", 50).toUtf8()),
+                             checkpointTimeout);
+    wantWarnings(true);
+    QVERIFY(use(50));
+    // The first one has not been shown before.
+    QTRY_COMPARE_WITH_TIMEOUT(titles(), QStringList(title("home", 100)), checkpointTimeout);
 }
 
 NETWORK_TEST_MAIN(ConnrecordWarningsTest)
