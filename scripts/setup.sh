@@ -6,7 +6,7 @@ build_packages=(
     cmake ninja-build g++
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
     libsqlitecpp-dev libsqlite3-dev libutfcpp-dev libcli11-dev nlohmann-json3-dev
-    libmnl-dev libsystemd-dev libarchive-dev zlib1g-dev pkg-config
+    libmnl-dev libsystemd-dev libarchive-dev zlib1g-dev pkg-config mandoc
 )
 run_packages=(fonts-dejavu-core)
 # What every step of ./test needs, and what single steps need besides.

@@ -9,6 +9,8 @@
 #include "Recording.h"
 #include "ServicePlugin.h"
 #include "SummaryChoice.h"
+#include "WindowView.h"
+#include "apps/common/RecordingChoices.h"
 #include "refhost/libcore/Host.h"
 
 #include "history/Store.h"
@@ -61,10 +63,14 @@ void Application::chooseStore()
     m_source = {QString::fromStdString(history::Store::defaultPath()), m_options.isDemo};
 }
 
+bool Application::isOwnWindow() const
+{
+    return !m_options.isDemo && m_options.pictureFile.isEmpty();
+}
+
 bool Application::isFirst()
 {
-    // What is shown for a moment or to try it out is nobody's other window.
-    if (m_options.isDemo || !m_options.pictureFile.isEmpty())
+    if (!isOwnWindow())
         return true;
     const SingleInstance::Outcome outcome = m_instance.claim(m_source.file);
     if (outcome == SingleInstance::Outcome::OtherIsBusy)
@@ -94,12 +100,34 @@ void Application::loadDialupService()
 // run has left unfinished.
 void Application::startRecording()
 {
-    if (m_options.isDemo || !m_options.pictureFile.isEmpty())
+    if (!isOwnWindow())
         return;
     offerSummary();
-    m_recording = std::make_unique<Recording>(m_source.file, m_options.interfaceNames,
-                                              m_options.profile, m_state);
+    startRecorder();
+}
+
+void Application::startRecorder()
+{
+    // What the command line asks for holds for this run, whatever is chosen.
+    const QStringList interfaces =
+        m_options.interfaceNames.isEmpty() ? common::chosenInterfaces() : m_options.interfaceNames;
+    m_recording =
+        std::make_unique<Recording>(m_source.file, interfaces, m_options.profile, m_state);
     m_recording->start();
+}
+
+/// Other interfaces are to be recorded; what lasts is resumed.
+void Application::restartRecorder()
+{
+    if (!m_recording || !m_options.interfaceNames.isEmpty())
+        return;
+    m_recording.reset();
+    // What the former one has said last is not the new one's.
+    QCoreApplication::sendPostedEvents(&m_state);
+    m_state.setWatched(false);
+    m_state.setProblem(QString());
+    m_state.setPlanWarning(QString());
+    startRecorder();
 }
 
 void Application::startPlugin()
@@ -127,8 +155,14 @@ void Application::showWindow()
         return;
     }
     QObject::connect(&m_instance, &SingleInstance::activated, &window, &MainWindow::comeForward);
+    QObject::connect(&window, &MainWindow::interfacesChosen, [this] { restartRecorder(); });
+    if (isOwnWindow())
+        window.restoreView(storedWindowView());
     window.show();
     QCoreApplication::exec();
+    if (isOwnWindow() && !storeWindowView(window.view()))
+        qWarning("The window starts as at first next time: the settings cannot be written to %s.",
+                 qUtf8Printable(refhost::settingsFile()));
 }
 
 } // namespace refdialer

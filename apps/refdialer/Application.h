@@ -39,7 +39,11 @@ private:
     bool isFirst();
     void checkStore() const;
     void loadDialupService();
+    /// Whether this run is the user's own window, and not one for a moment or to try it out.
+    bool isOwnWindow() const;
     void startRecording();
+    void startRecorder();
+    void restartRecorder();
     void startPlugin();
     void showWindow();
 

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "HistoryArea.h"
 
+#include "DeleteAllGuard.h"
 #include "PluginHandle.h"
+#include "TableKeys.h"
 #include "TableViewState.h"
 #include "TrueValues.h"
+#include "UpdatesOff.h"
+#include "VisibleSelection.h"
 #include "refhost/libcore/Host.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QTableWidget>
 
 #include <chrono>
@@ -33,12 +38,15 @@ HistoryArea::HistoryArea(PluginHandle &plugin, const QString &storeFile, QWidget
     : QWidget(parent)
     , m_plugin(plugin)
     , m_storePath(storeFile.toStdString())
+    , m_changeTimer(this)
     , m_watch(m_storePath, this)
     , m_watchTimer(this)
 {
     connect(&m_watchTimer, &QTimer::timeout, this, &HistoryArea::keepUpToDate);
     connect(&m_watch, &HistoryWatch::seen, this, &HistoryArea::compareWith);
     m_watchTimer.start(watchInterval);
+    m_changeTimer.setSingleShot(true);
+    connect(&m_changeTimer, &QTimer::timeout, this, &HistoryArea::changed);
 }
 
 void HistoryArea::showHistory()
@@ -58,6 +66,20 @@ void HistoryArea::sort(const HistoryOrder &order)
     sortTable();
 }
 
+void HistoryArea::setFilter(const HistoryFilter &filter)
+{
+    if (filter == m_filter)
+        return;
+    m_filter = filter;
+    if (!m_selection)
+        return;
+    applyFilter();
+    if (table()->currentIndex().isValid())
+        table()->scrollTo(table()->currentIndex());
+    else
+        table()->scrollToTop();
+}
+
 void HistoryArea::showFinishedConnection()
 {
     m_isFinishedConnectionDue = isUserDeciding();
@@ -68,6 +90,38 @@ void HistoryArea::showFinishedConnection()
 void HistoryArea::refresh()
 {
     load([this] { m_plugin.reload(); });
+}
+
+HistorySum HistoryArea::sum() const
+{
+    return table() ? sumOf(*table(), m_shown) : HistorySum();
+}
+
+void HistoryArea::copySelection()
+{
+    const QString text = table() ? selectedText(*table()) : QString();
+    // What was copied before stays there if nothing is selected.
+    if (!text.isEmpty())
+        QApplication::clipboard()->setText(text);
+}
+
+void HistoryArea::openContextMenu()
+{
+    if (table())
+        refdialer::openContextMenu(*table());
+}
+
+void HistoryArea::takeFocus()
+{
+    if (table())
+        table()->setFocus(Qt::ShortcutFocusReason);
+}
+
+void HistoryArea::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
 }
 
 void HistoryArea::resizeEvent(QResizeEvent *event)
@@ -82,19 +136,57 @@ QTableWidget *HistoryArea::table() const
     return findChild<QTableWidget *>();
 }
 
+/// Once for each table.
+void HistoryArea::adopt(QTableWidget &table)
+{
+    if (m_selection)
+        return;
+    const QPointer<QItemSelectionModel> former = table.selectionModel();
+    m_selection = new VisibleSelection(table);
+    table.setSelectionModel(m_selection);
+    delete former;
+    new DeleteAllGuard(table);
+    // The arrow keys go from cell to cell, and Tab to what stands around the table.
+    table.setTabKeyNavigation(false);
+    connect(m_selection, &QItemSelectionModel::selectionChanged, &table,
+            &QTableWidget::itemSelectionChanged);
+    connect(m_selection, &QItemSelectionModel::selectionChanged, &m_changeTimer,
+            QOverload<>::of(&QTimer::start));
+    connect(table.model(), &QAbstractItemModel::rowsRemoved, this, &HistoryArea::forgetRows);
+    retranslate();
+}
+
+void HistoryArea::retranslate()
+{
+    if (table())
+        table()->setAccessibleName(tr("Connections"));
+}
+
 void HistoryArea::sortTable()
 {
     if (!table())
         return;
+    adopt(*table());
+    // What hides a row is what it shows, not its place.
+    m_selection->showAll();
     m_shown = ShownConnections(sortRows(*table(), m_order, TrueValues::readFrom(m_storePath)));
-    connect(table()->model(), &QAbstractItemModel::rowsRemoved, this, &HistoryArea::forgetRows,
-            Qt::UniqueConnection);
+    applyFilter();
+}
+
+void HistoryArea::applyFilter()
+{
+    if (m_filter.isEverything())
+        m_selection->showAll();
+    else
+        m_selection->showOnly(matchingRows(*table(), m_shown, m_filter));
+    emit changed();
 }
 
 /// Apart from loading, rows go only because the user has deleted them.
 void HistoryArea::forgetRows(const QModelIndex & /*parent*/, int first, int last)
 {
     m_shown.remove(first, last);
+    m_changeTimer.start();
 }
 
 void HistoryArea::load(const std::function<void()> &loadRows)

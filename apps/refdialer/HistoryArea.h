@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "HistoryFilter.h"
 #include "HistorySort.h"
+#include "HistorySum.h"
 #include "HistoryWatch.h"
 #include "ShownConnections.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -17,6 +20,7 @@ namespace refdialer
 {
 
 class PluginHandle;
+class VisibleSelection;
 
 /// The place in the main window where the plug-in shows its history. What others
 /// write to the store appears there within two seconds, but never while the user
@@ -34,17 +38,40 @@ public:
     void hideHistory();
     /// Puts the rows in this order, now and whenever they are loaded anew.
     void sort(const HistoryOrder &order);
+    /// Lists these connections only, now and whenever they are loaded anew. The others'
+    /// rows are hidden: they are not selected, and nothing done to the list deletes them.
+    void setFilter(const HistoryFilter &filter);
+    const HistoryFilter &filter() const { return m_filter; }
     /// Lets the plug-in list a connection that has just been finished.
     void showFinishedConnection();
     /// Lists what the store has at this moment.
     void refresh();
 
+    /// How many connections there are, listed or not.
+    int connectionCount() const { return m_shown.count(); }
+    /// Of what is selected, or else of what is listed.
+    HistorySum sum() const;
+    /// What is selected, as the rows show it.
+    void copySelection();
+    /// Opens the plug-in's menu at the current row.
+    void openContextMenu();
+    /// Gives the keyboard to the list.
+    void takeFocus();
+
+signals:
+    /// Connections, which of them are listed, or which are selected; once for many changes.
+    void changed();
+
 protected:
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     QTableWidget *table() const;
+    void adopt(QTableWidget &table);
+    void retranslate();
     void sortTable();
+    void applyFilter();
     void forgetRows(const QModelIndex &parent, int first, int last);
     void load(const std::function<void()> &loadRows);
     void keepUpToDate();
@@ -53,6 +80,9 @@ private:
     PluginHandle &m_plugin;
     const std::string m_storePath;
     HistoryOrder m_order;
+    HistoryFilter m_filter;
+    QPointer<VisibleSelection> m_selection; ///< the table's
+    QTimer m_changeTimer;
     bool m_hasHistory = false;
     ShownConnections m_shown;
     HistoryWatch m_watch;

@@ -2,7 +2,9 @@
 #include "HistoryPage.h"
 
 #include "HistoryArea.h"
+#include "HistorySearch.h"
 
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace refdialer
@@ -10,12 +12,65 @@ namespace refdialer
 
 HistoryPage::HistoryPage(PluginHandle &plugin, const QString &storeFile, QWidget *parent)
     : QWidget(parent)
+    , m_search(new HistorySearch)
+    , m_notice(new HistoryNotice)
     , m_area(new HistoryArea(plugin, storeFile))
 {
     auto *const layout = new QVBoxLayout(this);
-    // The history brings margins of its own.
+    // Each part brings margins of its own.
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_search);
+    layout->addWidget(m_notice);
     layout->addWidget(m_area, 1);
+    addKeys();
+    connect(m_search, &HistorySearch::changed, this, &HistoryPage::applyFilter);
+    connect(m_search, &HistorySearch::left, m_area, &HistoryArea::takeFocus);
+    connect(m_notice, &HistoryNotice::allWanted, m_search, &HistorySearch::clear);
+    connect(m_area, &HistoryArea::changed, this, &HistoryPage::showReason);
+}
+
+void HistoryPage::beginSearch()
+{
+    m_search->begin();
+}
+
+void HistoryPage::setShortest(qint64 seconds)
+{
+    m_shortestSeconds = seconds;
+    applyFilter();
+}
+
+void HistoryPage::addKeys()
+{
+    const auto add = [this](const QKeySequence &key, void (HistoryArea::*function)()) {
+        auto *const shortcut = new QShortcut(key, m_area);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, m_area, function);
+    };
+    for (const QKeySequence &key : QKeySequence::keyBindings(QKeySequence::Copy))
+        add(key, &HistoryArea::copySelection);
+    add(QKeySequence(Qt::Key_Menu), &HistoryArea::openContextMenu);
+    add(QKeySequence(Qt::SHIFT | Qt::Key_F10), &HistoryArea::openContextMenu);
+}
+
+void HistoryPage::applyFilter()
+{
+    HistoryFilter filter = m_search->filter();
+    filter.shortestSeconds = m_shortestSeconds;
+    m_area->setFilter(filter);
+}
+
+void HistoryPage::showReason()
+{
+    using Reason = HistoryNotice::Reason;
+    if (m_area->sum().count > 0)
+        m_notice->setReason(Reason::None);
+    else if (m_area->connectionCount() == 0)
+        m_notice->setReason(Reason::NoConnections);
+    else
+        m_notice->setReason(m_area->filter().isSearch() ? Reason::NothingFound
+                                                        : Reason::AllTooShort);
 }
 
 } // namespace refdialer

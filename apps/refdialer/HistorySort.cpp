@@ -2,6 +2,7 @@
 #include "HistorySort.h"
 
 #include "TrueValues.h"
+#include "UpdatesOff.h"
 
 #include <QCollator>
 #include <QTableWidget>
@@ -121,6 +122,7 @@ Order orderOf(const std::vector<history::Connection> &rows, const HistoryOrder &
 void moveRows(QTableWidget &table, const Order &order)
 {
     constexpr int column = int(HistoryColumn::Start);
+    const UpdatesOff off(table);
     for (std::size_t rank = 0; rank < order.size(); ++rank) {
         QTableWidgetItem *const shown = table.takeItem(order[rank], column);
         table.setItem(order[rank], column, new RankItem(int(rank), shown));
@@ -140,12 +142,7 @@ std::vector<history::Connection> sortRows(QTableWidget &table, const HistoryOrde
 {
     std::vector<history::Connection> rows = connectionsIn(table, values);
     const Order order = orderOf(rows, by, table.locale());
-    // Of its own: what a parent has switched off for a while is that one's to switch on.
-    const bool wasUpdating = !table.testAttribute(Qt::WA_ForceUpdatesDisabled);
-    table.setUpdatesEnabled(false);
     moveRows(table, order);
-    table.setUpdatesEnabled(wasUpdating);
-
     std::vector<history::Connection> sorted;
     sorted.reserve(rows.size());
     for (const int row : order)

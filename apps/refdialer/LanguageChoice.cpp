@@ -2,6 +2,7 @@
 #include "LanguageChoice.h"
 
 #include "CommonUtils.h"
+#include "apps/common/RecordingChoices.h"
 #include "refhost/libcore/Host.h"
 
 #include <algorithm>
@@ -12,7 +13,6 @@ namespace refdialer
 namespace
 {
 
-const char *const settingsGroup = "refdialer";
 const char *const languageKey = "language";
 
 /// What the environment asks for when times are written, as "de_AT".
@@ -42,8 +42,19 @@ QList<QLocale> allLocales()
 
 QString startLanguage()
 {
-    return nearestLanguage(QStringList(CommonUtils::GetSettings(settingsGroup, languageKey)) +
-                           QLocale::system().uiLanguages());
+    return nearestLanguage(
+        QStringList(CommonUtils::GetSettings(common::settingsGroup, languageKey)) +
+        QLocale::system().uiLanguages());
+}
+
+QString systemLanguage()
+{
+    return nearestLanguage(QLocale::system().uiLanguages());
+}
+
+bool isSystemLanguageChosen()
+{
+    return CommonUtils::GetSettings(common::settingsGroup, languageKey).isEmpty();
 }
 
 QString nearestLanguage(const QStringList &wanted)
@@ -65,7 +76,7 @@ QString nearestLanguage(const QStringList &wanted)
 
 bool storeLanguage(const QString &language)
 {
-    return refhost::storeSetting(settingsGroup, languageKey, language);
+    return refhost::storeSetting(common::settingsGroup, languageKey, language);
 }
 
 QLocale localeFor(const QString &language)

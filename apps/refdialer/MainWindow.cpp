@@ -4,16 +4,19 @@
 #include "BackgroundUnit.h"
 #include "ClosingChoice.h"
 #include "FileMenu.h"
+#include "HelpMenu.h"
 #include "HistoryArea.h"
 #include "HistoryPage.h"
 #include "LanguageChoice.h"
 #include "LineState.h"
+#include "ListChoice.h"
 #include "PlanLine.h"
 #include "PlanMenu.h"
 #include "PlanWatch.h"
 #include "PluginHandle.h"
 #include "ProblemLine.h"
 #include "SettingsDialog.h"
+#include "SumLabel.h"
 #include "UsagePage.h"
 #include "ViewMenu.h"
 #include "recorder/bus/RecorderService.h"
@@ -23,6 +26,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -69,10 +73,13 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     setCentralWidget(content);
     createPages();
     createMenus();
+    createStatusBar();
     retranslate();
     resize(defaultSize);
     m_area.showHistory();
     m_area.sort(HistoryOrder());
+    m_historyPage->setShortest(shortestListed());
+    offerBackground();
     connect(&state, &LineState::connected, this, [this] { m_plugin.tellConnected(); });
     connect(&state, &LineState::disconnected, this, &MainWindow::showFinishedConnection);
 }
@@ -94,6 +101,22 @@ void MainWindow::comeForward()
     // What the window waits for has the keyboard instead of it.
     QWidget *const dialog = QApplication::activeModalWidget();
     (dialog ? dialog : this)->activateWindow();
+}
+
+WindowView MainWindow::view() const
+{
+    return {saveGeometry(), m_pages->currentIndex(), m_viewMenu->order()};
+}
+
+void MainWindow::restoreView(const WindowView &view)
+{
+    restoreGeometry(view.geometry);
+    // One that is not there is left out.
+    m_pages->setCurrentIndex(view.page);
+    const HistoryOrder &order = m_viewMenu->order();
+    // A long history takes its time to sort.
+    if (order.column != view.order.column || order.direction != view.order.direction)
+        m_viewMenu->chooseOrder(view.order);
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -125,21 +148,38 @@ bool MainWindow::mayClose()
     return choice == ClosingChoice::StopRecording;
 }
 
-void MainWindow::closeIfInBackground()
+/// Turns the service on, and calls with what became of that.
+void MainWindow::turnOnBackground(const OutcomeHandler &handle)
 {
     auto *const order = new QObject(this);
     connect(m_background, &BackgroundUnit::done, order,
-            [this, order](BackgroundUnit::Outcome outcome, const QString &reason) {
+            [order, handle](BackgroundUnit::Outcome outcome, const QString &reason) {
                 order->deleteLater();
-                m_isClosingDecided = outcome == BackgroundUnit::Outcome::On;
-                if (m_isClosingDecided) {
-                    close();
-                    return;
-                }
-                forgetClosingChoice();
-                QMessageBox::warning(this, windowTitle(), BackgroundUnit::textFor(outcome, reason));
+                handle(outcome, BackgroundUnit::textFor(outcome, reason));
             });
     m_background->turnOn();
+}
+
+void MainWindow::closeIfInBackground()
+{
+    turnOnBackground([this](BackgroundUnit::Outcome outcome, const QString &text) {
+        m_isClosingDecided = outcome == BackgroundUnit::Outcome::On;
+        if (m_isClosingDecided) {
+            close();
+            return;
+        }
+        forgetClosingChoice();
+        QMessageBox::warning(this, windowTitle(), text);
+    });
+}
+
+void MainWindow::recordInBackground()
+{
+    m_historyPage->notice().offerBackground(false);
+    turnOnBackground([this](BackgroundUnit::Outcome, const QString &text) {
+        m_background->look();
+        QMessageBox::information(this, windowTitle(), text);
+    });
 }
 
 void MainWindow::createPages()
@@ -151,25 +191,53 @@ void MainWindow::createPages()
             [this] { setHistoryVisible(m_pages->currentWidget() == m_historyPage); });
 }
 
+void MainWindow::createStatusBar()
+{
+    auto *const sum = new SumLabel(m_area);
+    statusBar()->addWidget(sum, 1);
+    connect(m_pages, &QTabWidget::currentChanged, sum,
+            [this, sum] { sum->setVisible(m_pages->currentWidget() == m_historyPage); });
+}
+
+/// A history without connections offers it, where it is not on already.
+void MainWindow::offerBackground()
+{
+    if (!m_background)
+        return;
+    HistoryNotice &notice = m_historyPage->notice();
+    connect(m_background, &BackgroundUnit::found, &notice,
+            [&notice](bool isOn) { notice.offerBackground(!isOn); });
+    connect(&notice, &HistoryNotice::backgroundWanted, this, &MainWindow::recordInBackground);
+    if (m_area.connectionCount() == 0)
+        m_background->look();
+}
+
 void MainWindow::createMenus()
 {
     menuBar()->addMenu(m_fileMenu);
     connect(m_fileMenu, &FileMenu::settingsChosen, this, &MainWindow::showSettings);
+    connect(&m_historyPage->notice(), &HistoryNotice::importWanted, m_fileMenu,
+            &FileMenu::importFiles);
     connect(m_fileMenu, &FileMenu::quitChosen, this, &QWidget::close);
 
-    auto *const viewMenu = new ViewMenu(m_plugin.hasStatistics(), menuBar());
-    menuBar()->addMenu(viewMenu);
-    connect(viewMenu, &ViewMenu::pageChosen, m_pages, &QTabWidget::setCurrentIndex);
-    connect(m_pages, &QTabWidget::currentChanged, viewMenu, &ViewMenu::setPage);
-    connect(viewMenu, &ViewMenu::orderChosen, &m_area, &HistoryArea::sort);
-    connect(viewMenu, &ViewMenu::refreshWanted, &m_area, &HistoryArea::refresh);
-    connect(viewMenu, &ViewMenu::refreshWanted, m_usagePage, &UsagePage::refresh);
-    connect(viewMenu, &ViewMenu::statisticsWanted, this, &MainWindow::showStatistics);
+    m_viewMenu = new ViewMenu(m_plugin.hasStatistics(), menuBar());
+    menuBar()->addMenu(m_viewMenu);
+    connect(m_viewMenu, &ViewMenu::pageChosen, m_pages, &QTabWidget::setCurrentIndex);
+    connect(m_pages, &QTabWidget::currentChanged, m_viewMenu, &ViewMenu::setPage);
+    connect(m_viewMenu, &ViewMenu::orderChosen, &m_area, &HistoryArea::sort);
+    connect(m_viewMenu, &ViewMenu::refreshWanted, &m_area, &HistoryArea::refresh);
+    connect(m_viewMenu, &ViewMenu::refreshWanted, m_usagePage, &UsagePage::refresh);
+    connect(m_viewMenu, &ViewMenu::statisticsWanted, this, &MainWindow::showStatistics);
+    connect(m_viewMenu, &ViewMenu::searchWanted, this, [this] {
+        m_pages->setCurrentWidget(m_historyPage);
+        m_historyPage->beginSearch();
+    });
 
     auto *const planMenu = new PlanMenu(*m_plans, this);
     menuBar()->addMenu(planMenu);
     connect(m_planLine, &PlanLine::plansWanted, planMenu, &PlanMenu::showPlans);
     connect(m_planLine, &PlanLine::planWanted, planMenu, &PlanMenu::addPlan);
+    menuBar()->addMenu(new HelpMenu(menuBar()));
 }
 
 void MainWindow::retranslate()
@@ -201,6 +269,8 @@ void MainWindow::showSettings()
     SettingsDialog dialog(m_background, this);
     connect(&dialog, &SettingsDialog::languageChosen, this,
             [this](const QString &language) { m_plugin.changeLanguage(language); });
+    connect(&dialog, &SettingsDialog::shortestChosen, m_historyPage, &HistoryPage::setShortest);
+    connect(&dialog, &SettingsDialog::interfacesChosen, this, &MainWindow::interfacesChosen);
     dialog.exec();
 }
 

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "BackgroundUnit.h"
 #include "StateLine.h"
+#include "WindowView.h"
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 class QTabWidget;
@@ -12,7 +15,6 @@ class QTabWidget;
 namespace refdialer
 {
 
-class BackgroundUnit;
 class FileMenu;
 class HistoryArea;
 class HistoryPage;
@@ -21,6 +23,7 @@ class PlanLine;
 class PlanWatch;
 class PluginHandle;
 class UsagePage;
+class ViewMenu;
 
 /// The window: what is connected above, the pages below.
 class MainWindow : public QMainWindow
@@ -40,16 +43,31 @@ public:
     /// Shows itself above other windows and takes the keyboard.
     void comeForward();
 
+    /// How the user has set it up.
+    WindowView view() const;
+    void restoreView(const WindowView &view);
+
+signals:
+    /// To record besides the mobile ones.
+    void interfacesChosen(const QStringList &names);
+
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    using OutcomeHandler =
+        std::function<void(BackgroundUnit::Outcome outcome, const QString &text)>;
+
     void createPages();
+    void createStatusBar();
+    void offerBackground();
     void createMenus();
     void retranslate();
     bool mayClose();
+    void turnOnBackground(const OutcomeHandler &handle);
     void closeIfInBackground();
+    void recordInBackground();
     void setHistoryVisible(bool isVisible);
     void showFinishedConnection();
     void showSettings();
@@ -67,6 +85,7 @@ private:
     HistoryArea &m_area;
     UsagePage *m_usagePage;
     FileMenu *m_fileMenu;
+    ViewMenu *m_viewMenu;
 };
 
 } // namespace refdialer

@@ -2,6 +2,8 @@
 #include "SettingsDialog.h"
 
 #include "LanguageChoice.h"
+#include "ListChoice.h"
+#include "RecordingSettings.h"
 #include "SummaryChoice.h"
 #include "refhost/libcore/Host.h"
 
@@ -12,6 +14,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QSpinBox>
 
 namespace refdialer
 {
@@ -22,6 +25,9 @@ SettingsDialog::SettingsDialog(BackgroundUnit *background, QWidget *parent)
     , m_summaryBox(new QCheckBox)
     , m_backgroundBox(new QCheckBox)
     , m_backgroundLabel(new QLabel)
+    , m_recording(new RecordingSettings)
+    , m_shortestLabel(new QLabel)
+    , m_shortestBox(new QSpinBox)
     , m_languageLabel(new QLabel)
     , m_languageBox(new QComboBox)
     , m_reviewLabel(new QLabel)
@@ -31,27 +37,48 @@ SettingsDialog::SettingsDialog(BackgroundUnit *background, QWidget *parent)
 {
     m_summaryBox->setChecked(isSummaryWanted());
     addLanguages();
+    m_shortestLabel->setBuddy(m_shortestBox);
+    m_shortestBox->setRange(0, longestShortest);
+    m_shortestBox->setValue(shortestListed());
     m_languageLabel->setBuddy(m_languageBox);
     for (QLabel *const label : {m_backgroundLabel, m_reviewLabel, m_problem}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
     m_problem->hide();
+    // Enter ends the input of a name, not the dialog.
+    m_closeButton->setAutoDefault(false);
+    addRows();
+    offerBackground();
+    retranslate();
+    connectControls();
+}
 
+void SettingsDialog::addRows()
+{
     auto *const layout = new QFormLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addRow(m_summaryBox);
     layout->addRow(m_backgroundBox);
     layout->addRow(m_backgroundLabel);
+    layout->addRow(m_recording);
+    layout->addRow(m_shortestLabel, m_shortestBox);
     layout->addRow(m_languageLabel, m_languageBox);
     layout->addRow(m_reviewLabel);
     layout->addRow(m_problem);
     layout->addRow(m_buttons);
-    offerBackground();
-    retranslate();
+}
 
+void SettingsDialog::connectControls()
+{
     connect(m_summaryBox, &QCheckBox::toggled, this,
             [this](bool isWanted) { tellUnlessStored(storeSummaryChoice(isWanted)); });
+    connect(m_recording, &RecordingSettings::stored, this, &SettingsDialog::tellUnlessStored);
+    connect(m_recording, &RecordingSettings::interfacesChosen, this,
+            &SettingsDialog::interfacesChosen);
+    connect(this, &QDialog::finished, m_recording, &RecordingSettings::chooseInterfaces);
+    connect(m_shortestBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &SettingsDialog::chooseShortest);
     connect(m_languageBox, QOverload<int>::of(&QComboBox::activated), this,
             &SettingsDialog::chooseLanguage);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -66,9 +93,12 @@ void SettingsDialog::changeEvent(QEvent *event)
 
 void SettingsDialog::addLanguages()
 {
+    m_languageBox->addItem(QString(), QString());
     for (const QString &code : refhost::availableLanguages())
         m_languageBox->addItem(refhost::languageName(code), code);
-    m_languageBox->setCurrentIndex(m_languageBox->findData(refhost::language()));
+    const bool isSystems = isSystemLanguageChosen() && refhost::language() == systemLanguage();
+    m_languageBox->setCurrentIndex(
+        m_languageBox->findData(isSystems ? QString() : refhost::language()));
 }
 
 void SettingsDialog::offerBackground()
@@ -115,7 +145,12 @@ void SettingsDialog::retranslate()
     m_backgroundBox->setText(tr("&Record in the background, also when this window is closed"));
     m_backgroundLabel->setText(backgroundText());
     m_backgroundLabel->setVisible(!m_backgroundLabel->text().isEmpty());
+    m_shortestLabel->setText(tr("Shortest connection lis&ted:"));
+    m_shortestBox->setSuffix(tr(" s"));
+    m_shortestBox->setSpecialValueText(tr("any"));
     m_languageLabel->setText(tr("&Language:"));
+    m_languageBox->setItemText(
+        0, tr("The system's (%1)").arg(refhost::languageName(systemLanguage())));
     m_closeButton->setText(tr("&Close"));
     tellWhetherReviewed();
 }
@@ -129,11 +164,18 @@ void SettingsDialog::tellWhetherReviewed()
 
 void SettingsDialog::chooseLanguage(int index)
 {
-    const QString chosen = m_languageBox->itemData(index).toString();
+    const QString stored = m_languageBox->itemData(index).toString();
     // The present one too: it may have been asked for on the command line only.
-    tellUnlessStored(storeLanguage(chosen));
+    tellUnlessStored(storeLanguage(stored));
+    const QString chosen = stored.isEmpty() ? systemLanguage() : stored;
     if (chosen != refhost::language() && refhost::setLanguage(chosen))
         emit languageChosen(chosen);
+}
+
+void SettingsDialog::chooseShortest(int seconds)
+{
+    tellUnlessStored(storeShortestListed(seconds));
+    emit shortestChosen(seconds);
 }
 
 void SettingsDialog::tellUnlessStored(bool isStored)

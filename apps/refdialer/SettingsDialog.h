@@ -12,9 +12,12 @@ class QComboBox;
 class QDialogButtonBox;
 class QLabel;
 class QPushButton;
+class QSpinBox;
 
 namespace refdialer
 {
+
+class RecordingSettings;
 
 /// The settings. Each takes effect and is stored as soon as it is changed.
 class SettingsDialog : public QDialog
@@ -27,11 +30,15 @@ public:
 
 signals:
     void languageChosen(const QString &language);
+    void interfacesChosen(const QStringList &names);
+    void shortestChosen(int seconds);
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void addRows();
+    void connectControls();
     void addLanguages();
     void offerBackground();
     void chooseBackground(bool isWanted);
@@ -40,6 +47,7 @@ private:
     void retranslate();
     void tellWhetherReviewed();
     void chooseLanguage(int index);
+    void chooseShortest(int seconds);
     void tellUnlessStored(bool isStored);
 
     /// What became of the last choice.
@@ -53,6 +61,9 @@ private:
     QCheckBox *m_summaryBox;
     QCheckBox *m_backgroundBox;
     QLabel *m_backgroundLabel; ///< shown only when there is something to say
+    RecordingSettings *m_recording;
+    QLabel *m_shortestLabel;
+    QSpinBox *m_shortestBox;
     QLabel *m_languageLabel;
     QComboBox *m_languageBox;
     QLabel *m_reviewLabel; ///< shown only for texts that nobody has reviewed

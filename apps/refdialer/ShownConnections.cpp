@@ -12,8 +12,12 @@ ShownConnections::ShownConnections(const std::vector<history::Connection> &rows)
     for (const history::Connection &connection : rows) {
         const std::uint64_t fingerprint = history::Store::fingerprintOf(connection);
         // One that the store does not have is known by its values alone.
+        const std::uint64_t identity =
+            connection.key > 0 ? std::uint64_t(connection.key) : fingerprint;
         m_rows.push_back(
-            {connection.key > 0 ? std::uint64_t(connection.key) : fingerprint, fingerprint});
+            {identity,
+             fingerprint,
+             {connection.connectedSeconds, connection.uploadedBytes, connection.downloadedBytes}});
         m_fingerprint += fingerprint;
     }
 }
@@ -21,6 +25,11 @@ ShownConnections::ShownConnections(const std::vector<history::Connection> &rows)
 std::uint64_t ShownConnections::identity(int row) const
 {
     return row >= 0 && row < count() ? m_rows[std::size_t(row)].identity : 0;
+}
+
+ConnectionValues ShownConnections::values(int row) const
+{
+    return row >= 0 && row < count() ? m_rows[std::size_t(row)].values : ConnectionValues();
 }
 
 void ShownConnections::remove(int first, int last)

@@ -9,6 +9,13 @@
 namespace refdialer
 {
 
+/// What connections have taken, rounded nowhere.
+struct ConnectionValues {
+    std::int64_t connectedSeconds = 0;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
+};
+
 /// Which connections the history table shows, row by row from the top.
 class ShownConnections
 {
@@ -20,6 +27,8 @@ public:
     /// Tells the row's connection from all others, also after they are loaded anew;
     /// 0 if there is no such row.
     std::uint64_t identity(int row) const;
+    /// What the row's connection has taken; nothing if there is no such row.
+    ConnectionValues values(int row) const;
     /// What Store::fingerprint gives for a store of just these.
     std::uint64_t fingerprint() const { return m_fingerprint; }
 
@@ -30,6 +39,7 @@ private:
     struct Row {
         std::uint64_t identity;
         std::uint64_t fingerprint;
+        ConnectionValues values;
     };
 
     std::vector<Row> m_rows;

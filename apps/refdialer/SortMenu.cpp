@@ -37,6 +37,13 @@ SortMenu::SortMenu(QWidget *parent)
     retranslate();
 }
 
+void SortMenu::choose(const HistoryOrder &order)
+{
+    m_order = order;
+    showChoice();
+    emit orderChosen(m_order);
+}
+
 void SortMenu::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -64,21 +71,26 @@ void SortMenu::retranslate()
     m_descendingAction->setText(tr("Descendin&g"));
 }
 
-void SortMenu::chooseColumn(HistoryColumn column)
+void SortMenu::showChoice()
 {
-    if (column != m_order.column)
-        m_order.direction =
-            column == HistoryColumn::Profile ? Qt::AscendingOrder : Qt::DescendingOrder;
-    m_order.column = column;
+    for (std::size_t i = 0; i < m_columnActions.size(); ++i)
+        m_columnActions[i]->setChecked(columns[i] == m_order.column);
     m_ascendingAction->setChecked(m_order.direction == Qt::AscendingOrder);
     m_descendingAction->setChecked(m_order.direction == Qt::DescendingOrder);
-    emit orderChosen(m_order);
+}
+
+void SortMenu::chooseColumn(HistoryColumn column)
+{
+    HistoryOrder order{column, m_order.direction};
+    if (column != m_order.column)
+        order.direction =
+            column == HistoryColumn::Profile ? Qt::AscendingOrder : Qt::DescendingOrder;
+    choose(order);
 }
 
 void SortMenu::chooseDirection(Qt::SortOrder direction)
 {
-    m_order.direction = direction;
-    emit orderChosen(m_order);
+    choose({m_order.column, direction});
 }
 
 } // namespace refdialer

@@ -21,6 +21,10 @@ class SortMenu : public QMenu
 public:
     explicit SortMenu(QWidget *parent = nullptr);
 
+    const HistoryOrder &order() const { return m_order; }
+    /// As if the user had chosen it.
+    void choose(const HistoryOrder &order);
+
 signals:
     /// The user wants the rows sorted, maybe in the same order again.
     void orderChosen(const refdialer::HistoryOrder &order);
@@ -31,6 +35,7 @@ protected:
 private:
     QAction *addChoice(QActionGroup *group, bool isChosen);
     void retranslate();
+    void showChoice();
     void chooseColumn(HistoryColumn column);
     void chooseDirection(Qt::SortOrder direction);
 

@@ -33,8 +33,10 @@ std::vector<std::uint64_t> visibleIdentities(const QTableWidget &table,
     if (bar.value() == bar.minimum() || first < 0)
         return identities;
     const int last = table.rowAt(table.viewport()->height() - 1);
-    for (int row = first; row <= (last < 0 ? table.rowCount() - 1 : last); ++row)
-        identities.push_back(shown.identity(row));
+    for (int row = first; row <= (last < 0 ? table.rowCount() - 1 : last); ++row) {
+        if (!table.isRowHidden(row))
+            identities.push_back(shown.identity(row));
+    }
     return identities;
 }
 
@@ -92,7 +94,9 @@ void TableViewState::restoreSelection(QTableWidget &table, const ShownConnection
     }
     table.selectionModel()->setCurrentIndex(model.index(rowOf(m_current, shown), m_currentColumn),
                                             QItemSelectionModel::NoUpdate);
-    table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    // At once: to compare thousands of ranges with thousands of others takes seconds.
+    table.clearSelection();
+    table.selectionModel()->select(selection, QItemSelectionModel::Select);
 }
 
 void TableViewState::restoreScrolling(QTableWidget &table, const ShownConnections &shown) const
@@ -101,7 +105,7 @@ void TableViewState::restoreScrolling(QTableWidget &table, const ShownConnection
         table.scrollToTop();
     for (const std::uint64_t identity : m_visible) {
         const int row = rowOf(identity, shown);
-        if (row < 0)
+        if (row < 0 || table.isRowHidden(row))
             continue;
         table.scrollTo(table.model()->index(row, 0), QAbstractItemView::PositionAtTop);
         break;

@@ -14,9 +14,12 @@ ViewMenu::ViewMenu(bool hasStatistics, QWidget *parent)
 {
     addPages();
     addSeparator();
-    auto *const sortMenu = new SortMenu(this);
-    addMenu(sortMenu);
-    connect(sortMenu, &SortMenu::orderChosen, this, &ViewMenu::orderChosen);
+    m_sortMenu = new SortMenu(this);
+    addMenu(m_sortMenu);
+    connect(m_sortMenu, &SortMenu::orderChosen, this, &ViewMenu::orderChosen);
+    m_searchAction = addAction(QString());
+    m_searchAction->setShortcut(QKeySequence::Find);
+    connect(m_searchAction, &QAction::triggered, this, &ViewMenu::searchWanted);
     m_refreshAction = addAction(QString());
     m_refreshAction->setShortcut(QKeySequence(Qt::Key_F5));
     connect(m_refreshAction, &QAction::triggered, this, &ViewMenu::refreshWanted);
@@ -49,6 +52,16 @@ void ViewMenu::setPage(int page)
     m_pageActions[std::size_t(page)]->setChecked(true);
 }
 
+const HistoryOrder &ViewMenu::order() const
+{
+    return m_sortMenu->order();
+}
+
+void ViewMenu::chooseOrder(const HistoryOrder &order)
+{
+    m_sortMenu->choose(order);
+}
+
 void ViewMenu::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -61,6 +74,7 @@ void ViewMenu::retranslate()
     setTitle(tr("&View"));
     m_pageActions[0]->setText(tr("&History"));
     m_pageActions[1]->setText(tr("&Usage"));
+    m_searchAction->setText(tr("&Find"));
     m_refreshAction->setText(tr("&Refresh"));
     m_statisticsAction->setText(tr("S&tatistics…"));
     if (!m_statisticsAction->isEnabled()) {

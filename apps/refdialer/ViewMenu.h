@@ -10,6 +10,8 @@
 namespace refdialer
 {
 
+class SortMenu;
+
 /// Which page of the window is shown, and how.
 class ViewMenu : public QMenu
 {
@@ -21,10 +23,14 @@ public:
 
     /// In the order of the window's pages.
     void setPage(int page);
+    const HistoryOrder &order() const;
+    /// As if the user had chosen it.
+    void chooseOrder(const HistoryOrder &order);
 
 signals:
     void pageChosen(int page);
     void orderChosen(const refdialer::HistoryOrder &order);
+    void searchWanted();
     void refreshWanted();
     void statisticsWanted();
 
@@ -36,6 +42,8 @@ private:
     void retranslate();
 
     std::vector<QAction *> m_pageActions;
+    SortMenu *m_sortMenu;
+    QAction *m_searchAction;
     QAction *m_refreshAction;
     QAction *m_statisticsAction;
 };

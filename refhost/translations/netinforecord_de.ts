@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>Nicht, solange Zeilen ausgeblendet sind: Auch diese würden gelöscht. Markieren Sie alle sichtbaren Zeilen (Strg+A) und löschen Sie diese, oder leeren Sie die Suche.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>„%1“ gehört zum Verlauf, den dieses Fenster zeigt. Wählen Sie eine andere Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>Das Handbuch %1 lässt sich hier nicht öffnen. „man refdialer“ zeigt es in einem Terminal.</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>Der Verlauf mobiler Breitbandverbindungen.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>Lizenz: MIT. Sie dürfen dieses Programm benutzen, ändern und weitergeben; es gibt keine Gewährleistung.</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>Es benutzt Qt %1 und libmnl (LGPL), SQLite (gemeinfrei), SQLiteCpp und JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib-Lizenz) und UTF8-CPP (Boost-Lizenz).</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>Über refdialer</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Handbuch</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>Ü&amp;ber refdialer</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Über &amp;Qt</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>Noch gibt es keine Verbindungen. Eine mobile Verbindung erscheint hier, sobald sie beendet ist, mit dem, was sie gesendet und empfangen hat. Was Sie von anderswo haben, lässt sich importieren.</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>Keine Verbindung passt zur Suche.</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>Alle Verbindungen sind kürzer als die kürzeste, die dieses Fenster nach den Einstellungen auflistet.</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>Im Hintergrund auf&amp;zeichnen</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>Alle &amp;Verbindungen zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>Nach einem Profil suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>Ta&amp;ge:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Dieser Monat</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Letzter Monat</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Dieses Jahr</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>Von … bis …</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>Tage, an denen Verbindungen begannen</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Erster Tag</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>bi&amp;s</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Markiert: %1 · gesendet: %2 · empfangen: %3 · verbunden: %4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Verbindungen: %1 · gesendet: %2 · empfangen: %3 · verbunden: %4</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1226,21 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>&amp;Benachrichtigen, wenn ein Datentarif eine seiner Warnungen erreicht</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>Auch diese Schni&amp;ttstellen aufzeichnen:</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>Mobile werden ohnehin aufgezeichnet. Die Aufzeichnung im Hintergrund übernimmt eine Änderung, sobald sie das nächste Mal startet.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1123,6 +1280,22 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>Diese Texte haben Sprecher der Sprache noch nicht durchgesehen.</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>&amp;Kürzeste aufgelistete Verbindung:</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>beliebig</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>Die des Systems (%1)</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1577,10 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
     <message>
         <source>&amp;Usage</source>
         <translation>Verb&amp;rauch</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>S&amp;uchen</translation>
     </message>
 </context>
 </TS>
