@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>لا يمكن ذلك ما دامت هناك صفوف مخفية، لأنها ستُحذف أيضًا. حدد كل الصفوف الظاهرة (‎Ctrl+A‎) واحذفها، أو امسح البحث.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>«‎%1‎» من ملفات السجل الذي تعرضه هذه النافذة. اختر ملفًا آخر.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>الدليل</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>يتعذر فتح الدليل ‎%1‎ هنا. يعرضه «man refdialer» في الطرفية.</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>سجل اتصالات النطاق العريض المحمول.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>الترخيص: MIT. يجوز لك استخدام هذا البرنامج وتعديله ونقله إلى غيرك؛ ولا ضمان له.</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>يستخدم ‎Qt %1‎ وlibmnl‎ (LGPL)‎ وSQLite (ملكية عامة) وSQLiteCpp وJSON for Modern C++‎ (MIT)‎ وlibarchive‎ (BSD)‎ وzlib (رخصة zlib) وUTF8-CPP (رخصة Boost).</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>حول refdialer</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>ال&amp;دليل</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>&amp;حول refdialer</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>حول &amp;Qt</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>الاتصالات</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>لا توجد اتصالات بعد. يظهر الاتصال المحمول هنا عند انتهائه مع ما أُرسل فيه واستُلم. وما لديك من مصدر آخر يمكن استيراده.</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>لا يطابق البحث أي اتصال.</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>كل الاتصالات أقصر من أقصر اتصال تسمح الإعدادات بعرضه في هذه النافذة.</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>استي&amp;راد…</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>التسجيل في ال&amp;خلفية</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>عرض &amp;كل الاتصالات</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>البحث عن ملف تعريف</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>الأ&amp;يام:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>الكل</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>هذا الشهر</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>الشهر الماضي</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>هذه السنة</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>من … إلى …</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>الأيام التي بدأت فيها الاتصالات</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>اليوم الأول</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>إ&amp;لى</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>اليوم الأخير</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>المحدد: %1 · المرسل: ‎%2‎ · المستلم: ‎%3‎ · مدة الاتصال: ‎%4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>الاتصالات: %1 · المرسل: ‎%2‎ · المستلم: ‎%3‎ · مدة الاتصال: ‎%4</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1242,21 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>إ&amp;شعاري عندما تبلغ باقة بيانات أحد تنبيهاتها</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>تسجيل هذه ال&amp;واجهات أيضًا:</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>تُسجَّل الواجهات المحمولة دائمًا. ويأخذ التسجيل في الخلفية بالتغيير عند بدئه في المرة القادمة.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1139,6 +1296,22 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>لم يراجع متحدثو اللغة هذه النصوص بعد.</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>أ&amp;قصر اتصال يُعرض:</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>&#xa0;ث</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>أي اتصال</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>لغة النظام (%1)</translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1593,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>&amp;Usage</source>
         <translation>الاست&amp;هلاك</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;بحث</translation>
     </message>
 </context>
 </TS>

@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>No mientras haya filas ocultas: también se eliminarían. Seleccione todas las filas visibles (Ctrl+A) y elimínelas, o borre la búsqueda.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>«%1» pertenece al historial que muestra esta ventana. Elija otro archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>El manual %1 no se puede abrir aquí. «man refdialer» lo muestra en un terminal.</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>El historial de las conexiones de banda ancha móvil.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>Licencia: MIT. Puede usar, modificar y distribuir este programa; no hay ninguna garantía.</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>Usa Qt %1 y libmnl (LGPL), SQLite (dominio público), SQLiteCpp y JSON for Modern C++ (MIT), libarchive (BSD), zlib (licencia zlib) y UTF8-CPP (licencia Boost).</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>Acerca de refdialer</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>&amp;Acerca de refdialer</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Acerca de &amp;Qt</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>Conexiones</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>Aún no hay conexiones. Una conexión móvil aparece aquí cuando ha terminado, con lo que ha enviado y recibido. Lo que tenga de otras fuentes se puede importar.</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>Ninguna conexión coincide con la búsqueda.</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>Todas las conexiones son más cortas que la más corta que las preferencias permiten mostrar en esta ventana.</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>&amp;Registrar en segundo plano</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>Mostrar &amp;todas las conexiones</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>Buscar un perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>&amp;Días:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Este mes</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Mes pasado</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Este año</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>Desde … hasta …</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>Días en que comenzaron las conexiones</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Primer día</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>&amp;hasta</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Último día</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Seleccionadas: %1 · enviado: %2 · recibido: %3 · conectado: %4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Conexiones: %1 · enviado: %2 · recibido: %3 · conectado: %4</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1226,21 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>&amp;Notificarme cuando un plan de datos alcance uno de sus avisos</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>Registrar también estas inter&amp;faces:</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>Las móviles se registran siempre. El registro en segundo plano tiene en cuenta un cambio la próxima vez que se inicia.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1123,6 +1280,22 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>Estos textos aún no los han revisado hablantes del idioma.</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>Cone&amp;xión más corta mostrada:</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>&#xa0;s</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>cualquiera</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>El del sistema (%1)</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1577,10 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
     <message>
         <source>&amp;Usage</source>
         <translation>&amp;Consumo</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Buscar</translation>
     </message>
 </context>
 </TS>

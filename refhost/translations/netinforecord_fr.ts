@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>Impossible tant que des lignes sont masquées&#xa0;: elles seraient supprimées aussi. Sélectionnez toutes les lignes visibles (Ctrl+A) et supprimez-les, ou effacez la recherche.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>«&#xa0;%1&#xa0;» appartient à l’historique que cette fenêtre affiche. Choisissez un autre fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>Le manuel %1 ne peut pas être ouvert ici. «&#xa0;man refdialer&#xa0;» l’affiche dans un terminal.</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>L’historique des connexions mobiles à haut débit.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>Licence&#xa0;: MIT. Vous pouvez utiliser, modifier et transmettre ce programme&#xa0;; il est fourni sans garantie.</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>Il utilise Qt %1 et libmnl (LGPL), SQLite (domaine public), SQLiteCpp et JSON for Modern C++ (MIT), libarchive (BSD), zlib (licence zlib) et UTF8-CPP (licence Boost).</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>À propos de refdialer</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manuel</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>À &amp;propos de refdialer</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>À propos de &amp;Qt</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>Connexions</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>Il n’y a pas encore de connexions. Une connexion mobile apparaît ici une fois terminée, avec ce qu’elle a envoyé et reçu. Ce que vous avez ailleurs peut être importé.</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>Aucune connexion ne correspond à la recherche.</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>Toutes les connexions sont plus courtes que la plus courte que les paramètres laissent afficher dans cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importer…</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>Enregistrer en arrière-pla&amp;n</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>Afficher &amp;toutes les connexions</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>Rechercher un profil</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>&amp;Jours&#xa0;:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Ce mois-ci</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Mois dernier</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Cette année</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>Du … au …</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>Jours où des connexions ont débuté</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Premier jour</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>a&amp;u</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Dernier jour</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Sélection&#xa0;: %1 · envoyé&#xa0;: %2 · reçu&#xa0;: %3 · connecté&#xa0;: %4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Connexions&#xa0;: %1 · envoyé&#xa0;: %2 · reçu&#xa0;: %3 · connecté&#xa0;: %4</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1226,21 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>M’a&amp;vertir quand un forfait atteint l’un de ses seuils</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>&amp;Interfaces à enregistrer aussi&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>Les interfaces mobiles sont toujours enregistrées. L’enregistrement en arrière-plan tient compte d’un changement à son prochain démarrage.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1123,6 +1280,22 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>Ces textes n’ont pas encore été relus par des locuteurs de la langue.</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>Connexion la plus &amp;courte affichée&#xa0;:</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>&#xa0;s</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>Celle du système (%1)</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1577,10 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
     <message>
         <source>&amp;Usage</source>
         <translation>&amp;Consommation</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Rechercher</translation>
     </message>
 </context>
 </TS>

@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>Nie, dopóki są ukryte wiersze: one też zostałyby usunięte. Zaznacz wszystkie widoczne wiersze (Ctrl+A) i usuń je albo wyczyść wyszukiwanie.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>„%1” należy do historii, którą pokazuje to okno. Wybierz inny plik.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>Podręcznik</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>Nie można tutaj otworzyć podręcznika %1. „man refdialer” pokazuje go w terminalu.</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>Historia mobilnych połączeń szerokopasmowych.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>Licencja: MIT. Wolno używać, zmieniać i przekazywać ten program; nie ma gwarancji.</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>Używa Qt %1 i libmnl (LGPL), SQLite (domena publiczna), SQLiteCpp i JSON for Modern C++ (MIT), libarchive (BSD), zlib (licencja zlib) oraz UTF8-CPP (licencja Boost).</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>O programie refdialer</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Pomo&amp;c</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Podręcznik</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>&amp;O programie refdialer</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>O &amp;Qt</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>Połączenia</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>Nie ma jeszcze połączeń. Połączenie mobilne pojawi się tutaj po zakończeniu, z ilością wysłanych i pobranych danych. Dane z innych źródeł można zaimportować.</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>Żadne połączenie nie pasuje do wyszukiwania.</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>Wszystkie połączenia są krótsze od najkrótszego, jakie to okno wyświetla zgodnie z ustawieniami.</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importuj…</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>Zapisuj w &amp;tle</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>Pokaż wszy&amp;stkie połączenia</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>Szukaj profilu</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>&amp;Dni:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Wszystkie</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Bieżący miesiąc</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Poprzedni miesiąc</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Bieżący rok</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>Od … do …</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>Dni, w których zaczęły się połączenia</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Pierwszy dzień</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>d&amp;o</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Ostatni dzień</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Zaznaczone: %1 · wysłano: %2 · pobrano: %3 · połączono: %4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Połączenia: %1 · wysłano: %2 · pobrano: %3 · połączono: %4</translation>
     </message>
 </context>
 <context>
@@ -1088,6 +1230,21 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>Po&amp;wiadamiaj, gdy plan danych osiągnie jedno z ostrzeżeń</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>Zapisuj także te &amp;interfejsy:</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>Mobilne są zapisywane zawsze. Zapisywanie w tle uwzględni zmianę przy następnym uruchomieniu.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1127,6 +1284,22 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>Tych tekstów nie sprawdziły jeszcze osoby mówiące tym językiem.</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>Najkrótsze wyświetlane p&amp;ołączenie:</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>&#xa0;s</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>dowolne</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>Język systemu (%1)</translation>
     </message>
 </context>
 <context>
@@ -1408,6 +1581,10 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
     <message>
         <source>&amp;Usage</source>
         <translation>&amp;Zużycie</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>Z&amp;najdź</translation>
     </message>
 </context>
 </TS>

@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>Não enquanto houver linhas ocultas: elas também seriam excluídas. Selecione todas as linhas visíveis (Ctrl+A) e exclua-as, ou limpe a pesquisa.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>“%1” pertence ao histórico que esta janela exibe. Escolha outro arquivo.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>O manual %1 não pode ser aberto aqui. “man refdialer” o mostra em um terminal.</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>O histórico das conexões de banda larga móvel.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>Licença: MIT. Você pode usar, modificar e repassar este programa; não há garantia.</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>Ele usa Qt %1 e libmnl (LGPL), SQLite (domínio público), SQLiteCpp e JSON for Modern C++ (MIT), libarchive (BSD), zlib (licença zlib) e UTF8-CPP (licença Boost).</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>Sobre o refdialer</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>&amp;Sobre o refdialer</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Sobre o &amp;Qt</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>Conexões</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>Ainda não há conexões. Uma conexão móvel aparece aqui quando termina, com o que enviou e recebeu. O que você tem de outras fontes pode ser importado.</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>Nenhuma conexão corresponde à pesquisa.</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>Todas as conexões são mais curtas do que a mais curta que as configurações permitem listar nesta janela.</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>&amp;Registrar em segundo plano</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>Mostrar t&amp;odas as conexões</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>Procurar um perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>&amp;Dias:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Este mês</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Mês passado</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Este ano</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>De … até …</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>Dias em que as conexões começaram</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Primeiro dia</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>a&amp;té</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Último dia</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Selecionadas: %1 · enviado: %2 · recebido: %3 · conectado: %4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Conexões: %1 · enviado: %2 · recebido: %3 · conectado: %4</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1226,21 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>&amp;Notificar-me quando um plano de dados atingir um de seus avisos</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>Registrar também estas in&amp;terfaces:</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>As móveis são sempre registradas. O registro em segundo plano adota uma alteração na próxima vez em que iniciar.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1123,6 +1280,22 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>Estes textos ainda não foram revisados por falantes do idioma.</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>Cone&amp;xão mais curta listada:</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>&#xa0;s</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>qualquer</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>O do sistema (%1)</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1577,10 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
     <message>
         <source>&amp;Usage</source>
         <translation>&amp;Consumo</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Localizar</translation>
     </message>
 </context>
 </TS>

@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>Не сейчас, пока часть строк скрыта: они тоже были бы удалены. Выделите все видимые строки (Ctrl+A) и удалите их или очистите поиск.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>«%1» относится к истории, которую показывает это окно. Выберите другой файл.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>Руководство</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>Руководство %1 не удаётся открыть здесь. В терминале его покажет «man refdialer».</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>История мобильных широкополосных соединений.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>Лицензия: MIT. Эту программу можно использовать, изменять и передавать другим; гарантий нет.</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>Используются Qt %1 и libmnl (LGPL), SQLite (общественное достояние), SQLiteCpp и JSON for Modern C++ (MIT), libarchive (BSD), zlib (лицензия zlib) и UTF8-CPP (лицензия Boost).</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>О программе refdialer</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Руководство</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>&amp;О программе refdialer</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>О &amp;Qt</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>Соединения</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>Соединений пока нет. Мобильное соединение появится здесь, когда завершится, с объёмом отправленного и полученного. Данные из других источников можно импортировать.</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>Ни одно соединение не подходит под поиск.</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>Все соединения короче самого короткого, которое настройки разрешают показывать в этом окне.</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Импорт…</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>Записывать в фон&amp;е</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>По&amp;казать все соединения</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>Поиск профиля</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>&amp;Дни:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Этот месяц</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Прошлый месяц</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Этот год</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>С … по …</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>Дни, когда начались соединения</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Первый день</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>п&amp;о</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Последний день</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Выделено: %1 · отправлено: %2 · получено: %3 · время: %4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Соединений: %1 · отправлено: %2 · получено: %3 · время: %4</translation>
     </message>
 </context>
 <context>
@@ -1088,6 +1230,21 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>&amp;Уведомлять, когда тарифный план достигает порога предупреждения</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>Записывать также &amp;интерфейсы:</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>Мобильные записываются всегда. Запись в фоновом режиме учтёт изменение при следующем запуске.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1127,6 +1284,22 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>Эти тексты ещё не проверены носителями языка.</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>Самое &amp;короткое соединение в списке:</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>&#xa0;с</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>любое</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>Язык системы (%1)</translation>
     </message>
 </context>
 <context>
@@ -1408,6 +1581,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>&amp;Usage</source>
         <translation>&amp;Расход</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Поиск</translation>
     </message>
 </context>
 </TS>

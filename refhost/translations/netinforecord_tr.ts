@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>Satırlar gizliyken olmaz: onlar da silinirdi. Görünen tüm satırları seçip (Ctrl+A) silin ya da aramayı temizleyin.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>“%1” bu pencerenin gösterdiği geçmişe ait. Başka bir dosya seçin.</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>Kılavuz</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>%1 kılavuzu burada açılamıyor. “man refdialer” onu uçbirimde gösterir.</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>Mobil geniş bant bağlantılarının geçmişi.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>Lisans: MIT. Bu programı kullanabilir, değiştirebilir ve başkalarına verebilirsiniz; garanti yoktur.</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>Qt %1 ve libmnl (LGPL), SQLite (kamu malı), SQLiteCpp ve JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib lisansı) ve UTF8-CPP (Boost lisansı) kullanır.</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>refdialer hakkında</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Yardım</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Kılavuz</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>&amp;refdialer hakkında</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>&amp;Qt hakkında</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>Bağlantılar</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>Henüz bağlantı yok. Bir mobil bağlantı sona erdiğinde, gönderdikleri ve aldıklarıyla burada görünür. Başka yerden elinizde olanlar içe aktarılabilir.</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>Aramaya uyan bağlantı yok.</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>Tüm bağlantılar, ayarların bu pencerede listelenmesine izin verdiği en kısa bağlantıdan daha kısa.</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>İçe a&amp;ktar…</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>A&amp;rka planda kaydet</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>&amp;Tüm bağlantıları göster</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>Profil ara</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>Gü&amp;nler:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tümü</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Bu ay</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Geçen ay</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Bu yıl</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>… ile … arası</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>Bağlantıların başladığı günler</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>İlk gün</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>i&amp;le</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Son gün</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Seçili: %1 · gönderilen: %2 · alınan: %3 · süre: %4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>Bağlantı: %1 · gönderilen: %2 · alınan: %3 · süre: %4</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1222,21 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>Bir veri planı uyarılarından birine ulaşınca &amp;bildir</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>Şu a&amp;rayüzleri de kaydet:</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>Mobil olanlar her zaman kaydedilir. Arka plandaki kayıt, bir değişikliği bir sonraki başlangıcında dikkate alır.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1119,6 +1276,22 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>Bu metinler henüz bu dili konuşanlarca gözden geçirilmedi.</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>Li&amp;stelenen en kısa bağlantı:</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>&#xa0;sn</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>herhangi</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>Sisteminki (%1)</translation>
     </message>
 </context>
 <context>
@@ -1400,6 +1573,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>&amp;Usage</source>
         <translation>&amp;Kullanım</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Bul</translation>
     </message>
 </context>
 </TS>

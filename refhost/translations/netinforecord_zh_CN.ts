@@ -434,6 +434,13 @@
     </message>
 </context>
 <context>
+    <name>refdialer::DeleteAllGuard</name>
+    <message>
+        <source>Not while rows are hidden: it would delete these too. Select all rows that you see (Ctrl+A) and delete them, or clear the search.</source>
+        <translation>有隐藏的行时不能这样做：隐藏的行也会被删除。请选择所有可见的行 (Ctrl+A) 并删除，或清除搜索。</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
@@ -542,6 +549,141 @@
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
         <translation>“%1”属于此窗口显示的历史记录。请选择其他文件。</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HelpMenu</name>
+    <message>
+        <source>Manual</source>
+        <translation>手册</translation>
+    </message>
+    <message>
+        <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
+        <translation>无法在此处打开手册 %1。“man refdialer”会在终端中显示它。</translation>
+    </message>
+    <message>
+        <source>The history of mobile-broadband connections.</source>
+        <translation>移动宽带连接的历史记录。</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. You may use, change and pass on this program; there is no warranty.</source>
+        <translation>许可证：MIT。您可以使用、修改和分发本程序；不提供任何担保。</translation>
+    </message>
+    <message>
+        <source>It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).</source>
+        <translation>它使用 Qt %1 和 libmnl (LGPL)、SQLite（公有领域）、SQLiteCpp 和 JSON for Modern C++ (MIT)、libarchive (BSD)、zlib（zlib 许可证）以及 UTF8-CPP（Boost 许可证）。</translation>
+    </message>
+    <message>
+        <source>About refdialer</source>
+        <translation>关于 refdialer</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>手册(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;About refdialer</source>
+        <translation>关于 refdialer(&amp;A)</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>关于 Qt(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryArea</name>
+    <message>
+        <source>Connections</source>
+        <translation>连接</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistoryNotice</name>
+    <message>
+        <source>There are no connections yet. A mobile connection appears here when it has ended, with what it has sent and received. What you have from elsewhere can be imported.</source>
+        <translation>还没有连接。移动连接结束后会显示在这里，并附有其发送和接收的流量。您在别处已有的记录可以导入。</translation>
+    </message>
+    <message>
+        <source>No connection matches the search.</source>
+        <translation>没有与搜索匹配的连接。</translation>
+    </message>
+    <message>
+        <source>All connections are shorter than the shortest one that the settings let this window list.</source>
+        <translation>所有连接都短于设置允许此窗口列出的最短连接。</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>导入(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>&amp;Record in the background</source>
+        <translation>在后台记录(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Show &amp;all connections</source>
+        <translation>显示所有连接(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySearch</name>
+    <message>
+        <source>Search for a profile</source>
+        <translation>搜索配置</translation>
+    </message>
+    <message>
+        <source>&amp;Days:</source>
+        <translation>日期(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>本月</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>上个月</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>今年</translation>
+    </message>
+    <message>
+        <source>From … to …</source>
+        <translation>从…到…</translation>
+    </message>
+    <message>
+        <source>Days on which connections began</source>
+        <translation>连接开始的日期</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>第一天</translation>
+    </message>
+    <message>
+        <source>t&amp;o</source>
+        <translation>至(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>最后一天</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::HistorySum</name>
+    <message>
+        <source>Selected: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>已选择：%1 · 已发送：%2 · 已接收：%3 · 连接时长：%4</translation>
+    </message>
+    <message>
+        <source>Connections: %1 · sent: %2 · received: %3 · connected: %4</source>
+        <translation>连接：%1 · 已发送：%2 · 已接收：%3 · 连接时长：%4</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1222,21 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
 </context>
 <context>
+    <name>refdialer::RecordingSettings</name>
+    <message>
+        <source>&amp;Notify me when a data plan reaches one of its warnings</source>
+        <translation>流量套餐达到提醒值时通知我(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Also record these &amp;interfaces:</source>
+        <translation>同时记录这些接口(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
+        <translation>移动接口始终会记录。后台记录会在下次启动时采用更改。</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
@@ -1119,6 +1276,22 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
         <translation>这些文本尚未经该语言的使用者审阅。</translation>
+    </message>
+    <message>
+        <source>Shortest connection lis&amp;ted:</source>
+        <translation>列出的最短连接(&amp;T)：</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>&#xa0;秒</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>任意</translation>
+    </message>
+    <message>
+        <source>The system&apos;s (%1)</source>
+        <translation>系统语言 (%1)</translation>
     </message>
 </context>
 <context>
@@ -1400,6 +1573,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>&amp;Usage</source>
         <translation>用量(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>查找(&amp;F)</translation>
     </message>
 </context>
 </TS>
