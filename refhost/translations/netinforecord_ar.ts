@@ -296,19 +296,19 @@
     </message>
     <message>
         <source>&amp;Do not ask again</source>
-        <translation>&amp;عدم السؤال مجددًا</translation>
+        <translation>عدم السؤال مجددًا (&amp;D)</translation>
     </message>
     <message>
         <source>Record in the &amp;background</source>
-        <translation>التسجيل في ال&amp;خلفية</translation>
+        <translation>التسجيل في الخلفية (&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Stop recording</source>
-        <translation>إي&amp;قاف التسجيل</translation>
+        <translation>إيقاف التسجيل (&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;C)</translation>
     </message>
     <message>
         <source>A service can go on recording without the window, now and whenever you are logged in.</source>
@@ -466,7 +466,7 @@
     <name>refdialer::FileChooser</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;C)</translation>
     </message>
     <message>
         <source>Folder:</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation>ا&amp;سم الملف:</translation>
+        <translation>اسم الملف (&amp;N):</translation>
     </message>
     <message>
         <source>Kind of file:</source>
@@ -490,7 +490,7 @@
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation>ا&amp;ستيراد</translation>
+        <translation>استيراد (&amp;I)</translation>
     </message>
     <message>
         <source>Export</source>
@@ -498,30 +498,30 @@
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation>ت&amp;صدير</translation>
+        <translation>تصدير (&amp;E)</translation>
     </message>
 </context>
 <context>
     <name>refdialer::FileMenu</name>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;ملف</translation>
+        <translation>ملف (&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation>ا&amp;ستيراد…</translation>
+        <translation>استيراد (&amp;I)…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation>ت&amp;صدير…</translation>
+        <translation>تصدير (&amp;E)…</translation>
     </message>
     <message>
         <source>&amp;Settings…</source>
-        <translation>الإ&amp;عدادات…</translation>
+        <translation>الإعدادات (&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>&amp;خروج</translation>
+        <translation>خروج (&amp;Q)</translation>
     </message>
     <message>
         <source>Connections are being imported or exported.</source>
@@ -533,11 +533,11 @@
     </message>
     <message>
         <source>&amp;Close the window</source>
-        <translation>إ&amp;غلاق النافذة</translation>
+        <translation>إغلاق النافذة (&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Wait</source>
-        <translation>ا&amp;نتظار</translation>
+        <translation>انتظار (&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -579,15 +579,15 @@
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>م&amp;ساعدة</translation>
+        <translation>مساعدة (&amp;H)</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation>ال&amp;دليل</translation>
+        <translation>الدليل (&amp;M)</translation>
     </message>
     <message>
         <source>&amp;About refdialer</source>
-        <translation>&amp;حول refdialer</translation>
+        <translation>حول refdialer (&amp;A)</translation>
     </message>
     <message>
         <source>About &amp;Qt</source>
@@ -617,15 +617,15 @@
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation>استي&amp;راد…</translation>
+        <translation>استيراد (&amp;I)…</translation>
     </message>
     <message>
         <source>&amp;Record in the background</source>
-        <translation>التسجيل في ال&amp;خلفية</translation>
+        <translation>التسجيل في الخلفية (&amp;R)</translation>
     </message>
     <message>
         <source>Show &amp;all connections</source>
-        <translation>عرض &amp;كل الاتصالات</translation>
+        <translation>عرض كل الاتصالات (&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -636,7 +636,7 @@
     </message>
     <message>
         <source>&amp;Days:</source>
-        <translation>الأ&amp;يام:</translation>
+        <translation>الأيام (&amp;D):</translation>
     </message>
     <message>
         <source>All</source>
@@ -668,7 +668,7 @@
     </message>
     <message>
         <source>t&amp;o</source>
-        <translation>إ&amp;لى</translation>
+        <translation>إلى (&amp;O)</translation>
     </message>
     <message>
         <source>Last day</source>
@@ -768,15 +768,15 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>&amp;Plan:</source>
-        <translation>ال&amp;باقة:</translation>
+        <translation>الباقة (&amp;P):</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
-        <translation>&amp;نسخ</translation>
+        <translation>نسخ (&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>إ&amp;غلاق</translation>
+        <translation>إغلاق (&amp;C)</translation>
     </message>
     <message>
         <source>Reading the history…</source>
@@ -811,7 +811,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>From &amp;day of the month:</source>
-        <translation>من &amp;يوم الشهر:</translation>
+        <translation>من يوم الشهر (&amp;D):</translation>
     </message>
     <message>
         <source>A month without this day begins with its last one.</source>
@@ -819,30 +819,30 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>&amp;Days:</source>
-        <translation>عدد الأ&amp;يام:</translation>
+        <translation>عدد الأيام (&amp;D):</translation>
     </message>
     <message>
         <source>F&amp;irst day of a period:</source>
-        <translation>اليوم الأ&amp;ول من فترة:</translation>
+        <translation>اليوم الأول من فترة (&amp;I):</translation>
     </message>
     <message>
         <source>F&amp;irst day:</source>
-        <translation>اليوم الأ&amp;ول:</translation>
+        <translation>اليوم الأول (&amp;I):</translation>
     </message>
     <message>
         <source>&amp;Last day:</source>
-        <translation>اليوم الأ&amp;خير:</translation>
+        <translation>اليوم الأخير (&amp;L):</translation>
     </message>
 </context>
 <context>
     <name>refdialer::PeriodRow</name>
     <message>
         <source>P&amp;revious</source>
-        <translation>الساب&amp;ق</translation>
+        <translation>السابق (&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>ال&amp;تالي</translation>
+        <translation>التالي (&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -856,15 +856,15 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::PlanDialog</name>
     <message>
         <source>&amp;Edit…</source>
-        <translation>&amp;تحرير…</translation>
+        <translation>تحرير (&amp;E)…</translation>
     </message>
     <message>
         <source>&amp;Remove…</source>
-        <translation>إ&amp;زالة…</translation>
+        <translation>إزالة (&amp;R)…</translation>
     </message>
     <message>
         <source>&amp;Past periods…</source>
-        <translation>الفترات ال&amp;سابقة…</translation>
+        <translation>الفترات السابقة (&amp;P)…</translation>
     </message>
     <message>
         <source>Data plans</source>
@@ -884,11 +884,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation>إ&amp;ضافة…</translation>
+        <translation>إضافة (&amp;A)…</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>إ&amp;غلاق</translation>
+        <translation>إغلاق (&amp;C)</translation>
     </message>
     <message>
         <source>There is no data plan yet. With one, the window shows how much is left of it, and warns before it is used up.</source>
@@ -904,11 +904,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>إ&amp;زالة</translation>
+        <translation>إزالة (&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -959,39 +959,39 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>الا&amp;سم:</translation>
+        <translation>الاسم (&amp;N):</translation>
     </message>
     <message>
         <source>&amp;For:</source>
-        <translation>تشم&amp;ل:</translation>
+        <translation>تشمل (&amp;F):</translation>
     </message>
     <message>
         <source>&amp;Where:</source>
-        <translation>أي&amp;ن:</translation>
+        <translation>أين (&amp;W):</translation>
     </message>
     <message>
         <source>W&amp;hat counts:</source>
-        <translation>ما يُح&amp;تسب:</translation>
+        <translation>ما يُحتسب (&amp;H):</translation>
     </message>
     <message>
         <source>&amp;Amount in a period:</source>
-        <translation>ال&amp;كمية في الفترة:</translation>
+        <translation>الكمية في الفترة (&amp;A):</translation>
     </message>
     <message>
         <source>&amp;Period:</source>
-        <translation>ال&amp;فترة:</translation>
+        <translation>الفترة (&amp;P):</translation>
     </message>
     <message>
         <source>&amp;Used elsewhere in this period:</source>
-        <translation>المست&amp;هلك في مكان آخر في هذه الفترة:</translation>
+        <translation>المستهلك في مكان آخر في هذه الفترة (&amp;U):</translation>
     </message>
     <message>
         <source>Warn a&amp;t percent:</source>
-        <translation>الت&amp;حذير عند (%):</translation>
+        <translation>التحذير عند (%) (&amp;T):</translation>
     </message>
     <message>
         <source>Amount in a period</source>
@@ -1089,15 +1089,15 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::PlanMenu</name>
     <message>
         <source>&amp;Plans</source>
-        <translation>ال&amp;باقات</translation>
+        <translation>الباقات (&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Data plans…</source>
-        <translation>&amp;باقات البيانات…</translation>
+        <translation>باقات البيانات (&amp;D)…</translation>
     </message>
     <message>
         <source>&amp;Past periods…</source>
-        <translation>الفترات ال&amp;سابقة…</translation>
+        <translation>الفترات السابقة (&amp;P)…</translation>
     </message>
 </context>
 <context>
@@ -1245,11 +1245,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::RecordingSettings</name>
     <message>
         <source>&amp;Notify me when a data plan reaches one of its warnings</source>
-        <translation>إ&amp;شعاري عندما تبلغ باقة بيانات أحد تنبيهاتها</translation>
+        <translation>إشعاري عندما تبلغ باقة بيانات أحد تنبيهاتها (&amp;N)</translation>
     </message>
     <message>
         <source>Also record these &amp;interfaces:</source>
-        <translation>تسجيل هذه ال&amp;واجهات أيضًا:</translation>
+        <translation>تسجيل هذه الواجهات أيضًا (&amp;I):</translation>
     </message>
     <message>
         <source>Mobile ones are recorded anyway. The recorder in the background takes over a change when it starts next.</source>
@@ -1275,19 +1275,19 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>&amp;Show a summary after each connection</source>
-        <translation>عرض &amp;ملخص بعد كل اتصال</translation>
+        <translation>عرض ملخص بعد كل اتصال (&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Record in the background, also when this window is closed</source>
-        <translation>التسجيل في ال&amp;خلفية، حتى عندما تكون هذه النافذة مغلقة</translation>
+        <translation>التسجيل في الخلفية، حتى عندما تكون هذه النافذة مغلقة (&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation>ال&amp;لغة:</translation>
+        <translation>اللغة (&amp;L):</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>إ&amp;غلاق</translation>
+        <translation>إغلاق (&amp;C)</translation>
     </message>
     <message>
         <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
@@ -1299,7 +1299,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>Shortest connection lis&amp;ted:</source>
-        <translation>أ&amp;قصر اتصال يُعرض:</translation>
+        <translation>أقصر اتصال يُعرض (&amp;T):</translation>
     </message>
     <message>
         <source> s</source>
@@ -1318,39 +1318,39 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::SortMenu</name>
     <message>
         <source>&amp;Sort by</source>
-        <translation>&amp;فرز حسب</translation>
+        <translation>فرز حسب (&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation>ال&amp;بداية</translation>
+        <translation>البداية (&amp;S)</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation>ال&amp;نهاية</translation>
+        <translation>النهاية (&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Profile</source>
-        <translation>ملف الت&amp;عريف</translation>
+        <translation>ملف التعريف (&amp;P)</translation>
     </message>
     <message>
         <source>D&amp;uration</source>
-        <translation>ال&amp;مدة</translation>
+        <translation>المدة (&amp;U)</translation>
     </message>
     <message>
         <source>Up&amp;loaded</source>
-        <translation>الم&amp;رسل</translation>
+        <translation>المرسل (&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Downloaded</source>
-        <translation>الم&amp;ستلم</translation>
+        <translation>المستلم (&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Ascending</source>
-        <translation>&amp;تصاعدي</translation>
+        <translation>تصاعدي (&amp;A)</translation>
     </message>
     <message>
         <source>Descendin&amp;g</source>
-        <translation>تنا&amp;زلي</translation>
+        <translation>تنازلي (&amp;G)</translation>
     </message>
 </context>
 <context>
@@ -1419,11 +1419,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>إ&amp;غلاق</translation>
+        <translation>إغلاق (&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
+        <translation>إلغاء (&amp;C)</translation>
     </message>
     <message>
         <source>Cancelling</source>
@@ -1457,11 +1457,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::UsagePage</name>
     <message>
         <source>Sho&amp;w:</source>
-        <translation>إ&amp;ظهار:</translation>
+        <translation>إظهار (&amp;W):</translation>
     </message>
     <message>
         <source>&amp;Bars:</source>
-        <translation>الأعم&amp;دة:</translation>
+        <translation>الأعمدة (&amp;B):</translation>
     </message>
     <message>
         <source>By day</source>
@@ -1473,15 +1473,15 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>As &amp;table</source>
-        <translation>ك&amp;جدول</translation>
+        <translation>كجدول (&amp;T)</translation>
     </message>
     <message>
         <source>Copy te&amp;xt</source>
-        <translation>نسخ ال&amp;نص</translation>
+        <translation>نسخ النص (&amp;X)</translation>
     </message>
     <message>
         <source>Copy p&amp;icture</source>
-        <translation>نسخ ال&amp;صورة</translation>
+        <translation>نسخ الصورة (&amp;I)</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -1572,19 +1572,19 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::ViewMenu</name>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;عرض</translation>
+        <translation>عرض (&amp;V)</translation>
     </message>
     <message>
         <source>&amp;History</source>
-        <translation>ال&amp;سجل</translation>
+        <translation>السجل (&amp;H)</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation>&amp;تحديث</translation>
+        <translation>تحديث (&amp;R)</translation>
     </message>
     <message>
         <source>S&amp;tatistics…</source>
-        <translation>الإ&amp;حصائيات…</translation>
+        <translation>الإحصائيات (&amp;T)…</translation>
     </message>
     <message>
         <source>The history plug-in in use has no statistics. Start refdialer with one that has them: --plugin FILE.</source>
@@ -1592,11 +1592,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>&amp;Usage</source>
-        <translation>الاست&amp;هلاك</translation>
+        <translation>الاستهلاك (&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation>&amp;بحث</translation>
+        <translation>بحث (&amp;F)</translation>
     </message>
 </context>
 </TS>
