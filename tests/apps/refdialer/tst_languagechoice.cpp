@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "apps/refdialer/LanguageChoice.h"
+
+#include <QTest>
+
+/// Which texts a user gets, and how dates are written beside them.
+class TestLanguageChoice : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsInTheNearestLanguage_data();
+    void startsInTheNearestLanguage();
+    void writesDatesAsTheUsersRegionDoes_data();
+    void writesDatesAsTheUsersRegionDoes();
+};
+
+namespace
+{
+
+/// Has another value, or none if that is empty, while this lives.
+class EnvironmentVariable
+{
+public:
+    EnvironmentVariable(const char *name, const QByteArray &value)
+        : m_name(name)
+        , m_former(qgetenv(name))
+    {
+        set(value);
+    }
+    ~EnvironmentVariable() { set(m_former); }
+    Q_DISABLE_COPY(EnvironmentVariable)
+
+private:
+    void set(const QByteArray &value) const
+    {
+        if (value.isEmpty())
+            qunsetenv(m_name);
+        else
+            qputenv(m_name, value);
+    }
+
+    const char *const m_name;
+    const QByteArray m_former;
+};
+
+} // namespace
+
+void TestLanguageChoice::startsInTheNearestLanguage_data()
+{
+    QTest::addColumn<QStringList>("wanted");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("the language alone") << QStringList("de") << "de";
+    QTest::newRow("a region of it") << QStringList("de-AT") << "de";
+    QTest::newRow("one with its region") << QStringList("pt-BR") << "pt_BR";
+    QTest::newRow("as it is stored") << QStringList("pt_BR") << "pt_BR";
+    QTest::newRow("with its script, too") << QStringList("pt-Latn-BR") << "pt_BR";
+    QTest::newRow("another region of it") << QStringList({"pt-PT", "pt", "en"}) << "pt_BR";
+    QTest::newRow("Chinese") << QStringList("zh-CN") << "zh_CN";
+    QTest::newRow("Chinese with its script") << QStringList("zh-Hans-CN") << "zh_CN";
+    QTest::newRow("Chinese in Singapore") << QStringList("zh_SG") << "zh_CN";
+    QTest::newRow("Chinese in another script") << QStringList({"zh-TW", "fr-FR"}) << "fr";
+    QTest::newRow("the second") << QStringList({"fi-FI", "pl-PL", "de"}) << "pl";
+    QTest::newRow("nothing stored") << QStringList({"", "tr-TR"}) << "tr";
+    QTest::newRow("the C locale") << QStringList("C") << "en";
+    QTest::newRow("none with texts") << QStringList({"fi", "xx", ""}) << "en";
+    QTest::newRow("none") << QStringList() << "en";
+}
+
+void TestLanguageChoice::startsInTheNearestLanguage()
+{
+    QFETCH(QStringList, wanted);
+    QTEST(refdialer::nearestLanguage(wanted), "language");
+}
+
+void TestLanguageChoice::writesDatesAsTheUsersRegionDoes_data()
+{
+    QTest::addColumn<QByteArray>("all");
+    QTest::addColumn<QByteArray>("time");
+    QTest::addColumn<QByteArray>("lang");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("locale");
+    const QByteArray none;
+    QTest::newRow("nothing said") << none << none << none << "en"
+                                  << "en_US";
+    QTest::newRow("no region") << none << none << QByteArray("C.UTF-8") << "en"
+                               << "en_US";
+    QTest::newRow("the language's region") << none << none << QByteArray("en_GB.UTF-8") << "en"
+                                           << "en_GB";
+    QTest::newRow("times of another region")
+        << none << QByteArray("en_GB.UTF-8") << QByteArray("C.UTF-8") << "en"
+        << "en_GB";
+    QTest::newRow("everything of one region")
+        << QByteArray("de_CH.UTF-8") << QByteArray("en_US") << QByteArray("en_US") << "de"
+        << "de_CH";
+    QTest::newRow("the language in a region that speaks another")
+        << none << none << QByteArray("de_DE@euro") << "en"
+        << "en_DE";
+    QTest::newRow("a region where nobody speaks the language")
+        << none << none << QByteArray("pl_PL.UTF-8") << "de"
+        << "pl_PL";
+    QTest::newRow("a language named with another region")
+        << none << none << QByteArray("pt_PT.UTF-8") << "pt_BR"
+        << "pt_PT";
+    QTest::newRow("a language that Qt does not know")
+        << none << none << QByteArray("xx_PL.UTF-8") << "de"
+        << "pl_PL";
+}
+
+void TestLanguageChoice::writesDatesAsTheUsersRegionDoes()
+{
+    QFETCH(QByteArray, all);
+    QFETCH(QByteArray, time);
+    QFETCH(QByteArray, lang);
+    QFETCH(QString, language);
+    const EnvironmentVariable lcAll("LC_ALL", all);
+    const EnvironmentVariable lcTime("LC_TIME", time);
+    const EnvironmentVariable langVariable("LANG", lang);
+    QTEST(refdialer::localeFor(language).name(), "locale");
+}
+
+QTEST_MAIN(TestLanguageChoice)
+#include "tst_languagechoice.moc"
