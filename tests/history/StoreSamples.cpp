@@ -2,6 +2,7 @@
 #include "StoreSamples.h"
 
 #include "StoreErrorNames.h"
+#include "history/SchemaUpgrade.h"
 
 #include <QFile>
 #include <QStringList>
@@ -67,6 +68,14 @@ Store storeWith(const std::string &path, const std::vector<Connection> &connecti
 void makeStore(const std::string &path)
 {
     storeWith(path, numberedConnections(300));
+}
+
+void makeStoreOfVersion(const std::string &path, int version)
+{
+    SQLite::Database database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    const auto &steps = history::storeSchema();
+    history::upgradeSchema(path, database, {steps.begin(), steps.begin() + version});
+    database.exec("PRAGMA journal_mode = WAL");
 }
 
 QString profilesIn(const std::string &path)

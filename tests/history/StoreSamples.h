@@ -23,6 +23,9 @@ history::Store storeWith(const std::string &path,
 /// The same of several pages.
 void makeStore(const std::string &path);
 
+/// A new store without connections as the version had it that took so many steps of the schema.
+void makeStoreOfVersion(const std::string &path, int version);
+
 /// The profiles in the store's order, joined with blanks, or the error's name.
 QString profilesIn(const std::string &path);
 

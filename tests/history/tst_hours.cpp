@@ -17,10 +17,7 @@
 #include <random>
 #include <tuple>
 
-using history::Connection;
-using history::HourlyBytes;
-using history::OpenConnection;
-using history::Store;
+using namespace history;
 
 namespace
 {
@@ -64,17 +61,13 @@ QString hoursIn(const Store &store, const history::TimeRange &range = {})
     return texts.join(", ");
 }
 
-/// The first steps of the schema, with a connection in it.
-void makeStoreOfVersion(const std::string &path, std::size_t version)
+/// With a connection in it.
+void makeEarlierStore(const std::string &path, int version)
 {
-    SQLite::Database database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    const auto &steps = history::storeSchema();
-    history::upgradeSchema(path, database,
-                           {steps.begin(), steps.begin() + static_cast<std::ptrdiff_t>(version)});
-    database.exec("PRAGMA journal_mode = WAL");
-    database.exec("INSERT INTO connection (profile, start_utc, end_utc, connected_seconds,"
-                  " uploaded_bytes, downloaded_bytes, ending, interface_name)"
-                  " VALUES ('old', 1700002900, 1700002960, 60, 7, 8, 'normal', 'ppp0')");
+    makeStoreOfVersion(path, version);
+    runSql(path, "INSERT INTO connection (profile, start_utc, end_utc, connected_seconds,"
+                 " uploaded_bytes, downloaded_bytes, ending, interface_name)"
+                 " VALUES ('old', 1700002900, 1700002960, 60, 7, 8, 'normal', 'ppp0')");
 }
 
 } // namespace
@@ -273,7 +266,7 @@ void HoursTest::areThereInAStoreOfEachVersion()
 {
     QFETCH(int, version);
     QFETCH(bool, isReadOnly);
-    makeStoreOfVersion(m_path, static_cast<std::size_t>(version));
+    makeEarlierStore(m_path, version);
     const uid_t user = geteuid();
     if (isReadOnly) {
         // Somebody who may not write; root could.

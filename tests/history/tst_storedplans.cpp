@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "history/SchemaUpgrade.h"
 #include "history/Store.h"
 
 #include "StoreSamples.h"
@@ -308,10 +307,7 @@ void StoredPlansTest::areCopied()
 
 void StoredPlansTest::areNoneInAnEarlierVersionsStore()
 {
-    {
-        SQLite::Database database(m_path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-        upgradeSchema(m_path, database, {storeSchema().begin(), storeSchema().begin() + 5});
-    }
+    makeStoreOfVersion(m_path, 5);
     QCOMPARE(versionOf(m_path), 5);
     Store store = opened();
     QCOMPARE(plansIn(store), QString());

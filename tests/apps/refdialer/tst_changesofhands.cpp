@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Campaign.h"
-#include "ConnrecordRun.h"
+#include "HistoryProgram.h"
 #include "NetworkNamespace.h"
 #include "PrivateBus.h"
 #include "RecordText.h"
@@ -27,61 +27,6 @@ constexpr int historiesAtOnce = 4;
 constexpr int changesPerRound = 40;
 /// Milliseconds, between one thing that happens to a history's programs and the next.
 constexpr int longestRest = 1500;
-constexpr int patience = 60000;
-
-enum class Kind { Window, WindowWithoutBus, Background };
-
-/// One that may record, running or not.
-class Program
-{
-public:
-    Program(Kind kind, const QString &store, const QString &bus)
-        : m_isWindow(kind != Kind::Background)
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("QT_QPA_PLATFORM", "offscreen");
-        environment.insert("XDG_CONFIG_HOME", store + ".settings");
-        environment.insert("DBUS_SESSION_BUS_ADDRESS",
-                           kind == Kind::WindowWithoutBus ? QStringLiteral("disabled:") : bus);
-        m_process.setProcessEnvironment(environment);
-        m_process.setProcessChannelMode(QProcess::MergedChannels);
-        m_arguments = QStringList{"--store", store};
-        if (!m_isWindow)
-            m_arguments.append("record");
-    }
-    ~Program() { end(SIGKILL); }
-
-    bool isRunning() const { return m_process.state() == QProcess::Running; }
-    qint64 process() const { return m_process.processId(); }
-
-    bool start()
-    {
-        m_process.start(m_isWindow ? QStringLiteral(REFDIALER) : connrecordProgram(), m_arguments);
-        return m_process.waitForStarted();
-    }
-
-    /// False if it ended in another way than by the signal, or as its user ends it: a second
-    /// window of a history on a bus ends by itself.
-    bool end(int signal)
-    {
-        if (!isRunning())
-            return true;
-        kill(pid_t(process()), signal);
-        if (!m_process.waitForFinished(patience))
-            return false;
-        const bool isProper = m_process.exitStatus() == QProcess::NormalExit
-                                  ? m_process.exitCode() == 0
-                                  : m_process.exitCode() == signal;
-        if (!isProper)
-            qWarning("%s", m_process.readAll().constData());
-        return isProper;
-    }
-
-private:
-    const bool m_isWindow;
-    QStringList m_arguments;
-    QProcess m_process;
-};
 
 /// A history, all that may record into it, and the bus on which they meet.
 class House
@@ -96,9 +41,10 @@ public:
     {
         if (!m_bus.start())
             return false;
-        for (const Kind kind : {Kind::Background, Kind::Window, Kind::Background, Kind::Window,
-                                Kind::WindowWithoutBus})
-            m_programs.push_back(std::make_unique<Program>(kind, path(), m_bus.address()));
+        for (const auto kind : {HistoryProgram::Kind::Background, HistoryProgram::Kind::Window,
+                                HistoryProgram::Kind::Background, HistoryProgram::Kind::Window,
+                                HistoryProgram::Kind::WindowWithoutBus})
+            m_programs.push_back(std::make_unique<HistoryProgram>(kind, path(), m_bus.address()));
         return m_programs.front()->start();
     }
 
@@ -109,7 +55,7 @@ public:
     /// Notices who records.
     void look()
     {
-        const Program *const present = recorder();
+        const HistoryProgram *const present = recorder();
         if (!present || present->process() == m_lastRecorder)
             return;
         m_lastRecorder = present->process();
@@ -125,7 +71,7 @@ public:
         m_rest = random.below(longestRest);
         if (random.once(12))
             return endAll(random);
-        Program &one = *m_programs[std::size_t(random.below(int(m_programs.size())))];
+        HistoryProgram &one = *m_programs[std::size_t(random.below(int(m_programs.size())))];
         return one.isRunning() ? one.end(signal(random)) : one.start();
     }
 
@@ -136,7 +82,7 @@ public:
             if (!m_programs[i]->end(SIGTERM))
                 return false;
         }
-        Program &last = *m_programs.front();
+        HistoryProgram &last = *m_programs.front();
         return last.isRunning() || last.start();
     }
 
@@ -153,7 +99,7 @@ private:
     }
 
     /// As the lock's file says.
-    const Program *recorder() const
+    const HistoryProgram *recorder() const
     {
         QFile lock(path() + ".recorder");
         if (!lock.open(QIODevice::ReadOnly))
@@ -168,7 +114,7 @@ private:
 
     const QTemporaryDir m_folder;
     PrivateBus m_bus;
-    std::vector<std::unique_ptr<Program>> m_programs;
+    std::vector<std::unique_ptr<HistoryProgram>> m_programs;
     qint64 m_lastRecorder = 0;
     int m_changes = 0;
     QElapsedTimer m_sinceLast;
@@ -248,7 +194,7 @@ void ChangesOfHandsTest::move(campaign::Random &random)
 void ChangesOfHandsTest::checkTotals(const Houses &houses) const
 {
     for (const auto &house : houses) {
-        QTRY_VERIFY_WITH_TIMEOUT(openRowsIn(house->path()).empty(), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(openRowsIn(house->path()).empty(), HistoryProgram::patience);
         const Bytes recorded = recordedIn(house->path());
         QCOMPARE(recorded.uploaded, m_moved.uploaded);
         QCOMPARE(recorded.downloaded, m_moved.downloaded);
@@ -267,7 +213,8 @@ void ChangesOfHandsTest::round(campaign::Random &random, int changes)
         houses.push_back(std::make_unique<House>());
         QVERIFY(houses.back()->open());
     }
-    QTRY_VERIFY_WITH_TIMEOUT(std::all_of(houses.begin(), houses.end(), isRecorded), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(std::all_of(houses.begin(), houses.end(), isRecorded),
+                             HistoryProgram::patience);
     QVERIFY(m_line->goUp());
     while (changesIn(houses) < changes) {
         move(random);
@@ -280,7 +227,8 @@ void ChangesOfHandsTest::round(campaign::Random &random, int changes)
     for (const auto &house : houses)
         QVERIFY(house->settle());
     move(random);
-    QTRY_VERIFY_WITH_TIMEOUT(std::all_of(houses.begin(), houses.end(), isRecorded), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(std::all_of(houses.begin(), houses.end(), isRecorded),
+                             HistoryProgram::patience);
     QVERIFY(m_line->goDown());
     checkTotals(houses);
     m_changes += changesIn(houses);

@@ -21,6 +21,8 @@
 #include <functional>
 #include <memory>
 
+Q_DECLARE_METATYPE(std::function<void()>)
+
 /// What a search hides is neither selected nor deleted, whatever the user does with keys and
 /// mouse. The profiles are "a0", "b1", "a2", "b3" ... by day, the newest on top.
 class TestHiddenRows : public QObject
@@ -291,8 +293,6 @@ void TestHiddenRows::deletesWhatIsSeenOnly()
     QCOMPARE(sorted(m_history->shownProfiles()), sorted(remaining));
 }
 
-Q_DECLARE_METATYPE(std::function<void()>)
-
 void TestHiddenRows::offersNoDeletionOfAllWhileRowsAreHidden_data()
 {
     QTest::addColumn<Step>("step");
@@ -313,7 +313,7 @@ void TestHiddenRows::offersNoDeletionOfAllWhileRowsAreHidden()
         QVERIFY(contextMenu()->actions().constFirst()->isEnabled());
         QVERIFY(!contextMenu()->actions().constLast()->isEnabled());
         QVERIFY(!contextMenu()->actions().constLast()->toolTip().isEmpty());
-        QTimer::singleShot(0, this, [this] {
+        QTimer::singleShot(0, this, [] {
             if (QMessageBox *const box = openBox())
                 clickOn(*box, "OK");
         });

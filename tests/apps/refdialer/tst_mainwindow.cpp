@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommonUtils.h"
+#include "EnvironmentVariable.h"
 #include "MenuEntry.h"
 #include "RecordingPlugin.h"
 #include "apps/refdialer/LanguageChoice.h"
