@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
@@ -48,6 +49,11 @@ QByteArray FileTransfer::contentsOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
+QStringList FileTransfer::filesThere() const
+{
+    return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
 }
 
 QFileDialog *FileTransfer::openChooser(const QString &entry) const

@@ -37,6 +37,8 @@ public:
     /// Makes the file in that folder and returns its path.
     QString file(const QString &name, const QByteArray &contents) const;
     static QByteArray contentsOf(const QString &path);
+    /// What is in that folder.
+    QStringList filesThere() const;
 
     /// The dialog behind "Import…" or "Export…"; null if there is none.
     QFileDialog *openChooser(const QString &entry) const;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Campaign.h"
+#include "ConnrecordRun.h"
 #include "HistoryProgram.h"
 #include "NetworkNamespace.h"
 #include "PrivateBus.h"
