@@ -3,7 +3,6 @@
 
 #include "UpdatesOff.h"
 
-#include <QHeaderView>
 #include <QTableView>
 
 namespace refdialer
@@ -41,6 +40,7 @@ QItemSelection runsOf(const QItemSelection &selection, const Belongs &belongs)
 VisibleSelection::VisibleSelection(QTableView &table)
     : QItemSelectionModel(table.model(), &table)
     , m_table(table)
+    , m_rows(table.verticalHeader())
 {
 }
 
@@ -66,7 +66,7 @@ void VisibleSelection::hideOthers(const std::vector<bool> &isShown)
 {
     // A header that draws itself looks for the place of each row that it hides, which
     // takes a walk over all of them.
-    const UpdatesOff off(*m_table.verticalHeader());
+    const UpdatesOff off(*m_rows);
     for (int row = 0; row < int(isShown.size()); ++row) {
         if (m_table.isRowHidden(row) == isShown[std::size_t(row)])
             m_table.setRowHidden(row, !isShown[std::size_t(row)]);
@@ -76,15 +76,15 @@ void VisibleSelection::hideOthers(const std::vector<bool> &isShown)
 
 void VisibleSelection::showAll()
 {
-    if (m_table.verticalHeader()->hiddenSectionCount() > 0)
+    if (m_rows->hiddenSectionCount() > 0)
         showOnly(std::vector<bool>(std::size_t(model()->rowCount()), true));
 }
 
 QItemSelection VisibleSelection::visiblePartOf(const QItemSelection &selection) const
 {
-    if (m_table.verticalHeader()->hiddenSectionCount() == 0)
+    if (!m_rows || m_rows->hiddenSectionCount() == 0)
         return selection;
-    return runsOf(selection, [this](int row) { return !m_table.isRowHidden(row); });
+    return runsOf(selection, [this](int row) { return !m_rows->isSectionHidden(row); });
 }
 
 } // namespace refdialer

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QPointer>
 
 #include <vector>
 
@@ -35,6 +37,8 @@ private:
     QItemSelection visiblePartOf(const QItemSelection &selection) const;
 
     QTableView &m_table;
+    /// Knows which rows are hidden; null when the table has ended before its selection.
+    const QPointer<QHeaderView> m_rows;
 };
 
 } // namespace refdialer

@@ -25,6 +25,20 @@ using Outcome = refdialer::BackgroundUnit::Outcome;
 
 Q_DECLARE_METATYPE(refdialer::BackgroundUnit::Outcome)
 
+namespace
+{
+
+QCheckBox *backgroundBox(const SettingsDialog &dialog)
+{
+    for (QCheckBox *const box : dialog.findChildren<QCheckBox *>()) {
+        if (box->text() == "&Record in the background, also when this window is closed")
+            return box;
+    }
+    return nullptr;
+}
+
+} // namespace
+
 /// The service in the background as the window offers it, with a service manager of the
 /// test's on the session bus.
 class TestBackground : public QObject
@@ -180,11 +194,8 @@ void TestBackground::isASetting()
 {
     m_systemd->isEnabled = true;
     SettingsDialog dialog(m_unit.get());
-    const auto boxes = dialog.findChildren<QCheckBox *>();
-    const auto box = std::find_if(boxes.begin(), boxes.end(), [](const QCheckBox *each) {
-        return each->text() == "&Record in the background, also when this window is closed";
-    });
-    QVERIFY(box != boxes.end());
+    QCheckBox *const box = backgroundBox(dialog);
+    QVERIFY(box);
     const auto says = [&dialog](const QString &text) {
         const auto labels = dialog.findChildren<QLabel *>();
         return std::any_of(labels.begin(), labels.end(), [&text](const QLabel *label) {
@@ -192,20 +203,20 @@ void TestBackground::isASetting()
         });
     };
     dialog.show();
-    QTRY_VERIFY((*box)->isChecked());
-    (*box)->click();
+    QTRY_VERIFY(box->isChecked());
+    box->click();
     QTRY_VERIFY(says("has been stopped"));
     QVERIFY(!m_systemd->isEnabled);
-    QTRY_VERIFY((*box)->isEnabled() && !(*box)->isChecked());
+    QTRY_VERIFY(box->isEnabled() && !box->isChecked());
     m_systemd->errors = {{"EnableUnitFiles", "org.freedesktop.DBus.Error.FileNotFound"}};
-    (*box)->click();
+    box->click();
     QTRY_VERIFY(says("is not installed"));
     // It shows what is so.
-    QTRY_VERIFY((*box)->isEnabled() && !(*box)->isChecked());
+    QTRY_VERIFY(box->isEnabled() && !box->isChecked());
     m_systemd->errors.clear();
-    (*box)->click();
+    box->click();
     QTRY_VERIFY(says("is enabled and runs"));
-    QTRY_VERIFY((*box)->isChecked());
+    QTRY_VERIFY(box->isChecked());
     QVERIFY(m_systemd->isRunning);
 }
 
@@ -216,7 +227,7 @@ void TestBackground::isNoSettingForAnotherHistory()
     QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
         return label->text().contains("into your own history, not into the one");
     }));
-    QVERIFY(!dialog.findChildren<QCheckBox *>().last()->isEnabled());
+    QVERIFY(!backgroundBox(dialog)->isEnabled());
 }
 
 /// On what counts as the user's own history.

@@ -23,6 +23,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -126,7 +127,9 @@ bool TestHistoryRefresh::open(bool hasDialupService)
 
 QTimer &TestHistoryRefresh::watchTimer() const
 {
-    return *watch().parent()->findChild<QTimer *>();
+    const auto timers = watch().parent()->findChildren<QTimer *>();
+    return **std::find_if(timers.begin(), timers.end(),
+                          [](const QTimer *timer) { return !timer->isSingleShot(); });
 }
 
 void TestHistoryRefresh::connrecord(const QStringList &arguments)

@@ -214,8 +214,7 @@ void TestRefdialer::drawsTheSampleHistory()
     QCOMPARE(run({"--store", path("none.db"), "--screenshot", path("empty.png")}).code, 0);
     const QRect rows(picture.width() / 8, picture.height() / 3, picture.width() / 2,
                      picture.height() / 3);
-    QCOMPARE(coloursIn(QImage(path("empty.png")).copy(rows)), 1);
-    QVERIFY(coloursIn(picture.copy(rows)) > 1);
+    QVERIFY(picture.copy(rows) != QImage(path("empty.png")).copy(rows));
 
     QVERIFY(!QDir(path("data")).exists());
     QVERIFY(QDir(path("temporary")).isEmpty());
