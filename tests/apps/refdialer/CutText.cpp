@@ -15,6 +15,7 @@
 #include <QRadioButton>
 #include <QStyleOption>
 #include <QTabBar>
+#include <QTextDocument>
 #include <QTableView>
 #include <QToolButton>
 
