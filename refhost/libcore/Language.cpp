@@ -119,9 +119,10 @@ bool setLanguage(const QString &language)
         return false;
     const Installed old = installed();
     installed() = {language, install(std::move(texts)), install(loadQtTexts(language))};
-    layWindowsOutFor(language);
     delete old.texts;
     delete old.qtTexts;
+    // Last: Qt 5 looks at Qt's own texts whenever others come or go.
+    layWindowsOutFor(language);
     return true;
 }
 

@@ -17,6 +17,7 @@
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
+#include <QWindow>
 
 using namespace history;
 using refdialer::PastPeriodsDialog;
@@ -378,7 +379,7 @@ void TestPlanLine::copiesPeriods()
     auto &table = *dialog.findChild<QTableWidget *>();
     table.setFocus();
     QTest::keyClick(&table, Qt::Key_Down, Qt::ShiftModifier);
-    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QApplication::clipboard()->text(),
              QString("First day\tLast day\tUsed\tLeft\n"
                      "01/11/2026\t30/11/2026\t5.00 MB\t5.00 MB\n"
