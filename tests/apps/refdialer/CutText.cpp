@@ -15,8 +15,8 @@
 #include <QRadioButton>
 #include <QStyleOption>
 #include <QTabBar>
-#include <QTextDocument>
 #include <QTableView>
+#include <QTextDocument>
 #include <QToolButton>
 
 #include <algorithm>
