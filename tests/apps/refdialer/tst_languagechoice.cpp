@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "EnvironmentVariable.h"
 #include "apps/refdialer/LanguageChoice.h"
 
 #include <QTest>
@@ -14,37 +15,6 @@ private slots:
     void writesDatesAsTheUsersRegionDoes_data();
     void writesDatesAsTheUsersRegionDoes();
 };
-
-namespace
-{
-
-/// Has another value, or none if that is empty, while this lives.
-class EnvironmentVariable
-{
-public:
-    EnvironmentVariable(const char *name, const QByteArray &value)
-        : m_name(name)
-        , m_former(qgetenv(name))
-    {
-        set(value);
-    }
-    ~EnvironmentVariable() { set(m_former); }
-    Q_DISABLE_COPY(EnvironmentVariable)
-
-private:
-    void set(const QByteArray &value) const
-    {
-        if (value.isEmpty())
-            qunsetenv(m_name);
-        else
-            qputenv(m_name, value);
-    }
-
-    const char *const m_name;
-    const QByteArray m_former;
-};
-
-} // namespace
 
 void TestLanguageChoice::startsInTheNearestLanguage_data()
 {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "CommonUtils.h"
-#include "EnvironmentVariable.h"
 #include "MenuEntry.h"
 #include "RecordingPlugin.h"
 #include "apps/refdialer/LanguageChoice.h"
