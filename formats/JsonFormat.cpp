@@ -151,11 +151,10 @@ void checkMembers(const Json &json)
 {
     if (!json.is_object())
         throw FieldError{"it is no object", true};
-    for (const auto &[name, value] : json.items()) {
+    for (const auto &member : json.items()) {
+        const std::string &name = member.key();
         bool isKnown = name == keyName || name == hoursName;
-        forEachField(connectionFields, [&isKnown, &name = name](const auto &field) {
-            isKnown |= name == field.name;
-        });
+        forEachField(connectionFields, [&](const auto &field) { isKnown |= name == field.name; });
         if (!isKnown)
             fail(name, "a connection has no such member");
     }
