@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Checks the format of every source file, licences, spelling and shell scripts, and
-# what clang-tidy finds in the sources of the product and the example.
+# Checks the format of every source file, includes, sizes, licences, spelling, shell
+# scripts and the reference of the headers.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-build=build/style
 
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
@@ -27,8 +26,3 @@ doxygen docs/Doxyfile
     cat docs/Doxyfile
     printf '%s\n' 'INPUT = host' 'EXTRACT_ALL = NO' 'OUTPUT_DIRECTORY = build/reference/host'
 } | doxygen -
-
-cmake --preset style >/dev/null
-cmake --build $build --target recorder_bus_adaptor >/dev/null
-
-scripts/tidy.py $build src refhost history usage formats recorder modem apps examples
