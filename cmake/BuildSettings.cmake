@@ -51,7 +51,7 @@ if(NETINFORECORD_SANITIZE)
         <QApplication> <QMenu> <QMessageBox> <QSettings> <QTableWidget>)
 endif()
 
-# A target whose files include those of the toolkit's Core, or its Widgets too.
+# A target whose files include those of Qt Core, or of Qt Widgets too.
 function(netinforecord_share_headers target kind)
     if(NETINFORECORD_SANITIZE)
         target_precompile_headers(${target} REUSE_FROM shared_headers_${kind})

@@ -13,7 +13,7 @@ run_packages=(fonts-dejavu-core)
 test_packages=(lld dbus-daemon sqlite3 man-db desktop-file-utils appstream iproute2 modemmanager python3-dbusmock xvfb x11-utils systemd libglib2.0-bin xz-utils zstd bzip2 tzdata fonts-droid-fallback)
 clang_packages=(clang libclang-rt-dev)
 style_packages=(clang-format codespell doxygen reuse shellcheck)
-package_packages=(build-essential debhelper dpkg-dev lintian mmdebstrap)
+package_packages=(build-essential debhelper dpkg-dev lintian mmdebstrap uidmap)
 qt5_packages=(qtbase5-dev qttools5-dev qttools5-dev-tools libbenchmark-dev)
 
 say() {
