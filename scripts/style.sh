@@ -5,7 +5,13 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
+# Each version of clang-format has its own mind about a few lines; Debian 12's counts.
+formatter=14
+if clang-format --version | grep -q "version $formatter\."; then
+    git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
+else
+    echo "The format is not checked: that takes clang-format $formatter (pre-commit brings it)." >&2
+fi
 
 scripts/check-includes.py
 scripts/check-sizes.py
