@@ -6,7 +6,6 @@
 #include "LineReader.h"
 #include "Utf8Text.h"
 #include "history/ConnectionFields.h"
-#include "usage/CalendarTime.h"
 #include "usage/TextScanner.h"
 
 #include <algorithm>
@@ -36,50 +35,6 @@ const ColumnNames &columnNames()
     static const auto names = std::apply(
         [](const auto &...field) { return ColumnNames{field.name...}; }, connectionFields);
     return names;
-}
-
-std::string header()
-{
-    std::string line;
-    for (const char *const name : columnNames())
-        line += (line.empty() ? "" : ",") + std::string(name);
-    return line;
-}
-
-std::string quoted(const std::string &text)
-{
-    if (text.find_first_of(",\"\r\n") == std::string::npos)
-        return text;
-    std::string result = "\"";
-    for (const char character : text)
-        result += character == '"' ? std::string("\"\"") : std::string(1, character);
-    return result + '"';
-}
-
-std::string cell(kind::Text /*kind*/, const std::string &text)
-{
-    return quoted(text);
-}
-
-std::string cell(kind::Time /*kind*/, std::int64_t utc)
-{
-    return usage::utcText(utc).toStdString();
-}
-
-std::string cell(kind::Amount /*kind*/, std::int64_t amount)
-{
-    return std::to_string(amount);
-}
-
-std::string line(const history::Connection &connection)
-{
-    std::string line;
-    const char *separator = "";
-    forEachField(connectionFields, [&](const auto &field) {
-        line += separator + cell(KindOf<decltype(field)>(), connection.*field.member);
-        separator = ",";
-    });
-    return line + '\n';
 }
 
 /// One row of a file on its way to a connection.
@@ -130,7 +85,7 @@ void RowReader::checkHeader() const
 {
     for (std::size_t column = 0; column < m_columns; ++column) {
         if (column >= m_row.size() || m_row[column].text != columnNames()[column])
-            fail(column, "the first line has to be the header " + header());
+            fail(column, "the first line has to be the header " + csvHeader());
     }
     checkColumnCount();
 }
@@ -178,17 +133,12 @@ std::string csvColumnName(std::size_t column)
     return column < columnCount ? columnNames()[column] : std::to_string(column + 1);
 }
 
-QByteArray toCsv(const std::vector<history::Connection> &connections,
-                 const history::Store::Progress &progress)
+std::string csvHeader()
 {
-    QByteArray csv = QByteArray::fromStdString(header() + '\n');
-    std::size_t done = 0;
-    for (const history::Connection &connection : connections) {
-        csv += QByteArray::fromStdString(line(connection));
-        if (progress)
-            progress(++done);
-    }
-    return csv;
+    std::string line;
+    for (const char *const name : columnNames())
+        line += (line.empty() ? "" : ",") + std::string(name);
+    return line;
 }
 
 std::vector<history::Connection> connectionsFromCsv(LineReader &lines)
@@ -196,7 +146,8 @@ std::vector<history::Connection> connectionsFromCsv(LineReader &lines)
     CsvReader reader(lines, columnCount);
     const auto firstRow = reader.next();
     if (!firstRow)
-        throw CsvError{1, 0, "the file is empty, the first line has to be the header " + header()};
+        throw CsvError{1, 0,
+                       "the file is empty, the first line has to be the header " + csvHeader()};
     // Files of earlier versions lack the last ones.
     const std::size_t columns = std::clamp(firstRow->size(), fewestColumns, columnCount);
     RowReader(*firstRow, columns).checkHeader();

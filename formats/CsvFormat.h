@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "history/Store.h"
-
-#include <QByteArray>
+#include "history/Connection.h"
 
 #include <cstdint>
 #include <string>
@@ -18,12 +16,10 @@ class LineReader;
 /// The name of a column of our CSV files, "10" and so on behind the last one.
 std::string csvColumnName(std::size_t column);
 
-/// The connections, without their keys, with a header, each line ended by a
-/// line feed.
-QByteArray toCsv(const std::vector<history::Connection> &connections,
-                 const history::Store::Progress &progress = {});
+/// The first line of our CSV files.
+std::string csvHeader();
 
-/// What toCsv() writes, read back. Throws CsvError.
+/// What csvWriter() writes, read back. Throws CsvError.
 std::vector<history::Connection> connectionsFromCsv(LineReader &lines);
 
 /// Whether a file that begins so looks like one of these.

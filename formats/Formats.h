@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ConnectionWriter.h"
 #include "CsvFormat.h"
 #include "ImportReader.h"
 #include "JsonFormat.h"
@@ -11,7 +12,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace formats
 {
@@ -52,16 +52,15 @@ struct ExportFormat {
     const char *suffix;
     bool breaksLines;  ///< a text with line breaks is on several lines
     bool carriesHours; ///< of the connections, which have to be given then
-    QByteArray (*text)(const std::vector<history::Connection> &connections,
-                       const history::Store::Progress &progress);
+    std::unique_ptr<ConnectionWriter> (*writer)();
 };
 
 constexpr std::array<ExportFormat, 2> exportFormats = {{
     {"csv", "a table, without the bytes by the hour", QT_TRANSLATE_NOOP("formats", "CSV table"),
-     "csv", true, false, toCsv},
+     "csv", true, false, csvWriter},
     {"json", "for programs, with the bytes by the hour",
      QT_TRANSLATE_NOOP("formats", "JSON with the bytes by the hour"), "json", false, true,
-     toJsonText},
+     jsonWriter},
 }};
 
 /// The table's row of that name; null if there is none.

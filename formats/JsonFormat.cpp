@@ -4,7 +4,6 @@
 #include "FieldValue.h"
 #include "Utf8Text.h"
 #include "history/ConnectionFields.h"
-#include "usage/CalendarTime.h"
 
 #include <algorithm>
 #include <string>
@@ -22,37 +21,6 @@ using history::forEachField;
 using history::HourlyBytes;
 using history::KindOf;
 namespace kind = history::kind;
-
-constexpr const char *keyName = "key";
-constexpr const char *hoursName = "hours";
-
-template <typename Kind, typename Value>
-Json jsonValue(const Value &value)
-{
-    if constexpr (std::is_base_of_v<kind::Time, Kind>)
-        return usage::utcText(value).toStdString();
-    else
-        return value;
-}
-
-Json hourJson(const HourlyBytes &hour)
-{
-    return {{"hour", usage::utcText(hour.hourUtc).toStdString()},
-            {"roaming", hour.isRoaming},
-            {"uploaded_bytes", hour.uploadedBytes},
-            {"downloaded_bytes", hour.downloadedBytes}};
-}
-
-Json toJson(const history::Connection &connection)
-{
-    Json json = {{keyName, connection.key}};
-    forEachField(connectionFields, [&](const auto &field) {
-        json[field.name] = jsonValue<KindOf<decltype(field)>>(connection.*field.member);
-    });
-    for (const HourlyBytes &hour : connection.hours)
-        json[hoursName].push_back(hourJson(hour));
-    return json;
-}
 
 [[noreturn]] void fail(const std::string &member, const std::string &reason)
 {
@@ -126,20 +94,20 @@ void checkHours(const history::Connection &connection)
     std::int64_t downloaded = 0;
     for (const HourlyBytes &hour : connection.hours) {
         if (&hour != &connection.hours.front() && !comesBefore(*(&hour - 1), hour))
-            fail(hoursName, "an hour is there twice");
+            fail(jsonHoursName, "an hour is there twice");
         if (__builtin_add_overflow(uploaded, hour.uploadedBytes, &uploaded) ||
             __builtin_add_overflow(downloaded, hour.downloadedBytes, &downloaded))
-            fail(hoursName, "the hours add up to more than 64 bits hold");
+            fail(jsonHoursName, "the hours add up to more than 64 bits hold");
     }
     if (!connection.hours.empty() &&
         (uploaded != connection.uploadedBytes || downloaded != connection.downloadedBytes))
-        fail(hoursName, "the hours do not add up to the bytes of the connection");
+        fail(jsonHoursName, "the hours do not add up to the bytes of the connection");
 }
 
 std::vector<HourlyBytes> hoursFrom(const Json &json)
 {
     if (!json.is_array())
-        fail(hoursName, "it is no array");
+        fail(jsonHoursName, "it is no array");
     std::vector<HourlyBytes> hours;
     for (const Json &hour : json)
         hours.push_back(hourFrom(hour));
@@ -153,7 +121,7 @@ void checkMembers(const Json &json)
         throw FieldError{"it is no object", true};
     for (const auto &member : json.items()) {
         const std::string &name = member.key();
-        bool isKnown = name == keyName || name == hoursName;
+        bool isKnown = name == jsonKeyName || name == jsonHoursName;
         forEachField(connectionFields, [&](const auto &field) { isKnown |= name == field.name; });
         if (!isKnown)
             fail(name, "a connection has no such member");
@@ -161,24 +129,6 @@ void checkMembers(const Json &json)
 }
 
 } // namespace
-
-Json toJson(const std::vector<history::Connection> &connections,
-            const history::Store::Progress &progress)
-{
-    Json array = Json::array();
-    for (const history::Connection &connection : connections) {
-        array.push_back(toJson(connection));
-        if (progress)
-            progress(array.size());
-    }
-    return array;
-}
-
-QByteArray toJsonText(const std::vector<history::Connection> &connections,
-                      const history::Store::Progress &progress)
-{
-    return jsonText(toJson(connections, progress));
-}
 
 bool isBeginningOfJson(std::string_view beginning)
 {
@@ -201,8 +151,8 @@ history::Connection connectionFromJson(const Json &json)
                 return parsedValue(Kind(), text, field.maximum, connection);
             });
     });
-    if (json.contains(hoursName))
-        connection.hours = hoursFrom(json[hoursName]);
+    if (json.contains(jsonHoursName))
+        connection.hours = hoursFrom(json[jsonHoursName]);
     checkHours(connection);
     return connection;
 }

@@ -2,27 +2,21 @@
 #pragma once
 
 #include "JsonText.h"
-#include "history/Store.h"
+#include "history/Connection.h"
 
 #include <string_view>
-#include <vector>
 
 namespace formats
 {
 
-/// The connections for programs, with their hours if they are given: exact integers, times
-/// as ISO 8601 in UTC.
-Json toJson(const std::vector<history::Connection> &connections,
-            const history::Store::Progress &progress = {});
-
-/// The document of it.
-QByteArray toJsonText(const std::vector<history::Connection> &connections,
-                      const history::Store::Progress &progress = {});
+/// The members of a connection's object that are no fields of it.
+constexpr const char *jsonKeyName = "key";
+constexpr const char *jsonHoursName = "hours";
 
 /// Whether a file that begins so looks like one.
 bool isBeginningOfJson(std::string_view beginning);
 
-/// What toJson() makes of a connection, read back; its key is passed over. Throws
+/// What jsonWriter() makes of a connection, read back; its key is passed over. Throws
 /// FieldError.
 history::Connection connectionFromJson(const Json &json);
 

@@ -3,7 +3,6 @@
 
 #include "usage/TextScanner.h"
 
-#include <QByteArrayList>
 #include <QVector>
 
 namespace formats
@@ -99,14 +98,17 @@ std::string printable(std::string_view text, int most)
     return printable(fromUtf8(text), most).toStdString();
 }
 
-QByteArray printableLines(const QByteArray &text)
+QByteArray printableLines(std::string_view text)
 {
-    QByteArrayList lines = text.split('\n');
-    for (QByteArray &line : lines)
-        line = printable(fromUtf8({line.constData(), static_cast<std::size_t>(line.size())}),
-                         unlimited)
-                   .toUtf8();
-    return lines.join('\n');
+    QByteArray lines;
+    for (;;) {
+        const std::size_t lineFeed = text.find('\n');
+        lines += printable(fromUtf8(text.substr(0, lineFeed)), unlimited).toUtf8();
+        if (lineFeed == std::string_view::npos)
+            return lines;
+        lines += '\n';
+        text.remove_prefix(lineFeed + 1);
+    }
 }
 
 } // namespace formats

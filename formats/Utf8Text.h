@@ -32,6 +32,6 @@ QString printable(const QString &text, int most = 200);
 std::string printable(std::string_view text, int most = 200);
 
 /// All lines of a text in UTF-8, each of them printable. JSON stays the same document.
-QByteArray printableLines(const QByteArray &text);
+QByteArray printableLines(std::string_view text);
 
 } // namespace formats

@@ -19,18 +19,6 @@ namespace
 
 constexpr const char *tableName = "connection";
 
-/// The rows that meet a condition, which may say their order.
-class ConnectionQuery : public RowQuery
-{
-public:
-    ConnectionQuery(const SQLite::Database &database, const char *condition)
-        : RowQuery(database, selectionOf(connectionFields, tableName) + condition)
-    {
-    }
-
-    ConnectionRow row() const { return ConnectionRow(RowQuery::row()); }
-};
-
 struct ContentsHash {
     std::size_t operator()(const Connection *connection) const
     {
@@ -100,6 +88,11 @@ void subtractStored(SQLite::Database &database, const std::vector<Connection> &c
 }
 
 } // namespace
+
+ConnectionQuery::ConnectionQuery(const SQLite::Database &database, const char *condition)
+    : RowQuery(database, selectionOf(connectionFields, tableName) + condition)
+{
+}
 
 ConnectionTable::ConnectionTable(SQLite::Database &database)
     : m_database(database)

@@ -50,6 +50,11 @@ public:
     }
 
     Connection toConnection() const { return recordIn<Connection>(m_row, connectionFields); }
+    /// The same in what has room for texts already; the hours stay.
+    void readInto(Connection &connection) const
+    {
+        history::readInto(connection, m_row, connectionFields);
+    }
 
 private:
     /// In connectionFields; a member that is not there does not compile.
@@ -69,6 +74,15 @@ private:
     }
 
     Row m_row;
+};
+
+/// The rows of finished connections that meet a condition, which may say their order.
+class ConnectionQuery : public RowQuery
+{
+public:
+    ConnectionQuery(const SQLite::Database &database, const char *condition);
+
+    ConnectionRow row() const { return ConnectionRow(RowQuery::row()); }
 };
 
 /// The table of finished connections in an open database. Operations throw

@@ -31,15 +31,24 @@ HourTable::HourTable(SQLite::Database &database, std::string connections)
 
 std::vector<HourlyBytes> HourTable::of(std::int64_t key)
 {
-    RowQuery query(m_database, std::string("SELECT ") + values + " FROM " + m_hours +
-                                   " WHERE connection = ? ORDER BY hour_utc, is_roaming");
-    query.bind(1, key);
     std::vector<HourlyBytes> hours;
-    while (query.next()) {
-        const Row row = query.row();
+    readInto(hours, key);
+    return hours;
+}
+
+void HourTable::readInto(std::vector<HourlyBytes> &hours, std::int64_t key)
+{
+    hours.clear();
+    if (!m_selection)
+        m_selection.emplace(m_database, std::string("SELECT ") + values + " FROM " + m_hours +
+                                            " WHERE connection = ? ORDER BY hour_utc, is_roaming");
+    m_selection->restart();
+    m_selection->bind(1, key);
+    while (m_selection->next()) {
+        const Row row = m_selection->row();
         hours.push_back({row.integer(0), row.integer(1) != 0, row.integer(2), row.integer(3)});
     }
-    return hours;
+    m_selection->restart(); // one that is being read holds its transaction open
 }
 
 void HourTable::replace(std::int64_t key, const std::vector<HourlyBytes> &hours)

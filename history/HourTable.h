@@ -5,6 +5,7 @@
 #include "Store.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,8 @@ public:
 
     /// Of one connection, by hour.
     std::vector<HourlyBytes> of(std::int64_t key);
+    /// The same in a list that has room already.
+    void readInto(std::vector<HourlyBytes> &hours, std::int64_t key);
     /// In the place of what is known of these hours.
     void replace(std::int64_t key, const std::vector<HourlyBytes> &hours);
     void remove(std::int64_t key);
@@ -43,6 +46,7 @@ private:
     SQLite::Database &m_database;
     std::string m_connections;
     std::string m_hours;
+    std::optional<RowQuery> m_selection; ///< of one connection, once it is needed
     PreparedStatement m_replacement;
     PreparedStatement m_removal;
     PreparedStatement m_comparison;

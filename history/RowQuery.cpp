@@ -65,6 +65,12 @@ bool RowQuery::next()
     return code == SQLITE_ROW;
 }
 
+void RowQuery::restart()
+{
+    // Answers with the error of the last step, which that has thrown.
+    sqlite3_reset(m_statement);
+}
+
 void RowQuery::check(int code, int expected) const
 {
     if (code != expected)

@@ -66,6 +66,8 @@ public:
 
     /// Goes to the next row; false if there is none.
     bool next();
+    /// Goes before the first row, for other parameters.
+    void restart();
     Row row() const { return Row(m_statement); }
 
 private:
@@ -139,15 +141,21 @@ int bindFields(SQLite::Statement &statement, int first, const Record &record, co
     return first;
 }
 
-/// What selectionOf() the same fields has given.
+/// Takes over what selectionOf() the same fields has given.
 template <typename Record, typename Fields>
-Record recordIn(const Row &row, const Fields &fields)
+void readInto(Record &record, const Row &row, const Fields &fields)
 {
-    Record record;
     record.key = row.integer(0);
     int column = 0;
     forEachField(fields,
                  [&](const auto &field) { record.*field.member = row.value(field, ++column); });
+}
+
+template <typename Record, typename Fields>
+Record recordIn(const Row &row, const Fields &fields)
+{
+    Record record;
+    readInto(record, row, fields);
     return record;
 }
 

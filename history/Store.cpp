@@ -6,12 +6,8 @@
 #include "PlanCheck.h"
 #include "StoreDatabase.h"
 
-#include <pwd.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
+#include <exception>
 
 namespace history
 {
@@ -23,33 +19,28 @@ using Durability = StoreDatabase::Durability;
 using IfMissing = StoreDatabase::IfMissing;
 using LockWait = StoreDatabase::LockWait;
 
-std::string environmentValue(const char *name)
-{
-    const char *const value = std::getenv(name);
-    return value ? value : "";
-}
-
-std::filesystem::path homeFolder()
-{
-    const std::string home = environmentValue("HOME");
-    if (!home.empty())
-        return home;
-    const passwd *const user = getpwuid(getuid());
-    return user && user->pw_dir ? user->pw_dir : "/";
-}
-
-std::filesystem::path dataFolder()
-{
-    const std::filesystem::path folder = environmentValue("XDG_DATA_HOME");
-    // A relative path there is to be ignored, as the base directory rules have it.
-    return folder.is_absolute() ? folder : homeFolder() / ".local" / "share";
-}
-
 std::vector<std::int64_t> withoutRepetitions(std::vector<std::int64_t> keys)
 {
     std::sort(keys.begin(), keys.end());
     keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
     return keys;
+}
+
+/// The visitor, what it throws being kept: a Result has no place for that of others.
+template <typename Shown>
+std::function<void(const Shown &)> keeping(std::exception_ptr &thrown,
+                                           const std::function<void(const Shown &)> &visitor)
+{
+    if (!visitor)
+        return {};
+    return [&thrown, &visitor](const Shown &connection) {
+        try {
+            visitor(connection);
+        } catch (...) {
+            thrown = std::current_exception();
+            throw;
+        }
+    };
 }
 
 } // namespace
@@ -115,12 +106,6 @@ public:
     StoreDatabase database;
 };
 
-std::string Store::defaultPath()
-{
-    const std::string named = environmentValue("NETINFO_STORE");
-    return named.empty() ? (dataFolder() / "refdialer" / "connections.db").string() : named;
-}
-
 Result<Store> Store::openOrCreate(const std::string &path)
 {
     return Private::open(path, IfMissing::Create);
@@ -153,6 +138,24 @@ Store::~Store() = default;
 Result<std::vector<Connection>> Store::list(const TimeRange &range) const
 {
     return d->read([&](StoreTables &tables) { return tables.connections.list(range); });
+}
+
+Result<std::size_t> Store::visit(const ConnectionSelection &selection,
+                                 const ConnectionVisitor &visitor,
+                                 const OpenConnectionVisitor &openVisitor) const
+{
+    std::exception_ptr thrown;
+    auto count = d->read([&](StoreTables &tables) {
+        return tables.visit(selection, keeping(thrown, visitor), keeping(thrown, openVisitor));
+    });
+    if (thrown)
+        std::rethrow_exception(thrown);
+    return count;
+}
+
+Result<std::int64_t> Store::count() const
+{
+    return d->read([](StoreTables &tables) { return tables.connections.count(); });
 }
 
 Result<std::uint64_t> Store::fingerprint() const

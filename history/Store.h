@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Connection.h"
+#include "ConnectionSelection.h"
 #include "DataPlan.h"
 #include "Result.h"
 
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,13 +30,6 @@ struct ConnectionHour {
     std::int64_t uploadedBytes = 0;
     std::int64_t downloadedBytes = 0;
     bool isKnown = true; ///< the connection has hours
-};
-
-/// Times from one second up to another one, which is outside, in seconds since
-/// 1970-01-01 00:00 UTC; all times unless set.
-struct TimeRange {
-    std::int64_t fromUtc = std::numeric_limits<std::int64_t>::min();
-    std::int64_t untilUtc = std::numeric_limits<std::int64_t>::max();
 };
 
 /// What the connections of a history, the ones that last included, are of.
@@ -83,6 +75,15 @@ public:
 
     /// The finished connections that start in `range`, by start time, then by key.
     Result<std::vector<Connection>> list(const TimeRange &range = {}) const;
+    /// Shows those of the selection one after the other, as they all are at one moment,
+    /// and returns how many those were: the finished ones by start time, then by key;
+    /// behind them, to `openVisitor` if it is given, those that last, by key. What a
+    /// visitor throws ends the visit and is passed on.
+    Result<std::size_t> visit(const ConnectionSelection &selection,
+                              const ConnectionVisitor &visitor,
+                              const OpenConnectionVisitor &openVisitor = {}) const;
+    /// How many connections are finished.
+    Result<std::int64_t> count() const;
 
     /// A number that stays the same as long as the finished connections do, on which
     /// open ones have no part: the sum, modulo 2^64, of fingerprintOf() each of them.

@@ -2,6 +2,7 @@
 #include "StoreTables.h"
 
 #include "ConnectionCheck.h"
+#include "ConnectionWalk.h"
 #include "StoreUpkeep.h"
 
 #include <atomic>
@@ -150,6 +151,24 @@ std::vector<ConnectionHour> StoreTables::hours(const TimeRange &range)
     while (query.next())
         hours.push_back(hourIn(query.row()));
     return hours;
+}
+
+std::size_t StoreTables::visit(const ConnectionSelection &selection,
+                               const ConnectionVisitor &visitor,
+                               const OpenConnectionVisitor &openVisitor)
+{
+    std::size_t count = ConnectionWalk(m_database, m_hours, selection).visit(visitor);
+    if (!openVisitor)
+        return count;
+    const TimeRange &range = selection.range;
+    for (const OpenConnection &open : listOpen()) {
+        const bool isInRange = open.startUtc >= range.fromUtc && open.startUtc < range.untilUtc;
+        if (isInRange && (!selection.isWanted || selection.isWanted(open))) {
+            openVisitor(open);
+            ++count;
+        }
+    }
+    return count;
 }
 
 Overview StoreTables::overview()

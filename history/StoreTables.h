@@ -43,6 +43,9 @@ public:
     bool remove(std::int64_t key);
     std::size_t remove(const std::vector<std::int64_t> &keys);
     std::vector<ConnectionHour> hours(const TimeRange &range);
+    /// See Store::visit().
+    std::size_t visit(const ConnectionSelection &selection, const ConnectionVisitor &visitor,
+                      const OpenConnectionVisitor &openVisitor);
     Overview overview();
     std::vector<OpenConnection> listOpen();
     OpenConnection begin(const OpenConnection &connection);

@@ -60,6 +60,36 @@ bool takeZone(TextScanner &scanner, CalendarTime &time)
     return time.utcOffset.has_value();
 }
 
+struct DayOfCalendar {
+    std::int64_t year;
+    std::int64_t month;
+    std::int64_t day;
+};
+
+/// Counted in years that begin in March, whose leap day is their last.
+DayOfCalendar dayOfCalendar(std::int64_t daysSince1970)
+{
+    constexpr std::int64_t daysOf400Years = 146097;
+    const std::int64_t days = daysSince1970 + 719468; // since 0000-03-01
+    const std::int64_t era = days / daysOf400Years;
+    const std::int64_t dayOfEra = days % daysOf400Years;
+    const std::int64_t yearOfEra =
+        (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
+    const std::int64_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
+    const std::int64_t monthFromMarch = (5 * dayOfYear + 2) / 153;
+    const std::int64_t month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
+    return {era * 400 + yearOfEra + (month <= 2 ? 1 : 0), month,
+            dayOfYear - (153 * monthFromMarch + 2) / 5 + 1};
+}
+
+void appendPadded(std::string &text, std::int64_t number, std::size_t digits)
+{
+    const std::size_t start = text.size();
+    text.resize(start + digits);
+    for (std::size_t i = digits; i > 0; --i, number /= 10)
+        text[start + i - 1] = static_cast<char>('0' + number % 10);
+}
+
 QDate dateOf(const CalendarTime &time)
 {
     return QDate(time.year, time.month, time.day);
@@ -160,6 +190,23 @@ CalendarTime utcCalendarTime(std::int64_t utc)
     CalendarTime time = calendarTime(QDateTime::fromSecsSinceEpoch(utc).toUTC());
     time.utcOffset = 0;
     return time;
+}
+
+void appendUtc(std::string &text, std::int64_t utc)
+{
+    if (utc < 0 || utc > latestWrittenTime) {
+        text += utcText(utc).toStdString();
+        return;
+    }
+    const DayOfCalendar day = dayOfCalendar(utc / secondsPerDay);
+    const std::int64_t second = utc % secondsPerDay;
+    appendPadded(text, day.year, 4);
+    appendPadded(text += '-', day.month, 2);
+    appendPadded(text += '-', day.day, 2);
+    appendPadded(text += 'T', second / secondsPerHour, 2);
+    appendPadded(text += ':', second / 60 % 60, 2);
+    appendPadded(text += ':', second % 60, 2);
+    text += 'Z';
 }
 
 QString utcText(std::int64_t utc)

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace usage
@@ -57,6 +58,8 @@ CalendarTime utcCalendarTime(std::int64_t utc);
 
 /// yyyy-MM-ddThh:mm:ssZ
 QString utcText(std::int64_t utc);
+/// The same behind the text, for who writes many.
+void appendUtc(std::string &text, std::int64_t utc);
 /// yyyy-MM-dd hh:mm:ss in local time
 QString localText(std::int64_t utc);
 /// hh:mm:ss, the hours as many as they are

@@ -41,13 +41,12 @@ ReplacementFile::~ReplacementFile()
     close(m_descriptor);
 }
 
-void ReplacementFile::write(const QByteArray &bytes)
+void ReplacementFile::write(std::string_view bytes)
 {
-    const char *const end = bytes.constEnd();
-    for (const char *next = bytes.constBegin(); next < end;) {
-        const ssize_t written = ::write(m_descriptor, next, static_cast<std::size_t>(end - next));
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(m_descriptor, bytes.data(), bytes.size());
         check(written >= 0 || errno == EINTR);
-        next += written > 0 ? written : 0;
+        bytes.remove_prefix(written > 0 ? static_cast<std::size_t>(written) : 0);
     }
 }
 

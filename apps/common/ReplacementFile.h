@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace common
 {
@@ -22,7 +21,7 @@ public:
     ReplacementFile(const ReplacementFile &) = delete;
     ReplacementFile &operator=(const ReplacementFile &) = delete;
 
-    void write(const QByteArray &bytes);
+    void write(std::string_view bytes);
     /// Where the contents are until they are in place.
     const std::string &temporaryPath() const { return m_temporaryPath; }
     /// To be called when everything is written: what was there before is replaced

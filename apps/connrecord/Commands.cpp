@@ -5,7 +5,7 @@
 #include "OptionValue.h"
 #include "Output.h"
 #include "StoreResult.h"
-#include "apps/common/ExportedHours.h"
+#include "apps/common/Export.h"
 #include "formats/Formats.h"
 #include "formats/Utf8Text.h"
 #include "history/ConnectionFields.h"
@@ -41,36 +41,68 @@ history::Connection connectionFrom(const AddRequest &request)
     return connection;
 }
 
-std::vector<history::Connection> storedConnections(const CommonRequest &common,
-                                                   const SelectionRequest &selection)
+/// Lines of a text would look like connections of their own: puts each on one.
+class OneLineWriter : public formats::ConnectionWriter
 {
-    const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
-    return selectedFrom(store, selection);
-}
+public:
+    explicit OneLineWriter(std::unique_ptr<ConnectionWriter> writer)
+        : m_writer(std::move(writer))
+    {
+    }
 
-/// Lines of a text would look like connections of their own.
-void putOnOneLineEach(std::vector<history::Connection> &connections)
-{
-    for (history::Connection &connection : connections) {
-        history::forEachField(history::connectionFields, [&](const auto &field) {
-            auto &value = connection.*field.member;
+    void begin(std::string &text) override { m_writer->begin(text); }
+    void add(const history::Connection &connection, std::string &text) override
+    {
+        m_printable = connection;
+        history::forEachField(history::connectionFields, [this](const auto &field) {
+            auto &value = m_printable.*field.member;
             if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::string>)
                 value = formats::printable(value, formats::unlimited);
         });
+        m_writer->add(m_printable, text);
     }
+    void end(std::string &text) override { m_writer->end(text); }
+
+private:
+    const std::unique_ptr<ConnectionWriter> m_writer;
+    history::Connection m_printable;
+};
+
+std::unique_ptr<formats::ConnectionWriter> writerFor(const formats::ExportFormat &format,
+                                                     const Output &output)
+{
+    if (format.breaksLines && output.isTerminal())
+        return std::make_unique<OneLineWriter>(format.writer());
+    return format.writer();
+}
+
+void write(const std::string &storePath, const history::ConnectionSelection &selection,
+           formats::ConnectionWriter &writer, Output &output)
+{
+    const auto store = valueOrFailure(history::Store::openForReading(storePath));
+    valueOrFailure(common::writeConnections(
+        store, selection, writer, [&output](std::string_view piece) { output.add(piece); }));
+    output.complete();
 }
 
 } // namespace
 
 void listConnections(const CommonRequest &common, const SelectionRequest &selection)
 {
-    showConnections(common, storedConnections(common, selection));
+    if (!common.json) {
+        const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
+        return showConnections(common, selectedFrom(store, selection));
+    }
+    Output output;
+    write(common.storePath, selectionOf(selection), *formats::jsonWriter(), output);
 }
 
 void showConnections(const CommonRequest &common,
                      const std::vector<history::Connection> &connections)
 {
-    Output().write(common.json ? formats::toJsonText(connections) : toTable(connections));
+    Output().write(common.json ? QByteArray::fromStdString(
+                                     formats::documentOf(*formats::jsonWriter(), connections))
+                               : toTable(connections));
 }
 
 void addConnection(const CommonRequest &common, const AddRequest &request)
@@ -86,13 +118,9 @@ void exportConnections(const CommonRequest &common, const ExportRequest &request
 {
     checkIsNotOfHistory(request.outputPath, common.storePath);
     Output output(request.outputPath);
-    const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
-    auto connections = selectedFrom(store, request.selection);
-    if (request.format->carriesHours)
-        common::addHours(valueOrFailure(store.hours()), connections);
-    if (request.format->breaksLines && output.isTerminal())
-        putOnOneLineEach(connections);
-    output.write(request.format->text(connections, {}));
+    auto selection = selectionOf(request.selection);
+    selection.withHours = request.format->carriesHours;
+    write(common.storePath, selection, *writerFor(*request.format, output), output);
 }
 
 } // namespace connrecord

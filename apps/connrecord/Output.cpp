@@ -50,27 +50,49 @@ void checkIsNotOfHistory(const std::string &outputPath, const std::string &store
                                             storePath + "\". Give another file.");
 }
 
-Output::Output(const std::string &path)
-    : m_name(outputName(path))
+template <typename Step>
+void Output::orFailure(Step step) const
 {
     try {
-        open(path);
+        step();
     } catch (const std::system_error &error) {
         throw cannotWrite(error.code().message());
     }
 }
+
+Output::Output(const std::string &path)
+    : m_name(outputName(path))
+{
+    orFailure([&] { open(path); });
+}
+
+Output::~Output() = default;
 
 bool Output::isTerminal() const
 {
     return !m_replacedFile && ::isatty(m_file.handle()) != 0;
 }
 
-void Output::write(const QByteArray &result)
+void Output::add(std::string_view piece)
 {
     if (m_replacedFile)
-        replaceBy(result);
-    else
-        writeAll(isTerminal() ? formats::printableLines(result) : result);
+        return orFailure([&] { replacement().write(piece); });
+    if (!isTerminal())
+        return writeInPlace(piece.data(), static_cast<qint64>(piece.size()));
+    const QByteArray printable = formats::printableLines(piece);
+    writeInPlace(printable.constData(), printable.size());
+}
+
+void Output::complete()
+{
+    if (m_replacedFile)
+        orFailure([this] { replacement().putInPlace(); });
+}
+
+void Output::write(const QByteArray &result)
+{
+    add({result.constData(), static_cast<std::size_t>(result.size())});
+    complete();
 }
 
 void Output::open(const std::string &path)
@@ -102,21 +124,17 @@ void Output::use(int descriptor, QFileDevice::FileHandleFlags closing)
         throw cannotWrite(m_file.errorString().toStdString());
 }
 
-void Output::writeAll(const QByteArray &bytes)
+void Output::writeInPlace(const char *bytes, qint64 count)
 {
-    if (m_file.write(bytes) != bytes.size() || !m_file.flush())
+    if (m_file.write(bytes, count) != count || !m_file.flush())
         throw cannotWrite(m_file.errorString().toStdString());
 }
 
-void Output::replaceBy(const QByteArray &contents)
+common::ReplacementFile &Output::replacement()
 {
-    try {
-        common::ReplacementFile replacement(*m_replacedFile);
-        replacement.write(contents);
-        replacement.putInPlace();
-    } catch (const std::system_error &error) {
-        throw cannotWrite(error.code().message());
-    }
+    if (!m_replacement)
+        m_replacement = std::make_unique<common::ReplacementFile>(*m_replacedFile);
+    return *m_replacement;
 }
 
 Failure Output::cannotWrite(const std::string &reason) const

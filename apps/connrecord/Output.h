@@ -7,8 +7,15 @@
 #include <QFile>
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+
+namespace common
+{
+class ReplacementFile;
+}
 
 namespace connrecord
 {
@@ -34,23 +41,34 @@ class Output
 public:
     /// Opens what is not to be replaced. Throws Failure.
     explicit Output(const std::string &path = standardOutputPath);
+    /// An ordinary file stays as it was unless the result is complete.
+    ~Output();
+    Output(const Output &) = delete;
+    Output &operator=(const Output &) = delete;
 
     bool isTerminal() const;
-    /// Writes all of the result, lines of UTF-8, which is complete with it, or throws
-    /// Failure. A terminal gets them printable, everything else as they are.
+    /// Writes the next piece of the result, lines of UTF-8 of which it may be a part, or
+    /// throws Failure. A terminal gets it printable, everything else as it is.
+    void add(std::string_view piece);
+    /// To be called when all of the result is written. Throws Failure.
+    void complete();
+    /// Writes all of the result, which is complete with it, or throws Failure.
     void write(const QByteArray &result);
 
 private:
     void open(const std::string &path);
     void openInPlace(const std::string &path);
     void use(int descriptor, QFileDevice::FileHandleFlags closing);
-    void writeAll(const QByteArray &bytes);
-    void replaceBy(const QByteArray &contents);
+    common::ReplacementFile &replacement();
+    void writeInPlace(const char *bytes, qint64 count);
+    template <typename Step>
+    void orFailure(Step step) const;
     Failure cannotWrite(const std::string &reason) const;
 
     const std::string m_name;
     QFile m_file;
     std::optional<std::filesystem::path> m_replacedFile;
+    std::unique_ptr<common::ReplacementFile> m_replacement; ///< once something is written
 };
 
 } // namespace connrecord

@@ -6,7 +6,6 @@
 #include "usage/LocalClock.h"
 #include "usage/SimNumber.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace connrecord
@@ -37,23 +36,30 @@ usage::LocalDays daysOf(const DaysRequest &request)
     return days;
 }
 
+history::ConnectionSelection selectionOf(const SelectionRequest &request)
+{
+    const usage::LocalDays days = daysOf(request.days);
+    history::ConnectionSelection selection;
+    selection.range = days.widerRange();
+    selection.most = mostOf(request.limit);
+    const bool isAnyDay = days.first.isNull() && days.last.isNull();
+    if (isAnyDay && !request.profile && !request.sim)
+        return selection;
+    selection.isWanted = [=, clock = usage::LocalClock()](const history::ConnectionBase &each) {
+        return (!request.profile || each.profile == *request.profile) &&
+               (!request.sim || usage::isSimNumber(each.sim, *request.sim)) &&
+               (isAnyDay || days.contains(clock.dayAt(each.startUtc)));
+    };
+    return selection;
+}
+
 std::vector<history::Connection> selectedFrom(const history::Store &store,
                                               const SelectionRequest &request)
 {
-    const usage::LocalDays days = daysOf(request.days);
-    const std::size_t most = mostOf(request.limit);
-    auto connections = valueOrFailure(store.list(days.widerRange()));
-    const usage::LocalClock clock;
-    const auto isLeftOut = [&](const history::Connection &connection) {
-        return (request.profile && connection.profile != *request.profile) ||
-               (request.sim && !usage::isSimNumber(connection.sim, *request.sim)) ||
-               !days.contains(clock.dayAt(connection.startUtc));
-    };
-    connections.erase(std::remove_if(connections.begin(), connections.end(), isLeftOut),
-                      connections.end());
-    if (connections.size() > most)
-        connections.erase(connections.begin(),
-                          connections.end() - static_cast<std::ptrdiff_t>(most));
+    std::vector<history::Connection> connections;
+    valueOrFailure(store.visit(selectionOf(request), [&](const history::Connection &connection) {
+        connections.push_back(connection);
+    }));
     return connections;
 }
 

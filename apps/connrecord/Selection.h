@@ -30,6 +30,9 @@ struct SelectionRequest {
     bool isAll() const { return !days.from && !days.to && !profile && !sim && !limit; }
 };
 
+/// The same for the store. Throws Failure.
+history::ConnectionSelection selectionOf(const SelectionRequest &request);
+
 /// Those of the finished connections, by start time, then by key. Throws Failure.
 std::vector<history::Connection> selectedFrom(const history::Store &store,
                                               const SelectionRequest &request);

@@ -2,7 +2,7 @@
 #include "ExportWork.h"
 
 #include "TransferFile.h"
-#include "apps/common/ExportedHours.h"
+#include "apps/common/Export.h"
 #include "apps/common/FilePlace.h"
 #include "apps/common/ReplacementFile.h"
 
@@ -36,38 +36,38 @@ TransferResult ExportWork::operator()(TransferProgress &progress) const
 {
     checkIsOrdinary(m_choice.file, m_storePath);
     progress.beginListing();
-    const std::vector<history::Connection> exported = connections();
-    progress.beginWriting(static_cast<std::int64_t>(exported.size()));
-    const QByteArray contents = m_choice.format->text(exported, [&progress](std::size_t done) {
-        progress.update(static_cast<std::int64_t>(done));
-    });
-    write(contents, progress);
-    return {TransferResult::Kind::Done, tr("Connections exported: %1").arg(exported.size()),
+    const auto store = valueOrFailure(history::Store::openForReading(m_storePath));
+    progress.beginWriting(valueOrFailure(store.count()));
+    const std::size_t count = write(store, progress);
+    return {TransferResult::Kind::Done, tr("Connections exported: %1").arg(count),
             tr("They are in \"%1\".").arg(m_choice.file)};
 }
 
-std::vector<history::Connection> ExportWork::connections() const
-{
-    const auto store = valueOrFailure(history::Store::openForReading(m_storePath));
-    auto connections = valueOrFailure(store.list());
-    if (m_choice.format->carriesHours)
-        common::addHours(valueOrFailure(store.hours()), connections);
-    return connections;
-}
-
-void ExportWork::write(const QByteArray &contents, const TransferProgress &progress) const
+std::size_t ExportWork::write(const history::Store &store, TransferProgress &progress) const
 {
     try {
         common::ReplacementFile file(common::placeOf(pathOf(m_choice.file)));
-        file.write(contents);
+        const std::size_t count = write(store, file, progress);
         progress.check();
         file.putInPlace();
+        return count;
     } catch (const std::system_error &error) {
         throw TransferFailure{
             tr("\"%1\" cannot be written: %2. Check the disk, the folder and its "
                "permissions.")
                 .arg(m_choice.file, QString::fromStdString(error.code().message()))};
     }
+}
+
+std::size_t ExportWork::write(const history::Store &store, common::ReplacementFile &file,
+                              TransferProgress &progress) const
+{
+    history::ConnectionSelection all;
+    all.withHours = m_choice.format->carriesHours;
+    const auto writer = m_choice.format->writer();
+    return valueOrFailure(common::writeConnections(
+        store, all, *writer, [&file](std::string_view piece) { file.write(piece); },
+        [&progress](std::size_t done) { progress.update(static_cast<std::int64_t>(done)); }));
 }
 
 } // namespace refdialer

@@ -3,6 +3,11 @@
 
 #include "Transfer.h"
 
+namespace common
+{
+class ReplacementFile;
+}
+
 namespace refdialer
 {
 
@@ -24,8 +29,9 @@ public:
     TransferResult operator()(TransferProgress &progress) const;
 
 private:
-    std::vector<history::Connection> connections() const;
-    void write(const QByteArray &contents, const TransferProgress &progress) const;
+    std::size_t write(const history::Store &store, TransferProgress &progress) const;
+    std::size_t write(const history::Store &store, common::ReplacementFile &file,
+                      TransferProgress &progress) const;
 
     std::string m_storePath;
     ExportChoice m_choice;

@@ -3,6 +3,7 @@
 #include "formats/CsvReader.h"
 #include "formats/LineReader.h"
 #include "history/ConnectionFields.h"
+#include "tests/formats/Documents.h"
 
 #include <QBuffer>
 #include <QTest>

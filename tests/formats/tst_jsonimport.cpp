@@ -2,6 +2,7 @@
 #include "formats/ImportReader.h"
 #include "formats/InputError.h"
 #include "formats/JsonFormat.h"
+#include "tests/formats/Documents.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -14,6 +15,7 @@ class JsonImportTest : public QObject
 
 private slots:
     void readsWhatIsWritten();
+    void isWrittenAsAllJson();
     void takesAFileWithoutDetails();
     void tellsWhereAndWhy_data();
     void tellsWhereAndWhy();
@@ -85,6 +87,25 @@ void JsonImportTest::readsWhatIsWritten()
     QCOMPARE(connections[0].key, std::int64_t(0));
     connections[0].key = sample().key;
     QCOMPARE(toJsonText(connections), json);
+}
+
+void JsonImportTest::isWrittenAsAllJson()
+{
+    history::Connection odd;
+    odd.profile = std::string("\x01\t\x7f/<\"\\ ", 8) + std::string(1, '\0');
+    odd.operatorName = "Ü\xF0\x9F\x93\xB6";
+    odd.ending = "not UTF-8: \xFF\xC3";
+    for (const std::vector<history::Connection> &connections :
+         {std::vector<history::Connection>(), {sample()}, {odd, sample(), odd}}) {
+        const QByteArray json = toJsonText(connections);
+        const Json parsed = Json::parse(json.toStdString());
+        QCOMPARE(parsed.size(), connections.size());
+        QCOMPARE(json, jsonText(parsed));
+    }
+    const Json parsed = Json::parse(toJsonText({odd}).toStdString());
+    QCOMPARE(parsed[0]["profile"].get<std::string>(), odd.profile);
+    QCOMPARE(parsed[0]["ending"].get<std::string>(),
+             std::string("not UTF-8: \xEF\xBF\xBD\xEF\xBF\xBD"));
 }
 
 void JsonImportTest::takesAFileWithoutDetails()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "usage/CalendarTime.h"
 
+#include <QDateTime>
 #include <QTest>
 
 using namespace usage;
@@ -16,6 +17,7 @@ private slots:
     void refusesWhatIsNoTime();
     void knowsTheHourThatComesTwice();
     void writesUtcAndLocalTime();
+    void writesUtcAsQtDoes();
     void writesDurationsWithGrowingHours_data();
     void writesDurationsWithGrowingHours();
 };
@@ -102,6 +104,24 @@ void CalendarTimeTest::writesUtcAndLocalTime()
     QCOMPARE(localText(1717180200), QString("2024-05-31 20:30:00"));
     QCOMPARE(utcText(0), QString("1970-01-01T00:00:00Z"));
     QCOMPARE(utcText(4294967295), QString("2106-02-07T06:28:15Z"));
+}
+
+void CalendarTimeTest::writesUtcAsQtDoes()
+{
+    const auto check = [](std::int64_t utc) {
+        std::string text = "before ";
+        appendUtc(text, utc);
+        const QDateTime time = QDateTime::fromSecsSinceEpoch(utc).toUTC();
+        QCOMPARE(QString::fromStdString(text), "before " + time.toString(Qt::ISODate));
+    };
+    // Some day of each year and of each month, at other times.
+    for (std::int64_t utc = -secondsPerDay; utc < latestWrittenTime; utc += 97 * secondsPerDay + 1)
+        check(utc);
+    for (std::int64_t day = 0; day < 5 * 365; ++day)
+        check(day * secondsPerDay);
+    for (const std::int64_t utc : {std::int64_t(951782400), std::int64_t(4107542399),
+                                   std::int64_t(4107542400), latestWrittenTime})
+        check(utc);
 }
 
 void CalendarTimeTest::writesDurationsWithGrowingHours_data()

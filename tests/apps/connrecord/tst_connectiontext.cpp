@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "apps/common/Export.h"
 #include "apps/connrecord/ConnectionText.h"
-#include "formats/JsonFormat.h"
+#include "tests/formats/Documents.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <limits>
@@ -26,6 +28,7 @@ private slots:
     void writesExactIntegers_data();
     void writesExactIntegers();
     void writesEveryFieldAsJson();
+    void writesPieceByPiece();
 };
 
 namespace
@@ -51,7 +54,7 @@ void ConnectionTextTest::givesTheHeaderAloneWithoutConnections()
 {
     QCOMPARE(toTable({}), QByteArray("KEY  PROFILE  START  END  CONNECTED  UPLOADED  DOWNLOADED  "
                                      "ENDING  INTERFACE  OPERATOR  SIM  ROAMING\n"));
-    QCOMPARE(jsonText(toJson(std::vector<Connection>())), QByteArray("[]\n"));
+    QCOMPARE(toJsonText({}), QByteArray("[]\n"));
 }
 
 void ConnectionTextTest::alignsTheColumns()
@@ -82,7 +85,7 @@ void ConnectionTextTest::showsTheEndOfASimAlone()
     known.technology = "lte";
     const QByteArray table = toTable({known});
     QVERIFY2(table.endsWith("ppp0       Operator  7890  roaming\n"), table.constData());
-    const QByteArray json = jsonText(toJson({known}));
+    const QByteArray json = toJsonText({known});
     for (const char *const value : {"\"operator\": \"Operator\"", "\"operator_code\": \"26201\"",
                                     "\"sim\": \"89490200001234567890\"", "\"roaming\": \"roaming\"",
                                     "\"technology\": \"lte\""})
@@ -126,13 +129,13 @@ void ConnectionTextTest::writesExactIntegers()
     QFETCH(qint64, bytes);
     Connection connection = sample();
     connection.uploadedBytes = bytes;
-    const QByteArray json = jsonText(toJson(std::vector<Connection>{connection}));
+    const QByteArray json = toJsonText({connection});
     QVERIFY2(json.contains("\"uploaded_bytes\": " + QByteArray::number(bytes) + '\n'), json);
 }
 
 void ConnectionTextTest::writesEveryFieldAsJson()
 {
-    const QByteArray json = jsonText(toJson(std::vector<Connection>{sample()}));
+    const QByteArray json = toJsonText({sample()});
     const QJsonObject expected = {{"key", 12},
                                   {"profile", "internet.example"},
                                   {"start", "2024-05-31T18:30:00Z"},
@@ -148,6 +151,32 @@ void ConnectionTextTest::writesEveryFieldAsJson()
                                   {"roaming", ""},
                                   {"technology", ""}};
     QCOMPARE(QJsonDocument::fromJson(json).array(), QJsonArray{expected});
+}
+
+void ConnectionTextTest::writesPieceByPiece()
+{
+    const QTemporaryDir folder;
+    auto store = Store::openOrCreate(folder.filePath("connections.db").toStdString());
+    std::vector<Connection> connections;
+    for (int i = 0; i < 2000; ++i) {
+        connections.push_back(sample());
+        connections.back().startUtc -= i;
+    }
+    QVERIFY(store.value().addMissing(connections));
+    std::string text;
+    std::size_t written = 0;
+    std::vector<std::size_t> pieces; // what was written of the connections when each came
+    const auto count = common::writeConnections(
+        store.value(), {}, *csvWriter(),
+        [&](std::string_view piece) {
+            text += piece;
+            pieces.push_back(written);
+        },
+        [&](std::size_t done) { written = done; });
+    QCOMPARE(count.value(), connections.size());
+    QVERIFY(pieces.size() > 1 && pieces.front() < connections.size() / 2);
+    QCOMPARE(pieces.back(), connections.size());
+    QCOMPARE(QByteArray::fromStdString(text), toCsv(store.value().list().value()));
 }
 
 QTEST_GUILESS_MAIN(ConnectionTextTest)

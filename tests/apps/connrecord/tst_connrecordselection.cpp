@@ -13,6 +13,8 @@ private slots:
     void takesWhatIsSelected();
     void refusesWhatSelectsNothing_data();
     void refusesWhatSelectsNothing();
+    void takesNoMoreMemoryForMore_data();
+    void takesNoMoreMemoryForMore();
 };
 
 void ConnrecordSelectionTest::takesWhatIsSelected_data()
@@ -83,6 +85,40 @@ void ConnrecordSelectionTest::refusesWhatSelectsNothing()
         QVERIFY2(result.error.contains(named), result.error);
     }
     QCOMPARE(history.keys(), (QList<int>{1, 2, 3, 4}));
+}
+
+void ConnrecordSelectionTest::takesNoMoreMemoryForMore_data()
+{
+    QTest::addColumn<QString>("command");
+
+    for (const char *const command : {"list --json", "export", "export --json"})
+        QTest::newRow(command) << command;
+}
+
+void ConnrecordSelectionTest::takesNoMoreMemoryForMore()
+{
+    QFETCH(QString, command);
+#ifdef SANITIZED
+    QSKIP("sanitizers take more memory than a limit allows", "");
+#endif
+    const SampleHistory history;
+    writeFile(history.folder() + "/more.csv", csvOf(20000));
+    QCOMPARE(history.run({"import", "--format", "csv", history.folder() + "/more.csv"}).exitCode,
+             0);
+    const auto limited = [&](int kilobytes, const QString &arguments) {
+        return runProgram(
+            "sh",
+            {"-c",
+             QString("ulimit -v %1 && \"$0\" --store \"$1\" %2").arg(kilobytes).arg(arguments),
+             connrecordProgram(), history.path()});
+    };
+    constexpr int step = 8192;
+    int enough = step;
+    while (limited(enough, command + " --limit 1").exitCode != 0)
+        enough += step;
+    const ConnrecordRun all = limited(enough + step, command);
+    QCOMPARE(all.exitCode, 0);
+    QCOMPARE(all.output, history.run(command.split(' ')).output);
 }
 
 QTEST_GUILESS_MAIN(ConnrecordSelectionTest)

@@ -2,9 +2,8 @@
 #include "FileTransfer.h"
 
 #include "MenuEntry.h"
-#include "apps/common/ExportedHours.h"
 #include "apps/refdialer/TransferDialog.h"
-#include "formats/JsonFormat.h"
+#include "tests/formats/Documents.h"
 
 #include <QAction>
 #include <QApplication>
@@ -128,9 +127,12 @@ void FileTransfer::answer(const QString &buttonText)
 QByteArray FileTransfer::contentsOfStore(const std::string &path)
 {
     const auto store = history::Store::openForReading(path);
-    auto connections = store.value().list().value();
-    common::addHours(store.value().hours().value(), connections);
-    for (history::Connection &connection : connections)
-        connection.key = 0;
-    return formats::toJsonText(connections);
+    std::vector<history::Connection> connections;
+    history::ConnectionSelection all;
+    all.withHours = true;
+    const auto visited = store.value().visit(all, [&](const history::Connection &connection) {
+        connections.push_back(connection);
+        connections.back().key = 0;
+    });
+    return visited ? formats::toJsonText(connections) : QByteArray();
 }

@@ -3,6 +3,7 @@
 #include "MenuEntry.h"
 #include "apps/refdialer/FileMenu.h"
 #include "formats/Formats.h"
+#include "tests/formats/Documents.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>

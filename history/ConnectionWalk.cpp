@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "ConnectionWalk.h"
+
+#include "ConnectionTable.h"
+#include "HourTable.h"
+
+namespace history
+{
+
+ConnectionWalk::ConnectionWalk(SQLite::Database &database, HourTable &hours,
+                               const ConnectionSelection &selection)
+    : m_database(database)
+    , m_hours(hours)
+    , m_selection(selection)
+    , m_firstUtc(selection.range.fromUtc)
+    , m_firstKey(std::numeric_limits<std::int64_t>::min())
+{
+}
+
+std::size_t ConnectionWalk::visit(const ConnectionVisitor &visitor)
+{
+    const bool isLimited = m_selection.most < std::numeric_limits<std::size_t>::max();
+    if (isLimited && !findFirst())
+        return 0;
+    ConnectionQuery query(m_database,
+                          "WHERE start_utc >= ? AND start_utc < ? ORDER BY start_utc, key");
+    query.bind(1, m_firstUtc);
+    query.bind(2, m_selection.range.untilUtc);
+    std::size_t count = 0;
+    while (query.next()) {
+        query.row().readInto(m_connection);
+        if (!isSelected(m_connection))
+            continue;
+        if (m_selection.withHours)
+            m_hours.readInto(m_connection.hours, m_connection.key);
+        visitor(m_connection);
+        ++count;
+    }
+    return count;
+}
+
+bool ConnectionWalk::isSelected(const Connection &connection) const
+{
+    const bool isBeforeFirst = connection.startUtc == m_firstUtc && connection.key < m_firstKey;
+    return !isBeforeFirst && (!m_selection.isWanted || m_selection.isWanted(connection));
+}
+
+/// Goes back from the newest one, which costs as much as what is to be shown.
+bool ConnectionWalk::findFirst()
+{
+    ConnectionQuery query(m_database, "WHERE start_utc >= ? AND start_utc < ?"
+                                      " ORDER BY start_utc DESC, key DESC");
+    query.bind(1, m_selection.range.fromUtc);
+    query.bind(2, m_selection.range.untilUtc);
+    std::size_t found = 0;
+    std::int64_t utc = 0;
+    std::int64_t key = 0;
+    while (found < m_selection.most && query.next()) {
+        query.row().readInto(m_connection);
+        if (!isSelected(m_connection))
+            continue;
+        utc = m_connection.startUtc;
+        key = m_connection.key;
+        ++found;
+    }
+    m_firstUtc = utc;
+    m_firstKey = key;
+    return found > 0;
+}
+
+} // namespace history
