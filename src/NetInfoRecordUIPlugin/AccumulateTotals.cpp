@@ -3,13 +3,11 @@
 
 #include "KoraStatistics.h"
 #include "SdkText.h"
-#include "TimeText.h"
 
 #include <QDate>
 #include <QLocale>
 
 #include <limits>
-#include <utility>
 
 namespace
 {
@@ -21,14 +19,6 @@ QString monthKey(const QDate &day)
     return QLocale::c().toString(day, QLatin1String("yyyyMM"));
 }
 
-/// The entry of this key, made if there is none.
-template <typename Value>
-typename QMap<QString, Value>::iterator entryOf(QMap<QString, Value> &map, const QString &key)
-{
-    const auto entry = map.find(key);
-    return entry != map.end() ? entry : map.insert(key, Value());
-}
-
 } // namespace
 
 void AccumulateTotals::Totals::add(const Totals &other)
@@ -36,50 +26,18 @@ void AccumulateTotals::Totals::add(const Totals &other)
     uploaded += other.uploaded;
     downloaded += other.downloaded;
     seconds += other.seconds;
-    connections += other.connections;
 }
 
-void AccumulateTotals::Totals::subtract(const Totals &other)
+void AccumulateTotals::add(const _KORA_ST_CONNRECORD &record, const QString &profile,
+                           const QString &start)
 {
-    uploaded -= other.uploaded;
-    downloaded -= other.downloaded;
-    seconds -= other.seconds;
-    connections -= other.connections;
-}
-
-void AccumulateTotals::add(const _KORA_ST_CONNRECORD &record)
-{
-    const auto profile = entryOf(m_byProfile, SdkText::bounded(record.szProfileName));
-    const auto month =
-        entryOf(*profile, TimeText::of(SdkText::seconds(record.szStartTime)).left(monthLength));
-    // The texts are the maps' own, so that each is in memory once.
-    const Connection connection = {profile.key(), month.key(), totalsOf(record)};
-    month->add(connection.totals);
-    m_ofAllProfiles[connection.month].add(connection.totals);
-    m_connections.emplace_back(connection);
+    m_connections.emplace_back(Connection{profile, start, totalsOf(record)});
 }
 
 void AccumulateTotals::remove(int position)
 {
-    if (position < 0 || static_cast<std::size_t>(position) >= m_connections.size())
-        return;
-    const auto connection = std::exchange(m_connections[position], std::nullopt);
-    if (!connection)
-        return;
-    const auto profile = m_byProfile.find(connection->profile);
-    subtract(*connection, *profile);
-    if (profile->isEmpty())
-        m_byProfile.erase(profile);
-    subtract(*connection, m_ofAllProfiles);
-}
-
-/// A month without connections is no longer listed.
-void AccumulateTotals::subtract(const Connection &connection, TotalsByMonth &months)
-{
-    const auto month = months.find(connection.month);
-    month->subtract(connection.totals);
-    if (month->connections == 0)
-        months.erase(month);
+    if (position >= 0 && static_cast<std::size_t>(position) < m_connections.size())
+        m_connections[static_cast<std::size_t>(position)].reset();
 }
 
 AccumulateTotals::Totals AccumulateTotals::totalsOf(const _KORA_ST_CONNRECORD &record)
@@ -88,7 +46,6 @@ AccumulateTotals::Totals AccumulateTotals::totalsOf(const _KORA_ST_CONNRECORD &r
     totals.uploaded = bytesOf(record.szUploadBytes);
     totals.downloaded = bytesOf(record.szDownloadBytes);
     totals.seconds = SdkText::integer(record.szDuration);
-    totals.connections = 1;
     return totals;
 }
 
@@ -148,11 +105,25 @@ AccumulateDialogRecord AccumulateTotals::row(const QString &name, const QString 
     return result;
 }
 
+AccumulateTotals::Sums AccumulateTotals::sums() const
+{
+    Sums sums;
+    for (const auto &connection : m_connections) {
+        if (!connection)
+            continue;
+        const QString month = connection->start.left(monthLength);
+        sums.ofAllProfiles[month].add(connection->totals);
+        sums.byProfile[connection->profile][month].add(connection->totals);
+    }
+    return sums;
+}
+
 QVector<AccumulateDialogRecord> AccumulateTotals::rows(const QDate &today) const
 {
+    const auto [ofAllProfiles, byProfile] = sums();
     QVector<AccumulateDialogRecord> result;
-    result.append(row(QLatin1String("IDS_COMBO_ALLAPN"), monthKey(today), m_ofAllProfiles, today));
-    for (auto profile = m_byProfile.cbegin(); profile != m_byProfile.cend(); ++profile) {
+    result.append(row(QLatin1String("IDS_COMBO_ALLAPN"), monthKey(today), ofAllProfiles, today));
+    for (auto profile = byProfile.cbegin(); profile != byProfile.cend(); ++profile) {
         for (auto month = profile->cbegin(); month != profile->cend(); ++month)
             result.append(row(profile.key(), month.key(), *profile, today));
     }

@@ -19,8 +19,9 @@ class QDate;
 class AccumulateTotals
 {
 public:
-    /// Takes one connection into account.
-    void add(const _KORA_ST_CONNRECORD &record);
+    /// Takes one connection into account, under the profile and the start
+    /// ("yyyyMMddhhmmss") that its row shows.
+    void add(const _KORA_ST_CONNRECORD &record, const QString &profile, const QString &start);
     /// Takes the connection out again that was added at this zero-based position, if it
     /// is still in.
     void remove(int position);
@@ -39,28 +40,27 @@ private:
         Bytes uploaded = 0;
         Bytes downloaded = 0;
         qint64 seconds = 0;
-        int connections = 0;
 
         void add(const Totals &other);
-        void subtract(const Totals &other);
     };
     using TotalsByMonth = QMap<QString, Totals>; // key "yyyyMM"
-    using TotalsByProfile = QMap<QString, TotalsByMonth>;
+    struct Sums {
+        TotalsByMonth ofAllProfiles;
+        QMap<QString, TotalsByMonth> byProfile;
+    };
 
     struct Connection {
         QString profile;
-        QString month;
+        QString start; // "yyyyMMddhhmmss"
         Totals totals;
     };
 
+    Sums sums() const;
     static Totals totalsOf(const _KORA_ST_CONNRECORD &record);
-    static void subtract(const Connection &connection, TotalsByMonth &months);
     static Bytes bytesOf(const char (&field)[64]);
     static QString megabytes(Bytes bytes);
     static AccumulateDialogRecord row(const QString &name, const QString &month,
                                       const TotalsByMonth &totals, const QDate &today);
 
-    TotalsByMonth m_ofAllProfiles;
-    TotalsByProfile m_byProfile;
     std::vector<std::optional<Connection>> m_connections; // by position
 };

@@ -2,6 +2,7 @@
 #include "ConnectionHistoryDlg.h"
 
 #include "HistoryCells.h"
+#include "LocalZone.h"
 #include "Log.h"
 #include "NetInfoRecordLogic.h"
 
@@ -93,6 +94,7 @@ void ConnectionHistoryDlg::populateTable()
     const QHash<int, ConnectionRecord *> records = m_pRecordLogic->m_records;
     m_pConnectionTblTreeWidget->setRowCount(static_cast<int>(records.size()));
     m_pConnectionTblTreeWidget->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    const LocalZone::Hold zone;
     const ChangedAsOne change(*m_pConnectionTblTreeWidget);
     // The rows follow the map's own order; sorting is deliberately left out.
     int row = 0;

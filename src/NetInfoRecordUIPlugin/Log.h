@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QLocale>
+#include "ClockText.h"
+
 #include <QLoggingCategory>
 #include <QMessageLogger>
-#include <QString>
-#include <QTime>
 
+#include <array>
+#include <cstdio>
 #include <initializer_list>
 
 /// The plug-in's lines on Qt's default debug output. Formats, paths, function names and
@@ -24,13 +24,13 @@ constexpr CurrentTime now;
 
 namespace Detail
 {
-inline const char *printable(CurrentTime, const QByteArray &time)
+inline const char *printable(CurrentTime, const ClockText &time)
 {
-    return time.constData();
+    return time.text();
 }
 
 template <typename T>
-T printable(T value, const QByteArray &)
+T printable(T value, const ClockText &)
 {
     return value;
 }
@@ -52,10 +52,11 @@ void line(const char *format, Arguments... arguments)
     const QLoggingCategory *const category = QLoggingCategory::defaultCategory();
     if (!category || !category->isDebugEnabled())
         return;
-    // Of the C locale: some versions of Qt would take the user's digits.
-    const QByteArray time =
-        QLocale::c().toString(QTime::currentTime(), QStringLiteral("hh:mm:ss:zzz")).toLatin1();
-    QMessageLogger().debug(format, Detail::printable(arguments, time)...);
+    const ClockText time;
+    std::array<char, 1024> text; // no line is a third as long
+    std::snprintf(text.data(), text.size(), format, Detail::printable(arguments, time)...);
+    // Qt takes long to put a text together from several.
+    QMessageLogger().debug("%s", text.data());
 }
 #endif
 

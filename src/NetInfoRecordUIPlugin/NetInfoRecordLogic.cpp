@@ -2,6 +2,7 @@
 #include "NetInfoRecordLogic.h"
 
 #include "KoraStatistics.h"
+#include "LocalZone.h"
 #include "Log.h"
 #include "SdkText.h"
 #include "ShortText.h"
@@ -105,17 +106,20 @@ bool NetInfoRecordLogic::GetAllConnectedRecords()
              269, static_cast<long>(status));
     const bool succeeded = status == 0;
     if (succeeded) {
+        const LocalZone::Hold zone;
         // A null array has no second element: its first one is reported as missing,
         // and that is all.
         const int convertible = records ? count : std::min(count, 1);
+        m_records.reserve(convertible);
         for (int i = 0; i < convertible; ++i)
             populateSDKtoUIStructure(i, records ? records + i : nullptr);
 #ifdef NETINFORECORD_WIRE_STATISTICS
         m_totals.emplace();
-        for (int i = 0; records && i < count; ++i)
-            m_totals->add(records[i]);
+        for (int i = 0; records && i < count; ++i) {
+            const ConnectionRecord &shown = *m_records.value(i);
+            m_totals->add(records[i], shown.m_strProfileName, shown.m_strStartTime);
+        }
         m_monthOfRows = QDate();
-        updateStatistics(QDate::currentDate());
 #endif
     }
     KORA_Statistics_ReleaseConnRecord(records);
@@ -138,12 +142,12 @@ void NetInfoRecordLogic::populateSDKtoUIStructure(int id, const _KORA_ST_CONNREC
 
 void NetInfoRecordLogic::convertFields(const _KORA_ST_CONNRECORD &from, ConnectionRecord &to)
 {
-    to.m_strProfileName = SdkText::bounded(from.szProfileName);
+    to.m_strProfileName = m_recurringTexts.of(from.szProfileName);
     to.m_strDownloaded = TransformUnits(kilobytes(SdkText::real(from.szDownloadBytes)));
     to.m_strEndTime = TimeText::of(SdkText::seconds(from.szEndTime));
-    to.m_strExtraText2 = SdkText::bounded(from.szExtraText2);
+    to.m_strExtraText2 = m_recurringTexts.of(from.szExtraText2);
     to.m_strStartTime = TimeText::of(SdkText::seconds(from.szStartTime));
-    to.m_strExtraText1 = SdkText::bounded(from.szExtraText1);
+    to.m_strExtraText1 = m_recurringTexts.of(from.szExtraText1);
     to.m_strUploaded = TransformUnits(kilobytes(SdkText::real(from.szUploadBytes)));
     convertTimeToString(SdkText::integer(from.szDuration), to.m_strConnectedTime);
 }

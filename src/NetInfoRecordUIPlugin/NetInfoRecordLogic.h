@@ -3,6 +3,7 @@
 
 #include "AccumulateDialogRecord.h"
 #include "ConnectionRecord.h"
+#include "RecurringTexts.h"
 #ifdef NETINFORECORD_WIRE_STATISTICS
 #    include "AccumulateTotals.h"
 
@@ -74,6 +75,7 @@ private:
 
     void convertFields(const _KORA_ST_CONNRECORD &from, ConnectionRecord &to);
 
+    RecurringTexts m_recurringTexts;
 #ifdef NETINFORECORD_WIRE_STATISTICS
     std::optional<AccumulateTotals> m_totals; // of the last fetch
     QDate m_monthOfRows;                      // invalid: the rows are out of date

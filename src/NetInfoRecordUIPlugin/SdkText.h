@@ -13,19 +13,25 @@
 namespace SdkText
 {
 
-/// A field's text up to its terminator, or the whole field if it has none.
+/// How long a field's text is: up to its terminator, or the whole field if it has none.
+template <typename Unit, std::size_t Size>
+int length(const Unit (&field)[Size])
+{
+    return static_cast<int>(std::find(std::begin(field), std::end(field), Unit()) -
+                            std::begin(field));
+}
+
+/// A field's text.
 template <std::size_t Size>
 QString bounded(const char (&field)[Size])
 {
-    const char *end = std::find(std::begin(field), std::end(field), '\0');
-    return QString::fromLatin1(field, static_cast<int>(end - field));
+    return QString::fromLatin1(field, length(field));
 }
 
 template <std::size_t Size>
 QString bounded(const char16_t (&field)[Size])
 {
-    const char16_t *end = std::find(std::begin(field), std::end(field), u'\0');
-    return QString::fromUtf16(field, static_cast<int>(end - field));
+    return QString::fromUtf16(field, length(field));
 }
 
 /// The number of a text that is one to fifteen ASCII digits and nothing else:

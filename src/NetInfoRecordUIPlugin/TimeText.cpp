@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "TimeText.h"
 
+#include "LocalTime.h"
+#include "LocalZone.h"
+
 #include <QLocale>
 
 #include <algorithm>
-#include <ctime>
 #include <optional>
 
 namespace
@@ -12,14 +14,18 @@ namespace
 
 constexpr int textLength = 14;
 
-// The years in which Qt and the C library agree about local time; for
-// later ones older versions of Qt take the rules of another year.
-constexpr int firstYear = 1971;
-constexpr int lastYear = 2036;
-constexpr std::time_t endOfAgreement = 2145916800; // of 2037, in UTC
-
 constexpr std::time_t hour = 3600;
 constexpr std::time_t day = 24 * hour;
+
+// In both years every moment has a known offset, however far its clocks are from UTC.
+constexpr int firstYear = 1971;
+constexpr int lastYear = LocalZone::lastYearOfAgreement - 1;
+
+qint64 epoch()
+{
+    static const qint64 julianDay = QDate(1970, 1, 1).toJulianDay();
+    return julianDay;
+}
 
 QString format()
 {
@@ -46,16 +52,29 @@ void writeNumber(int value, QChar *digits, int length)
         digits[i] = QChar(u'0' + value % 10);
 }
 
-/// Whether `to` is filled, and by plain arithmetic: not in a zone that counts leap
-/// seconds, once there were some.
-bool breakDown(std::time_t secondsSinceEpoch, std::tm &to)
+/// The offset when local clocks show what UTC does at this moment; nothing if they show
+/// it never or twice.
+std::optional<LocalZone::Offset> offsetWhenShown(std::time_t asUtc)
 {
-    return localtime_r(&secondsSinceEpoch, &to) &&
-           to.tm_sec == (secondsSinceEpoch + to.tm_gmtoff) % 60;
+    // Clocks are at most 14 hours ahead of UTC and 12 behind it, so the moment
+    // lies between these two.
+    const std::time_t earliest = asUtc - 15 * hour;
+    const std::time_t latest = asUtc + 13 * hour;
+    if (const auto offset = LocalZone::steadyOffset(earliest, latest))
+        return offset;
+    const auto before = LocalZone::offsetAt(earliest);
+    const auto after = LocalZone::offsetAt(latest);
+    if (!before || !after || before->seconds == after->seconds)
+        return std::nullopt;
+    const bool isBefore = LocalZone::offsetAt(asUtc - before->seconds) == before;
+    const bool isAfter = LocalZone::offsetAt(asUtc - after->seconds) == after;
+    if (isBefore == isAfter)
+        return std::nullopt;
+    return isBefore ? before : after;
 }
 
-/// The time that fourteen ASCII digits name; nothing if they name none, or one
-/// near a change of the clocks, which might not exist or exist twice.
+/// The time that fourteen ASCII digits name; nothing if they name none, or one that
+/// does not exist or exists twice, as the clocks change.
 std::optional<QDateTime> ordinaryTime(const QChar *digits)
 {
     const int year = number(digits, 4);
@@ -63,18 +82,12 @@ std::optional<QDateTime> ordinaryTime(const QChar *digits)
     const QTime time(number(digits + 8, 2), number(digits + 10, 2), number(digits + 12, 2));
     if (year < firstYear || year > lastYear || !date.isValid() || !time.isValid())
         return std::nullopt;
-    static const qint64 epoch = QDate(1970, 1, 1).toJulianDay();
     const std::time_t asUtc =
-        (date.toJulianDay() - epoch) * day + time.msecsSinceStartOfDay() / 1000;
-    // Clocks are at most 14 hours ahead of UTC and 12 behind it, so the moment
-    // lies between these two, and what holds at both holds then.
-    std::tm before = {};
-    std::tm after = {};
-    tzset(); // a host may have changed the zone; localtime_r need not look
-    if (!breakDown(asUtc - 15 * hour, before) || !breakDown(asUtc + 13 * hour, after) ||
-        before.tm_gmtoff != after.tm_gmtoff)
+        (date.toJulianDay() - epoch()) * day + time.msecsSinceStartOfDay() / 1000;
+    const auto offset = offsetWhenShown(asUtc);
+    if (!offset)
         return std::nullopt;
-    return QDateTime::fromSecsSinceEpoch(asUtc - before.tm_gmtoff);
+    return LocalTime::at(asUtc - offset->seconds, *offset);
 }
 
 } // namespace
@@ -91,17 +104,21 @@ QDateTime TimeText::parsed(const QString &text)
 
 QString TimeText::of(quint32 secondsSinceEpoch)
 {
-    std::tm parts = {};
-    tzset(); // as above
-    if (secondsSinceEpoch >= endOfAgreement || !breakDown(secondsSinceEpoch, parts))
+    const auto offset = LocalZone::offsetAt(secondsSinceEpoch);
+    if (!offset)
         return QLocale::c().toString(QDateTime::fromSecsSinceEpoch(secondsSinceEpoch), format());
-    QString text(textLength, Qt::Uninitialized);
-    QChar *digits = text.data();
-    writeNumber(parts.tm_year + 1900, digits, 4);
-    writeNumber(parts.tm_mon + 1, digits + 4, 2);
-    writeNumber(parts.tm_mday, digits + 6, 2);
-    writeNumber(parts.tm_hour, digits + 8, 2);
-    writeNumber(parts.tm_min, digits + 10, 2);
-    writeNumber(parts.tm_sec, digits + 12, 2);
-    return text;
+    const qint64 local = secondsSinceEpoch + qint64(offset->seconds) + day; // not negative
+    int year = 0;
+    int month = 0;
+    int dayOfMonth = 0;
+    QDate::fromJulianDay(epoch() - 1 + local / day).getDate(&year, &month, &dayOfMonth);
+    const auto time = static_cast<int>(local % day);
+    QChar digits[textLength];
+    writeNumber(year, digits, 4);
+    writeNumber(month, digits + 4, 2);
+    writeNumber(dayOfMonth, digits + 6, 2);
+    writeNumber(time / 3600, digits + 8, 2);
+    writeNumber(time / 60 % 60, digits + 10, 2);
+    writeNumber(time % 60, digits + 12, 2);
+    return QString(digits, textLength);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "AccumulateTotals.h"
 #include "ScriptedHost.h"
+#include "SdkText.h"
+#include "TimeText.h"
 
 #include <QDate>
 #include <QTest>
@@ -18,6 +20,13 @@ _KORA_ST_CONNRECORD connection(const QString &profile, const QDateTime &start, q
                             QByteArray::number(downloaded));
 }
 
+/// As the record store adds one that it has converted.
+void add(AccumulateTotals &totals, const _KORA_ST_CONNRECORD &record)
+{
+    totals.add(record, SdkText::bounded(record.szProfileName),
+               TimeText::of(SdkText::seconds(record.szStartTime)));
+}
+
 constexpr qint64 mega = 1048576;
 const QDate today(2025, 3, 20);
 
@@ -25,7 +34,7 @@ QVector<AccumulateDialogRecord> rowsOf(const QVector<_KORA_ST_CONNRECORD> &recor
 {
     AccumulateTotals totals;
     for (const _KORA_ST_CONNRECORD &record : records)
-        totals.add(record);
+        add(totals, record);
     return totals.rows(today);
 }
 
@@ -164,7 +173,7 @@ void tst_AccumulateTotals::sumsBeforeItRounds()
 {
     AccumulateTotals totals;
     for (int i = 0; i < 1000; ++i)
-        totals.add(connection("a", QDateTime(today, QTime(1, 0)), 1048, 5000, 0));
+        add(totals, connection("a", QDateTime(today, QTime(1, 0)), 1048, 5000, 0));
     QCOMPARE(totals.rows(today).first().uploadedThisMonth, QStringLiteral("1.00"));
     QCOMPARE(totals.rows(today).first().downloadedThisMonth, QStringLiteral("4.77"));
 }
@@ -174,7 +183,7 @@ void tst_AccumulateTotals::neverOverflows()
     AccumulateTotals totals;
     const auto most = std::numeric_limits<qint64>::max();
     for (int i = 0; i < 1000; ++i)
-        totals.add(connection("a", QDateTime(today, QTime(1, 0)), most, most, 2147483647 / 2));
+        add(totals, connection("a", QDateTime(today, QTime(1, 0)), most, most, 2147483647 / 2));
     // 1000 times 2^63 - 1 bytes
     QCOMPARE(totals.rows(today).first().uploadedThisMonth, QStringLiteral("8796093022208000.00"));
     QCOMPARE(totals.rows(today).first().secondsThisMonth, QStringLiteral("1073741823000"));
@@ -185,9 +194,9 @@ void tst_AccumulateTotals::forgetsWhatIsRemoved()
     AccumulateTotals totals;
     const QDateTime thisMonth(today, QTime(1, 0));
     const QDateTime lastMonth(today.addMonths(-1), QTime(1, 0));
-    totals.add(connection("a", thisMonth, mega, 2 * mega, 10));
-    totals.add(connection("b", thisMonth, 3 * mega, 4 * mega, 20));
-    totals.add(connection("a", lastMonth, 5 * mega, 6 * mega, 30));
+    add(totals, connection("a", thisMonth, mega, 2 * mega, 10));
+    add(totals, connection("b", thisMonth, 3 * mega, 4 * mega, 20));
+    add(totals, connection("a", lastMonth, 5 * mega, 6 * mega, 30));
     totals.remove(2);
     QCOMPARE(stamps(totals.rows(today)), (QStringList{"IDS_COMBO_ALLAPN@20250301000000",
                                                       "a@20250301000000", "b@20250301000000"}));
@@ -204,8 +213,8 @@ void tst_AccumulateTotals::forgetsWhatIsRemoved()
 void tst_AccumulateTotals::removesNothingTwice()
 {
     AccumulateTotals totals;
-    totals.add(connection("a", QDateTime(today, QTime(1, 0)), mega, 0, 10));
-    totals.add(connection("a", QDateTime(today, QTime(2, 0)), mega, 0, 10));
+    add(totals, connection("a", QDateTime(today, QTime(1, 0)), mega, 0, 10));
+    add(totals, connection("a", QDateTime(today, QTime(2, 0)), mega, 0, 10));
     for (int position : {-1, 0, 0, 2})
         totals.remove(position);
     QCOMPARE(totals.rows(today).first().uploadedThisMonth, QStringLiteral("1.00"));

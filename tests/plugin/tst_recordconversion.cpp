@@ -20,6 +20,8 @@ private Q_SLOTS:
     void convertsConnectedTimes();
     void readsNoFieldPastItsEnd();
     void takesEightBitTextsAsLatin1();
+    void keepsEqualTextsOnce();
+    void takesAByteOrderMarkForNoText();
     void logsAConversion();
     void reportsAMissingRecord();
 };
@@ -137,6 +139,33 @@ void tst_RecordConversion::takesEightBitTextsAsLatin1()
     m_logic->populateSDKtoUIStructure(0, &record);
     QCOMPARE(m_logic->m_records.value(0)->m_strProfileName, QStringLiteral("caf\u00e9 \u4e2d"));
     QCOMPARE(m_logic->m_records.value(0)->m_strExtraText1, QStringLiteral("caf\u00e9"));
+}
+
+void tst_RecordConversion::keepsEqualTextsOnce()
+{
+    for (int id : {0, 1, 2}) {
+        const auto record = plainRecord(id == 1 ? "other.example" : "internet.example");
+        m_logic->populateSDKtoUIStructure(id, &record);
+    }
+    const ConnectionRecord &first = *m_logic->m_records.value(0);
+    const ConnectionRecord &last = *m_logic->m_records.value(2);
+    QCOMPARE(m_logic->m_records.value(1)->m_strProfileName, QStringLiteral("other.example"));
+    QCOMPARE(last.m_strProfileName, first.m_strProfileName);
+    QCOMPARE(last.m_strProfileName.constData(), first.m_strProfileName.constData());
+    QCOMPARE(last.m_strExtraText1.constData(), first.m_strExtraText1.constData());
+    QCOMPARE(last.m_strExtraText2, QStringLiteral("ppp0"));
+}
+
+void tst_RecordConversion::takesAByteOrderMarkForNoText()
+{
+    const QString mark(QChar(0xfeff));
+    const QStringList names = {mark + mark + "x", mark + "x", "x", mark + "x"};
+    for (int id = 0; id < names.size(); ++id) {
+        const auto record = plainRecord(names.at(id));
+        m_logic->populateSDKtoUIStructure(id, &record);
+        QCOMPARE(m_logic->m_records.value(id)->m_strProfileName,
+                 QString::fromUtf16(record.szProfileName));
+    }
 }
 
 void tst_RecordConversion::logsAConversion()

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AccumulateTotals.h"
+#include "SdkText.h"
+#include "TimeText.h"
 #include "YearsOfHistory.h"
 
 #include <QTest>
@@ -44,7 +46,8 @@ AccumulateTotals AccumulateAgreementTest::totalsOfTheStore()
 {
     AccumulateTotals totals;
     for (const _KORA_ST_CONNRECORD &record : handOut().records)
-        totals.add(record);
+        totals.add(record, SdkText::bounded(record.szProfileName),
+                   TimeText::of(SdkText::seconds(record.szStartTime)));
     return totals;
 }
 
@@ -81,12 +84,11 @@ void AccumulateAgreementTest::agreesToTheByte()
     QFETCH(QByteArray, zone);
     QFETCH(int, firstYear);
     const YearsOfHistory history(zone.constData(), firstYear);
-    const AccumulateTotals totals = totalsOfTheStore();
-    QCOMPARE(linesOf({}, totals.m_ofAllProfiles),
+    const AccumulateTotals::Sums sums = totalsOfTheStore().sums();
+    QCOMPARE(linesOf({}, sums.ofAllProfiles),
              withoutCounts(YearsOfHistory::totalsTold({"--by", "month"})));
     QStringList lines;
-    for (auto profile = totals.m_byProfile.cbegin(); profile != totals.m_byProfile.cend();
-         ++profile)
+    for (auto profile = sums.byProfile.cbegin(); profile != sums.byProfile.cend(); ++profile)
         lines += linesOf(profile.key(), *profile);
     QCOMPARE(lines, withoutCounts(YearsOfHistory::totalsTold({"--by", "profile,month"})));
     QVERIFY(lines.size() > 36);
