@@ -13,8 +13,9 @@
 /// How much the benchmarks work on; without display, in one run of each.
 struct Sizes {
     int conversions;              ///< of 500 records each
-    std::vector<int> historyRows; ///< of fill, Init and reload, and of the bare fill
+    std::vector<int> historyRows; ///< of fill, Init and reload, and of the other tables
     int hugeHistoryRows;          ///< of the plug-in's fill alone
+    int loggedRecords;            ///< of Init with debug output
     int deletionRows;             ///< of the table that rows are deleted from
     int scatteredRows;            ///< deleted, spread evenly over the table
     std::vector<int> blockRows;   ///< deleted, one below the other
@@ -26,6 +27,7 @@ void registerConversionBenchmark(const Sizes &sizes);
 void registerUnloggedConversionBenchmark(const Sizes &sizes);
 void registerPlainConversionBenchmark(const Sizes &sizes);
 void registerHistoryBenchmarks(const Sizes &sizes);
+void registerLogBenchmarks(const Sizes &sizes);
 void registerDeletionBenchmarks(const Sizes &sizes);
 void registerStoreBenchmarks(const Sizes &sizes);
 

@@ -2,11 +2,14 @@
 #include "BareTable.h"
 #include "Benchmarks.h"
 #include "ConnectionHistoryDlg.h"
+#include "LimitTable.h"
 #include "MemorySdk.h"
 #include "NetInfoRecordLogic.h"
 #include "PluginWindow.h"
 
 #include <malloc.h>
+
+#include <functional>
 
 namespace
 {
@@ -67,6 +70,16 @@ void fillPlugin(benchmark::State &state, int rows)
     ConnectionHistoryDlg::Destroy();
 }
 
+void fillLimit(benchmark::State &state, int rows)
+{
+    const ConvertedRecords records(rows);
+    LimitTable table(records.all);
+    for ([[maybe_unused]] auto iteration : state) {
+        measureFill(state, rows, [&] { table.fill(); });
+        table.clear();
+    }
+}
+
 void fillBare(benchmark::State &state, int rows)
 {
     const ConvertedRecords records(rows);
@@ -94,7 +107,21 @@ void reload(benchmark::State &state, int rows)
         measure(state, [&] { window.reload(); });
 }
 
-void registerRows(const std::string &name, void (*work)(benchmark::State &, int), int rows)
+using Work = std::function<void(benchmark::State &, int)>;
+
+/// The same where the environment names no time zone, as on most desktops: then
+/// /etc/localtime decides, and the C library looks whether it is still the same.
+Work withoutZone(const Work &work)
+{
+    return [work](benchmark::State &state, int rows) {
+        const QByteArray zone = qgetenv("TZ");
+        qunsetenv("TZ");
+        work(state, rows);
+        qputenv("TZ", zone);
+    };
+}
+
+void registerRows(const std::string &name, const Work &work, int rows)
 {
     // Small tables are filled several times: one fill is soon over.
     const int iterations = rows < 10000 ? 10 : 1;
@@ -108,9 +135,12 @@ void registerRows(const std::string &name, void (*work)(benchmark::State &, int)
 void registerHistoryBenchmarks(const Sizes &sizes)
 {
     for (const int rows : sizes.historyRows) {
-        registerRows("fill/plug-in", fillPlugin, rows);
         registerRows("fill/bare", fillBare, rows);
+        registerRows("fill/limit", fillLimit, rows);
+        registerRows("fill/plug-in", fillPlugin, rows);
+        registerRows("fill/plug-in/no-zone", withoutZone(fillPlugin), rows);
         registerRows("init", init, rows);
+        registerRows("init/no-zone", withoutZone(init), rows);
         registerRows("reload", reload, rows);
     }
     registerRows("fill/plug-in", fillPlugin, sizes.hugeHistoryRows);
