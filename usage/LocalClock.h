@@ -17,6 +17,9 @@ public:
 
     /// The day at that moment, in seconds since 1970-01-01 00:00 UTC.
     QDate dayAt(std::int64_t utc) const;
+    /// The day and the time that a clock shows at that moment, as the seconds from
+    /// 1970-01-01 00:00 on the same clock, had it never been changed.
+    std::int64_t shownAt(std::int64_t utc) const;
 };
 
 } // namespace usage

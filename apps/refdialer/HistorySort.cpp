@@ -91,7 +91,7 @@ void sortByProfile(const std::vector<history::Connection> &rows, Qt::SortOrder d
     sortBy(keys, direction, order);
 }
 
-std::vector<history::Connection> connectionsIn(const QTableWidget &table, TrueValues &values)
+std::vector<history::Connection> connectionsIn(const QTableWidget &table, TrueValues values)
 {
     std::vector<history::Connection> rows;
     rows.reserve(std::size_t(table.rowCount()));
@@ -140,7 +140,7 @@ void moveRows(QTableWidget &table, const Order &order)
 std::vector<history::Connection> sortRows(QTableWidget &table, const HistoryOrder &by,
                                           TrueValues values)
 {
-    std::vector<history::Connection> rows = connectionsIn(table, values);
+    std::vector<history::Connection> rows = connectionsIn(table, std::move(values));
     const Order order = orderOf(rows, by, table.locale());
     moveRows(table, order);
     std::vector<history::Connection> sorted;

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "TrueValues.h"
 
+#include "usage/LocalClock.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace refdialer
 {
@@ -10,19 +13,22 @@ namespace refdialer
 namespace
 {
 
-/// What a clock on the wall shows, as a number: a row knows no time zone, and at
-/// the end of summer time one hour is shown twice.
-qint64 wallClock(const QDateTime &time)
+constexpr std::int64_t endOf2037 = 2145916800; // in UTC
+
+std::int64_t wallClock(const QDateTime &time)
 {
-    constexpr qint64 millisecondsPerDay = 86400000;
     if (!time.isValid())
-        return -1;
-    return time.date().toJulianDay() * millisecondsPerDay + time.time().msecsSinceStartOfDay();
+        return std::numeric_limits<std::int64_t>::min();
+    const qint64 days = QDate(1970, 1, 1).daysTo(time.date());
+    return days * (24 * 3600) + time.time().msecsSinceStartOfDay() / 1000;
 }
 
-qint64 wallClock(std::int64_t utcSeconds)
+/// For later years older versions of Qt, which the rows come from, take the rules of
+/// another one.
+std::int64_t wallClock(std::int64_t utcSeconds, const usage::LocalClock &clock)
 {
-    return wallClock(QDateTime::fromSecsSinceEpoch(utcSeconds));
+    return utcSeconds < endOf2037 ? clock.shownAt(utcSeconds)
+                                  : wallClock(QDateTime::fromSecsSinceEpoch(utcSeconds));
 }
 
 double distance(const history::Connection &connection, const HistoryRow &row)
@@ -73,34 +79,52 @@ TrueValues TrueValues::readFrom(const std::string &storePath)
     const auto store = history::Store::openForReading(storePath);
     if (!store)
         return TrueValues({});
-    const auto connections = store.value().list();
-    return TrueValues(connections ? connections.value() : std::vector<history::Connection>());
+    auto connections = store.value().list();
+    return TrueValues(connections ? std::move(connections.value())
+                                  : std::vector<history::Connection>());
 }
 
-TrueValues::TrueValues(const std::vector<history::Connection> &connections)
+TrueValues::TrueValues(std::vector<history::Connection> connections)
+    : m_connections(std::move(connections))
 {
-    m_connections.reserve(int(connections.size()));
-    for (const history::Connection &connection : connections) {
-        const Times times(wallClock(connection.startUtc), wallClock(connection.endUtc));
-        m_connections[{QString::fromStdString(connection.profile), times}].push_back(connection);
+    const usage::LocalClock clock;
+    m_entries.reserve(m_connections.size());
+    for (std::size_t index = 0; index < m_connections.size(); ++index) {
+        const history::Connection &connection = m_connections[index];
+        const Times times(wallClock(connection.startUtc, clock),
+                          wallClock(connection.endUtc, clock));
+        m_entries.push_back({times, index});
     }
+    std::stable_sort(m_entries.begin(), m_entries.end(),
+                     [](const Entry &a, const Entry &b) { return a.times < b.times; });
 }
 
 history::Connection TrueValues::take(const HistoryRow &row)
 {
-    const auto found =
-        m_connections.find({row.profile, Times(wallClock(row.start), wallClock(row.end))});
-    if (found == m_connections.end() || found->empty())
+    Entry *const entry = entryShownBy(row);
+    if (!entry || !isShownBy(row, m_connections[entry->index]))
         return shownBy(row);
-    const auto closest =
-        std::min_element(found->begin(), found->end(), [&row](const auto &a, const auto &b) {
-            return distance(a, row) < distance(b, row);
-        });
-    if (!isShownBy(row, *closest))
-        return shownBy(row);
-    history::Connection connection = std::move(*closest);
-    found->erase(closest);
-    return connection;
+    entry->isTaken = true;
+    return std::move(m_connections[entry->index]);
+}
+
+/// The closest of those with its times and profile that are not taken yet.
+TrueValues::Entry *TrueValues::entryShownBy(const HistoryRow &row)
+{
+    const Times times(wallClock(row.start), wallClock(row.end));
+    const std::string profile = row.profile.toStdString();
+    auto entry = std::lower_bound(
+        m_entries.begin(), m_entries.end(), times,
+        [](const Entry &each, const Times &wanted) { return each.times < wanted; });
+    Entry *closest = nullptr;
+    for (; entry != m_entries.end() && entry->times == times; ++entry) {
+        const history::Connection &connection = m_connections[entry->index];
+        if (entry->isTaken || connection.profile != profile)
+            continue;
+        if (!closest || distance(connection, row) < distance(m_connections[closest->index], row))
+            closest = &*entry;
+    }
+    return closest;
 }
 
 } // namespace refdialer

@@ -5,9 +5,9 @@
 
 #include "history/Store.h"
 
-#include <QHash>
-#include <QPair>
-
+#include <cstddef>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace refdialer
@@ -21,7 +21,7 @@ public:
     /// The finished connections in the store at this path; none if it cannot be read.
     static TrueValues readFrom(const std::string &storePath);
 
-    explicit TrueValues(const std::vector<history::Connection> &connections);
+    explicit TrueValues(std::vector<history::Connection> connections);
 
     /// The connection that the row shows, or what can be read from the row itself,
     /// with the key 0, where the store has none. Each connection is given once, so that rows which
@@ -29,10 +29,20 @@ public:
     history::Connection take(const HistoryRow &row);
 
 private:
-    using Times = QPair<qint64, qint64>;
-    using Key = QPair<QString, Times>;
+    /// Seconds as a clock on the wall shows them: a row knows no time zone, and at the
+    /// end of summer time one hour is shown twice.
+    using Times = std::pair<std::int64_t, std::int64_t>;
 
-    QHash<Key, std::vector<history::Connection>> m_connections;
+    struct Entry {
+        Times times;
+        std::size_t index = 0; // of the connection
+        bool isTaken = false;
+    };
+
+    Entry *entryShownBy(const HistoryRow &row);
+
+    std::vector<history::Connection> m_connections;
+    std::vector<Entry> m_entries; // by their times
 };
 
 } // namespace refdialer

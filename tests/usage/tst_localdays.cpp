@@ -148,8 +148,12 @@ void LocalDaysTest::agreesWithQtOnRandomMoments()
         const std::int64_t moment = moments(random);
         const std::int64_t midnight = QDateTime(localDay(moment), QTime(0, 0)).toSecsSinceEpoch() +
                                       minutesAround(random) * 60;
-        for (const std::int64_t utc : {moment, midnight})
-            QCOMPARE(clock.dayAt(utc), QDateTime::fromSecsSinceEpoch(utc).date());
+        for (const std::int64_t utc : {moment, midnight}) {
+            const QDateTime local = QDateTime::fromSecsSinceEpoch(utc);
+            QCOMPARE(clock.dayAt(utc), local.date());
+            const qint64 days = QDate(1970, 1, 1).daysTo(local.date());
+            QCOMPARE(clock.shownAt(utc), days * 86400 + local.time().msecsSinceStartOfDay() / 1000);
+        }
     }
 }
 
