@@ -25,6 +25,9 @@ namespace
 /// Half of what a change of the store may take to be seen.
 constexpr std::chrono::seconds watchInterval(1);
 
+/// Fewer are deleted sooner than one could read that they are.
+constexpr int manyConnections = 1000;
+
 /// Whether the user is about to decide on what the history shows.
 bool isUserDeciding()
 {
@@ -47,6 +50,13 @@ HistoryArea::HistoryArea(PluginHandle &plugin, const QString &storeFile, QWidget
     m_watchTimer.start(watchInterval);
     m_changeTimer.setSingleShot(true);
     connect(&m_changeTimer, &QTimer::timeout, this, &HistoryArea::changed);
+    // All that the plug-in asks is whether to delete.
+    refhost::setConfirmationHandler([this] { announceDeletion(); });
+}
+
+HistoryArea::~HistoryArea()
+{
+    refhost::setConfirmationHandler({});
 }
 
 void HistoryArea::showHistory()
@@ -182,11 +192,25 @@ void HistoryArea::applyFilter()
     emit changed();
 }
 
+/// The plug-in deletes in one go, after which timers come to their turn.
+void HistoryArea::announceDeletion()
+{
+    if (connectionCount() < manyConnections)
+        return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    emit deletionBegins();
+    QTimer::singleShot(0, this, [this] {
+        QApplication::restoreOverrideCursor();
+        emit deletionEnded();
+    });
+}
+
 /// Apart from loading, rows go only because the user has deleted them.
 void HistoryArea::forgetRows(const QModelIndex & /*parent*/, int first, int last)
 {
     m_shown.remove(first, last);
-    m_changeTimer.start();
+    if (!m_changeTimer.isActive())
+        m_changeTimer.start();
 }
 
 void HistoryArea::load(const std::function<void()> &loadRows)

@@ -33,6 +33,7 @@ class HistoryArea : public QWidget
 public:
     /// The plug-in outlives the area and shows the store in this file.
     HistoryArea(PluginHandle &plugin, const QString &storeFile, QWidget *parent = nullptr);
+    ~HistoryArea() override;
 
     void showHistory();
     void hideHistory();
@@ -61,6 +62,10 @@ public:
 signals:
     /// Connections, which of them are listed, or which are selected; once for many changes.
     void changed();
+    /// The plug-in is about to delete, maybe for seconds; before that, only what is
+    /// painted at once is seen.
+    void deletionBegins();
+    void deletionEnded();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -72,6 +77,7 @@ private:
     void retranslate();
     void sortTable();
     void applyFilter();
+    void announceDeletion();
     void forgetRows(const QModelIndex &parent, int first, int last);
     void load(const std::function<void()> &loadRows);
     void keepUpToDate();

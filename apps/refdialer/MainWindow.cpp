@@ -197,6 +197,11 @@ void MainWindow::createStatusBar()
     statusBar()->addWidget(sum, 1);
     connect(m_pages, &QTabWidget::currentChanged, sum,
             [this, sum] { sum->setVisible(m_pages->currentWidget() == m_historyPage); });
+    connect(&m_area, &HistoryArea::deletionBegins, this, [this] {
+        statusBar()->showMessage(tr("Deleting connections…"));
+        statusBar()->repaint();
+    });
+    connect(&m_area, &HistoryArea::deletionEnded, statusBar(), &QStatusBar::clearMessage);
 }
 
 /// A history without connections offers it, where it is not on already.

@@ -47,6 +47,8 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString ti
         *dialog = nullptr;
     const bool isConfirmed = box && box->isConfirmed();
     delete box;
+    if (isConfirmed && refhost::hostState().confirmationHandler)
+        refhost::hostState().confirmationHandler();
     return isConfirmed ? QMessageBox::Ok : QMessageBox::Cancel;
 }
 

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class IPluginContainer;
 class QWidget;
 
@@ -25,6 +27,10 @@ HOST_API void setPluginContainer(IPluginContainer *container);
 /// Whether a plug-in waits for CommonUtils::ShowMessage to return, and so is about to
 /// act on what it knew when it asked.
 HOST_API bool isQuestionOpen();
+
+/// Called whenever the user has confirmed what a plug-in asked, before the plug-in hears
+/// of it and acts; an empty one is not called.
+HOST_API void setConfirmationHandler(std::function<void()> handler);
 
 /// Codes of the languages that texts are there for, such as "de", sorted.
 HOST_API QStringList availableLanguages();

@@ -3,6 +3,8 @@
 
 #include "Host.h"
 
+#include <utility>
+
 namespace refhost
 {
 
@@ -20,6 +22,11 @@ void setMainWindow(QWidget *window)
 bool isQuestionOpen()
 {
     return hostState().openQuestions > 0;
+}
+
+void setConfirmationHandler(std::function<void()> handler)
+{
+    hostState().confirmationHandler = std::move(handler);
 }
 
 void setPluginContainer(IPluginContainer *container)

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+
 class IPluginContainer;
 
 namespace refhost
@@ -17,6 +19,7 @@ struct HostState {
     QPointer<QWidget> mainWindow;
     IPluginContainer *pluginContainer = nullptr;
     int openQuestions = 0; ///< one may be asked from within another
+    std::function<void()> confirmationHandler;
     QMap<QPair<QString, QString>, QString> temporarySettings; ///< by group and key
 };
 

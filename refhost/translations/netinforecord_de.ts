@@ -724,6 +724,10 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
 <context>
     <name>refdialer::MainWindow</name>
     <message>
+        <source>Deleting connections…</source>
+        <translation>Verbindungen werden gelöscht …</translation>
+    </message>
+    <message>
         <source>Connection history</source>
         <translation>Verbindungsverlauf</translation>
     </message>

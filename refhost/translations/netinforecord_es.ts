@@ -724,6 +724,10 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
 <context>
     <name>refdialer::MainWindow</name>
     <message>
+        <source>Deleting connections…</source>
+        <translation>Eliminando conexiones…</translation>
+    </message>
+    <message>
         <source>Connection history</source>
         <translation>Historial de conexiones</translation>
     </message>

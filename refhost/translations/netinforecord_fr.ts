@@ -724,6 +724,10 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
 <context>
     <name>refdialer::MainWindow</name>
     <message>
+        <source>Deleting connections…</source>
+        <translation>Suppression des connexions…</translation>
+    </message>
+    <message>
         <source>Connection history</source>
         <translation>Historique des connexions</translation>
     </message>

@@ -724,6 +724,10 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
 <context>
     <name>refdialer::MainWindow</name>
     <message>
+        <source>Deleting connections…</source>
+        <translation>Usuwanie połączeń…</translation>
+    </message>
+    <message>
         <source>Connection history</source>
         <translation>Historia połączeń</translation>
     </message>

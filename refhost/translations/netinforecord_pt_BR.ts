@@ -724,6 +724,10 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
 <context>
     <name>refdialer::MainWindow</name>
     <message>
+        <source>Deleting connections…</source>
+        <translation>Excluindo conexões…</translation>
+    </message>
+    <message>
         <source>Connection history</source>
         <translation>Histórico de conexões</translation>
     </message>

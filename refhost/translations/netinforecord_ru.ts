@@ -724,6 +724,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
 <context>
     <name>refdialer::MainWindow</name>
     <message>
+        <source>Deleting connections…</source>
+        <translation>Удаление соединений…</translation>
+    </message>
+    <message>
         <source>Connection history</source>
         <translation>История соединений</translation>
     </message>

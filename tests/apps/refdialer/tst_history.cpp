@@ -1,17 +1,49 @@
 // SPDX-License-Identifier: MIT
+#include "BoxInput.h"
 #include "HistoryWindow.h"
 #include "MenuEntry.h"
 #include "apps/refdialer/UsagePage.h"
 #include "refhost/libcore/Host.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QFile>
+#include <QMessageBox>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
+
+namespace
+{
+
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++count;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+bool isWaitCursorShown()
+{
+    const QCursor *const cursor = QApplication::overrideCursor();
+    return cursor && cursor->shape() == Qt::WaitCursor;
+}
+
+} // namespace
 
 /// The built plug-in in our window, on a real store.
 class TestHistory : public QObject
@@ -27,6 +59,8 @@ private slots:
     void showsAnEmptyTableBeforeThereIsAStore();
     void speaksTheLanguageOfTheProgram();
     void hidesUnderAnotherPage();
+    void saysBeforehandThatADeletionTakesTime_data();
+    void saysBeforehandThatADeletionTakesTime();
 
 private:
     QString cell(int row, int column) const { return m_history->column(column).at(row); }
@@ -109,6 +143,48 @@ void TestHistory::hidesUnderAnotherPage()
     QVERIFY(isHistory());
     QTest::mouseClick(pages.tabBar(), Qt::LeftButton, {}, pages.tabBar()->tabRect(1).center());
     QVERIFY(isUsage());
+}
+
+void TestHistory::saysBeforehandThatADeletionTakesTime_data()
+{
+    QTest::addColumn<int>("connections");
+    QTest::addColumn<bool>("takesTime");
+    QTest::newRow("few") << 8 << false;
+    QTest::newRow("many") << 1000 << true;
+}
+
+void TestHistory::saysBeforehandThatADeletionTakesTime()
+{
+    QFETCH(int, connections);
+    QFETCH(bool, takesTime);
+    std::vector<history::Connection> stored;
+    for (int day = 0; day < connections; ++day)
+        stored.push_back(connection("internet.example", day));
+    QVERIFY(m_history->store(stored));
+    QVERIFY(m_history->open());
+    QTableWidget &table = m_history->table();
+    QStatusBar &bar = *m_history->window().statusBar();
+    PaintCounter paints(bar);
+    QTimer::singleShot(0, this, [&paints] {
+        paints.count = 0;
+        clickOn(*openBox(), "OK");
+    });
+    bool isPainted = false;
+    QString message;
+    bool isWaiting = false;
+    connect(table.model(), &QAbstractItemModel::rowsAboutToBeRemoved, this, [&] {
+        isPainted = paints.count > 0;
+        message = bar.currentMessage();
+        isWaiting = isWaitCursorShown();
+    });
+    m_history->clickRow(0);
+    table.setFocus();
+    m_history->pressKey(Qt::Key_Delete);
+    QCOMPARE(table.rowCount(), connections - 1);
+    QCOMPARE(message, takesTime ? QStringLiteral("Deleting connections…") : QString());
+    QCOMPARE(isPainted, takesTime);
+    QCOMPARE(isWaiting, takesTime);
+    QTRY_VERIFY(bar.currentMessage().isEmpty() && !isWaitCursorShown());
 }
 
 QTEST_MAIN(TestHistory)
