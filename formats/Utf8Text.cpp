@@ -5,6 +5,8 @@
 
 #include <QVector>
 
+#include <algorithm>
+
 namespace formats
 {
 
@@ -59,6 +61,12 @@ QString escaped(uint character)
 
 } // namespace
 
+bool isPlainAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](char each) { return each >= ' ' && each <= '~'; });
+}
+
 bool isUtf8(std::string_view text)
 {
     return fromUtf8(text).toUtf8() == QByteArray(text.data(), static_cast<int>(text.size()));
@@ -95,6 +103,8 @@ QString printable(const QString &text, int most)
 
 std::string printable(std::string_view text, int most)
 {
+    if (isPlainAscii(text) && text.size() <= static_cast<std::size_t>(most))
+        return std::string(text);
     return printable(fromUtf8(text), most).toStdString();
 }
 

@@ -13,6 +13,9 @@ namespace formats
 
 bool isUtf8(std::string_view text);
 
+/// Whether nothing but the characters from the space to the tilde is in it.
+bool isPlainAscii(std::string_view text);
+
 /// The text as a QString, a byte order mark at its start included.
 QString fromUtf8(std::string_view text);
 

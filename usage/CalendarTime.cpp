@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CalendarTime.h"
 
+#include "PaddedNumber.h"
+
 #include <QDateTime>
 #include <QTimeZone>
 
@@ -80,14 +82,6 @@ DayOfCalendar dayOfCalendar(std::int64_t daysSince1970)
     const std::int64_t month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
     return {era * 400 + yearOfEra + (month <= 2 ? 1 : 0), month,
             dayOfYear - (153 * monthFromMarch + 2) / 5 + 1};
-}
-
-void appendPadded(std::string &text, std::int64_t number, std::size_t digits)
-{
-    const std::size_t start = text.size();
-    text.resize(start + digits);
-    for (std::size_t i = digits; i > 0; --i, number /= 10)
-        text[start + i - 1] = static_cast<char>('0' + number % 10);
 }
 
 QDate dateOf(const CalendarTime &time)
@@ -219,13 +213,21 @@ QString localText(std::int64_t utc)
     return QDateTime::fromSecsSinceEpoch(utc).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
 
+void appendDuration(std::string &text, std::int64_t seconds)
+{
+    const std::int64_t hours = seconds / secondsPerHour;
+    if (hours < 10)
+        text += '0';
+    text += std::to_string(hours);
+    appendPadded(text += ':', seconds / 60 % 60, 2);
+    appendPadded(text += ':', seconds % 60, 2);
+}
+
 QString durationText(std::int64_t seconds)
 {
-    const QLatin1Char zero('0');
-    return QStringLiteral("%1:%2:%3")
-        .arg(seconds / 3600, 2, 10, zero)
-        .arg(seconds / 60 % 60, 2, 10, zero)
-        .arg(seconds % 60, 2, 10, zero);
+    std::string text;
+    appendDuration(text, seconds);
+    return QString::fromStdString(text);
 }
 
 } // namespace usage

@@ -64,5 +64,6 @@ void appendUtc(std::string &text, std::int64_t utc);
 QString localText(std::int64_t utc);
 /// hh:mm:ss, the hours as many as they are
 QString durationText(std::int64_t seconds);
+void appendDuration(std::string &text, std::int64_t seconds);
 
 } // namespace usage

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "LocalClock.h"
 
+#include "PaddedNumber.h"
+
 #include <time.h>
 
 #include <optional>
@@ -10,6 +12,8 @@ namespace usage
 
 namespace
 {
+
+constexpr int firstYear = 1900;
 
 // The zone belongs to the process, but only tzset() looks whether it is another one.
 std::optional<tm> localTime(std::int64_t utc)
@@ -30,7 +34,6 @@ LocalClock::LocalClock()
 
 QDate LocalClock::dayAt(std::int64_t utc) const
 {
-    constexpr int firstYear = 1900;
     const auto local = localTime(utc);
     if (!local)
         return {};
@@ -41,6 +44,19 @@ std::int64_t LocalClock::shownAt(std::int64_t utc) const
 {
     const auto local = localTime(utc);
     return local ? utc + local->tm_gmtoff : utc;
+}
+
+void LocalClock::append(std::string &text, std::int64_t utc) const
+{
+    const auto local = localTime(utc);
+    if (!local)
+        return;
+    appendPadded(text, local->tm_year + firstYear, 4);
+    appendPadded(text += '-', local->tm_mon + 1, 2);
+    appendPadded(text += '-', local->tm_mday, 2);
+    appendPadded(text += ' ', local->tm_hour, 2);
+    appendPadded(text += ':', local->tm_min, 2);
+    appendPadded(text += ':', local->tm_sec, 2);
 }
 
 } // namespace usage

@@ -4,6 +4,7 @@
 #include <QDate>
 
 #include <cstdint>
+#include <string>
 
 namespace usage
 {
@@ -20,6 +21,8 @@ public:
     /// The day and the time that a clock shows at that moment, as the seconds from
     /// 1970-01-01 00:00 on the same clock, had it never been changed.
     std::int64_t shownAt(std::int64_t utc) const;
+    /// Puts that moment behind the text as localText() has it.
+    void append(std::string &text, std::int64_t utc) const;
 };
 
 } // namespace usage

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "SizeText.h"
 
+#include "PaddedNumber.h"
 #include "SaturatingMath.h"
 
 #include <array>
 #include <cctype>
 #include <cmath>
-#include <iterator>
 #include <string>
 
 namespace usage
@@ -67,15 +67,16 @@ struct ShownSize {
     const char *unit;
 };
 
+constexpr std::array<Unit, 3> shownUnits = {{units[2], units[3], units[4]}};
+
 /// The unit is chosen before rounding, as in the history.
 ShownSize shownSize(std::int64_t bytes)
 {
-    constexpr const char *names[] = {"KB", "MB", "GB"};
     double value = static_cast<double>(bytes) / 1024;
-    const char *const *unit = std::begin(names);
-    for (; std::abs(value) >= 1024 && unit + 1 != std::end(names); ++unit)
+    auto unit = shownUnits.begin();
+    for (; std::abs(value) >= 1024 && unit + 1 != shownUnits.end(); ++unit)
         value /= 1024;
-    return {value, *unit};
+    return {value, unit->name.data()};
 }
 
 /// Of decimals only.
@@ -96,6 +97,23 @@ QString sizeText(std::int64_t bytes)
 {
     const ShownSize size = shownSize(bytes);
     return QString::number(size.value, 'f', 2) + QLatin1Char(' ') + QLatin1String(size.unit);
+}
+
+void appendSize(std::string &text, std::int64_t bytes)
+{
+    // Their hundredths fit, and a double holds them as they are.
+    constexpr std::int64_t mostCounted = std::int64_t(1) << 53U;
+    if (bytes < 0 || bytes > mostCounted) {
+        text += sizeText(bytes).toStdString();
+        return;
+    }
+    auto unit = shownUnits.begin();
+    while (bytes / unit->bytes >= 1024 && unit + 1 != shownUnits.end())
+        ++unit;
+    const std::int64_t hundredths = (bytes * 100 + unit->bytes / 2) / unit->bytes;
+    text += std::to_string(hundredths / 100);
+    appendPadded(text += '.', hundredths % 100, 2);
+    (text += ' ') += unit->name;
 }
 
 QString shortSizeText(std::int64_t bytes)

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace usage
@@ -16,6 +17,8 @@ namespace usage
 /// A number of bytes as the history shows it: "0.10 KB", "1.50 MB", up to GB, of 1024
 /// each and in every language with a full stop. What is less than none has a minus.
 QString sizeText(std::int64_t bytes);
+/// The same behind the text, for who writes many.
+void appendSize(std::string &text, std::int64_t bytes);
 
 /// The same in at most three digits, without zeros behind the full stop: "3.2 GB", "560 MB".
 QString shortSizeText(std::int64_t bytes);

@@ -5,6 +5,7 @@
 #include "OptionValue.h"
 #include "Output.h"
 #include "StoreResult.h"
+#include "UnusedMemory.h"
 #include "apps/common/Export.h"
 #include "formats/Formats.h"
 #include "formats/Utf8Text.h"
@@ -76,9 +77,15 @@ std::unique_ptr<formats::ConnectionWriter> writerFor(const formats::ExportFormat
     return format.writer();
 }
 
+std::unique_ptr<formats::ConnectionWriter> listWriter(const CommonRequest &common)
+{
+    return common.json ? formats::jsonWriter() : tableWriter();
+}
+
 void write(const std::string &storePath, const history::ConnectionSelection &selection,
            formats::ConnectionWriter &writer, Output &output)
 {
+    giveBackUnusedMemory(); // what only the start of the program has needed
     const auto store = valueOrFailure(history::Store::openForReading(storePath));
     valueOrFailure(common::writeConnections(
         store, selection, writer, [&output](std::string_view piece) { output.add(piece); }));
@@ -89,20 +96,15 @@ void write(const std::string &storePath, const history::ConnectionSelection &sel
 
 void listConnections(const CommonRequest &common, const SelectionRequest &selection)
 {
-    if (!common.json) {
-        const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
-        return showConnections(common, selectedFrom(store, selection));
-    }
     Output output;
-    write(common.storePath, selectionOf(selection), *formats::jsonWriter(), output);
+    write(common.storePath, selectionOf(selection), *listWriter(common), output);
 }
 
 void showConnections(const CommonRequest &common,
                      const std::vector<history::Connection> &connections)
 {
-    Output().write(common.json ? QByteArray::fromStdString(
-                                     formats::documentOf(*formats::jsonWriter(), connections))
-                               : toTable(connections));
+    Output().write(
+        QByteArray::fromStdString(formats::documentOf(*listWriter(common), connections)));
 }
 
 void addConnection(const CommonRequest &common, const AddRequest &request)

@@ -105,17 +105,17 @@ Json toJson(const std::optional<history::UsedElsewhere> &elsewhere)
 QByteArray toTable(const std::vector<DataPlan> &plans)
 {
     using Alignment = TextTable::Alignment;
-    TextTable table({{QStringLiteral("PLAN"), Alignment::Left},
-                     {QStringLiteral("COVERS"), Alignment::Left},
-                     {QStringLiteral("NETWORK"), Alignment::Left},
-                     {QStringLiteral("COUNTS"), Alignment::Left},
-                     {QStringLiteral("AMOUNT"), Alignment::Right},
-                     {QStringLiteral("PERIOD"), Alignment::Left},
-                     {QStringLiteral("ALREADY USED"), Alignment::Left},
-                     {QStringLiteral("WARN AT %"), Alignment::Left}});
+    TextTable table({{"PLAN", Alignment::Left},
+                     {"COVERS", Alignment::Left},
+                     {"NETWORK", Alignment::Left},
+                     {"COUNTS", Alignment::Left},
+                     {"AMOUNT", Alignment::Right},
+                     {"PERIOD", Alignment::Left},
+                     {"ALREADY USED", Alignment::Left},
+                     {"WARN AT %", Alignment::Left}});
     for (const DataPlan &plan : plans)
         table.addRow(row(plan));
-    return table.text().toUtf8();
+    return table.text();
 }
 
 Json toJson(const DataPlan &plan)

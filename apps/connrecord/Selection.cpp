@@ -21,8 +21,10 @@ QDate optionDay(const std::string &option, const std::optional<std::string> &tex
 
 std::size_t mostOf(const std::optional<std::string> &limit)
 {
-    constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
-    return static_cast<std::size_t>(limit ? optionNumber("--limit", *limit, most) : most);
+    if (!limit)
+        return std::numeric_limits<std::size_t>::max();
+    return static_cast<std::size_t>(
+        optionNumber("--limit", *limit, std::numeric_limits<std::int64_t>::max()));
 }
 
 } // namespace

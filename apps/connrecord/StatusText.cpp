@@ -103,18 +103,18 @@ Json toJson(const PlanReport &standing)
 QByteArray toTable(const std::vector<PlanReport> &plans)
 {
     using Alignment = TextTable::Alignment;
-    TextTable table({{QStringLiteral("PLAN"), Alignment::Left},
-                     {QStringLiteral("PERIOD"), Alignment::Left},
-                     {QStringLiteral("USED"), Alignment::Right},
-                     {QStringLiteral("AMOUNT"), Alignment::Right},
-                     {QStringLiteral("LEFT"), Alignment::Right},
-                     {QStringLiteral("DAYS LEFT"), Alignment::Right},
-                     {QStringLiteral("A DAY"), Alignment::Right},
-                     {QStringLiteral("PACE"), Alignment::Right},
-                     {QStringLiteral("STATE"), Alignment::Left}});
+    TextTable table({{"PLAN", Alignment::Left},
+                     {"PERIOD", Alignment::Left},
+                     {"USED", Alignment::Right},
+                     {"AMOUNT", Alignment::Right},
+                     {"LEFT", Alignment::Right},
+                     {"DAYS LEFT", Alignment::Right},
+                     {"A DAY", Alignment::Right},
+                     {"PACE", Alignment::Right},
+                     {"STATE", Alignment::Left}});
     for (const PlanReport &each : plans)
         table.addRow(row(each));
-    return table.text().toUtf8();
+    return table.text();
 }
 
 Json toJson(const std::vector<PlanReport> &plans)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TextTable.h"
 
+#include "formats/Utf8Text.h"
+
 #include <QVector>
 
 #include <wchar.h>
@@ -13,71 +15,80 @@ namespace connrecord
 namespace
 {
 
-constexpr const char *columnGap = "  ";
+constexpr std::string_view columnGap = "  ";
 
 /// Terminal cells that the text takes.
-int widthOf(const QString &text)
+std::size_t widthOf(std::string_view text)
 {
-    int width = 0;
-    for (const uint character : text.toUcs4()) {
+    if (formats::isPlainAscii(text))
+        return text.size();
+    std::size_t width = 0;
+    for (const uint character : formats::fromUtf8(text).toUcs4()) {
         // What the locale does not know still takes a place.
         const int cells = wcwidth(static_cast<wchar_t>(character));
-        width += cells < 0 ? 1 : cells;
+        width += cells < 0 ? 1 : static_cast<std::size_t>(cells);
     }
     return width;
 }
 
-QString padded(const QString &text, int width, TextTable::Alignment alignment)
+void removeSpacesBehind(std::string &text, std::size_t start)
 {
-    const QString padding(std::max(width - widthOf(text), 0), QLatin1Char(' '));
-    return alignment == TextTable::Alignment::Left ? text + padding : padding + text;
-}
-
-QString withoutTrailingSpaces(QString text)
-{
-    while (text.endsWith(QLatin1Char(' ')))
-        text.chop(1);
-    return text;
+    while (text.size() > start && text.back() == ' ')
+        text.pop_back();
 }
 
 } // namespace
 
 TextTable::TextTable(std::vector<Column> columns)
     : m_columns(std::move(columns))
+    , m_widths(m_columns.size(), 0)
 {
-    std::vector<QString> headers;
     for (const Column &column : m_columns)
-        headers.push_back(column.header);
-    addRow(std::move(headers));
+        addCell(column.header);
 }
 
-void TextTable::addRow(std::vector<QString> cells)
+void TextTable::addCell(std::string_view text)
 {
-    m_rows.push_back(std::move(cells));
+    std::size_t &widest = m_widths[m_cells.size() % m_columns.size()];
+    m_texts += text;
+    m_cells.push_back({m_texts.size(), widthOf(text)});
+    widest = std::max(widest, m_cells.back().width);
 }
 
-QString TextTable::text() const
+void TextTable::addRow(const std::vector<QString> &cells)
 {
-    std::vector<int> widths(m_columns.size(), 0);
-    for (const std::vector<QString> &cells : m_rows) {
-        for (std::size_t i = 0; i < cells.size(); ++i)
-            widths[i] = std::max(widths[i], widthOf(cells[i]));
+    for (const QString &cell : cells)
+        addCell(cell.toStdString());
+}
+
+void TextTable::takeLines(std::string &lines)
+{
+    std::string_view texts = m_texts;
+    std::size_t taken = 0;
+    for (auto cell = m_cells.begin(); cell != m_cells.end();) {
+        const std::size_t start = lines.size();
+        for (std::size_t column = 0; column < m_columns.size(); ++column, ++cell) {
+            if (column > 0)
+                lines += columnGap;
+            const std::size_t padding = m_widths[column] - cell->width;
+            const bool isRight = m_columns[column].alignment == Alignment::Right;
+            lines.append(isRight ? padding : 0, ' ');
+            lines += texts.substr(taken, cell->end - taken);
+            lines.append(isRight ? 0 : padding, ' ');
+            taken = cell->end;
+        }
+        removeSpacesBehind(lines, start);
+        lines += '\n';
     }
-    QString text;
-    for (const std::vector<QString> &cells : m_rows)
-        text += line(cells, widths) + QLatin1Char('\n');
-    return text;
+    m_texts.clear();
+    m_cells.clear();
 }
 
-QString TextTable::line(const std::vector<QString> &cells, const std::vector<int> &widths) const
+QByteArray TextTable::text()
 {
-    QString line;
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-        if (i > 0)
-            line += QLatin1String(columnGap);
-        line += padded(cells[i], widths[i], m_columns[i].alignment);
-    }
-    return withoutTrailingSpaces(line);
+    std::string lines;
+    takeLines(lines);
+    return QByteArray::fromStdString(lines);
 }
 
 } // namespace connrecord

@@ -89,15 +89,15 @@ TextTable tableFor(const TotalsForm &form)
     std::vector<TextTable::Column> columns;
     for (const Property &property : properties) {
         if (form.grouping.*property.isApart)
-            columns.push_back({QString::fromLatin1(property.heading), Alignment::Left});
+            columns.push_back({property.heading, Alignment::Left});
     }
     if (const PeriodName *const period = nameOf(form.grouping.period))
-        columns.push_back({QString::fromLatin1(period->heading), Alignment::Left});
-    columns.push_back({QStringLiteral("CONNECTIONS"), Alignment::Right});
+        columns.push_back({period->heading, Alignment::Left});
+    columns.push_back({"CONNECTIONS", Alignment::Right});
     if (form.showsTimeConnected)
-        columns.push_back({QStringLiteral("CONNECTED"), Alignment::Right});
-    columns.push_back({QStringLiteral("UPLOADED"), Alignment::Right});
-    columns.push_back({QStringLiteral("DOWNLOADED"), Alignment::Right});
+        columns.push_back({"CONNECTED", Alignment::Right});
+    columns.push_back({"UPLOADED", Alignment::Right});
+    columns.push_back({"DOWNLOADED", Alignment::Right});
     return TextTable(std::move(columns));
 }
 
@@ -154,7 +154,7 @@ QByteArray toTable(const std::vector<Sum> &sums, const TotalsForm &form)
     TextTable table = tableFor(form);
     for (const Sum &each : sums)
         table.addRow(row(each, form));
-    return table.text().toUtf8();
+    return table.text();
 }
 
 formats::Json toJson(const std::vector<Sum> &sums, const TotalsForm &form)

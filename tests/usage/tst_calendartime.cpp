@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "LocalZone.h"
 #include "usage/CalendarTime.h"
+#include "usage/LocalClock.h"
 
 #include <QDateTime>
 #include <QTest>
@@ -18,6 +20,7 @@ private slots:
     void knowsTheHourThatComesTwice();
     void writesUtcAndLocalTime();
     void writesUtcAsQtDoes();
+    void writesLocalTimeAsQtDoes();
     void writesDurationsWithGrowingHours_data();
     void writesDurationsWithGrowingHours();
 };
@@ -122,6 +125,19 @@ void CalendarTimeTest::writesUtcAsQtDoes()
     for (const std::int64_t utc : {std::int64_t(951782400), std::int64_t(4107542399),
                                    std::int64_t(4107542400), latestWrittenTime})
         check(utc);
+}
+
+void CalendarTimeTest::writesLocalTimeAsQtDoes()
+{
+    for (const char *const zone : {"Europe/Berlin", "Australia/Lord_Howe", "America/St_Johns"}) {
+        const LocalZone local(zone);
+        const LocalClock clock;
+        for (std::int64_t utc = 0; utc < 2000000000; utc += 3599 * 97) {
+            std::string text = "before ";
+            clock.append(text, utc);
+            QCOMPARE(QString::fromStdString(text), "before " + localText(utc));
+        }
+    }
 }
 
 void CalendarTimeTest::writesDurationsWithGrowingHours_data()

@@ -16,6 +16,7 @@ class SizeTextTest : public QObject
 private slots:
     void writesSizesAndRatesAsTheHistoryDoes_data();
     void writesSizesAndRatesAsTheHistoryDoes();
+    void appendsSizesAsItWritesThem();
     void writesShortSizes_data();
     void writesShortSizes();
     void writesSizesToBeReadAgain_data();
@@ -28,6 +29,18 @@ private slots:
     void putsTheAxisAtSizesThatReadWell_data();
     void putsTheAxisAtSizesThatReadWell();
 };
+
+namespace
+{
+
+QString appended(std::int64_t bytes)
+{
+    std::string text = "before ";
+    appendSize(text, bytes);
+    return QString::fromStdString(text).mid(7);
+}
+
+} // namespace
 
 void SizeTextTest::writesSizesAndRatesAsTheHistoryDoes_data()
 {
@@ -61,6 +74,21 @@ void SizeTextTest::writesSizesAndRatesAsTheHistoryDoes()
     QFETCH(qint64, bytes);
     QTEST(sizeText(bytes), "size");
     QTEST(rateText(bytes), "rate");
+    QTEST(appended(bytes), "size");
+}
+
+void SizeTextTest::appendsSizesAsItWritesThem()
+{
+    // Halves of a hundredth, which are rounded up, and what is beside them.
+    for (std::int64_t unit = 1; unit <= std::int64_t(1) << 30U; unit *= 1024) {
+        for (std::int64_t bytes = 128; bytes < 1200 * 1024; bytes += 896) {
+            for (const std::int64_t near : {bytes * unit - 1, bytes * unit, bytes * unit + 1})
+                QCOMPARE(appended(near), sizeText(near));
+        }
+    }
+    for (const std::int64_t bytes : {std::int64_t(1) << 53U, (std::int64_t(1) << 53U) + 1,
+                                     std::int64_t(-1), -(std::int64_t(5) << 30U)})
+        QCOMPARE(appended(bytes), sizeText(bytes));
 }
 
 void SizeTextTest::writesShortSizes_data()

@@ -29,6 +29,7 @@ private slots:
     void writesExactIntegers();
     void writesEveryFieldAsJson();
     void writesPieceByPiece();
+    void widensColumnsOnTheWay();
 };
 
 namespace
@@ -177,6 +178,34 @@ void ConnectionTextTest::writesPieceByPiece()
     QVERIFY(pieces.size() > 1 && pieces.front() < connections.size() / 2);
     QCOMPARE(pieces.back(), connections.size());
     QCOMPARE(QByteArray::fromStdString(text), toCsv(store.value().list().value()));
+}
+
+void ConnectionTextTest::widensColumnsOnTheWay()
+{
+    const auto writer = tableWriter();
+    std::string text;
+    writer->begin(text);
+    Connection connection = sample();
+    for (int i = 0; i < 999; ++i)
+        writer->add(connection, text);
+    // The last one that the first widths follow from.
+    QCOMPARE(text, std::string());
+    connection.profile = "a wider name than before";
+    writer->add(connection, text);
+    QCOMPARE(QByteArray::fromStdString(text), toTable([&] {
+                 std::vector<Connection> first(999, sample());
+                 first.push_back(connection);
+                 return first;
+             }()));
+    text.clear();
+    connection.profile = "and one that is wider still";
+    writer->add(sample(), text);
+    writer->add(connection, text);
+    writer->end(text);
+    const QList<QByteArray> lines = QByteArray::fromStdString(text).split('\n');
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines[0].indexOf("2024"), lines[1].indexOf("2024"));
+    QCOMPARE(lines[1].indexOf("2024"), 5 + int(connection.profile.size()) + 2);
 }
 
 QTEST_GUILESS_MAIN(ConnectionTextTest)

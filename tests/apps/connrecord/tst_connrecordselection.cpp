@@ -91,7 +91,7 @@ void ConnrecordSelectionTest::takesNoMoreMemoryForMore_data()
 {
     QTest::addColumn<QString>("command");
 
-    for (const char *const command : {"list --json", "export", "export --json"})
+    for (const char *const command : {"list", "list --json", "export", "export --json"})
         QTest::newRow(command) << command;
 }
 
