@@ -253,6 +253,11 @@ Result<std::vector<ConnectionHour>> Store::hours(const TimeRange &range) const
     return d->read([&](StoreTables &tables) { return tables.hours(range); });
 }
 
+Result<std::size_t> Store::visitHours(const TimeRange &range, const HourVisitor &visitor) const
+{
+    return d->read([&](StoreTables &tables) { return tables.visitHours(range, visitor); });
+}
+
 Result<std::vector<DataPlan>> Store::plans() const
 {
     return d->read([](StoreTables &tables) { return tables.plans.all(); });

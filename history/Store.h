@@ -37,6 +37,7 @@ struct Overview {
     std::optional<std::int64_t> firstUtc; ///< the start of the first one; none without any
     std::vector<std::string> profiles;    ///< each once, in the order of their bytes
     std::vector<std::string> sims;        ///< likewise; known ones only
+    bool hasConnectionsWithoutSim = false;
 };
 
 /// What a look at every record of a history has shown.
@@ -169,6 +170,12 @@ public:
 
     /// What has been moved in `range`, by time, of finished and of open connections.
     Result<std::vector<ConnectionHour>> hours(const TimeRange &range = {}) const;
+
+    /// Told of one hour, which ends with the call; must not use this store.
+    using HourVisitor = std::function<void(const ConnectionHour &hour)>;
+    /// Shows `visitor` the same in no order, without keeping it: for who adds up many. Returns
+    /// how many there are.
+    Result<std::size_t> visitHours(const TimeRange &range, const HourVisitor &visitor) const;
 
     /// The data plans by their names. A row that another program has made and that is no
     /// plan is an error of the kind Damaged, and can be removed.

@@ -6,6 +6,7 @@
 #include "StoreUpkeep.h"
 
 #include <atomic>
+#include <set>
 #include <utility>
 
 namespace history
@@ -54,9 +55,10 @@ StoreFailure wrongHours(const std::string &path)
                 historyAt(path) + "."};
 }
 
-ConnectionHour hourIn(const Row &row)
+/// Its texts stay where they are if there is room for the row's: a loop over many rows asks for
+/// memory once.
+void read(const Row &row, ConnectionHour &hour)
 {
-    ConnectionHour hour;
     hour.key = row.integer(0);
     hour.isOpen = row.integer(1) != 0;
     hour.profile = row.text(2);
@@ -68,7 +70,20 @@ ConnectionHour hourIn(const Row &row)
     hour.uploadedBytes = row.integer(8);
     hour.downloadedBytes = row.integer(9);
     hour.isKnown = row.integer(10) != 0;
-    return hour;
+}
+
+/// The hours that the query selects, one after the other in the same place.
+template <typename Visitor>
+std::size_t visitHoursOf(RowQuery &query, const TimeRange &range, const Visitor &visitor)
+{
+    query.bind(1, range.fromUtc);
+    query.bind(2, range.untilUtc);
+    std::size_t count = 0;
+    for (ConnectionHour hour; query.next(); ++count) {
+        read(query.row(), hour);
+        visitor(hour);
+    }
+    return count;
 }
 
 } // namespace
@@ -143,13 +158,9 @@ std::size_t StoreTables::remove(const std::vector<std::int64_t> &keys)
 
 std::vector<ConnectionHour> StoreTables::hours(const TimeRange &range)
 {
-    RowQuery query(m_database, m_hours.selection(false) + " UNION ALL " +
-                                   m_openHours.selection(true) + " ORDER BY utc, 2, 1, 8");
-    query.bind(1, range.fromUtc);
-    query.bind(2, range.untilUtc);
     std::vector<ConnectionHour> hours;
-    while (query.next())
-        hours.push_back(hourIn(query.row()));
+    RowQuery query(m_database, hoursSelection() + " ORDER BY utc, 2, 1, 8");
+    visitHoursOf(query, range, [&hours](const ConnectionHour &hour) { hours.push_back(hour); });
     return hours;
 }
 
@@ -171,25 +182,36 @@ std::size_t StoreTables::visit(const ConnectionSelection &selection,
     return count;
 }
 
+std::size_t StoreTables::visitHours(const TimeRange &range, const Store::HourVisitor &visitor)
+{
+    RowQuery query(m_database, hoursSelection());
+    return visitHoursOf(query, range, visitor);
+}
+
+std::string StoreTables::hoursSelection() const
+{
+    return m_hours.selection(false) + " UNION ALL " + m_openHours.selection(true);
+}
+
 Overview StoreTables::overview()
 {
-    const auto textsOf = [this](const std::string &column) {
-        RowQuery query(m_database, "SELECT " + column + " FROM connection UNION SELECT " + column +
-                                       " FROM open_connection ORDER BY 1");
-        std::vector<std::string> texts;
-        while (query.next())
-            texts.emplace_back(query.row().text(0));
-        return texts;
-    };
     Overview overview;
     RowQuery first(m_database, "SELECT min(utc) FROM (SELECT min(start_utc) AS utc FROM connection"
                                " UNION ALL SELECT min(start_utc) FROM open_connection)");
     first.next();
     overview.firstUtc = first.row().integerIfAny(0);
-    overview.profiles = textsOf("profile");
-    overview.sims = textsOf("sim");
-    if (!overview.sims.empty() && overview.sims.front().empty())
-        overview.sims.erase(overview.sims.begin());
+    // One walk over the connections for both.
+    std::set<std::string, std::less<>> profiles;
+    std::set<std::string, std::less<>> sims;
+    RowQuery names(m_database, "SELECT DISTINCT profile, sim FROM connection"
+                               " UNION SELECT profile, sim FROM open_connection");
+    while (names.next()) {
+        profiles.emplace(names.row().text(0));
+        sims.emplace(names.row().text(1));
+    }
+    overview.hasConnectionsWithoutSim = sims.erase(std::string()) > 0;
+    overview.profiles.assign(profiles.begin(), profiles.end());
+    overview.sims.assign(sims.begin(), sims.end());
     return overview;
 }
 

@@ -46,6 +46,7 @@ public:
     /// See Store::visit().
     std::size_t visit(const ConnectionSelection &selection, const ConnectionVisitor &visitor,
                       const OpenConnectionVisitor &openVisitor);
+    std::size_t visitHours(const TimeRange &range, const Store::HourVisitor &visitor);
     Overview overview();
     std::vector<OpenConnection> listOpen();
     OpenConnection begin(const OpenConnection &connection);
@@ -58,6 +59,7 @@ public:
     std::size_t see(const std::vector<SeenLink> &links, const std::vector<Connection> &unwatched);
 
 private:
+    std::string hoursSelection() const;
     void keepSeen(const OpenConnection &connection);
     void keepOrigin(const std::string &origin);
 

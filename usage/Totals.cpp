@@ -3,13 +3,15 @@
 
 #include "BillingPeriod.h"
 #include "LocalClock.h"
+#include "PlanUse.h"
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <cstdlib>
+#include <limits>
 #include <map>
-#include <optional>
-#include <set>
+#include <tuple>
 #include <utility>
 
 namespace usage
@@ -21,10 +23,24 @@ namespace
 /// Those that a group's sum has in common, in the order of the sums.
 using GroupKey = std::tuple<std::string, std::string, std::string, bool, std::int64_t>;
 
-/// One group's sum, and what is in it, each connection once.
+/// One group's sum, and what is in it.
 struct Group {
     Sum sum;
-    std::set<std::pair<bool, std::int64_t>> connections;
+    std::vector<std::pair<bool, std::int64_t>> connections; ///< once for each time added
+};
+
+/// Bytes of a connection that count as a whole at one moment. The texts are somebody else's.
+struct CountedBytes {
+    std::int64_t key = 0;
+    bool isOpen = false; ///< the key is that of an open connection
+    const std::string &profile;
+    const std::string &sim;
+    const std::string &operatorName;
+    bool isRoaming = false;
+    std::int64_t utc = 0;
+    std::int64_t connectedSeconds = 0;
+    std::int64_t uploadedBytes = 0;
+    std::int64_t downloadedBytes = 0;
 };
 
 /// The name, or the code where that is all that is known.
@@ -32,6 +48,24 @@ template <typename Source>
 const std::string &operatorOf(const Source &source)
 {
     return source.operatorName.empty() ? source.operatorCode : source.operatorName;
+}
+
+/// The bytes of a connection in one hour.
+CountedBytes counted(const history::ConnectionHour &hour)
+{
+    return {hour.key,           hour.isOpen,         hour.profile, hour.sim,
+            operatorOf(hour),   hour.isRoaming,      hour.utc,     0,
+            hour.uploadedBytes, hour.downloadedBytes};
+}
+
+/// Those of a whole one.
+CountedBytes counted(const history::Connection &connection)
+{
+    return {connection.key,           false,
+            connection.profile,       connection.sim,
+            operatorOf(connection),   connection.roaming == history::abroad,
+            connection.startUtc,      connection.connectedSeconds,
+            connection.uploadedBytes, connection.downloadedBytes};
 }
 
 /// Which period of the grouping a moment is in.
@@ -44,16 +78,16 @@ public:
     {
     }
 
-    /// A number that rises from one period to the next; nothing between billing periods.
-    std::optional<std::int64_t> at(std::int64_t utc);
+    /// A number that rises from one period to the next; nothing between billing periods. The
+    /// day is the one at that moment.
+    std::optional<std::int64_t> at(std::int64_t utc, const QDate &day);
 
 private:
     const Period m_period;
-    const LocalClock m_clock;
     PeriodFinder m_billing;
 };
 
-std::optional<std::int64_t> PeriodNumbers::at(std::int64_t utc)
+std::optional<std::int64_t> PeriodNumbers::at(std::int64_t utc, const QDate &day)
 {
     switch (m_period) {
     case Period::All:
@@ -61,13 +95,11 @@ std::optional<std::int64_t> PeriodNumbers::at(std::int64_t utc)
     case Period::Hour:
         return history::startOfHour(utc);
     case Period::Day:
-        return m_clock.dayAt(utc).toJulianDay();
-    case Period::Month: {
-        const QDate day = m_clock.dayAt(utc);
+        return day.toJulianDay();
+    case Period::Month:
         return day.year() * 100 + day.month();
-    }
     case Period::Year:
-        return m_clock.dayAt(utc).year();
+        return day.year();
     case Period::Billing: {
         const auto period = m_billing.at(utc);
         return period ? std::optional(period->first.toJulianDay()) : std::nullopt;
@@ -76,31 +108,110 @@ std::optional<std::int64_t> PeriodNumbers::at(std::int64_t utc)
     return std::nullopt;
 }
 
-std::optional<GroupKey> groupOf(const CountedBytes &counted, const Grouping &grouping,
-                                PeriodNumbers &periods)
+void increase(std::int64_t &value, std::int64_t amount, const char *what, Sum &sum)
 {
-    const auto part = [](bool isApart, const std::string &text) {
-        return isApart ? text : std::string();
-    };
-    const auto period = periods.at(counted.utc);
-    if (!period)
-        return std::nullopt;
-    return GroupKey{part(grouping.byProfile, counted.profile), part(grouping.bySim, counted.sim),
-                    part(grouping.byOperator, counted.operatorName),
-                    grouping.byRoaming && counted.isRoaming, *period};
-}
-
-void increase(std::int64_t &sum, std::int64_t amount, const char *what)
-{
-    if (__builtin_add_overflow(sum, amount, &sum))
-        throw SumTooLarge(what);
+    if (!__builtin_add_overflow(value, amount, &value))
+        return;
+    value = std::numeric_limits<std::int64_t>::max();
+    sum.tooLarge = what;
 }
 
 void add(Sum &sum, const CountedBytes &counted)
 {
-    increase(sum.connectedSeconds, counted.connectedSeconds, "seconds connected");
-    increase(sum.uploadedBytes, counted.uploadedBytes, "bytes sent");
-    increase(sum.downloadedBytes, counted.downloadedBytes, "bytes received");
+    increase(sum.connectedSeconds, counted.connectedSeconds, "seconds connected", sum);
+    increase(sum.uploadedBytes, counted.uploadedBytes, "bytes sent", sum);
+    increase(sum.downloadedBytes, counted.downloadedBytes, "bytes received", sum);
+}
+
+/// Adds up what is in the scope, one after the other.
+class Adder
+{
+public:
+    Adder(const TotalsScope &scope, const Grouping &grouping)
+        : m_scope(scope)
+        , m_grouping(grouping)
+        , m_periods(grouping)
+    {
+    }
+
+    void add(const CountedBytes &counted);
+    std::vector<Sum> takeSums();
+
+private:
+    Group *groupOf(const CountedBytes &counted);
+
+    const TotalsScope &m_scope;
+    const Grouping &m_grouping;
+    const LocalClock m_clock;
+    PeriodNumbers m_periods;
+    std::map<GroupKey, Group> m_groups;
+};
+
+void Adder::add(const CountedBytes &counted)
+{
+    const auto &plan = m_scope.coveredBy;
+    if (plan && !isCovered(*plan, counted.profile, counted.sim, counted.isRoaming))
+        return;
+    Group *const group = groupOf(counted);
+    if (!group)
+        return;
+    usage::add(group->sum, counted);
+    group->connections.emplace_back(counted.isOpen, counted.key);
+}
+
+/// Nothing if the moment is not in the scope.
+Group *Adder::groupOf(const CountedBytes &counted)
+{
+    const QDate day = m_clock.dayAt(counted.utc);
+    const auto period = m_scope.days.contains(day) ? m_periods.at(counted.utc, day) : std::nullopt;
+    if (!period)
+        return nullptr;
+    const auto part = [](bool isApart, const std::string &text) {
+        return isApart ? text : std::string();
+    };
+    return &m_groups[{part(m_grouping.byProfile, counted.profile),
+                      part(m_grouping.bySim, counted.sim),
+                      part(m_grouping.byOperator, counted.operatorName),
+                      m_grouping.byRoaming && counted.isRoaming, *period}];
+}
+
+template <typename Value>
+std::int64_t countOfDifferent(std::vector<Value> values)
+{
+    std::sort(values.begin(), values.end());
+    return std::unique(values.begin(), values.end()) - values.begin();
+}
+
+std::vector<Sum> Adder::takeSums()
+{
+    std::vector<Sum> sums;
+    sums.reserve(m_groups.size());
+    for (auto &[key, group] : m_groups) {
+        Sum &sum = group.sum;
+        std::tie(sum.profile, sum.sim, sum.operatorName, sum.isRoaming, sum.period) = key;
+        sum.connections = countOfDifferent(std::move(group.connections));
+        sums.push_back(std::move(sum));
+    }
+    return sums;
+}
+
+/// Shows the adder all that may be in the scope.
+history::Result<std::size_t> addUp(Adder &adder, const history::Store &store,
+                                   const TotalsScope &scope)
+{
+    const history::TimeRange range = scope.days.widerRange();
+    if (!scope.countsAtStart) {
+        return store.visitHours(range, [&](const history::ConnectionHour &hour) {
+            if (!scope.isOfFinished || !hour.isOpen)
+                adder.add(counted(hour));
+        });
+    }
+    const auto connections = store.list(range);
+    if (!connections)
+        return connections.error();
+    for (const history::Connection &connection : connections.value())
+        adder.add(counted(connection));
+    return connections.value().size();
 }
 
 /// Hours are told by their offset from UTC: "+02:00".
@@ -129,57 +240,14 @@ QString billingText(const history::PeriodRule &rule, const QDate &first)
 
 } // namespace
 
-CountedBytes countedWhenMoved(const history::ConnectionHour &hour)
+history::Result<std::vector<Sum>> sumsOf(const history::Store &store, const TotalsScope &scope,
+                                         const Grouping &grouping)
 {
-    CountedBytes counted;
-    counted.key = hour.key;
-    counted.isOpen = hour.isOpen;
-    counted.profile = hour.profile;
-    counted.sim = hour.sim;
-    counted.operatorName = operatorOf(hour);
-    counted.isRoaming = hour.isRoaming;
-    counted.utc = hour.utc;
-    counted.uploadedBytes = hour.uploadedBytes;
-    counted.downloadedBytes = hour.downloadedBytes;
-    return counted;
-}
-
-CountedBytes countedAtStart(const history::Connection &connection)
-{
-    CountedBytes counted;
-    counted.key = connection.key;
-    counted.profile = connection.profile;
-    counted.sim = connection.sim;
-    counted.operatorName = operatorOf(connection);
-    counted.isRoaming = connection.roaming == history::abroad;
-    counted.utc = connection.startUtc;
-    counted.connectedSeconds = connection.connectedSeconds;
-    counted.uploadedBytes = connection.uploadedBytes;
-    counted.downloadedBytes = connection.downloadedBytes;
-    return counted;
-}
-
-std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping &grouping)
-{
-    std::map<GroupKey, Group> groups;
-    PeriodNumbers periods(grouping);
-    for (const CountedBytes &each : counted) {
-        const auto key = groupOf(each, grouping, periods);
-        if (!key)
-            continue;
-        Group &group = groups[*key];
-        add(group.sum, each);
-        group.connections.emplace(each.isOpen, each.key);
-    }
-    std::vector<Sum> sums;
-    sums.reserve(groups.size());
-    for (auto &[key, group] : groups) {
-        Sum &sum = group.sum;
-        std::tie(sum.profile, sum.sim, sum.operatorName, sum.isRoaming, sum.period) = key;
-        sum.connections = static_cast<std::int64_t>(group.connections.size());
-        sums.push_back(std::move(sum));
-    }
-    return sums;
+    Adder adder(scope, grouping);
+    const auto added = addUp(adder, store, scope);
+    if (!added)
+        return added.error();
+    return adder.takeSums();
 }
 
 QString periodText(std::int64_t period, const Grouping &grouping)

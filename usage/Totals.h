@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "LocalDays.h"
 #include "history/DataPlan.h"
 #include "history/Store.h"
 
 #include <QString>
 
 #include <cstdint>
-#include <functional>
-#include <stdexcept>
+#include <optional>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace usage
@@ -34,23 +33,14 @@ struct Grouping {
     }
 };
 
-/// Bytes of a connection that count as a whole at one moment.
-struct CountedBytes {
-    std::int64_t key = 0;
-    bool isOpen = false; ///< the key is that of an open connection
-    std::string profile;
-    std::string sim;
-    std::string operatorName;
-    bool isRoaming = false;
-    std::int64_t utc = 0;
-    std::int64_t connectedSeconds = 0;
-    std::int64_t uploadedBytes = 0;
-    std::int64_t downloadedBytes = 0;
+/// Which bytes of a history are added up: those of the connections' hours, where they were
+/// moved, or whole connections, where they began.
+struct TotalsScope {
+    LocalDays days;
+    std::optional<history::DataPlan> coveredBy; ///< whose bytes alone
+    bool countsAtStart = false;                 ///< wholly, and finished connections alone
+    bool isOfFinished = false;                  ///< leaves out connections that last
 };
-
-/// The bytes of a connection in one hour, and those of a whole one at its start.
-CountedBytes countedWhenMoved(const history::ConnectionHour &hour);
-CountedBytes countedAtStart(const history::Connection &connection);
 
 /// What one group adds up to. What the sums are not told apart by is empty.
 struct Sum {
@@ -63,18 +53,14 @@ struct Sum {
     std::int64_t connectedSeconds = 0;
     std::int64_t uploadedBytes = 0;
     std::int64_t downloadedBytes = 0;
-};
-
-/// A sum that 64 bits do not hold; what() names what was added up.
-class SumTooLarge : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
+    /// "bytes sent": what 64 bits do not hold, and so stops at their end; empty if they do.
+    std::string tooLarge;
 };
 
 /// The sums by profile, SIM, operator, roaming, then period, each connection counted
-/// once in each of them; what lies in no billing period is left out. Throws SumTooLarge.
-std::vector<Sum> sumsOf(const std::vector<CountedBytes> &counted, const Grouping &grouping);
+/// once in each of them; what lies in no billing period is left out.
+history::Result<std::vector<Sum>> sumsOf(const history::Store &store, const TotalsScope &scope,
+                                         const Grouping &grouping);
 
 /// 2024-10-27T02:00+01:00, 2024-10-27, 2024-10, 2024, or a billing period's first and last day
 /// as 2024-10-27/2024-11-26. The hour has its offset, since local time goes through one

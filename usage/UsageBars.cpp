@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UsageBars.h"
 
-#include "LocalClock.h"
-#include "PlanUse.h"
 #include "SaturatingMath.h"
+#include "Totals.h"
 
 #include <algorithm>
 #include <numeric>
@@ -47,10 +46,12 @@ std::vector<UsageBar> emptyBars(BarUnit unit, const BillingPeriod &span)
     return bars;
 }
 
-std::size_t placeOf(const QDate &day, BarUnit unit, const BillingPeriod &span)
+/// Where the bar of a sum stands.
+std::size_t placeOf(const Sum &sum, BarUnit unit, const BillingPeriod &span)
 {
-    return static_cast<std::size_t>(unit == BarUnit::Day ? span.first.daysTo(day)
-                                                         : day.month() - 1);
+    constexpr int monthsApart = 100;
+    return static_cast<std::size_t>(unit == BarUnit::Day ? sum.period - span.first.toJulianDay()
+                                                         : sum.period % monthsApart - 1);
 }
 
 void add(std::int64_t &sum, std::int64_t bytes)
@@ -77,18 +78,20 @@ BillingPeriod spanNear(const PeriodRule &rule, BarUnit unit, const QDate &day)
     return {std::max(period->first, year.first), std::min(period->end, year.end)};
 }
 
-std::vector<UsageBar> usageBars(const std::vector<history::ConnectionHour> &hours,
-                                const DataPlan &plan, BarUnit unit, const BillingPeriod &span)
+history::Result<std::vector<UsageBar>> usageBars(const history::Store &store, const DataPlan &plan,
+                                                 BarUnit unit, const BillingPeriod &span)
 {
-    const LocalClock clock;
+    Grouping grouping;
+    grouping.period = unit == BarUnit::Day ? Period::Day : Period::Month;
+    grouping.byRoaming = true;
+    const auto sums = sumsOf(store, {{span.first, span.last()}, plan}, grouping);
+    if (!sums)
+        return sums.error();
     std::vector<UsageBar> bars = emptyBars(unit, span);
-    for (const history::ConnectionHour &hour : hours) {
-        const QDate day = clock.dayAt(hour.utc);
-        if (!span.contains(day) || !isCovered(plan, hour.profile, hour.sim, hour.isRoaming))
-            continue;
-        auto &bytes = bars[placeOf(day, unit, span)].bytes;
-        add(bytes[hour.isRoaming ? ReceivedRoaming : ReceivedAtHome], hour.downloadedBytes);
-        add(bytes[hour.isRoaming ? SentRoaming : SentAtHome], hour.uploadedBytes);
+    for (const Sum &sum : sums.value()) {
+        auto &bytes = bars[placeOf(sum, unit, span)].bytes;
+        bytes[sum.isRoaming ? ReceivedRoaming : ReceivedAtHome] = sum.downloadedBytes;
+        bytes[sum.isRoaming ? SentRoaming : SentAtHome] = sum.uploadedBytes;
     }
     return bars;
 }

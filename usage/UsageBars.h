@@ -40,9 +40,9 @@ BillingPeriod spanNear(const history::PeriodRule &rule, BarUnit unit, const QDat
 
 /// One bar for each day or month of the span, a year's for months, by time, of those hours
 /// that the plan covers. A sum that 64 bits do not hold stops at their end.
-std::vector<UsageBar> usageBars(const std::vector<history::ConnectionHour> &hours,
-                                const history::DataPlan &plan, BarUnit unit,
-                                const BillingPeriod &span);
+history::Result<std::vector<UsageBar>> usageBars(const history::Store &store,
+                                                 const history::DataPlan &plan, BarUnit unit,
+                                                 const BillingPeriod &span);
 
 /// The sum of all bars, with the day of the first one.
 UsageBar sumOf(const std::vector<UsageBar> &bars);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CoverageEdit.h"
 
+#include "history/Store.h"
 #include "modem/DataPort.h"
-#include "usage/KnownNames.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -94,11 +94,13 @@ void CoverageEdit::setCoverage(Covers covers, const std::string &covered)
     }
 }
 
-void CoverageEdit::addKnownNames(const usage::KnownNames &names)
+void CoverageEdit::addNamesOf(const history::Overview &overview)
 {
-    for (const std::string &profile : names.profiles)
+    for (const std::string &profile : overview.profiles)
         addProfile(profile);
-    for (const std::string &sim : names.sims)
+    if (overview.hasConnectionsWithoutSim)
+        addSim(std::string());
+    for (const std::string &sim : overview.sims)
         addSim(sim);
 }
 

@@ -10,9 +10,9 @@
 
 class QComboBox;
 
-namespace usage
+namespace history
 {
-struct KnownNames;
+struct Overview;
 }
 
 namespace refdialer
@@ -29,7 +29,7 @@ public:
 
     void setCoverage(history::DataPlan::Covers covers, const std::string &covered);
     /// More to choose from; what has been chosen or written stays.
-    void addKnownNames(const usage::KnownNames &names);
+    void addNamesOf(const history::Overview &overview);
 
     history::DataPlan::Covers covers() const;
     /// The profile or SIM, empty for everything; nothing if none has been named.

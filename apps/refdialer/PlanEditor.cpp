@@ -6,7 +6,6 @@
 #include "PlanWatch.h"
 #include "SizeEdit.h"
 #include "usage/BillingPeriod.h"
-#include "usage/KnownNames.h"
 #include "usage/PlanChange.h"
 
 #include <QComboBox>
@@ -176,10 +175,10 @@ bool PlanEditor::isOfThisPeriod(const DataPlan &plan) const
 void PlanEditor::offerKnownNames()
 {
     m_plans.store().read(
-        this, [](const Store &store) { return usage::knownNames(store); },
-        [this](const Result<usage::KnownNames> &names) {
-            if (names)
-                m_coverage->addKnownNames(names.value());
+        this, [](const Store &store) { return store.overview(); },
+        [this](const Result<history::Overview> &overview) {
+            if (overview)
+                m_coverage->addNamesOf(overview.value());
         });
 }
 

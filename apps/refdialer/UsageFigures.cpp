@@ -4,6 +4,7 @@
 #include "usage/LocalDays.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace refdialer
 {
@@ -99,11 +100,10 @@ Result<UsageFigures> usageFigures(const history::Store &store, const UsageReques
     figures.span =
         usage::spanNear(plan.period, request.unit, request.day.isNull() ? today : request.day);
     setNeighbours(figures, plan, overview.value(), today);
-    const usage::LocalDays days{figures.span.first, figures.span.last()};
-    const auto hours = store.hours(days.widerRange());
-    if (!hours)
-        return hours.error();
-    figures.bars = usage::usageBars(hours.value(), plan, request.unit, figures.span);
+    auto bars = usage::usageBars(store, plan, request.unit, figures.span);
+    if (!bars)
+        return bars.error();
+    figures.bars = std::move(bars.value());
     return figures;
 }
 

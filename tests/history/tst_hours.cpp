@@ -237,11 +237,11 @@ void HoursTest::agreeWithAModel()
     for (const history::TimeRange &range :
          {history::TimeRange(), history::TimeRange{middle, middle + 86400}}) {
         std::map<std::tuple<std::int64_t, bool>, std::int64_t> stored;
-        const auto hours = store.hours(range);
-        for (const auto &each : hours.value()) {
+        const auto visited = store.visitHours(range, [&](const ConnectionHour &each) {
             if (each.uploadedBytes > 0)
                 stored[{each.utc, each.isRoaming}] += each.uploadedBytes;
-        }
+        });
+        QCOMPARE(visited.value(), store.hours(range).value().size());
         auto expected = model;
         for (auto each = expected.begin(); each != expected.end();) {
             const std::int64_t hour = std::get<0>(each->first);

@@ -263,12 +263,14 @@ void StoreTest::knowsWhatItsConnectionsAreOf()
     const auto overview = [&store] { return store.value().overview().value(); };
     QVERIFY(!overview().firstUtc);
     QVERIFY(overview().profiles.empty() && overview().sims.empty());
+    QVERIFY(!overview().hasConnectionsWithoutSim);
     Connection withSim = connection("web", 300, 400);
     withSim.sim = "8949";
     storeWith(m_path, {withSim, connection("internet", 200, 300), connection("web", 400, 500)});
     QCOMPARE(overview().firstUtc.value(), std::int64_t(200));
     QCOMPARE(overview().profiles, std::vector<std::string>({"internet", "web"}));
     QCOMPARE(overview().sims, std::vector<std::string>({"8949"}));
+    QVERIFY(overview().hasConnectionsWithoutSim);
     history::OpenConnection open;
     open.bootId = "boot";
     open.profile = "a new one";

@@ -94,13 +94,12 @@ QStringList rowsOfStatement(SQLite::Statement &statement)
 }
 
 /// The database's own reader of JSON keeps 64-bit integers in each version of Qt.
-QStringList rowsOfJson(const QByteArray &json)
+QStringList rowsOfJson(const QByteArray &json, const QStringList &keys)
 {
     const SQLite::Database memory(":memory:");
-    SQLite::Statement statement(memory, "SELECT value ->> 'profile', value ->> 'month',"
-                                        " value ->> 'connections', value ->> 'connected_seconds',"
-                                        " value ->> 'uploaded_bytes', value ->> 'downloaded_bytes'"
-                                        " FROM json_each(?)");
+    SQLite::Statement statement(memory, "SELECT value ->> '" +
+                                            keys.join("', value ->> '").toStdString() +
+                                            "' FROM json_each(?)");
     statement.bind(1, json.toStdString());
     return rowsOfStatement(statement);
 }
@@ -117,12 +116,12 @@ YearsOfHistory::YearsOfHistory(const char *zone, int firstYear)
         qFatal("%s cannot be filled", m_store.path().c_str());
 }
 
-QStringList YearsOfHistory::totalsTold(const QStringList &options)
+QStringList YearsOfHistory::totalsTold(const QStringList &options, const QStringList &keys)
 {
-    const ConnrecordRun run = connrecord(QStringList{"totals", "--by-start", "--json"} + options);
+    const ConnrecordRun run = connrecord(QStringList{"totals", "--json"} + options);
     if (run.exitCode != 0)
         return {QString::fromUtf8(run.error)};
-    return rowsOfJson(run.output);
+    return rowsOfJson(run.output, keys);
 }
 
 QStringList YearsOfHistory::rowsOf(const std::string &query) const

@@ -18,9 +18,9 @@ class YearsOfHistory
 public:
     YearsOfHistory(const char *zone, int firstYear);
 
-    /// What "connrecord totals --by-start --json" with these options tells, one line for
-    /// each sum: profile|month|connections|seconds|sent|received.
-    static QStringList totalsTold(const QStringList &options);
+    /// What "connrecord totals --json" with these options tells, one line for each sum: the
+    /// values of these keys, joined with |.
+    static QStringList totalsTold(const QStringList &options, const QStringList &keys);
     /// The rows that a query on the store gives, their values joined in that way.
     QStringList rowsOf(const std::string &query) const;
 
