@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "CutText.h"
 
+#include "PaintedText.h"
+#include "apps/refdialer/UsageChart.h"
+
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
@@ -161,8 +164,19 @@ Shown textWithin(const QWidget &widget, const QString &text, const QSize &needed
     return {text, asHighAs(widget, needed.width()), asHighAs(widget, widget.width())};
 }
 
+/// What the chart draws by itself.
+QList<Shown> textsOf(const refdialer::UsageChart &chart)
+{
+    QList<Shown> texts;
+    for (const PaintedText &each : paintedTexts(chart))
+        texts.append({each.text, each.place.size().toSize(), each.seen.size().toSize()});
+    return texts;
+}
+
 QList<Shown> textsOf(const QWidget &widget)
 {
+    if (const auto *const chart = qobject_cast<const refdialer::UsageChart *>(&widget))
+        return textsOf(*chart);
     if (const auto *const label = qobject_cast<const QLabel *>(&widget))
         return {textOf(*label)};
     if (const auto *const button = qobject_cast<const QAbstractButton *>(&widget))

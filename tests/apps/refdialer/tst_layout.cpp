@@ -3,6 +3,8 @@
 #include "HistoryWindow.h"
 #include "apps/common/ProblemText.h"
 #include "apps/refdialer/ClosingChoice.h"
+#include "apps/refdialer/FileChooser.h"
+#include "apps/refdialer/HelpMenu.h"
 #include "apps/refdialer/PastPeriodsDialog.h"
 #include "apps/refdialer/PlanDialog.h"
 #include "apps/refdialer/PlanEditor.h"
@@ -12,11 +14,13 @@
 #include "apps/refdialer/StateLine.h"
 #include "apps/refdialer/SummaryChoice.h"
 #include "apps/refdialer/TransferDialog.h"
+#include "apps/refdialer/UsageChart.h"
 #include "refhost/libcore/Host.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -46,6 +50,7 @@ private slots:
     void findsATextWithTooLittleRoom_data();
     void findsATextWithTooLittleRoom();
     void findsATextThatLiesOutsideTheWindow();
+    void findsAPaintedTextWithTooLittleRoom();
     void toleratesThatUserDataIsShortened();
     void findsAKeyThatIsGivenTwice();
 
@@ -164,6 +169,25 @@ void lookAtTheSummary(HistoryWindow &history, const Look &look)
     });
 }
 
+void lookAtAbout(HistoryWindow &history, const Look &look)
+{
+    QMenu &help = *history.window().findChild<refdialer::HelpMenu *>();
+    lookAtModal(look, [&help] { help.actions().at(help.actions().size() - 2)->trigger(); });
+}
+
+void lookAtTheChoosers(HistoryWindow &history, const Look &look)
+{
+    for (QFileDialog *const chooser : {refdialer::makeExportChooser(&history.window()),
+                                       refdialer::makeImportChooser(&history.window())}) {
+        // The one that is drawn here; the system's own cuts what it likes.
+        chooser->setOption(QFileDialog::DontUseNativeDialog);
+        chooser->show();
+        QCoreApplication::processEvents();
+        look(*chooser);
+        chooser->close();
+    }
+}
+
 void lookAtTheStatistics(HistoryWindow &history, const Look &look)
 {
     if (history.plugin().hasStatistics())
@@ -225,6 +249,8 @@ const struct {
     {"closing", lookAtTheClosingQuestion},
     {"deletion", lookAtTheDeletion},
     {"summary", lookAtTheSummary},
+    {"about", lookAtAbout},
+    {"choosers", lookAtTheChoosers},
     {"statistics", lookAtTheStatistics},
     {"plans", lookAtThePlans},
     {"import", lookAtTheImport},
@@ -318,6 +344,18 @@ void TestLayout::findsATextThatLiesOutsideTheWindow()
     QCOMPARE(cutTexts(window).size(), 1);
 }
 
+void TestLayout::findsAPaintedTextWithTooLittleRoom()
+{
+    refdialer::UsageChart chart;
+    chart.setBars({{QDate(2026, 11, 1), {1 << 30}}}, usage::BarUnit::Day, QString());
+    chart.resize(chart.sizeHint());
+    chart.show();
+    QCOMPARE(cutTexts(chart), QStringList());
+    chart.setMinimumSize(1, 1);
+    chart.resize(chart.fontMetrics().height() * 3, chart.sizeHint().height());
+    QVERIFY(cutTexts(chart).join(' ').contains("\"Received"));
+}
+
 void TestLayout::toleratesThatUserDataIsShortened()
 {
     QLabel label("History in /home/somebody");
@@ -351,7 +389,9 @@ void TestLayout::cutsNoTextAndSharesNoKey()
     QVERIFY(history.store({connection(profile.toStdString(), 0)}));
     QVERIFY(refhost::setLanguage(language));
     QVERIFY(history.open());
-    const QStringList userData{profile, QString::fromStdString(history.storePath())};
+    // The last one is Qt's, over a column that the user makes as wide as it is to be.
+    const QStringList userData{profile, QString::fromStdString(history.storePath()),
+                               QStringLiteral("Date Modified")};
     QStringList faults;
     for (const auto &each : windows) {
         each.lookAt(history, [&](const QWidget &window) {
