@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DeleteAllGuard.h"
 
+#include "VisibleSelection.h"
+
 #include <QAction>
 #include <QChildEvent>
-#include <QHeaderView>
 #include <QMenu>
 #include <QShortcut>
 #include <QTableWidget>
@@ -32,9 +33,9 @@ void disableDeleteAll(QMenu &menu, const QString &reason)
 
 } // namespace
 
-DeleteAllGuard::DeleteAllGuard(QTableWidget &table)
+DeleteAllGuard::DeleteAllGuard(QTableWidget &table, const VisibleSelection &selection)
     : QObject(&table)
-    , m_table(table)
+    , m_selection(selection)
 {
     table.installEventFilter(this);
 }
@@ -42,8 +43,7 @@ DeleteAllGuard::DeleteAllGuard(QTableWidget &table)
 /// A menu is whole when it is about to be shown, which is when it is polished.
 bool DeleteAllGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ChildPolished &&
-        m_table.verticalHeader()->hiddenSectionCount() > 0) {
+    if (event->type() == QEvent::ChildPolished && m_selection.hidesRows()) {
         if (auto *const menu = qobject_cast<QMenu *>(static_cast<QChildEvent *>(event)->child()))
             disableDeleteAll(*menu, tr("Not while rows are hidden: it would delete these too. "
                                        "Select all rows that you see (Ctrl+A) and delete them, "

@@ -7,12 +7,14 @@
 #include "TableViewState.h"
 #include "TrueValues.h"
 #include "UpdatesOff.h"
+#include "UserDecision.h"
 #include "VisibleSelection.h"
 #include "refhost/libcore/Host.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QTableWidget>
+#include <QTimeZone>
 
 #include <chrono>
 
@@ -28,13 +30,6 @@ constexpr std::chrono::seconds watchInterval(1);
 /// Fewer are deleted sooner than one could read that they are.
 constexpr int manyConnections = 1000;
 
-/// Whether the user is about to decide on what the history shows.
-bool isUserDeciding()
-{
-    return refhost::isQuestionOpen() || QApplication::activePopupWidget() ||
-           QApplication::mouseButtons() != Qt::NoButton;
-}
-
 } // namespace
 
 HistoryArea::HistoryArea(PluginHandle &plugin, const QString &storeFile, QWidget *parent)
@@ -44,6 +39,7 @@ HistoryArea::HistoryArea(PluginHandle &plugin, const QString &storeFile, QWidget
     , m_changeTimer(this)
     , m_watch(m_storePath, this)
     , m_watchTimer(this)
+    , m_loadedZone(QTimeZone::systemTimeZoneId())
 {
     connect(&m_watchTimer, &QTimer::timeout, this, &HistoryArea::keepUpToDate);
     connect(&m_watch, &HistoryWatch::seen, this, &HistoryArea::compareWith);
@@ -84,10 +80,8 @@ void HistoryArea::setFilter(const HistoryFilter &filter)
     if (!m_selection)
         return;
     applyFilter();
-    if (table()->currentIndex().isValid())
-        table()->scrollTo(table()->currentIndex());
-    else
-        table()->scrollToTop();
+    if (!m_selection->isAtWork())
+        endFiltering();
 }
 
 void HistoryArea::showFinishedConnection()
@@ -155,13 +149,14 @@ void HistoryArea::adopt(QTableWidget &table)
     m_selection = new VisibleSelection(table);
     table.setSelectionModel(m_selection);
     delete former;
-    new DeleteAllGuard(table);
+    new DeleteAllGuard(table, *m_selection);
     // The arrow keys go from cell to cell, and Tab to what stands around the table.
     table.setTabKeyNavigation(false);
     connect(m_selection, &QItemSelectionModel::selectionChanged, &table,
             &QTableWidget::itemSelectionChanged);
     connect(m_selection, &QItemSelectionModel::selectionChanged, &m_changeTimer,
             QOverload<>::of(&QTimer::start));
+    connect(m_selection, &VisibleSelection::finished, this, &HistoryArea::endFiltering);
     connect(table.model(), &QAbstractItemModel::rowsRemoved, this, &HistoryArea::forgetRows);
     retranslate();
 }
@@ -179,8 +174,11 @@ void HistoryArea::sortTable()
     adopt(*table());
     // What hides a row is what it shows, not its place.
     m_selection->showAll();
+    m_selection->finish();
     m_shown = ShownConnections(sortRows(*table(), m_order, TrueValues::readFrom(m_storePath)));
     applyFilter();
+    m_selection->finish();
+    emit changed();
 }
 
 void HistoryArea::applyFilter()
@@ -188,8 +186,17 @@ void HistoryArea::applyFilter()
     if (m_filter.isEverything())
         m_selection->showAll();
     else
-        m_selection->showOnly(matchingRows(*table(), m_shown, m_filter));
+        m_selection->showOnly(rowFilter(*table(), m_shown, m_filter));
+}
+
+/// At the top if no row is current.
+void HistoryArea::endFiltering()
+{
     emit changed();
+    if (table()->currentIndex().isValid())
+        table()->scrollTo(table()->currentIndex());
+    else
+        table()->scrollToTop();
 }
 
 /// The plug-in deletes in one go, after which timers come to their turn.
@@ -216,6 +223,7 @@ void HistoryArea::forgetRows(const QModelIndex & /*parent*/, int first, int last
 void HistoryArea::load(const std::function<void()> &loadRows)
 {
     m_loadedFor.reset();
+    m_loadedZone = QTimeZone::systemTimeZoneId();
     if (!table()) {
         loadRows();
         return;
@@ -235,6 +243,9 @@ void HistoryArea::keepUpToDate()
         return;
     if (m_isFinishedConnectionDue)
         showFinishedConnection();
+    // Rows show the times of the zone that they were loaded in.
+    if (m_loadedZone != QTimeZone::systemTimeZoneId())
+        refresh();
     m_shownWhenAsked = m_shown.fingerprint();
     m_watch.look();
 }

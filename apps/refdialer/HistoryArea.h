@@ -7,6 +7,7 @@
 #include "HistoryWatch.h"
 #include "ShownConnections.h"
 
+#include <QByteArray>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
@@ -78,6 +79,7 @@ private:
     void sortTable();
     void applyFilter();
     void announceDeletion();
+    void endFiltering();
     void forgetRows(const QModelIndex &parent, int first, int last);
     void load(const std::function<void()> &loadRows);
     void keepUpToDate();
@@ -95,6 +97,7 @@ private:
     QTimer m_watchTimer;
     quint64 m_shownWhenAsked = 0;       ///< the fingerprint of what was shown then
     std::optional<quint64> m_loadedFor; ///< the store's fingerprint that made it load
+    QByteArray m_loadedZone;            ///< of local time, when it loaded
     bool m_isFinishedConnectionDue = false;
 };
 

@@ -101,17 +101,15 @@ bool operator==(const HistoryFilter &a, const HistoryFilter &b)
     return fields(a) == fields(b);
 }
 
-std::vector<bool> matchingRows(const QTableWidget &table, const ShownConnections &shown,
-                               const HistoryFilter &filter)
+RowFilter rowFilter(const QTableWidget &table, const ShownConnections &shown,
+                    const HistoryFilter &filter)
 {
-    ProfileFilter profiles(filter.profile);
-    const DayFilter days(filter.firstDay, filter.lastDay);
-    std::vector<bool> matching(std::size_t(table.rowCount()));
-    for (int row = 0; row < table.rowCount(); ++row) {
-        matching[std::size_t(row)] = shown.values(row).connectedSeconds >= filter.shortestSeconds &&
-                                     profiles.matches(table, row) && days.matches(table, row);
-    }
-    return matching;
+    return [&table, &shown, shortest = filter.shortestSeconds,
+            profiles = ProfileFilter(filter.profile),
+            days = DayFilter(filter.firstDay, filter.lastDay)](int row) mutable {
+        return shown.values(row).connectedSeconds >= shortest && profiles.matches(table, row) &&
+               days.matches(table, row);
+    };
 }
 
 } // namespace refdialer

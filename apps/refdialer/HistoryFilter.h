@@ -4,7 +4,7 @@
 #include <QDate>
 #include <QString>
 
-#include <vector>
+#include <functional>
 
 class QTableWidget;
 
@@ -27,8 +27,10 @@ struct HistoryFilter {
 
 bool operator==(const HistoryFilter &a, const HistoryFilter &b);
 
-/// Whether the filter lists each row of the plug-in's table.
-std::vector<bool> matchingRows(const QTableWidget &table, const ShownConnections &shown,
-                               const HistoryFilter &filter);
+/// Tells of a row whether it is listed.
+using RowFilter = std::function<bool(int row)>;
+/// Of the rows of the plug-in's table, as long as that and what it shows are there.
+RowFilter rowFilter(const QTableWidget &table, const ShownConnections &shown,
+                    const HistoryFilter &filter);
 
 } // namespace refdialer

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "HistorySearch.h"
 
+#include "UserDecision.h"
+#include "usage/LocalDays.h"
+
 #include <QComboBox>
 #include <QDateEdit>
 #include <QEvent>
@@ -11,11 +14,16 @@
 #include <QShortcut>
 #include <QStyle>
 
+#include <chrono>
+#include <utility>
+
 namespace refdialer
 {
 
 namespace
 {
+
+constexpr std::chrono::seconds lookInterval(1);
 
 // As the box lists them.
 enum Days { AllDays, ThisMonth, LastMonth, ThisYear, ChosenDays };
@@ -41,8 +49,9 @@ QString dayFormat(const QLocale &locale)
 
 } // namespace
 
-HistorySearch::HistorySearch(QWidget *parent)
+HistorySearch::HistorySearch(std::unique_ptr<recorder::SystemClock> clock, QWidget *parent)
     : QWidget(parent)
+    , m_clock(std::move(clock))
     , m_profile(new QLineEdit)
     , m_daysLabel(new QLabel)
     , m_days(new QComboBox)
@@ -55,18 +64,20 @@ HistorySearch::HistorySearch(QWidget *parent)
     m_profile->setClearButtonEnabled(true);
     m_daysLabel->setBuddy(m_days);
     m_toLabel->setBuddy(m_last);
-    const QDate today = QDate::currentDate();
+    const QDate today = usage::localDay(m_clock->utcSeconds());
     m_first->setDate(firstOfMonth(today));
     m_last->setDate(today);
     showDayEdits();
     retranslate();
-    connect(m_profile, &QLineEdit::textChanged, this, &HistorySearch::changed);
+    connect(m_profile, &QLineEdit::textChanged, this, &HistorySearch::tell);
     connect(m_days, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
         showDayEdits();
-        emit changed();
+        tell();
     });
     for (const QDateEdit *const day : {m_first, m_last})
-        connect(day, &QDateEdit::dateChanged, this, &HistorySearch::changed);
+        connect(day, &QDateEdit::dateChanged, this, &HistorySearch::tell);
+    connect(&m_timer, &QTimer::timeout, this, &HistorySearch::look);
+    m_timer.start(lookInterval);
     auto *const escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, &HistorySearch::end);
@@ -76,7 +87,7 @@ HistoryFilter HistorySearch::filter() const
 {
     HistoryFilter filter;
     filter.profile = m_profile->text();
-    const QDate today = QDate::currentDate();
+    const QDate today = usage::localDay(m_clock->utcSeconds());
     switch (m_days->currentIndex()) {
     case ThisMonth:
         filter.firstDay = firstOfMonth(today);
@@ -98,6 +109,18 @@ HistoryFilter HistorySearch::filter() const
         break;
     }
     return filter;
+}
+
+void HistorySearch::look()
+{
+    if (!isUserDeciding() && !(filter() == m_told))
+        tell();
+}
+
+void HistorySearch::tell()
+{
+    m_told = filter();
+    emit changed();
 }
 
 void HistorySearch::clear()

@@ -2,8 +2,12 @@
 #pragma once
 
 #include "HistoryFilter.h"
+#include "recorder/SystemClock.h"
 
+#include <QTimer>
 #include <QWidget>
+
+#include <memory>
 
 class QComboBox;
 class QDateEdit;
@@ -20,10 +24,15 @@ class HistorySearch : public QWidget
     Q_OBJECT
 
 public:
-    explicit HistorySearch(QWidget *parent = nullptr);
+    explicit HistorySearch(
+        std::unique_ptr<recorder::SystemClock> clock = std::make_unique<recorder::SystemClock>(),
+        QWidget *parent = nullptr);
 
     /// What the line says, as of today.
     HistoryFilter filter() const;
+    /// Looks whether that is something else now: another month has begun, or the clock or the
+    /// time zone has been changed. It does so each second.
+    void look();
     /// Lists all connections again.
     void clear();
     /// Takes the keyboard, to type a profile.
@@ -44,7 +53,11 @@ private:
     void showDayEdits();
     void retranslate();
     void end();
+    void tell();
 
+    const std::unique_ptr<recorder::SystemClock> m_clock;
+    QTimer m_timer;
+    HistoryFilter m_told; ///< of the last changed()
     QLineEdit *m_profile;
     QLabel *m_daysLabel;
     QComboBox *m_days;

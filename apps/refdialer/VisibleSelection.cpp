@@ -5,11 +5,17 @@
 
 #include <QTableView>
 
+#include <algorithm>
+#include <utility>
+
 namespace refdialer
 {
 
 namespace
 {
+
+/// A few milliseconds' worth.
+constexpr int rowsInATurn = 2000;
 
 /// A range for each run of rows that belong to it.
 template <typename Belongs>
@@ -42,6 +48,12 @@ VisibleSelection::VisibleSelection(QTableView &table)
     , m_table(table)
     , m_rows(table.verticalHeader())
 {
+    connect(&m_timer, &QTimer::timeout, this, &VisibleSelection::takeTurn);
+    // Each place that is kept here is that of another row afterwards.
+    const QAbstractItemModel *const rows = table.model();
+    connect(rows, &QAbstractItemModel::rowsAboutToBeInserted, this, &VisibleSelection::finish);
+    connect(rows, &QAbstractItemModel::rowsAboutToBeRemoved, this, &VisibleSelection::finish);
+    connect(rows, &QAbstractItemModel::modelAboutToBeReset, this, &VisibleSelection::finish);
 }
 
 void VisibleSelection::select(const QItemSelection &selection,
@@ -50,41 +62,75 @@ void VisibleSelection::select(const QItemSelection &selection,
     QItemSelectionModel::select(visiblePartOf(selection), command);
 }
 
-void VisibleSelection::showOnly(const std::vector<bool> &isShown)
+void VisibleSelection::showOnly(RowFilter isShown)
 {
-    const auto staysShown = [&isShown](int row) { return isShown[std::size_t(row)]; };
-    const QItemSelection kept = runsOf(selection(), staysShown);
+    m_isShown = std::move(isShown);
+    m_next = 0;
+    m_end = model()->rowCount();
+    const QItemSelection kept = runsOf(selection(), m_isShown);
     // At once: to compare thousands of ranges with thousands of others takes seconds.
     clearSelection();
-    hideOthers(isShown);
     select(kept, Select);
-    if (currentIndex().isValid() && !staysShown(currentIndex().row()))
+    if (currentIndex().isValid() && !m_isShown(currentIndex().row()))
         clearCurrentIndex();
-}
-
-void VisibleSelection::hideOthers(const std::vector<bool> &isShown)
-{
-    // A header that draws itself looks for the place of each row that it hides, which
-    // takes a walk over all of them.
-    const UpdatesOff off(*m_rows);
-    for (int row = 0; row < int(isShown.size()); ++row) {
-        if (m_table.isRowHidden(row) == isShown[std::size_t(row)])
-            m_table.setRowHidden(row, !isShown[std::size_t(row)]);
-    }
-    m_table.doItemsLayout();
+    hideSome(rowsInATurn);
+    if (isAtWork())
+        m_timer.start(0);
+    else
+        m_timer.stop();
 }
 
 void VisibleSelection::showAll()
 {
-    if (m_rows->hiddenSectionCount() > 0)
-        showOnly(std::vector<bool>(std::size_t(model()->rowCount()), true));
+    if (hidesRows())
+        showOnly([](int) { return true; });
+}
+
+void VisibleSelection::finish()
+{
+    m_timer.stop();
+    if (m_rows && isAtWork())
+        hideSome(m_end);
+}
+
+bool VisibleSelection::hidesRows() const
+{
+    return isAtWork() || (m_rows && m_rows->hiddenSectionCount() > 0);
+}
+
+bool VisibleSelection::isToBeSeen(int row) const
+{
+    return !m_rows->isSectionHidden(row) && (!isAtWork() || m_isShown(row));
+}
+
+void VisibleSelection::takeTurn()
+{
+    hideSome(rowsInATurn);
+    if (isAtWork())
+        return;
+    m_timer.stop();
+    emit finished();
+}
+
+void VisibleSelection::hideSome(int mostRows)
+{
+    // A header that draws itself looks for the place of each row that it hides, which
+    // takes a walk over all of them.
+    const UpdatesOff off(*m_rows);
+    const int end = m_next + std::min(mostRows, m_end - m_next);
+    for (; m_next < end; ++m_next) {
+        const bool isHidden = !m_isShown(m_next);
+        if (m_table.isRowHidden(m_next) != isHidden)
+            m_table.setRowHidden(m_next, isHidden);
+    }
+    m_table.doItemsLayout();
 }
 
 QItemSelection VisibleSelection::visiblePartOf(const QItemSelection &selection) const
 {
-    if (!m_rows || m_rows->hiddenSectionCount() == 0)
+    if (!m_rows || !hidesRows())
         return selection;
-    return runsOf(selection, [this](int row) { return !m_rows->isSectionHidden(row); });
+    return runsOf(selection, [this](int row) { return isToBeSeen(row); });
 }
 
 } // namespace refdialer
