@@ -48,7 +48,6 @@ void PlanWarner::check()
     bool isAnyDue = false;
     withReachedPlans([this, &isAnyDue](const Store &store, const ReachedPlans &reached) {
         m_failure.clear();
-        tellOfReached(reached);
         if (!m_recorder.isRecording())
             return;
         for (const ReachedPlan &each : reached) {
@@ -104,16 +103,6 @@ void PlanWarner::withReachedPlans(Action action)
     if (!reached)
         return fail(reached.error());
     action(store.value(), reached.value());
-}
-
-void PlanWarner::tellOfReached(const ReachedPlans &reached)
-{
-    QStringList lines;
-    for (const ReachedPlan &each : reached)
-        lines.append(warningText(each, each.status.warnings.back()));
-    const QString text = lines.join(QLatin1Char('\n'));
-    if (std::exchange(m_reached, text) != text)
-        emit reachedPlansChanged(text);
 }
 
 void PlanWarner::tellOnce(const ReachedPlan &reached, int percent)

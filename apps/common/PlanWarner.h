@@ -47,18 +47,12 @@ public:
                QObject *parent = nullptr);
     ~PlanWarner() override;
 
-public slots:
-    /// Another program's recorder, which warns by itself, may have written bytes.
-    void requestCheck();
-
 signals:
     /// It has looked at the plans.
     void checked();
     /// A warning that nobody has been given in this period, in one line; told once by this
     /// object, whether there is a notification service or not.
     void warned(const QString &text);
-    /// All plans that have reached a percentage in their present period, a line for each.
-    void reachedPlansChanged(const QString &lines);
     /// Why plans cannot be looked at; once for each new reason.
     void failed(const QString &reason);
 
@@ -67,13 +61,13 @@ private:
     /// Plan, first day of the period, percentage and the amount it is of.
     using Warning = std::tuple<std::int64_t, history::JulianDay, int, std::int64_t>;
 
+    void requestCheck();
     void check();
     void warn();
     void lookForService();
     /// Unless the store cannot be read.
     template <typename Action>
     void withReachedPlans(Action action);
-    void tellOfReached(const ReachedPlans &reached);
     void tellOnce(const usage::ReachedPlan &reached, int percent);
     void fail(const history::StoreError &error);
 
@@ -83,7 +77,6 @@ private:
     const QString m_busAddress;
     std::unique_ptr<NotificationService> m_service; ///< once there was something to warn of
     std::set<Warning> m_told;
-    QString m_reached;
     std::string m_failure;
 };
 

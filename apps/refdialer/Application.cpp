@@ -126,7 +126,6 @@ void Application::restartRecorder()
     QCoreApplication::sendPostedEvents(&m_state);
     m_state.setWatched(false);
     m_state.setProblem(QString());
-    m_state.setPlanWarning(QString());
     startRecorder();
 }
 

@@ -76,10 +76,4 @@ void LineState::endFollowed()
         emit disconnected();
 }
 
-void LineState::setPlanWarning(const QString &lines)
-{
-    m_planWarning = lines;
-    emit changed();
-}
-
 } // namespace refdialer

@@ -31,9 +31,6 @@ public:
     /// Why connections are not recorded as they should be, a sentence for the
     /// user; empty if they are.
     QString problem() const { return isFollowing() ? m_followed.problem : m_problem; }
-    /// Which data plans are used up to a percentage to warn at, a line for each; empty if
-    /// none is.
-    QString planWarning() const { return m_planWarning; }
 
     // What this program's own recorder does.
 
@@ -44,7 +41,6 @@ public:
     void end(qint64 id);
     /// With an empty text it is over.
     void setProblem(const QString &problem);
-    void setPlanWarning(const QString &lines);
 
     // What another program's recorder does.
 
@@ -63,7 +59,6 @@ private:
     QMap<qint64, recorder::ConnectionState> m_connections; ///< by id
     QString m_problem;
     recorder::RecorderState m_followed;
-    QString m_planWarning;
 };
 
 } // namespace refdialer

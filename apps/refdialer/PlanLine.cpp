@@ -12,6 +12,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStyle>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -23,10 +24,19 @@ using usage::StandingPlan;
 namespace
 {
 
-/// More would leave the history too little room; they are in the dialog.
+/// More would leave the history too little room; the others are in the dialog.
 constexpr std::size_t mostLines = 3;
 constexpr int charactersInName = 24;
 constexpr int charactersInBar = 16;
+
+/// All that have reached a warning: nothing else in the window tells of it.
+std::size_t linesFor(const std::vector<StandingPlan> &plans)
+{
+    const auto reached = std::count_if(plans.begin(), plans.end(), [](const auto &plan) {
+        return usage::stateOf(plan) >= usage::PlanState::Warned;
+    });
+    return std::max(std::min(plans.size(), mostLines), std::size_t(reached));
+}
 
 std::vector<StandingPlan> worstFirst(std::vector<StandingPlan> plans)
 {
@@ -66,21 +76,23 @@ QLabel *newAlarm()
 PlanLine::PlanLine(const PlanWatch &plans, QWidget *parent)
     : QWidget(parent)
     , m_plans(plans)
-    , m_layout(new QGridLayout(this))
+    , m_lines(new QGridLayout)
     , m_all(new QPushButton)
     , m_offer(new PlanOffer)
     , m_problem(new ElidedLabel(Qt::ElideRight))
 {
     const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
-    m_layout->setContentsMargins(margin, margin / 2, margin, 0);
-    m_layout->setHorizontalSpacing(margin);
-    m_layout->setVerticalSpacing(margin / 4);
-    m_layout->setColumnStretch(3, 1);
+    m_lines->setHorizontalSpacing(margin);
+    m_lines->setVerticalSpacing(margin / 4);
+    m_lines->setColumnStretch(3, 1);
     m_problem->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    int line = int(mostLines);
-    m_layout->addWidget(m_all, line++, 0, 1, 4, Qt::AlignLeft);
-    for (QWidget *const each : {static_cast<QWidget *>(m_offer), static_cast<QWidget *>(m_problem)})
-        m_layout->addWidget(each, line++, 0, 1, 4);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin / 2, margin, 0);
+    layout->setSpacing(margin / 4);
+    layout->addLayout(m_lines);
+    layout->addWidget(m_all, 0, Qt::AlignLeft);
+    layout->addWidget(m_offer);
+    layout->addWidget(m_problem);
     connect(m_all, &QPushButton::clicked, this, &PlanLine::plansWanted);
     connect(m_offer, &PlanOffer::accepted, this, &PlanLine::planWanted);
     connect(m_offer, &PlanOffer::declined, this, &PlanLine::showPlans);
@@ -100,7 +112,7 @@ void PlanLine::showPlans()
 {
     setAccessibleName(tr("Data plans"));
     const std::vector<StandingPlan> plans = worstFirst(m_plans.plans());
-    const std::size_t shown = std::min(plans.size(), mostLines);
+    const std::size_t shown = linesFor(plans);
     while (m_rows.size() < shown)
         addRow();
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
@@ -124,7 +136,7 @@ void PlanLine::addRow()
     const int line = int(m_rows.size());
     int column = 0;
     for (QWidget *const widget : widgetsOf(row))
-        m_layout->addWidget(widget, line, column++);
+        m_lines->addWidget(widget, line, column++);
     m_rows.push_back(row);
 }
 

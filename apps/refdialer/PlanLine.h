@@ -24,8 +24,9 @@ class PlanOffer;
 class PlanWatch;
 
 /// What is left of the data plans, a line for each: first those that are spent, then those
-/// that are nearly so. Without a plan it offers to make one, once there is a history and unless
-/// the user does not want that; else it takes no room.
+/// that are nearly so, all of them, and then as many others as there is room for. Without a plan it
+/// offers to make one, once there is a history and unless the user does not want that; else it
+/// takes no room.
 class PlanLine : public QWidget
 {
     Q_OBJECT
@@ -57,7 +58,7 @@ private:
     static void hideRow(const Row &row);
 
     const PlanWatch &m_plans;
-    QGridLayout *m_layout;
+    QGridLayout *m_lines;
     std::vector<Row> m_rows; ///< some may be hidden
     QPushButton *m_all;      ///< shown if there are more plans than lines
     PlanOffer *m_offer;

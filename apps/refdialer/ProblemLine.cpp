@@ -18,10 +18,8 @@ ProblemLine::ProblemLine(const LineState &state, QWidget *parent)
     // A long path in it must not keep the window from becoming narrower.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     const auto show = [this, &state] {
-        QStringList lines{state.problem(), state.planWarning()};
-        lines.removeAll(QString());
-        setText(lines.join(QLatin1Char('\n')));
-        setVisible(!lines.isEmpty());
+        setText(state.problem());
+        setVisible(!state.problem().isEmpty());
     };
     connect(&state, &LineState::changed, this, show);
     show();

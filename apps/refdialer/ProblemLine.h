@@ -8,9 +8,8 @@ namespace refdialer
 
 class LineState;
 
-/// Says why connections are not recorded as they should be, and which data plans are nearly
-/// used up, as long as that is so. It stands below the history, which therefore stays in its
-/// place.
+/// Says why connections are not recorded as they should be, as long as that is so. It stands
+/// below the history, which therefore stays in its place.
 class ProblemLine : public QLabel
 {
 public:

@@ -80,13 +80,8 @@ bool Recording::startOnItsThread()
 void Recording::warnOfPlans()
 {
     m_planWarner = std::make_unique<common::PlanWarner>(*m_recorder, m_storePath);
-    QObject::connect(m_planWarner.get(), &common::PlanWarner::reachedPlansChanged, &m_state,
-                     &LineState::setPlanWarning);
     QObject::connect(m_planWarner.get(), &common::PlanWarner::failed, &m_state,
                      [](const QString &reason) { qWarning("%s", qUtf8Printable(reason)); });
-    // The other program warns; the window shows it too.
-    QObject::connect(m_client.get(), &RecorderClient::changed, m_planWarner.get(),
-                     &common::PlanWarner::requestCheck);
 }
 
 /// Who misses this recorder on the bus finds everything in the store.

@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include <utility>
+
 namespace refdialer
 {
 
@@ -112,9 +114,13 @@ void SettingsDialog::offerBackground()
     m_background->look();
 }
 
+/// One order at a time. The box is not disabled meanwhile: it would lose the keyboard.
 void SettingsDialog::chooseBackground(bool isWanted)
 {
-    m_backgroundBox->setEnabled(false);
+    if (std::exchange(m_isBackgroundOrdered, true)) {
+        m_backgroundBox->setChecked(!isWanted);
+        return;
+    }
     if (isWanted)
         m_background->turnOn();
     else
@@ -125,7 +131,7 @@ void SettingsDialog::chooseBackground(bool isWanted)
 void SettingsDialog::tellOutcome(BackgroundUnit::Outcome outcome, const QString &reason)
 {
     m_answer = Answer{outcome, reason};
-    m_backgroundBox->setEnabled(true);
+    m_isBackgroundOrdered = false;
     m_background->look();
     retranslate();
 }

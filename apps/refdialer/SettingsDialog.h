@@ -58,6 +58,7 @@ private:
 
     BackgroundUnit *const m_background;
     std::optional<Answer> m_answer;
+    bool m_isBackgroundOrdered = false; ///< and not answered yet
     QCheckBox *m_summaryBox;
     QCheckBox *m_backgroundBox;
     QLabel *m_backgroundLabel; ///< shown only when there is something to say

@@ -69,6 +69,11 @@ QList<qint64> HistoryWindow::storedKeys() const
     return keys;
 }
 
+QString HistoryWindow::pluginFile()
+{
+    return QStringLiteral(PLUGIN_FILE);
+}
+
 bool HistoryWindow::runSql(const std::string &sql) const
 {
     return SQLite::Database(m_storePath, SQLite::OPEN_READWRITE).tryExec(sql) == SQLite::OK;
@@ -78,7 +83,7 @@ bool HistoryWindow::open(bool hasDialupService)
 {
     if (hasDialupService)
         m_container.add(m_service.classId(), m_service.root());
-    m_plugin = refdialer::PluginHandle::load(PLUGIN_FILE);
+    m_plugin = refdialer::PluginHandle::load(pluginFile());
     if (!m_plugin->start())
         return false;
     m_window = std::make_unique<refdialer::MainWindow>(

@@ -35,6 +35,7 @@ public:
     bool store(const std::vector<history::Connection> &connections) const;
     QStringList storedProfiles() const;
     QList<qint64> storedKeys() const;
+    static QString pluginFile();
     /// Runs SQL on the store, as another program would.
     bool runSql(const std::string &sql) const;
 

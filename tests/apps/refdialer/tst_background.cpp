@@ -64,6 +64,7 @@ private slots:
     void saysThatThereIsNoSystemd();
     void saysThatThereIsNoBus();
 
+    void isOfferedWithoutConnections();
     void isASetting();
     void isNoSettingForAnotherHistory();
 
@@ -76,7 +77,7 @@ private slots:
 
 private:
     QString outcomeText(void (BackgroundUnit::*order)());
-    void openWindow();
+    void openWindow(const std::vector<history::Connection> &connections = {connection("a", 0)});
     void connectLine() { m_history->state().begin(lasting()); }
     static recorder::ConnectionState lasting();
     bool closeAnswering(const QString &button, bool isToBeRemembered = false);
@@ -203,21 +204,50 @@ void TestBackground::isASetting()
         });
     };
     dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
     QTRY_VERIFY(box->isChecked());
+    box->setFocus();
     box->click();
+    box->click(); // while the service is being stopped, which is not undone
+    QVERIFY(box->hasFocus() && !box->isChecked());
     QTRY_VERIFY(says("has been stopped"));
     QVERIFY(!m_systemd->isEnabled);
-    QTRY_VERIFY(box->isEnabled() && !box->isChecked());
+    QTRY_VERIFY(!box->isChecked());
     m_systemd->errors = {{"EnableUnitFiles", "org.freedesktop.DBus.Error.FileNotFound"}};
     box->click();
     QTRY_VERIFY(says("is not installed"));
     // It shows what is so.
-    QTRY_VERIFY(box->isEnabled() && !box->isChecked());
+    QTRY_VERIFY(!box->isChecked());
     m_systemd->errors.clear();
     box->click();
     QTRY_VERIFY(says("is enabled and runs"));
     QTRY_VERIFY(box->isChecked());
     QVERIFY(m_systemd->isRunning);
+}
+
+void TestBackground::isOfferedWithoutConnections()
+{
+    openWindow({});
+    QPushButton *offer = nullptr;
+    for (auto *const each : m_history->window().findChildren<QPushButton *>()) {
+        if (each->text() == "&Record in the background")
+            offer = each;
+    }
+    QVERIFY(offer);
+    QTRY_VERIFY(offer->isVisible());
+    QString told;
+    QTimer whenTold;
+    connect(&whenTold, &QTimer::timeout, this, [&told] {
+        if (auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            told = box->text();
+            box->close();
+        }
+    });
+    whenTold.start();
+    offer->click();
+    QTRY_VERIFY2(told.contains("is enabled and runs"), qPrintable(told));
+    QVERIFY(m_systemd->isEnabled && m_systemd->isRunning);
+    QVERIFY(!offer->isVisible());
 }
 
 void TestBackground::isNoSettingForAnotherHistory()
@@ -231,12 +261,12 @@ void TestBackground::isNoSettingForAnotherHistory()
 }
 
 /// On what counts as the user's own history.
-void TestBackground::openWindow()
+void TestBackground::openWindow(const std::vector<history::Connection> &connections)
 {
     qputenv("HOME", m_home->path().toLocal8Bit());
     const QString folder = m_home->filePath(".local/share/refdialer");
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(m_history->store({connection("first", 0)}));
+    QVERIFY(m_history->store(connections));
     QVERIFY(
         QFile::link(QString::fromStdString(m_history->storePath()), folder + "/connections.db"));
     QVERIFY(m_history->open());

@@ -1,26 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "BusClient.h"
 #include "HistoryWindow.h"
+#include "MenuEntry.h"
 #include "NetworkNamespace.h"
 #include "NotificationDaemon.h"
 #include "PrivateBus.h"
 #include "ShownText.h"
 #include "TunDevice.h"
 #include "VethPair.h"
+#include "apps/refdialer/Application.h"
 #include "apps/refdialer/Recording.h"
+#include "apps/refdialer/RecordingSettings.h"
 #include "apps/refdialer/StateLine.h"
 #include "apps/refdialer/SummaryChoice.h"
 #include "recorder/bus/RecorderService.h"
 
+#include "CommonUtils.h"
 #include "ExtendDialog.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScopeGuard>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
 
@@ -46,12 +52,14 @@ private slots:
     void showsADeletedInterfacesConnection();
     void showsWhatAnEarlierRunLeftOpen();
     void recordsANamedInterface();
+    void recordsWhatIsChosenInTheSettings();
     void saysWhyItCannotRecord();
     void tellsOnTheSessionBusWhatItRecords();
     void warnsOfADataPlan();
 
 private:
     bool start(const QStringList &interfaceNames = {});
+    QString storeFile() const { return QString::fromStdString(m_history->storePath()); }
     QString line() const;
     QStringList summary() const;
 
@@ -91,9 +99,8 @@ void TestLiveRecording::cleanup()
 /// In the order of the program: the plug-in reads what the recording has settled.
 bool TestLiveRecording::start(const QStringList &interfaceNames)
 {
-    m_recording =
-        std::make_unique<refdialer::Recording>(QString::fromStdString(m_history->storePath()),
-                                               interfaceNames, QString(), m_history->state());
+    m_recording = std::make_unique<refdialer::Recording>(storeFile(), interfaceNames, QString(),
+                                                         m_history->state());
     m_recording->start();
     return m_history->open();
 }
@@ -190,16 +197,43 @@ void TestLiveRecording::recordsANamedInterface()
     QVERIFY2(line().contains("far0 | connected since "), qPrintable(line()));
 }
 
+/// The whole program, whose recorder starts anew and resumes what lasts.
+void TestLiveRecording::recordsWhatIsChosenInTheSettings()
+{
+    const VethPair pair;
+    QVERIFY(pair.goUp());
+    refdialer::Options options;
+    options.storeFile = storeFile();
+    options.pluginFile = HistoryWindow::pluginFile();
+    options.hasDialupService = false;
+    QTimer::singleShot(0, this, [this] {
+        const auto quit = qScopeGuard([] { QCoreApplication::quit(); });
+        const auto &window = *qobject_cast<QMainWindow *>(CommonUtils::GetMainWindow());
+        const auto &line = *window.findChild<refdialer::StateLine *>();
+        QTRY_VERIFY(shownText(line).startsWith("wwan0 | connected since "));
+        QTimer::singleShot(0, this, [&window] {
+            auto *const settings = window.findChild<refdialer::RecordingSettings *>();
+            settings->findChild<QLineEdit *>()->setText("far0");
+            settings->window()->close();
+        });
+        menuEntry(window, {"File", "Settings…"})->trigger();
+        QTRY_VERIFY(shownText(line).contains("far0 | connected since "));
+        QVERIFY(shownText(line).contains("wwan0 | connected since "));
+    });
+    refdialer::Application(options).run();
+    const auto store = history::Store::openForReading(m_history->storePath());
+    QCOMPARE(store.value().listOpen().value().size(), std::size_t(2));
+    QVERIFY(m_history->storedProfiles().isEmpty());
+}
+
 void TestLiveRecording::saysWhyItCannotRecord()
 {
-    QVERIFY(QDir().mkpath(QString::fromStdString(m_history->storePath())));
-    m_recording =
-        std::make_unique<refdialer::Recording>(QString::fromStdString(m_history->storePath()),
-                                               QStringList(), QString(), m_history->state());
+    QVERIFY(QDir().mkpath(storeFile()));
+    m_recording = std::make_unique<refdialer::Recording>(storeFile(), QStringList(), QString(),
+                                                         m_history->state());
     m_recording->start();
     QVERIFY(!m_history->state().isWatched());
-    QTRY_VERIFY(
-        m_history->state().problem().contains(QString::fromStdString(m_history->storePath())));
+    QTRY_VERIFY(m_history->state().problem().contains(storeFile()));
 }
 
 void TestLiveRecording::tellsOnTheSessionBusWhatItRecords()
@@ -209,8 +243,7 @@ void TestLiveRecording::tellsOnTheSessionBusWhatItRecords()
     QVERIFY(bus.start());
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
     const auto restore = qScopeGuard([] { qunsetenv("DBUS_SESSION_BUS_ADDRESS"); });
-    BusClient client(bus.address(), recorder::RecorderService::nameFor(
-                                        QString::fromStdString(m_history->storePath())));
+    BusClient client(bus.address(), recorder::RecorderService::nameFor(storeFile()));
     const VethPair pair;
     QVERIFY(start());
     QTRY_VERIFY(client.isServiceThere());
@@ -244,8 +277,8 @@ void TestLiveRecording::warnsOfADataPlan()
     const QString title = "80 % of the data plan \"home\" used";
     constexpr int checkpointTimeout = 30000;
     QTRY_COMPARE_WITH_TIMEOUT(desktop.titles(), QStringList(title), checkpointTimeout);
-    // The line below the history shows this.
-    QTRY_VERIFY(m_history->state().planWarning().startsWith(title + ": "));
+    // The line of the plan shows it; it is no problem beside.
+    QVERIFY(m_history->state().problem().isEmpty());
 }
 
 // The network has to be entered before there is a second thread.

@@ -260,6 +260,11 @@ void TestPlanLine::showsTheWorstOfManyPlans()
     QSignalSpy wanted(m_line.get(), &PlanLine::plansWanted);
     press(*m_line, "All data plans…");
     QCOMPARE(wanted.size(), 1);
+    for (const char *const name : {"a", "b", "c"})
+        QVERIFY(m_store->removePlan(name));
+    for (const char *const name : {"e", "f", "g"})
+        QVERIFY(m_store->setPlan(planCalled(name, megabyte)));
+    QCOMPARE(shown().count("|Used up|"), 4);
 }
 
 void TestPlanLine::followsTheRunningConnection()
