@@ -323,7 +323,11 @@ void TestRefdialer::cleansUpWhenItIsTerminated()
     QByteArray log;
     // The window stands when the plug-in has been fitted to it.
     QTRY_VERIFY(log.append(program.readAll()).contains("FitSize"));
-    QVERIFY(!QDir(path("temporary")).isEmpty());
+    const QStringList folders = QDir(path("temporary")).entryList({"refdialer-demo-*"});
+    QCOMPARE(folders.size(), 1);
+    const QString sample = path("temporary/" + folders.first() + "/connections.db");
+    const auto store = history::Store::openForReading(sample.toStdString());
+    QCOMPARE(store.value().plans().value().size(), std::size_t(1)); // to try them out
     program.terminate();
     QVERIFY(program.waitForFinished());
     log.append(program.readAll());
