@@ -2,6 +2,7 @@
 #include "PastPeriodsDialog.h"
 
 #include "PlanWatch.h"
+#include "SizeDelegate.h"
 #include "usage/SizeText.h"
 
 #include <QClipboard>
@@ -74,6 +75,7 @@ PastPeriodsDialog::PastPeriodsDialog(PlanWatch &plans, std::int64_t planKey, QWi
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false);
+    SizeDelegate::showSizesIn(*m_table, 2, 4);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_table->setMinimumWidth(leastWidth(*m_table));
     m_message->setTextFormat(Qt::PlainText);

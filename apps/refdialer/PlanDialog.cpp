@@ -5,6 +5,7 @@
 #include "PlanEditor.h"
 #include "PlanText.h"
 #include "PlanWatch.h"
+#include "SizeDelegate.h"
 #include "usage/SizeText.h"
 
 #include <QHBoxLayout>
@@ -66,6 +67,7 @@ PlanDialog::PlanDialog(PlanWatch &plans, QWidget *parent)
     m_list->setAccessibleName(tr("Data plans"));
     m_list->setHeaderLabels({tr("Plan"), tr("Amount"), tr("Period")});
     m_list->setRootIsDecorated(false);
+    SizeDelegate::showSizesIn(*m_list, 1, 2);
     m_list->setAllColumnsShowFocus(true);
     m_list->setUniformRowHeights(true);
     m_list->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);

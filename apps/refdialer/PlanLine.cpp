@@ -57,8 +57,16 @@ QProgressBar *newBar()
 {
     auto *const bar = new QProgressBar;
     bar->setRange(0, 100);
+    bar->setTextVisible(false);
     bar->setFixedWidth(charactersInBar * bar->fontMetrics().averageCharWidth());
     return bar;
+}
+
+QLabel *newPercent()
+{
+    auto *const label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    return label;
 }
 
 QLabel *newAlarm()
@@ -84,7 +92,7 @@ PlanLine::PlanLine(const PlanWatch &plans, QWidget *parent)
     const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
     m_lines->setHorizontalSpacing(margin);
     m_lines->setVerticalSpacing(margin / 4);
-    m_lines->setColumnStretch(3, 1);
+    m_lines->setColumnStretch(4, 1);
     m_problem->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin / 2, margin, 0);
@@ -132,7 +140,7 @@ void PlanLine::showPlans()
 
 void PlanLine::addRow()
 {
-    const Row row{newName(), newBar(), newAlarm(), new ElidedLabel(Qt::ElideRight)};
+    const Row row{newName(), newBar(), newPercent(), newAlarm(), new ElidedLabel(Qt::ElideRight)};
     const int line = int(m_rows.size());
     int column = 0;
     for (QWidget *const widget : widgetsOf(row))
@@ -140,9 +148,9 @@ void PlanLine::addRow()
     m_rows.push_back(row);
 }
 
-std::array<QWidget *, 4> PlanLine::widgetsOf(const Row &row)
+std::array<QWidget *, 5> PlanLine::widgetsOf(const Row &row)
 {
-    return {row.name, row.bar, row.alarm, row.figures};
+    return {row.name, row.bar, row.percent, row.alarm, row.figures};
 }
 
 void PlanLine::hideRow(const Row &row)
@@ -163,10 +171,11 @@ void PlanLine::showPlan(const Row &row, const StandingPlan &plan) const
     row.name->setText(name);
     row.name->show();
     row.bar->setValue(std::min(percent.value_or(0), row.bar->maximum()));
-    row.bar->setFormat(tr("%1 %").arg(percent.value_or(0)));
     row.bar->setAccessibleName(tr("Used of the data plan \"%1\"").arg(name));
     row.bar->setAccessibleDescription(details);
     row.bar->setVisible(percent.has_value());
+    row.percent->setText(tr("%1 %").arg(percent.value_or(0)));
+    row.percent->setVisible(percent.has_value());
     row.alarm->setText(alarm);
     row.alarm->setVisible(!alarm.isEmpty());
     row.figures->setText(figures);

@@ -47,6 +47,7 @@ private:
     struct Row {
         ElidedLabel *name;
         QProgressBar *bar; ///< shown for plans with an amount
+        QLabel *percent;   ///< too; beside the bar, over which no colour is readable everywhere
         QLabel *alarm;     ///< shown if there is one
         ElidedLabel *figures;
     };
@@ -54,7 +55,7 @@ private:
     void showPlans();
     void addRow();
     void showPlan(const Row &row, const usage::StandingPlan &plan) const;
-    static std::array<QWidget *, 4> widgetsOf(const Row &row);
+    static std::array<QWidget *, 5> widgetsOf(const Row &row);
     static void hideRow(const Row &row);
 
     const PlanWatch &m_plans;

@@ -2,6 +2,7 @@
 #include "UsagePage.h"
 
 #include "PeriodRow.h"
+#include "SizeDelegate.h"
 #include "UsageChart.h"
 #include "UsageModel.h"
 #include "UsageReader.h"
@@ -31,13 +32,6 @@ namespace
 {
 
 constexpr std::chrono::seconds lookInterval(1);
-
-QPushButton *button(QBoxLayout &layout)
-{
-    auto *const made = new QPushButton;
-    layout.addWidget(made);
-    return made;
-}
 
 QComboBox *comboBox(QBoxLayout &layout, QLabel *&label)
 {
@@ -74,6 +68,8 @@ UsagePage::UsagePage(const std::string &storePath, QWidget *parent)
     , m_model(new UsageModel(this))
     , m_sum(figuresLabel())
     , m_details(figuresLabel())
+    , m_copyTextButton(new QPushButton)
+    , m_copyPictureButton(new QPushButton)
 {
     auto *const layout = new QVBoxLayout(this);
     layout->addLayout(createChoices());
@@ -137,8 +133,8 @@ QLayout *UsagePage::createLastRow()
     m_tableBox = new QCheckBox;
     row->addWidget(m_tableBox);
     row->addStretch(1);
-    m_copyTextButton = button(*row);
-    m_copyPictureButton = button(*row);
+    row->addWidget(m_copyTextButton);
+    row->addWidget(m_copyPictureButton);
     connect(m_tableBox, &QCheckBox::toggled, this, &UsagePage::showAsTable);
     connect(m_copyTextButton, &QPushButton::clicked, this, [this] { copy(true, false); });
     connect(m_copyPictureButton, &QPushButton::clicked, this, [this] { copy(false, true); });
@@ -154,6 +150,7 @@ void UsagePage::createViews()
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
+    SizeDelegate::showSizesIn(*m_table, 1, m_model->columnCount());
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table->verticalHeader()->hide();

@@ -175,7 +175,8 @@ void UsagePainter::paintAxis(QPainter &painter) const
                          outer.left() - gap - m_area.left(), m_metrics.height());
         painter.setPen(m_parts.shade(1));
         painter.drawText(QStyle::visualRect(m_direction, m_area, room),
-                         Qt::AlignRight | Qt::AlignVCenter, axisText(m_axis, line));
+                         Qt::AlignRight | Qt::AlignVCenter | Qt::TextForceLeftToRight,
+                         axisText(m_axis, line));
     }
 }
 

@@ -44,7 +44,8 @@ QString shownText(const PlanLine &line)
 {
     QStringList parts;
     for (const QWidget *const part : line.findChildren<QWidget *>()) {
-        if (part->isVisibleTo(&line) && part->children().isEmpty())
+        const bool isText = part->children().isEmpty() && !qobject_cast<const QProgressBar *>(part);
+        if (part->isVisibleTo(&line) && isText)
             parts.append(part->property("text").toString());
     }
     return parts.join('|');
@@ -212,7 +213,7 @@ void TestPlanLine::marksHowMuchIsUsedWithTheBar()
     QVERIFY(m_store->setPlan(plan));
     readPlans();
     QCOMPARE(bar->value(), bar->maximum());
-    QCOMPARE(bar->text(), QString("200 %"));
+    QVERIFY(shownText(*m_line).contains("|200 %|"));
 }
 
 void TestPlanLine::takesNoRoomWithoutAHistory()
