@@ -10,6 +10,7 @@
 using history::DataPlan;
 using usage::BarUnit;
 
+Q_DECLARE_METATYPE(history::DataPlan)
 Q_DECLARE_METATYPE(usage::BarUnit)
 
 /// The program's sums against those that a query written by hand makes of the same
