@@ -33,6 +33,10 @@ class Run:
     def ratio(self, name, base, key="real_time"):
         return self.value(name, key) / self.value(base, key)
 
+    def logging(self):
+        return self.value("log/init/10000") / (self.value("log/lines/10000") +
+                                               self.value("init/10000"))
+
     def growth(self, name, size, base_size):
         """How much more one of `size` costs than one of `base_size`."""
         return self.ratio(f"{name}/{size}", f"{name}/{base_size}") * base_size / size
@@ -45,17 +49,22 @@ def times(work, against, base, target):
 
 def lines():
     bare = "Qt, plainly"
+    limit = "the limit"
     result = []
-    for size, target in ((1000, None), (10000, 0.30), (100000, 0.10)):
+    for size in (10000, 100000):
         result.append(times(f"fill {size:,} rows", bare,
-                            (f"fill/plug-in/{size}", f"fill/bare/{size}"), target))
+                            (f"fill/plug-in/{size}", f"fill/bare/{size}"), None))
+    for work, name, target, sizes in (("init with", "init", 1.6, (10000, 100000)),
+                                      ("fill with", "fill/plug-in", 1.3, (10000, 100000))):
+        for size in sizes:
+            for zone, suffix in (("with TZ", ""), ("without TZ", "/no-zone")):
+                result.append(times(f"{work} {size:,} records, {zone}", limit,
+                                    (f"{name}{suffix}/{size}", f"fill/limit/{size}"), target))
     for size in (100000, 1000000):
         result.append((f"fill {size:,} rows, each", "each of 10,000", 1.2,
                        lambda run, size=size: run.growth("fill/plug-in", size, 10000)))
-    for work in ("init", "reload"):
-        for size, target in ((10000, 0.50), (100000, 0.15)):
-            result.append(times(f"{work} with {size:,} records", bare + ", the fill alone",
-                                (f"{work}/{size}", f"fill/bare/{size}"), target))
+    result.append(("init with 10,000 records, debug output on",
+                   "its lines by `qDebug`, and a silent init", 1.2, Run.logging))
     result.append(times("convert a record", "the same, times by Qt",
                         ("conversion/plug-in", "conversion/plain"), 0.4))
     result.append(times("convert a record, silent log", "the same without log lines",
@@ -94,7 +103,7 @@ def marked(figure, target):
 
 
 WIDTH, ROW, LEFT, BAR = 720, 26, 190, 430
-COLOURS = {"bare": "#b0b7c3", "plug-in": "#2f6fb3"}
+COLOURS = {"other": "#b0b7c3", "plug-in": "#2f6fb3"}
 
 
 def bar(row, label, milliseconds, longest, colour):
@@ -106,8 +115,9 @@ def bar(row, label, milliseconds, longest, colour):
 
 
 def chart(run):
-    """The work with 100,000 records beside the bare fill, as an SVG picture."""
-    bars = [("Qt, plainly", "fill/bare/100000", "bare"),
+    """The work with 100,000 records beside others' fills, as an SVG picture."""
+    bars = [("Qt, plainly", "fill/bare/100000", "other"),
+            ("the limit", "fill/limit/100000", "other"),
             ("plug-in: fill", "fill/plug-in/100000", "plug-in"),
             ("plug-in: init", "init/100000", "plug-in"),
             ("plug-in: reload", "reload/100000", "plug-in")]
