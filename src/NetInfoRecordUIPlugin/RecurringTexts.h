@@ -30,8 +30,8 @@ public:
     }
 
 private:
-    static QLatin1String view(const char *text, int length) { return {text, length}; }
-    static QStringView view(const char16_t *text, int length) { return {text, length}; }
+    static QLatin1String view(const char *text, int length) { return QLatin1String(text, length); }
+    static QStringView view(const char16_t *text, int length) { return QStringView(text, length); }
 
     template <typename Text>
     QString &placeOf(const Text &text)
