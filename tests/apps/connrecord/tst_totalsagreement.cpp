@@ -187,19 +187,19 @@ void TotalsAgreementTest::agreesWithBars()
     auto store = history::Store::openOrCreate(named.path());
     QVERIFY(store.value().addMissing(connectionsWithHours(random, year)));
     QVERIFY(store.value().setPlan(plan));
-    for (const QDate &day : {QDate(year, 10, 31), QDate(year, 12, 31)}) {
-        const auto span = usage::spanNear(plan.period, unit, day);
+    for (const QDate &shown : {QDate(year, 10, 31), QDate(year, 12, 31)}) {
+        const auto span = usage::spanNear(plan.period, unit, shown);
         const auto bars = usage::usageBars(store.value(), plan, unit, span);
         QVERIFY(bars);
-        const QStringList shown = textsOf(bars.value(), unit);
-        QVERIFY(!shown.isEmpty());
+        const QStringList drawn = textsOf(bars.value(), unit);
+        QVERIFY(!drawn.isEmpty());
         const QString part = unit == BarUnit::Day ? "day" : "month";
         QStringList told =
             YearsOfHistory::totalsTold({"--by", part + ",roaming", "--plan", "plan", "--from",
                                         dayText(span.first), "--to", dayText(span.last())},
                                        {part, "roaming", "uploaded_bytes", "downloaded_bytes"});
         told.sort();
-        QCOMPARE(shown, told);
+        QCOMPARE(drawn, told);
     }
 }
 

@@ -18,6 +18,7 @@
 #include "CommonUtils.h"
 #include "ExtendDialog.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
