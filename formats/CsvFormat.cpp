@@ -106,6 +106,8 @@ void RowReader::checkColumnCount() const
 void RowReader::checkBytes(std::size_t column) const
 {
     const std::string &text = m_row[column].text;
+    if (isPlainAscii(text))
+        return;
     if (text.find('\0') != std::string::npos)
         fail(column, "the text holds a NUL byte");
     if (!isUtf8(text))

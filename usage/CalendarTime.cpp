@@ -4,7 +4,6 @@
 #include "PaddedNumber.h"
 
 #include <QDateTime>
-#include <QTimeZone>
 
 namespace usage
 {
@@ -82,6 +81,15 @@ DayOfCalendar dayOfCalendar(std::int64_t daysSince1970)
     const std::int64_t month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
     return {era * 400 + yearOfEra + (month <= 2 ? 1 : 0), month,
             dayOfYear - (153 * monthFromMarch + 2) / 5 + 1};
+}
+
+/// The other way round, of a year from 1 on.
+std::int64_t daysSince1970(const CalendarTime &time)
+{
+    const int year = time.month <= 2 ? time.year - 1 : time.year;
+    const int monthFromMarch = time.month <= 2 ? time.month + 9 : time.month - 3;
+    return std::int64_t(year) * 365 + year / 4 - year / 100 + year / 400 +
+           (153 * monthFromMarch + 2) / 5 + time.day - 1 - 719468;
 }
 
 QDate dateOf(const CalendarTime &time)
@@ -162,8 +170,8 @@ std::optional<std::int64_t> utcFromIso(std::string_view text)
 UtcSpan utcSpan(const CalendarTime &time)
 {
     if (time.utcOffset) {
-        const QDateTime wallClock(dateOf(time), timeOfDay(time), QTimeZone::utc());
-        const std::int64_t utc = wallClock.toSecsSinceEpoch() - *time.utcOffset;
+        const std::int64_t utc = daysSince1970(time) * secondsPerDay + time.hour * secondsPerHour +
+                                 time.minute * 60 + time.second - *time.utcOffset;
         return {utc, utc};
     }
     const std::int64_t utc = QDateTime(dateOf(time), timeOfDay(time)).toSecsSinceEpoch();

@@ -116,6 +116,7 @@ void CalendarTimeTest::writesUtcAsQtDoes()
         appendUtc(text, utc);
         const QDateTime time = QDateTime::fromSecsSinceEpoch(utc).toUTC();
         QCOMPARE(QString::fromStdString(text), "before " + time.toString(Qt::ISODate));
+        QCOMPARE(utcFromIso(time.toString(Qt::ISODate).toStdString()).value_or(-2), utc);
     };
     // Some day of each year and of each month, at other times.
     for (std::int64_t utc = -secondsPerDay; utc < latestWrittenTime; utc += 97 * secondsPerDay + 1)
