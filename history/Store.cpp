@@ -3,6 +3,7 @@
 
 #include "ConnectionCheck.h"
 #include "Fingerprint.h"
+#include "KeptException.h"
 #include "PlanCheck.h"
 #include "StoreDatabase.h"
 
@@ -24,23 +25,6 @@ std::vector<std::int64_t> withoutRepetitions(std::vector<std::int64_t> keys)
     std::sort(keys.begin(), keys.end());
     keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
     return keys;
-}
-
-/// The visitor, what it throws being kept: a Result has no place for that of others.
-template <typename Shown>
-std::function<void(const Shown &)> keeping(std::exception_ptr &thrown,
-                                           const std::function<void(const Shown &)> &visitor)
-{
-    if (!visitor)
-        return {};
-    return [&thrown, &visitor](const Shown &connection) {
-        try {
-            visitor(connection);
-        } catch (...) {
-            thrown = std::current_exception();
-            throw;
-        }
-    };
 }
 
 } // namespace

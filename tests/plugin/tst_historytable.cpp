@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "DialupContainer.h"
 #include "LoadedPlugin.h"
 #include "LogCapture.h"
 #include "ScriptedHost.h"
@@ -11,11 +10,6 @@
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
-
-#include <dlfcn.h>
-
-#include <ctime>
-#include <utility>
 
 using scripted::Host;
 
@@ -32,37 +26,7 @@ QVector<_KORA_ST_CONNRECORD> numberedRecords(int count)
     return records;
 }
 
-int looksAtTheZone = 0;
-
-/// A connection ends, upon which the plug-in fetches and fills everything.
-void reload(LoadedPlugin &plugin)
-{
-    scripted::DialupContainer container;
-    Host::instance().container = &container;
-    const unsigned int connectionStatus = 1536;
-    plugin.notify()->Notify(connectionStatus, 1, 0);
-    plugin.notify()->Notify(connectionStatus, 0, 0);
-    Host::instance().container = nullptr;
-}
-
-/// How often the plug-in, and Qt for it, ask whether there is another zone now.
-int looksWhileFilling(LoadedPlugin &plugin, int records)
-{
-    Host::instance().records = numberedRecords(records);
-    looksAtTheZone = 0;
-    reload(plugin);
-    const int looks = looksAtTheZone;
-    return plugin.table()->rowCount() == records ? looks : -1;
-}
 } // namespace
-
-/// Comes before the C library's own, also for the plug-in and for Qt.
-extern "C" void tzset() noexcept
-{
-    static const auto original = reinterpret_cast<void (*)()>(dlsym(RTLD_NEXT, "tzset"));
-    ++looksAtTheZone;
-    original();
-}
 
 class tst_HistoryTable : public QObject
 {
@@ -84,8 +48,6 @@ private Q_SLOTS:
     void tellsWhoListensToTheTableOfEachCell();
     void doesNotSort();
     void logsEachRow();
-    void looksAtTheZoneOnceForAllRecords();
-    void noticesAnotherZoneAtTheNextFill();
 };
 
 void tst_HistoryTable::showsNoRowsWithoutRecords()
@@ -214,7 +176,7 @@ void tst_HistoryTable::tellsItsViewsOnceOfAWholeReload()
     LoadedPlugin plugin;
     plugin.show();
     QSignalSpy changes(plugin.table()->model(), &QAbstractItemModel::dataChanged);
-    reload(plugin);
+    plugin.reload();
     QCOMPARE(changes.count(), 1);
     const auto first = changes.at(0).at(0).toModelIndex();
     const auto last = changes.at(0).at(1).toModelIndex();
@@ -224,14 +186,11 @@ void tst_HistoryTable::tellsItsViewsOnceOfAWholeReload()
 
 void tst_HistoryTable::tellsWhoListensToTheTableOfEachCell()
 {
-    scripted::DialupContainer container;
-    Host::instance().container = &container;
     Host::instance().records = numberedRecords(3);
     LoadedPlugin plugin;
     plugin.show();
     QSignalSpy cells(plugin.table(), &QTableWidget::cellChanged);
-    plugin.notify()->Notify(1536, 1, 0);
-    plugin.notify()->Notify(1536, 0, 0);
+    plugin.reload();
     QSet<int> changed;
     for (const QVariantList &cell : cells)
         changed.insert(cell.at(0).toInt() * 6 + cell.at(1).toInt());
@@ -281,33 +240,6 @@ void tst_HistoryTable::logsEachRow()
     QCOMPARE(end.size(), 2);
     QVERIFY(end.first().startsWith("Start File: " + path + " ReleaseTable: "));
     QVERIFY(end.last().startsWith("End File: " + path + " ReleaseTable: "));
-}
-
-void tst_HistoryTable::looksAtTheZoneOnceForAllRecords()
-{
-    const LogCapture log; // its lines name the time
-    LoadedPlugin plugin;
-    plugin.show();
-    const int looksForFew = looksWhileFilling(plugin, 10);
-    QVERIFY(looksForFew > 0);
-    QCOMPARE(looksWhileFilling(plugin, 500), looksForFew);
-}
-
-void tst_HistoryTable::noticesAnotherZoneAtTheNextFill()
-{
-    Host::instance().records = numberedRecords(1);
-    LoadedPlugin plugin;
-    plugin.show();
-    const auto start = [&plugin] { return plugin.table()->item(0, 1)->data(0).toDateTime(); };
-    QCOMPARE(start().time(), QTime(14, 30));
-    // Without a word to the C library, as another part of the host might do it.
-    qputenv("TZ", "Asia/Tokyo");
-    reload(plugin);
-    const QDateTime inTokyo = start();
-    const qint64 moment = inTokyo.toSecsSinceEpoch();
-    qputenv("TZ", "Europe/Berlin");
-    QCOMPARE(inTokyo.time(), QTime(22, 30));
-    QCOMPARE(moment, qint64(1267795800));
 }
 
 QTEST_MAIN(tst_HistoryTable)

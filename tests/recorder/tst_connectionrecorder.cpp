@@ -33,6 +33,8 @@ private slots:
     void aConnectionBearsItsInterfacesNameOrTheGivenOne();
     void saysNothingFromWithinACall();
     void worksOnAThreadOfItsOwn();
+    void saysWhyItCannotStart();
+    void startsWhenItCan();
 };
 
 void ConnectionRecorderTest::recordsMobileAndNamedInterfacesOnly_data()
@@ -263,6 +265,27 @@ void ConnectionRecorderTest::worksOnAThreadOfItsOwn()
     thread.quit();
     QVERIFY(thread.wait());
     QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{10});
+}
+
+void ConnectionRecorderTest::saysWhyItCannotStart()
+{
+    m_path = m_folder->path();
+    QVERIFY(!start());
+    QTRY_COMPARE(m_failures->size(), 1);
+    QCOMPARE(lastProblemSeenBy(*m_failures).reason,
+             QStringLiteral("\"%1\" is not a connection history but a folder; it was left as it "
+                            "is, move it away or name another file.")
+                 .arg(m_path));
+}
+
+void ConnectionRecorderTest::startsWhenItCan()
+{
+    QVERIFY(QDir().mkdir(m_path));
+    m_atStart = {runningLink(3, "wwan0", 0, 0), addressOn(3)};
+    QVERIFY(!start());
+    QVERIFY(QDir().rmdir(m_path));
+    QTRY_COMPARE(m_connections->size(), 1);
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
 }
 
 QTEST_GUILESS_MAIN(ConnectionRecorderTest)

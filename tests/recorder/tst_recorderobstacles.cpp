@@ -28,13 +28,11 @@ private slots:
     void leavesNoLockBehind();
     void saysWhyItCannotLock();
     void settlesNothingWhileItCannotSeeTheLinks();
-    void saysWhyItCannotStart();
     void leavesTheRecordingToTheFirstRecorder();
     void takesOverWhenTheFirstRecorderEnds();
     void makesWayAndTakesOverAgain();
     void triesNowWhatItTriesAgain();
     void makesNoWayBeforeItsStartOrAfterItsEnd();
-    void startsWhenItCan();
 };
 
 void RecorderObstaclesTest::keepsWhatItCannotWriteAndTriesAgain()
@@ -265,16 +263,6 @@ void RecorderObstaclesTest::makesNoWayBeforeItsStartOrAfterItsEnd()
     QVERIFY(!recorder.isRecording());
 }
 
-void RecorderObstaclesTest::startsWhenItCan()
-{
-    QVERIFY(QDir().mkdir(m_path));
-    m_atStart = {runningLink(3, "wwan0", 0, 0), addressOn(3)};
-    QVERIFY(!start());
-    QVERIFY(QDir().rmdir(m_path));
-    QTRY_COMPARE(m_connections->size(), 1);
-    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
-}
-
 void RecorderObstaclesTest::settlesNothingWhileItCannotSeeTheLinks()
 {
     addRow(rowOf(recorder::currentBootId(), 3));
@@ -287,17 +275,6 @@ void RecorderObstaclesTest::settlesNothingWhileItCannotSeeTheLinks()
     recorder.reset();
     QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
     QVERIFY(recordsIn(m_path).isEmpty());
-}
-
-void RecorderObstaclesTest::saysWhyItCannotStart()
-{
-    m_path = m_folder->path();
-    QVERIFY(!start());
-    QTRY_COMPARE(m_failures->size(), 1);
-    QCOMPARE(lastProblemSeenBy(*m_failures).reason,
-             QStringLiteral("\"%1\" is not a connection history but a folder; it was left as it "
-                            "is, move it away or name another file.")
-                 .arg(m_path));
 }
 
 QTEST_GUILESS_MAIN(RecorderObstaclesTest)

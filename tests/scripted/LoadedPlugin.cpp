@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "LoadedPlugin.h"
 
+#include "DialupContainer.h"
+#include "ScriptedHost.h"
+
 #include <QApplication>
 #include <QFile>
 
@@ -67,6 +70,16 @@ void LoadedPlugin::show(const QSize &size)
     QRect rect(QPoint(0, 0), size);
     ui()->ShowWindow(m_area, rect);
     m_area->show();
+}
+
+void LoadedPlugin::reload()
+{
+    scripted::DialupContainer container;
+    scripted::Host::instance().container = &container;
+    const unsigned int connectionStatus = 1536;
+    notify()->Notify(connectionStatus, 1, 0);
+    notify()->Notify(connectionStatus, 0, 0);
+    scripted::Host::instance().container = nullptr;
 }
 
 void LoadedPlugin::end()

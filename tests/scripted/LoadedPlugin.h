@@ -32,6 +32,8 @@ public:
 
     /// Init, then ShowWindow into an area of this size.
     void show(const QSize &size = QSize(760, 400));
+    /// A connection ends, upon which the plug-in fetches and fills everything.
+    void reload();
     /// OnDestroy, once however often it is asked for.
     void end();
     /// Deletes the root object and closes the library, whatever else is there.
