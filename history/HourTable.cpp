@@ -12,6 +12,23 @@ namespace
 
 constexpr const char *values = "hour_utc, is_roaming, uploaded_bytes, downloaded_bytes";
 
+/// Its texts stay where they are if there is room for the row's: a loop over many rows asks for
+/// memory once.
+void read(const Row &row, ConnectionHour &hour)
+{
+    hour.key = row.integer(0);
+    hour.isOpen = row.integer(1) != 0;
+    hour.profile = row.text(2);
+    hour.operatorName = row.text(3);
+    hour.operatorCode = row.text(4);
+    hour.sim = row.text(5);
+    hour.utc = row.integer(6);
+    hour.isRoaming = row.integer(7) != 0;
+    hour.uploadedBytes = row.integer(8);
+    hour.downloadedBytes = row.integer(9);
+    hour.isKnown = row.integer(10) != 0;
+}
+
 } // namespace
 
 HourTable::HourTable(SQLite::Database &database, std::string connections)
@@ -102,6 +119,18 @@ std::string HourTable::selection(bool isOpen) const
            "start_utc, 0, uploaded_bytes, downloaded_bytes, 0 FROM " + m_connections +
            " c WHERE start_utc >= ?1 AND start_utc < ?2 AND NOT EXISTS (SELECT 1 FROM " + m_hours +
            " WHERE connection = c.key)";
+}
+
+std::size_t visitHoursOf(RowQuery &query, const TimeRange &range, const Store::HourVisitor &visitor)
+{
+    query.bind(1, range.fromUtc);
+    query.bind(2, range.untilUtc);
+    std::size_t count = 0;
+    for (ConnectionHour hour; query.next(); ++count) {
+        read(query.row(), hour);
+        visitor(hour);
+    }
+    return count;
 }
 
 } // namespace history

@@ -52,4 +52,9 @@ private:
     PreparedStatement m_comparison;
 };
 
+/// Shows the visitor the hours of what HourTable::selection() selects, one after the other in the
+/// same place; returns how many there are.
+std::size_t visitHoursOf(RowQuery &query, const TimeRange &range,
+                         const Store::HourVisitor &visitor);
+
 } // namespace history

@@ -55,37 +55,6 @@ StoreFailure wrongHours(const std::string &path)
                 historyAt(path) + "."};
 }
 
-/// Its texts stay where they are if there is room for the row's: a loop over many rows asks for
-/// memory once.
-void read(const Row &row, ConnectionHour &hour)
-{
-    hour.key = row.integer(0);
-    hour.isOpen = row.integer(1) != 0;
-    hour.profile = row.text(2);
-    hour.operatorName = row.text(3);
-    hour.operatorCode = row.text(4);
-    hour.sim = row.text(5);
-    hour.utc = row.integer(6);
-    hour.isRoaming = row.integer(7) != 0;
-    hour.uploadedBytes = row.integer(8);
-    hour.downloadedBytes = row.integer(9);
-    hour.isKnown = row.integer(10) != 0;
-}
-
-/// The hours that the query selects, one after the other in the same place.
-template <typename Visitor>
-std::size_t visitHoursOf(RowQuery &query, const TimeRange &range, const Visitor &visitor)
-{
-    query.bind(1, range.fromUtc);
-    query.bind(2, range.untilUtc);
-    std::size_t count = 0;
-    for (ConnectionHour hour; query.next(); ++count) {
-        read(query.row(), hour);
-        visitor(hour);
-    }
-    return count;
-}
-
 } // namespace
 
 StoreFailure noSuchRecord(const std::string &path, std::int64_t key)
