@@ -28,6 +28,22 @@ constexpr std::size_t columnCount = std::tuple_size_v<decltype(connectionFields)
 
 constexpr std::size_t fewestColumns = std::tuple_size_v<decltype(history::identifyingFields)>;
 
+/// Of what only finished connections have.
+constexpr std::size_t placeOfEnd()
+{
+    std::size_t place = 0;
+    std::size_t found = 0;
+    forEachField(connectionFields, [&](const auto &field) {
+        using Field = std::decay_t<decltype(field)>;
+        if (!history::IsShared<Field>::value)
+            found = place;
+        ++place;
+    });
+    return found;
+}
+
+constexpr std::size_t endColumn = placeOfEnd();
+
 using ColumnNames = std::array<const char *, columnCount>;
 
 const ColumnNames &columnNames()
@@ -49,6 +65,13 @@ public:
     }
 
     history::Connection connection() const;
+    /// Whether it is of one that still lasted, which has no end.
+    bool isStillRunning() const
+    {
+        return m_row.size() == m_columns && m_row[endColumn].text.empty();
+    }
+    std::int64_t line() const { return m_row.front().line; }
+    std::string text() const;
     void checkHeader() const;
     void checkColumnCount() const;
 
@@ -79,6 +102,14 @@ history::Connection RowReader::connection() const
         fail(column, error.reason);
     }
     return connection;
+}
+
+std::string RowReader::text() const
+{
+    std::string text;
+    for (const auto &cell : m_row)
+        text += (&cell == &m_row.front() ? "" : ",") + cell.text;
+    return text;
 }
 
 void RowReader::checkHeader() const
@@ -143,7 +174,8 @@ std::string csvHeader()
     return line;
 }
 
-std::vector<history::Connection> connectionsFromCsv(LineReader &lines)
+std::vector<history::Connection> connectionsFromCsv(LineReader &lines,
+                                                    const RunningVisitor &running)
 {
     CsvReader reader(lines, columnCount);
     const auto firstRow = reader.next();
@@ -159,7 +191,11 @@ std::vector<history::Connection> connectionsFromCsv(LineReader &lines)
             checkIsBlankEnd(reader, *row, columns);
             break;
         }
-        connections.push_back(RowReader(*row, columns).connection());
+        const RowReader reading(*row, columns);
+        if (running && reading.isStillRunning())
+            running(reading.line(), reading.text());
+        else
+            connections.push_back(reading.connection());
     }
     return connections;
 }

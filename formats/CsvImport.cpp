@@ -25,7 +25,10 @@ void CsvImport::read(const ImportSource &source, const ReadProgress &progress)
 {
     LineReader lines(source.device, longestCsvLine + 1, progress);
     try {
-        m_imported.connections = connectionsFromCsv(lines);
+        m_imported.connections =
+            connectionsFromCsv(lines, [this](std::int64_t line, const std::string &text) {
+                countRunning(m_imported, line, text);
+            });
         lines.checkReadToTheEnd(source.name);
     } catch (const CsvError &error) {
         lines.checkReadToTheEnd(source.name);

@@ -4,6 +4,8 @@
 #include "history/ConnectionFields.h"
 #include "usage/CalendarTime.h"
 
+#include <type_traits>
+
 namespace formats
 {
 
@@ -41,18 +43,32 @@ public:
     void begin(std::string &text) override { text += csvHeader() + '\n'; }
     void add(const history::Connection &connection, std::string &text) override
     {
+        addLine(connection, text);
+    }
+    void addRunning(const history::OpenConnection &connection, std::string &text) override
+    {
+        addLine(connection, text);
+    }
+    void end(std::string & /*text*/) override {}
+
+private:
+    /// What only finished connections have, is empty.
+    template <typename AnyConnection>
+    static void addLine(const AnyConnection &connection, std::string &text)
+    {
         history::forEachField(history::connectionFields, [&](const auto &field) {
-            appendCell(KindOf<decltype(field)>(), connection.*field.member, text);
+            using Owner = typename std::decay_t<decltype(field)>::Owner;
+            if constexpr (std::is_base_of_v<Owner, AnyConnection>)
+                appendCell(KindOf<decltype(field)>(), connection.*field.member, text);
             text += ',';
         });
         text.back() = '\n';
     }
-    void end(std::string & /*text*/) override {}
 };
 
 } // namespace
 
-std::unique_ptr<ConnectionWriter> csvWriter()
+std::unique_ptr<ConnectionWriter> csvWriter(const ExportOptions & /*options*/)
 {
     return std::make_unique<CsvWriter>();
 }

@@ -30,11 +30,14 @@ struct ImportFormat {
 };
 
 /// The last one takes what is none of the others.
-constexpr std::array<ImportFormat, 3> importFormats = {{
+constexpr std::array<ImportFormat, 4> importFormats = {{
     {"csv", "a file such as export writes", QT_TRANSLATE_NOOP("formats", "CSV table"), "csv", false,
      isBeginningOfCsv, csvImport},
     {"json", "a file such as export writes with the same format",
      QT_TRANSLATE_NOOP("formats", "JSON"), "json", false, isBeginningOfJson, jsonImport},
+    {"jsonl", "a file such as export writes with the same format",
+     QT_TRANSLATE_NOOP("formats", "JSON, an object a line"), "jsonl", false, isBeginningOfJsonLines,
+     jsonLinesImport},
     {"pppd", "a system log with messages of pppd",
      QT_TRANSLATE_NOOP("formats", "System log with messages of pppd"), "", true,
      [](std::string_view /*beginning*/) { return true; }, pppdImport},
@@ -52,15 +55,19 @@ struct ExportFormat {
     const char *suffix;
     bool breaksLines;  ///< a text with line breaks is on several lines
     bool carriesHours; ///< of the connections, which have to be given then
-    std::unique_ptr<ConnectionWriter> (*writer)();
+    bool namesMachine; ///< of the many whose histories come together; tells what lasts too
+    std::unique_ptr<ConnectionWriter> (*writer)(const ExportOptions &options);
 };
 
-constexpr std::array<ExportFormat, 2> exportFormats = {{
+constexpr std::array<ExportFormat, 3> exportFormats = {{
     {"csv", "a table, without the bytes by the hour", QT_TRANSLATE_NOOP("formats", "CSV table"),
-     "csv", true, false, csvWriter},
+     "csv", true, false, false, csvWriter},
     {"json", "for programs, with the bytes by the hour",
-     QT_TRANSLATE_NOOP("formats", "JSON with the bytes by the hour"), "json", false, true,
+     QT_TRANSLATE_NOOP("formats", "JSON with the bytes by the hour"), "json", false, true, false,
      jsonWriter},
+    {"jsonl", "for the histories of many machines, an object a line",
+     QT_TRANSLATE_NOOP("formats", "JSON, an object a line"), "jsonl", false, true, true,
+     jsonLinesWriter},
 }};
 
 /// The table's row of that name; null if there is none.

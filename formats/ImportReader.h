@@ -51,6 +51,8 @@ public:
 std::unique_ptr<ImportReader> csvImport(const ImportOptions &options);
 /// Of connections as JSON.
 std::unique_ptr<ImportReader> jsonImport(const ImportOptions &options);
+/// Of connections as JSON, an object a line.
+std::unique_ptr<ImportReader> jsonLinesImport(const ImportOptions &options);
 /// Of system logs, several of which are one in the order of their time.
 std::unique_ptr<ImportReader> pppdImport(const ImportOptions &options);
 

@@ -4,6 +4,15 @@
 namespace formats
 {
 
+void countRunning(Imported &imported, std::int64_t line, std::string_view text)
+{
+    constexpr std::size_t shownBytes = 200;
+    if (imported.unusable.empty())
+        imported.unusable.push_back({"the connection still lasted", 0, 0, 0, line,
+                                     std::string(text.substr(0, shownBytes))});
+    ++imported.unusable.front().count;
+}
+
 history::Result<history::Store::Merged> addImported(history::Store &store, const Imported &imported,
                                                     const history::Store::Progress &progress)
 {

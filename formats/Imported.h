@@ -7,12 +7,13 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace formats
 {
 
-/// What a log holds and no connection can be made of.
+/// What a file holds and no connection can be made of.
 struct Unusable {
     std::string reason;
     std::size_t count = 0;
@@ -35,6 +36,10 @@ struct Imported {
     std::vector<Unusable> unusable;
     std::optional<GuessedYear> guessedYear;
 };
+
+/// Counts a connection of that line that still lasted when the file was written: it comes
+/// again when it has ended.
+void countRunning(Imported &imported, std::int64_t line, std::string_view text);
 
 /// Stores the connections that the history does not have yet, all or none. What a log
 /// knows more about one that is there is taken over.

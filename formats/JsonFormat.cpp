@@ -4,6 +4,7 @@
 #include "FieldValue.h"
 #include "Utf8Text.h"
 #include "history/ConnectionFields.h"
+#include "usage/TextScanner.h"
 
 #include <algorithm>
 #include <string>
@@ -121,7 +122,8 @@ void checkMembers(const Json &json)
         throw FieldError{"it is no object", true};
     for (const auto &member : json.items()) {
         const std::string &name = member.key();
-        bool isKnown = name == jsonKeyName || name == jsonHoursName;
+        bool isKnown = name == jsonKeyName || name == jsonHoursName || name == jsonMachineName ||
+                       name == jsonRunningName;
         forEachField(connectionFields, [&](const auto &field) { isKnown |= name == field.name; });
         if (!isKnown)
             fail(name, "a connection has no such member");
@@ -137,9 +139,28 @@ bool isBeginningOfJson(std::string_view beginning)
     return first != std::string_view::npos && text[first] == '[';
 }
 
+bool isBeginningOfJsonLines(std::string_view beginning)
+{
+    const std::string_view text = withoutByteOrderMark(beginning);
+    const auto holds = [text](const char *member) {
+        return text.find(member) != std::string_view::npos;
+    };
+    // A log may be of JSON too.
+    return usage::startsWith(text, "{") &&
+           (holds("\"connected_seconds\":") || holds("\"last_key\":"));
+}
+
+bool isStillRunning(const Json &json)
+{
+    const auto running = json.is_object() ? json.find(jsonRunningName) : json.end();
+    return running != json.end() && *running == true;
+}
+
 history::Connection connectionFromJson(const Json &json)
 {
     checkMembers(json);
+    if (json.contains(jsonRunningName) && json[jsonRunningName] != false)
+        fail(jsonRunningName, "it is neither true nor false");
     history::Connection connection;
     forEachField(connectionFields, [&](const auto &field) {
         using Kind = KindOf<decltype(field)>;

@@ -12,12 +12,21 @@ namespace formats
 /// The members of a connection's object that are no fields of it.
 constexpr const char *jsonKeyName = "key";
 constexpr const char *jsonHoursName = "hours";
+constexpr const char *jsonMachineName = "machine";
+constexpr const char *jsonRunningName = "running";
+constexpr const char *jsonUpdatedName = "updated";
+/// That of the last line on a delivery, which no connection has.
+constexpr const char *jsonLastKeyName = "last_key";
 
-/// Whether a file that begins so looks like one.
+/// Whether a file that begins so looks like one, or like one with an object a line.
 bool isBeginningOfJson(std::string_view beginning);
+bool isBeginningOfJsonLines(std::string_view beginning);
 
-/// What jsonWriter() makes of a connection, read back; its key is passed over. Throws
-/// FieldError.
+/// Whether it is of a connection that still lasted, which no finished one can be made of.
+bool isStillRunning(const Json &json);
+
+/// What jsonWriter() makes of a connection, read back; its key and its machine are
+/// passed over. Throws FieldError.
 history::Connection connectionFromJson(const Json &json);
 
 } // namespace formats

@@ -3,6 +3,7 @@
 #include "ImportReader.h"
 #include "InputError.h"
 #include "JsonFormat.h"
+#include "JsonLine.h"
 
 #include <QByteArray>
 #include <QIODevice>
@@ -35,6 +36,7 @@ public:
     char current() const { return m_piece[m_position]; }
     void next()
     {
+        m_line += current() == '\n' ? 1 : 0;
         ++m_position;
         if (++m_sinceConnection > longestConnection)
             throw FieldError{"it is longer than " + std::to_string(longestConnection) + " bytes",
@@ -42,6 +44,7 @@ public:
     }
     void startConnection() { m_sinceConnection = 0; }
     bool hasFailed() const { return m_hasFailed; }
+    std::int64_t line() const { return m_line; }
 
 private:
     bool readPiece()
@@ -63,6 +66,7 @@ private:
     decltype(m_piece.size()) m_position = 0;
     std::int64_t m_read = 0;
     std::int64_t m_sinceConnection = 0;
+    std::int64_t m_line = 1;
     bool m_hasFailed = false;
 };
 
@@ -107,15 +111,8 @@ private:
     bool take(DeviceBytes &bytes, int level, Json::parse_event_t event, const Json &parsed);
 
     Imported m_imported;
+    std::size_t m_taken = 0; ///< connections, finished or not
 };
-
-/// What the parser says behind its own number of the error.
-std::string reasonOf(const Json::parse_error &error)
-{
-    const std::string text = error.what();
-    const std::size_t end = text.find("] ");
-    return end == std::string::npos ? text : text.substr(end + 2);
-}
 
 void JsonImport::read(const ImportSource &source, const ReadProgress &progress)
 {
@@ -126,8 +123,7 @@ void JsonImport::read(const ImportSource &source, const ReadProgress &progress)
     } catch (const Json::parse_error &error) {
         reason = ": " + reasonOf(error);
     } catch (const FieldError &error) {
-        reason = ", connection " + std::to_string(m_imported.connections.size() + 1) + ": " +
-                 error.reason;
+        reason = ", connection " + std::to_string(m_taken + 1) + ": " + error.reason;
     }
     if (bytes.hasFailed())
         throw InputError(source.name + " cannot be read to its end: " +
@@ -156,7 +152,11 @@ bool JsonImport::take(DeviceBytes &bytes, int level, Json::parse_event_t event, 
         throw FieldError{"it is no object", true};
     if (level != 1 || event != Event::object_end)
         return true;
-    m_imported.connections.push_back(connectionFromJson(parsed));
+    if (isStillRunning(parsed))
+        countRunning(m_imported, bytes.line(), lineOf(parsed));
+    else
+        m_imported.connections.push_back(connectionFromJson(parsed));
+    ++m_taken;
     bytes.startConnection();
     return false;
 }

@@ -97,8 +97,6 @@ ConnectionQuery::ConnectionQuery(const SQLite::Database &database, const char *c
 ConnectionTable::ConnectionTable(SQLite::Database &database)
     : m_database(database)
     , m_insertion(database, insertionOf(connectionFields, tableName))
-    , m_update(database, std::string("UPDATE ") + tableName + " SET " +
-                             equationsOf(connectionFields, ", ") + " WHERE key = ?")
     , m_removal(database, std::string("DELETE FROM ") + tableName + " WHERE key = ?")
 {
 }
@@ -161,14 +159,6 @@ std::int64_t ConnectionTable::insert(const Connection &connection)
     return m_database.getLastInsertRowid();
 }
 
-void ConnectionTable::update(const Connection &connection)
-{
-    SQLite::Statement &statement = m_update.ready();
-    const int behind = bindFields(statement, 1, connection, connectionFields);
-    statement.bind(behind, connection.key);
-    statement.exec();
-}
-
 bool ConnectionTable::holds(const std::string &interfaceName, std::int64_t startUtc)
 {
     SQLite::Statement query(m_database, "SELECT EXISTS (SELECT 1 FROM connection"
@@ -202,7 +192,8 @@ std::size_t ConnectionTable::insertMissing(const std::vector<Connection> &connec
 }
 
 Store::Merged ConnectionTable::merge(const std::vector<Connection> &connections,
-                                     const Insertion &insertOne, const Store::Completion &complete,
+                                     const Insertion &insertOne, const Replacement &replaceOne,
+                                     const Store::Completion &complete,
                                      const Store::Progress &progress)
 {
     Store::Merged merged;
@@ -217,7 +208,7 @@ Store::Merged ConnectionTable::merge(const std::vector<Connection> &connections,
             ++merged.added;
         } else if (Connection known = *pairs[i];
                    !isSame(known, connections[i]) && complete(known, i)) {
-            update(known);
+            replaceOne(known);
             ++merged.completed;
         }
         if (progress)

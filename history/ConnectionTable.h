@@ -96,6 +96,8 @@ public:
 
     /// Puts a connection that is missing into this table and what belongs to it elsewhere.
     using Insertion = std::function<void(const Connection &connection)>;
+    /// Puts one into the place of the one with its key, under a new key.
+    using Replacement = std::function<void(const Connection &connection)>;
 
     std::int64_t count();
     /// The rows that start in `range` by start time, then by key.
@@ -123,16 +125,14 @@ public:
                               const Insertion &insertOne, const Store::Progress &progress);
     /// Inserts and completes what a log tells; see Store::merge.
     Store::Merged merge(const std::vector<Connection> &connections, const Insertion &insertOne,
-                        const Store::Completion &complete, const Store::Progress &progress);
+                        const Replacement &replaceOne, const Store::Completion &complete,
+                        const Store::Progress &progress);
     /// Whether there was such a row to remove.
     bool remove(std::int64_t key);
 
 private:
-    void update(const Connection &connection);
-
     SQLite::Database &m_database;
     PreparedStatement m_insertion;
-    PreparedStatement m_update;
     PreparedStatement m_removal;
     std::uint64_t m_fingerprint = 0;
     std::optional<Writes> m_fingerprintWrites; ///< before which it was made

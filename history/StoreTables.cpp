@@ -2,7 +2,9 @@
 #include "StoreTables.h"
 
 #include "ConnectionCheck.h"
+#include "ConnectionSums.h"
 #include "ConnectionWalk.h"
+#include "GivenKeys.h"
 #include "StoreUpkeep.h"
 
 #include <atomic>
@@ -96,6 +98,13 @@ std::int64_t StoreTables::insert(const Connection &connection)
     return key;
 }
 
+void StoreTables::replace(const Connection &connection)
+{
+    const std::int64_t key = connections.insert(connection);
+    m_hours.takeOver(m_hours, connection.key, key);
+    connections.remove(connection.key);
+}
+
 std::size_t StoreTables::insertMissing(const std::vector<Connection> &given,
                                        const Store::Progress &progress)
 {
@@ -107,7 +116,8 @@ Store::Merged StoreTables::merge(const std::vector<Connection> &given,
                                  const Store::Completion &complete, const Store::Progress &progress)
 {
     return connections.merge(
-        given, [this](const Connection &missing) { insert(missing); }, complete, progress);
+        given, [this](const Connection &missing) { insert(missing); },
+        [this](const Connection &completed) { replace(completed); }, complete, progress);
 }
 
 bool StoreTables::remove(std::int64_t key)
@@ -160,6 +170,16 @@ std::size_t StoreTables::visitHours(const TimeRange &range, const Store::HourVis
 std::string StoreTables::hoursSelection() const
 {
     return m_hours.selection(false) + " UNION ALL " + m_openHours.selection(true);
+}
+
+std::vector<ConnectionSum> StoreTables::sums()
+{
+    return connectionSums(m_database, m_path);
+}
+
+GivenKeys StoreTables::givenKeys()
+{
+    return givenKeysIn(m_database);
 }
 
 Overview StoreTables::overview()

@@ -8,6 +8,7 @@
 #include "RecorderTables.h"
 #include "Store.h"
 #include "StoreFailure.h"
+#include "StoreReports.h"
 
 #include <cstdint>
 #include <optional>
@@ -40,6 +41,9 @@ public:
                               const Store::Progress &progress);
     Store::Merged merge(const std::vector<Connection> &given, const Store::Completion &complete,
                         const Store::Progress &progress);
+    /// In the place of the one with its key, whose hours it gets, under a new key: who has
+    /// seen the former one sees that it has changed.
+    void replace(const Connection &connection);
     bool remove(std::int64_t key);
     std::size_t remove(const std::vector<std::int64_t> &keys);
     std::vector<ConnectionHour> hours(const TimeRange &range);
@@ -47,6 +51,8 @@ public:
     std::size_t visit(const ConnectionSelection &selection, const ConnectionVisitor &visitor,
                       const OpenConnectionVisitor &openVisitor);
     std::size_t visitHours(const TimeRange &range, const Store::HourVisitor &visitor);
+    std::vector<ConnectionSum> sums();
+    GivenKeys givenKeys();
     Overview overview();
     std::vector<OpenConnection> listOpen();
     OpenConnection begin(const OpenConnection &connection);

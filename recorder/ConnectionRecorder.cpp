@@ -7,8 +7,6 @@
 #include "SystemClock.h"
 #include "modem/Modems.h"
 
-#include <QFileInfo>
-
 #include <utility>
 
 namespace recorder
@@ -213,8 +211,7 @@ SessionListener ConnectionRecorder::listener()
 /// The same for all recorders, by whichever of its names the store was opened.
 QString ConnectionRecorder::knownPath() const
 {
-    const QFileInfo store(m_storePath);
-    return store.exists() ? store.canonicalFilePath() : store.absoluteFilePath();
+    return recorder::knownPath(m_storePath);
 }
 
 bool ConnectionRecorder::lockStore()

@@ -43,24 +43,6 @@ private:
     const bool m_isLocked;
 };
 
-/// Whether any process that can be seen from here holds the file's lock, which is
-/// to be known of a file, too, that may not be opened; true if in doubt.
-bool isLockedBySomebody(const struct stat &file)
-{
-    std::ifstream locks("/proc/locks");
-    if (!locks)
-        return true;
-    // "1: FLOCK  ADVISORY  WRITE 1234 fe:00:5678 0 EOF". The device before the inode
-    // is not always the one that the file's status names (btrfs), so it is not
-    // compared.
-    const std::string inode = ':' + std::to_string(file.st_ino) + ' ';
-    for (std::string line; std::getline(locks, line);) {
-        if (line.find(" FLOCK ") != std::string::npos && line.find(inode) != std::string::npos)
-            return true;
-    }
-    return false;
-}
-
 } // namespace
 
 int openLockFile(const std::string &path)
@@ -91,6 +73,22 @@ bool isSameFile(const struct stat &a, const struct stat &b)
 bool isOwn(const struct stat &status)
 {
     return status.st_uid == geteuid();
+}
+
+bool isLockedBySomebody(const struct stat &file)
+{
+    std::ifstream locks("/proc/locks");
+    if (!locks)
+        return true;
+    // "1: FLOCK  ADVISORY  WRITE 1234 fe:00:5678 0 EOF". The device before the inode
+    // is not always the one that the file's status names (btrfs), so it is not
+    // compared.
+    const std::string inode = ':' + std::to_string(file.st_ino) + ' ';
+    for (std::string line; std::getline(locks, line);) {
+        if (line.find(" FLOCK ") != std::string::npos && line.find(inode) != std::string::npos)
+            return true;
+    }
+    return false;
 }
 
 Removal removeUnlocked(const std::string &path, const struct stat &file)

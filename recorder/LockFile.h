@@ -21,6 +21,10 @@ std::optional<struct stat> statusOf(int descriptor);
 bool isSameFile(const struct stat &a, const struct stat &b);
 bool isOwn(const struct stat &status);
 
+/// Whether any process that can be seen from here holds the file's lock, which is
+/// to be known of a file, too, that may not be opened; true if in doubt.
+bool isLockedBySomebody(const struct stat &file);
+
 enum class Removal { Done, NotOwnFolder, Busy };
 /// Removes this file from a folder of one's own, unless something else stands there
 /// by now. Busy: somebody holds its lock, or is about to remove it.

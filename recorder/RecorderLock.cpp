@@ -5,6 +5,7 @@
 #include "history/FilesBesideStore.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -15,8 +16,30 @@
 namespace recorder
 {
 
+namespace
+{
+
+QString lockFileOf(const QString &knownPath)
+{
+    return knownPath + QLatin1String(history::recorderLockSuffix);
+}
+
+} // namespace
+
+QString knownPath(const QString &path)
+{
+    const QFileInfo store(path);
+    return store.exists() ? store.canonicalFilePath() : store.absoluteFilePath();
+}
+
+bool isRecordedInto(const QString &path)
+{
+    const auto lock = statusAt(QFile::encodeName(lockFileOf(knownPath(path))).toStdString());
+    return lock && isLockedBySomebody(*lock);
+}
+
 RecorderLock::RecorderLock(const QString &storePath)
-    : m_path(storePath + QLatin1String(history::recorderLockSuffix))
+    : m_path(lockFileOf(storePath))
 {
 }
 

@@ -14,6 +14,12 @@ struct stat;
 namespace recorder
 {
 
+/// The path by which all recorders know the store in `path`.
+QString knownPath(const QString &path);
+
+/// Whether any process records into the store in `path`; nothing is taken to find out.
+bool isRecordedInto(const QString &path);
+
 /// Lets one recorder at a time have a store, within a process too. The lock is the
 /// kernel's, on a file that only tells others whose it is: it ends with its process,
 /// whatever is left in the file. Only a regular file of one's own is written to; where

@@ -11,29 +11,40 @@ constexpr std::size_t pieceBytes = 65536;
 
 } // namespace
 
-history::Result<std::size_t> writeConnections(const history::Store &store,
-                                              const history::ConnectionSelection &selection,
-                                              formats::ConnectionWriter &writer,
-                                              const TextSink &sink,
-                                              const history::Store::Progress &progress)
+history::Result<std::size_t>
+writeConnections(const history::Store &store, const history::ConnectionSelection &selection,
+                 const Extent &extent, formats::ConnectionWriter &writer, const TextSink &sink,
+                 const history::Store::Progress &progress)
 {
     std::string text;
     std::size_t done = 0;
     writer.begin(text);
-    auto count = store.visit(selection, [&](const history::Connection &connection) {
-        writer.add(connection, text);
+    const auto finishOne = [&] {
+        ++done;
         if (text.size() >= pieceBytes) {
             sink(text);
             text.clear();
         }
         if (progress)
-            progress(++done);
-    });
+            progress(done);
+    };
+    const auto add = [&](const history::Connection &connection) {
+        if (connection.key <= extent.afterKey)
+            return;
+        writer.add(connection, text);
+        finishOne();
+    };
+    const auto addRunning = [&](const history::OpenConnection &connection) {
+        writer.addRunning(connection, text);
+        finishOne();
+    };
+    const auto count =
+        extent.hasRunning ? store.visit(selection, add, addRunning) : store.visit(selection, add);
     if (!count)
         return count;
     writer.end(text);
     sink(text);
-    return count;
+    return done;
 }
 
 } // namespace common

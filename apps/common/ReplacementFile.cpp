@@ -24,8 +24,9 @@ void check(bool hasSucceeded)
 
 } // namespace
 
-ReplacementFile::ReplacementFile(const std::filesystem::path &place)
+ReplacementFile::ReplacementFile(const std::filesystem::path &place, Audience audience)
     : m_place(place)
+    , m_audience(audience)
     , m_temporaryPath(place.parent_path() / ".connrecord-XXXXXX")
 {
     // Its folder would let it be replaced although the user has protected it.
@@ -52,7 +53,7 @@ void ReplacementFile::write(std::string_view bytes)
 
 void ReplacementFile::putInPlace()
 {
-    keepPermissions();
+    setPermissions();
     check(fsync(m_descriptor) == 0);
     check(rename(m_temporaryPath.c_str(), m_place.c_str()) == 0);
     m_temporaryPath.clear();
@@ -67,12 +68,15 @@ void ReplacementFile::putInFreePlace()
                                        RENAME_NOREPLACE) == 0));
 }
 
-void ReplacementFile::keepPermissions() const
+void ReplacementFile::setPermissions() const
 {
     constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
+    constexpr mode_t readableByAll = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
     struct stat present = {};
     if (stat(m_place.c_str(), &present) == 0)
         check(fchmod(m_descriptor, present.st_mode & permissions) == 0);
+    else if (m_audience == Audience::Everybody)
+        check(fchmod(m_descriptor, readableByAll) == 0);
 }
 
 } // namespace common

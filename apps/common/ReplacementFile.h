@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Audience.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -9,13 +11,14 @@ namespace common
 {
 
 /// The future contents of a file, beside it until they are whole. A new file is
-/// the user's alone; one that was there keeps its permissions. All of it throws
+/// its audience's; one that was there keeps its permissions. All of it throws
 /// std::system_error.
 class ReplacementFile
 {
 public:
     /// For the file at `place`, which need not exist and is no link.
-    explicit ReplacementFile(const std::filesystem::path &place);
+    explicit ReplacementFile(const std::filesystem::path &place,
+                             Audience audience = Audience::Owner);
     /// Removes what has not been put in place.
     ~ReplacementFile();
     ReplacementFile(const ReplacementFile &) = delete;
@@ -31,9 +34,10 @@ public:
     void putInFreePlace();
 
 private:
-    void keepPermissions() const;
+    void setPermissions() const;
 
     const std::filesystem::path m_place;
+    const Audience m_audience;
     std::string m_temporaryPath; ///< empty once it is in place
     int m_descriptor;
 };

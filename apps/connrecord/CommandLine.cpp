@@ -5,12 +5,14 @@
 #include "Commands.h"
 #include "Complaint.h"
 #include "Failure.h"
+#include "FileOptions.h"
 #include "ImportCommand.h"
 #include "OptionChoice.h"
 #include "Output.h"
 #include "PlanOptions.h"
 #include "RecordCommand.h"
 #include "RemoveCommand.h"
+#include "SelectionOptions.h"
 #include "StatusCommand.h"
 #include "TotalsCommand.h"
 #include "TotalsText.h"
@@ -45,12 +47,6 @@ constexpr const char *exitCodes = R"(Exit codes:
  10  status: a percentage to warn at of a plan is reached
  11  status: nothing is left of a plan)";
 
-/// The file of no name is the folder that the program runs in, which nobody means.
-std::string checkFileName(const std::string &name)
-{
-    return name.empty() ? "the name of the file is empty" : std::string();
-}
-
 usage::Grouping groupingNamed(const std::string &names)
 {
     if (const auto grouping = groupingOf(names))
@@ -58,11 +54,6 @@ usage::Grouping groupingNamed(const std::string &names)
     throw CLI::ValidationError("--by", "it is profile, sim, operator, roaming and one of hour, "
                                        "day, month, year and period, separated by commas, not " +
                                            names);
-}
-
-std::string checkName(const std::string &name)
-{
-    return name.empty() ? "the name is empty" : std::string();
 }
 
 /// Declares the commands, and remembers the one that the user chooses.
@@ -83,8 +74,6 @@ private:
     CLI::App *addCommand(CLI::App &parent, const char *name, const char *description);
     static CLI::App *addCommandWithoutResult(CLI::App &parent, const char *name,
                                              const char *description);
-    static void addDays(CLI::App *command, DaysRequest &days);
-    void addSelection(CLI::App *command);
     void addList();
     void addAdd();
     void addRemove();
@@ -93,6 +82,7 @@ private:
     void addTotals();
     void addPlan();
     void addStatus();
+    void addMetrics();
     void addBackup();
     void addCheck();
     void addRecord();
@@ -102,12 +92,13 @@ private:
     AddRequest m_add;
     SelectionRequest m_selection;
     RemoveRequest m_removal;
-    ExportRequest m_export{{}, &formats::exportFormats.front(), standardOutputPath};
+    ExportRequest m_export;
     std::string m_copyPath;
     common::ImportRequest m_import;
     TotalsRequest m_totals;
     PlanRequest m_plan;
     StatusRequest m_status;
+    MetricsRequest m_metrics;
     RecordRequest m_record;
     std::function<void()> m_action;
     ExitCode m_exitCode = ExitCode::Success;
@@ -133,6 +124,7 @@ CommandLine::CommandLine()
     addTotals();
     addPlan();
     addStatus();
+    addMetrics();
     addBackup();
     addCheck();
     addRecord();
@@ -200,28 +192,10 @@ CLI::App *CommandLine::addCommandWithoutResult(CLI::App &parent, const char *nam
     return command;
 }
 
-void CommandLine::addDays(CLI::App *command, DaysRequest &days)
-{
-    command->add_option("--from", days.from, "First day, as 2024-05-31, in local time")
-        ->type_name("DATE");
-    command->add_option("--to", days.to, "Last day, itself included")->type_name("DATE");
-}
-
-void CommandLine::addSelection(CLI::App *command)
-{
-    addDays(command, m_selection.days);
-    command->add_option("--profile", m_selection.profile, "Of this profile (APN) only")
-        ->type_name("NAME");
-    command->add_option("--sim", m_selection.sim, "Of the SIM whose number ends so only")
-        ->type_name("NUMBER");
-    command->add_option("--limit", m_selection.limit, "That many at most, those that started last")
-        ->type_name("NUMBER");
-}
-
 void CommandLine::addList()
 {
     CLI::App *const command = addCommand("list", "List connections by their start");
-    addSelection(command);
+    addSelection(*command, m_selection);
     command->callback([this] { m_action = [this] { listConnections(m_common, m_selection); }; });
 }
 
@@ -248,7 +222,7 @@ void CommandLine::addAdd()
 void CommandLine::addRemove()
 {
     CLI::App *const command = addCommand("remove", "Remove connections, all of these or none");
-    addSelection(command);
+    addSelection(*command, m_selection);
     command->add_flag("--yes", m_removal.isAgreed, "Do not ask")->disable_flag_override();
     command->add_flag("--dry-run", m_removal.isRehearsal, "Only show what would be removed")
         ->disable_flag_override();
@@ -263,19 +237,8 @@ void CommandLine::addRemove()
 void CommandLine::addExport()
 {
     CLI::App *const command = addCommand("export", "Write connections to a file");
-    addSelection(command);
-    command
-        ->add_option_function<std::string>(
-            "--format",
-            [this](const std::string &name) {
-                m_export.format = chosenFrom(formats::exportFormats, "--format", name);
-            },
-            helpOf(formats::exportFormats) + "; csv without it, json with --json")
-        ->type_name(choiceOf(formats::exportFormats))
-        ->excludes("--json");
-    command->add_option("--output", m_export.outputPath, "Write to this file; - is standard output")
-        ->type_name("FILE")
-        ->check(checkFileName);
+    addSelection(*command, m_selection);
+    addExportOptions(*command, m_export);
     command->callback([this] {
         m_export.selection = m_selection;
         if (m_common.json)
@@ -330,7 +293,7 @@ void CommandLine::addTotals()
     command->add_flag("--finished", m_totals.isOfFinished, "Leave out connections that still last")
         ->disable_flag_override();
     command->add_option("--plan", m_totals.plan, "Only what this plan covers")->type_name("NAME");
-    addDays(command, m_totals.days);
+    addDays(*command, m_totals.days);
     command->callback([this] { m_action = [this] { showTotals(m_common, m_totals); }; });
 }
 
@@ -361,6 +324,16 @@ void CommandLine::addStatus()
         ->type_name("TIME");
     command->callback(
         [this] { m_action = [this] { m_exitCode = showStatus(m_common, m_status); }; });
+}
+
+void CommandLine::addMetrics()
+{
+    CLI::App *const command = addCommandWithoutResult(
+        m_parser, "metrics",
+        "Write sums and what is left of data plans for Prometheus. After a removal the sums are "
+        "smaller, which it takes for a start at 0");
+    addMetricsOptions(*command, m_metrics);
+    command->callback([this] { m_action = [this] { writeMetrics(m_common, m_metrics); }; });
 }
 
 void CommandLine::addBackup()

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Selection.h"
-#include "formats/Formats.h"
+#include "history/Store.h"
 
 #include <optional>
 #include <string>
@@ -31,17 +31,10 @@ struct AddRequest {
     std::string interfaceName;
 };
 
-struct ExportRequest {
-    SelectionRequest selection;
-    const formats::ExportFormat *format = &formats::exportFormats.front();
-    std::string outputPath; ///< "-" is standard output
-};
-
 void listConnections(const CommonRequest &common, const SelectionRequest &selection);
 /// As a table, or as JSON.
 void showConnections(const CommonRequest &common,
                      const std::vector<history::Connection> &connections);
 void addConnection(const CommonRequest &common, const AddRequest &request);
-void exportConnections(const CommonRequest &common, const ExportRequest &request);
 
 } // namespace connrecord

@@ -60,8 +60,9 @@ void Output::orFailure(Step step) const
     }
 }
 
-Output::Output(const std::string &path)
+Output::Output(const std::string &path, common::Audience audience)
     : m_name(outputName(path))
+    , m_audience(audience)
 {
     orFailure([&] { open(path); });
 }
@@ -133,7 +134,7 @@ void Output::writeInPlace(const char *bytes, qint64 count)
 common::ReplacementFile &Output::replacement()
 {
     if (!m_replacement)
-        m_replacement = std::make_unique<common::ReplacementFile>(*m_replacedFile);
+        m_replacement = std::make_unique<common::ReplacementFile>(*m_replacedFile, m_audience);
     return *m_replacement;
 }
 

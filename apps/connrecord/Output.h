@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Failure.h"
+#include "apps/common/Audience.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -33,14 +34,15 @@ std::string outputName(const std::string &path);
 void checkIsNotOfHistory(const std::string &outputPath, const std::string &storePath);
 
 /// Where the result of a command goes. An ordinary file gets its place, and its
-/// earlier contents stay whole, until the new ones are; a new file is the user's
-/// alone. Everything else, such as a pipe, a terminal or what this process has
+/// earlier contents stay whole, until the new ones are; a new file is its
+/// audience's. Everything else, such as a pipe, a terminal or what this process has
 /// open already (/dev/stdout), is written to where it is.
 class Output
 {
 public:
     /// Opens what is not to be replaced. Throws Failure.
-    explicit Output(const std::string &path = standardOutputPath);
+    explicit Output(const std::string &path = standardOutputPath,
+                    common::Audience audience = common::Audience::Owner);
     /// An ordinary file stays as it was unless the result is complete.
     ~Output();
     Output(const Output &) = delete;
@@ -66,6 +68,7 @@ private:
     Failure cannotWrite(const std::string &reason) const;
 
     const std::string m_name;
+    const common::Audience m_audience;
     QFile m_file;
     std::optional<std::filesystem::path> m_replacedFile;
     std::unique_ptr<common::ReplacementFile> m_replacement; ///< once something is written

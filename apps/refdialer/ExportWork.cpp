@@ -64,9 +64,9 @@ std::size_t ExportWork::write(const history::Store &store, common::ReplacementFi
 {
     history::ConnectionSelection all;
     all.withHours = m_choice.format->carriesHours;
-    const auto writer = m_choice.format->writer();
+    const auto writer = m_choice.format->writer({});
     return valueOrFailure(common::writeConnections(
-        store, all, *writer, [&file](std::string_view piece) { file.write(piece); },
+        store, all, {}, *writer, [&file](std::string_view piece) { file.write(piece); },
         [&progress](std::size_t done) { progress.update(static_cast<std::int64_t>(done)); }));
 }
 

@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON، كائن واحد في كل سطر</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>سجل نظام فيه رسائل pppd</translation>
     </message>

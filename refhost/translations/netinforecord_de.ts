@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON, ein Objekt je Zeile</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>Systemprotokoll mit Meldungen von pppd</translation>
     </message>

@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON, un objeto por línea</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>Registro del sistema con mensajes de pppd</translation>
     </message>

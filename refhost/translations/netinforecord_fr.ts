@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON, un objet par ligne</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>Journal système avec des messages de pppd</translation>
     </message>

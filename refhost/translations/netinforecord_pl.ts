@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON, jeden obiekt w wierszu</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>Dziennik systemowy z komunikatami pppd</translation>
     </message>

@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON, um objeto por linha</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>Log do sistema com mensagens do pppd</translation>
     </message>

@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON, по одному объекту в строке</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>Системный журнал с сообщениями pppd</translation>
     </message>

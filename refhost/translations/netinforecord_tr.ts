@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON, her satırda bir nesne</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>pppd iletileri içeren sistem günlüğü</translation>
     </message>

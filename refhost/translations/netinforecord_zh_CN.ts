@@ -246,6 +246,10 @@
         <translation>JSON</translation>
     </message>
     <message>
+        <source>JSON, an object a line</source>
+        <translation>JSON，每行一个对象</translation>
+    </message>
+    <message>
         <source>System log with messages of pppd</source>
         <translation>含 pppd 消息的系统日志</translation>
     </message>

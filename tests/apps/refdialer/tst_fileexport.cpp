@@ -90,6 +90,8 @@ void FileExportTest::writesEveryFormat_data()
     QTest::addColumn<QByteArray>("contents");
 
     for (const formats::ExportFormat &format : formats::exportFormats) {
+        if (format.namesMachine)
+            continue;
         std::vector<history::Connection> exported = {withoutHours(), withHours()};
         exported[0].key = 1;
         exported[1].key = 2;
@@ -97,7 +99,7 @@ void FileExportTest::writesEveryFormat_data()
             exported[1].hours.clear();
         QTest::newRow(format.name)
             << QString(format.title) << QStringLiteral("history.%1").arg(format.suffix)
-            << QByteArray::fromStdString(formats::documentOf(*format.writer(), exported));
+            << QByteArray::fromStdString(formats::documentOf(*format.writer({}), exported));
     }
 }
 
@@ -267,7 +269,8 @@ void FileExportTest::opensByItsKey()
     m_user->history.pressKey(Qt::Key_E, Qt::ControlModifier);
     auto *const chooser = m_user->history.window().findChild<QFileDialog *>();
     QVERIFY(chooser && chooser->isVisible());
-    QCOMPARE(chooser->nameFilters().size(), int(formats::exportFormats.size()));
+    // The one for many machines is for programs that run by themselves.
+    QCOMPARE(chooser->nameFilters().size(), int(formats::exportFormats.size()) - 1);
     QTest::keyClick(chooser, Qt::Key_Escape);
     QTRY_VERIFY(!m_user->history.window().findChild<QFileDialog *>());
     QVERIFY(!m_user->dialog());

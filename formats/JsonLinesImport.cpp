@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "FieldValue.h"
+#include "ImportReader.h"
+#include "InputError.h"
+#include "JsonFormat.h"
+#include "JsonLine.h"
+#include "LineReader.h"
+#include "Utf8Text.h"
+
+#include <string_view>
+
+namespace formats
+{
+
+namespace
+{
+
+/// No connection with its hours is longer, in bytes.
+constexpr std::size_t longestJsonLine = 16777216;
+
+class JsonLinesImport : public ImportReader
+{
+public:
+    void read(const ImportSource &source, const ReadProgress &progress) override;
+    Imported imported() override { return std::move(m_imported); }
+
+private:
+    void take(std::string_view line, std::int64_t number);
+
+    Imported m_imported;
+};
+
+void JsonLinesImport::read(const ImportSource &source, const ReadProgress &progress)
+{
+    LineReader lines(source.device, longestJsonLine + 1, progress);
+    const auto fail = [&](const std::string &reason) {
+        lines.checkReadToTheEnd(source.name);
+        throw InputError(source.name + ", line " + std::to_string(lines.lineNumber()) + ": " +
+                         reason + ". Nothing was imported.");
+    };
+    try {
+        while (lines.next())
+            take(lines.line(), lines.lineNumber());
+    } catch (const Json::parse_error &error) {
+        fail(reasonOf(error));
+    } catch (const FieldError &error) {
+        fail(error.reason);
+    }
+    lines.checkReadToTheEnd(source.name);
+}
+
+/// Blank lines are nothing, and neither is the last one of a delivery.
+void JsonLinesImport::take(std::string_view line, std::int64_t number)
+{
+    if (line.size() > longestJsonLine)
+        throw FieldError{"it is longer than " + std::to_string(longestJsonLine) + " bytes", true};
+    const std::string_view text = number == 1 ? withoutByteOrderMark(line) : line;
+    if (text.find_first_not_of(" \t\r") == std::string_view::npos)
+        return;
+    const Json json = Json::parse(text);
+    if (isStillRunning(json))
+        countRunning(m_imported, number, text);
+    else if (!json.is_object() || !json.contains(jsonLastKeyName))
+        m_imported.connections.push_back(connectionFromJson(json));
+}
+
+} // namespace
+
+std::unique_ptr<ImportReader> jsonLinesImport(const ImportOptions & /*options*/)
+{
+    return std::make_unique<JsonLinesImport>();
+}
+
+} // namespace formats
