@@ -10,7 +10,7 @@ build_packages=(
 )
 run_packages=(fonts-dejavu-core)
 # What every step of ./test needs, and what single steps need besides.
-test_packages=(lld dbus-daemon sqlite3 man-db desktop-file-utils appstream iproute2 modemmanager python3-dbusmock xvfb x11-utils systemd libglib2.0-bin xz-utils zstd bzip2 tzdata fonts-droid-fallback)
+test_packages=(lld dbus-daemon sqlite3 man-db desktop-file-utils appstream iproute2 modemmanager python3-dbusmock xvfb x11-utils systemd libglib2.0-bin postgresql python3-prometheus-client xz-utils zstd bzip2 tzdata fonts-droid-fallback)
 # The sanitizers ask llvm for the names in their reports, and in what they pass over.
 clang_packages=(clang libclang-rt-dev llvm)
 style_packages=(clang-format codespell doxygen reuse shellcheck)
