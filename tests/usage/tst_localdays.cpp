@@ -138,7 +138,7 @@ void LocalDaysTest::agreesWithQtOnRandomMoments_data()
 void LocalDaysTest::agreesWithQtOnRandomMoments()
 {
     QFETCH(QByteArray, zone);
-    const LocalZone local(zone.constData());
+    const LocalZone here(zone.constData());
     const LocalClock clock;
     std::mt19937_64 random{20261122};
     std::uniform_int_distribution<std::int64_t> moments(0, 2145916799); // 1970 to 2037
