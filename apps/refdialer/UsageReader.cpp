@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "UsageReader.h"
 
+#include <QDateTime>
+#include <QTimeZone>
+
+#include <tuple>
 #include <utility>
 
 namespace refdialer
@@ -9,6 +13,12 @@ namespace refdialer
 using history::Result;
 using history::Store;
 using history::StoreError;
+
+bool UsageReader::Occasion::operator==(const Occasion &other) const
+{
+    return std::tie(revision, today, offset, zone) ==
+           std::tie(other.revision, other.today, other.offset, other.zone);
+}
 
 UsageReader::UsageReader(const std::string &storePath, QObject *parent)
     : QObject(parent)
@@ -30,24 +40,26 @@ void UsageReader::look()
         return;
     m_store.read(
         this,
-        [request = m_request, today = QDate::currentDate(), former = m_occasion](
-            const Store &store) { return readFigures(store, request, today, former); },
+        [request = m_request, former = m_occasion](const Store &store) {
+            return readFigures(store, request, former);
+        },
         [this](const Result<Answer> &answer) { take(answer); });
 }
 
-/// The revision first: what is written while figures are read makes another look worth while.
+/// The occasion first: what changes while figures are read makes another look worth while.
 Result<UsageReader::Answer> UsageReader::readFigures(const Store &store,
                                                      const UsageRequest &request,
-                                                     const QDate &today,
                                                      const std::optional<Occasion> &former)
 {
     const auto revision = store.revision();
     if (!revision)
         return revision.error();
-    const Occasion occasion{revision.value(), today};
+    const QDateTime now = QDateTime::currentDateTime();
+    const Occasion occasion{revision.value(), now.date(), now.offsetFromUtc(),
+                            QTimeZone::systemTimeZoneId()};
     if (occasion == former)
         return Answer{occasion, std::nullopt};
-    auto figures = usageFigures(store, request, today);
+    auto figures = usageFigures(store, request, occasion.today);
     if (!figures)
         return figures.error();
     return Answer{occasion, std::move(figures.value())};

@@ -4,6 +4,8 @@
 #include "StoreWorker.h"
 #include "UsageFigures.h"
 
+#include <QByteArray>
+#include <QDate>
 #include <QObject>
 
 #include <cstdint>
@@ -38,11 +40,9 @@ private:
     struct Occasion {
         std::uint64_t revision;
         QDate today;
-
-        bool operator==(const Occasion &other) const
-        {
-            return revision == other.revision && today == other.today;
-        }
+        int offset;      ///< of local time; tells some zones without a name apart
+        QByteArray zone; ///< two of the same offset may differ on other days
+        bool operator==(const Occasion &other) const;
     };
     struct Answer {
         Occasion occasion;
@@ -50,7 +50,7 @@ private:
     };
 
     static history::Result<Answer> readFigures(const history::Store &store,
-                                               const UsageRequest &request, const QDate &today,
+                                               const UsageRequest &request,
                                                const std::optional<Occasion> &former);
     void take(const history::Result<Answer> &answer);
     void fail(const history::StoreError &error);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "LocalZone.h"
+#include "PlanSamples.h"
 #include "StoreSamples.h"
 #include "UsagePageCase.h"
 #include "refhost/libcore/Host.h"
@@ -33,6 +35,7 @@ private slots:
     void copiesText();
     void copiesAPicture();
     void keepsUpWithARunningConnection();
+    void followsTheZone();
     void saysThatThereIsNothingYet();
     void saysWhyThereAreNoFigures();
     void speaksTheLanguageOfTheProgram();
@@ -267,6 +270,26 @@ void UsagePageTest::keepsUpWithARunningConnection()
     QTRY_COMPARE(received(), 23 * megabyte);
     QCOMPARE(chart().current(), bar);
     QVERIFY(shows(chart().textOf(bar)));
+}
+
+/// Zones so near to each other that it is the same day in both nearly always.
+void UsagePageTest::followsTheZone()
+{
+    const LocalZone before("Asia/Kolkata");
+    const QDate day(today().year(), today().month(), 15);
+    const std::int64_t lastHour = utcOf(day.toString(Qt::ISODate) + "T18:00:00Z");
+    history::Connection moved = connection("internet", lastHour, lastHour + 60);
+    moved.uploadedBytes = megabyte;
+    moved.hours = {{lastHour, true, megabyte, 0}};
+    storeWith(m_path, {moved});
+    open();
+    const auto sentRoamingOn = [this](int dayOfMonth) {
+        return chart().bars()[std::size_t(dayOfMonth) - 1].bytes[usage::SentRoaming];
+    };
+    QCOMPARE(sentRoamingOn(15), megabyte);
+    const LocalZone after("Asia/Dhaka");
+    QTRY_COMPARE(sentRoamingOn(16), megabyte);
+    QCOMPARE(sentRoamingOn(15), std::int64_t(0));
 }
 
 void UsagePageTest::saysThatThereIsNothingYet()
