@@ -2,6 +2,7 @@
 #include "PlanEditor.h"
 
 #include "CoverageEdit.h"
+#include "PercentagesEdit.h"
 #include "PeriodEdit.h"
 #include "PlanWatch.h"
 #include "SizeEdit.h"
@@ -52,32 +53,6 @@ QComboBox *newChoice(const QStringList &texts)
     return box;
 }
 
-QString listOf(const std::vector<int> &percentages)
-{
-    QStringList texts;
-    for (const int each : percentages)
-        texts.append(QString::number(each));
-    return texts.join(QStringLiteral(", "));
-}
-
-/// The numbers in a list that commas or spaces part; nothing if anything else is there.
-std::optional<std::vector<int>> percentagesIn(QString text)
-{
-    std::vector<int> percentages;
-    const QStringList parts =
-        text.replace(QLatin1Char(','), QLatin1Char(' ')).simplified().split(QLatin1Char(' '));
-    for (const QString &each : parts) {
-        bool isNumber = false;
-        const int percent = each.toInt(&isNumber);
-        if (each.isEmpty())
-            continue;
-        if (!isNumber || percent < 1 || percent > history::highestPercentage)
-            return std::nullopt;
-        percentages.push_back(percent);
-    }
-    return percentages;
-}
-
 } // namespace
 
 PlanEditor::PlanEditor(PlanWatch &plans, const DataPlan &plan, QWidget *parent)
@@ -92,7 +67,7 @@ PlanEditor::PlanEditor(PlanWatch &plans, const DataPlan &plan, QWidget *parent)
     , m_amount(new SizeEdit(tr("not limited")))
     , m_period(new PeriodEdit(plans.today()))
     , m_usedElsewhere(new SizeEdit(tr("nothing")))
-    , m_warnings(new QLineEdit)
+    , m_warnings(new PercentagesEdit)
     , m_problem(newMessage())
     , m_form(new QWidget)
     , m_buttons(new QDialogButtonBox)
@@ -154,7 +129,7 @@ void PlanEditor::showPlan()
     m_amount->setBytes(m_former.amount);
     m_period->setRule(m_former.period);
     m_usedElsewhere->setBytes(shownElsewhere());
-    m_warnings->setText(listOf(m_former.warnAtPercent));
+    m_warnings->setPercentages(m_former.warnAtPercent);
 }
 
 /// Not the correction of a period that is over.
@@ -228,12 +203,10 @@ QString PlanEditor::takeAmount()
         return {};
     const auto bytes = m_amount->bytes();
     if (!bytes)
-        return notASize();
-    if (!bytes->isInRange)
-        return tooLarge();
-    if (bytes->value < 0)
+        return m_amount->problem();
+    if (*bytes < 0)
         return tr("There is no plan of less than nothing.");
-    m_plan.amount = bytes->value;
+    m_plan.amount = bytes;
     return {};
 }
 
@@ -247,37 +220,25 @@ QString PlanEditor::takePeriod()
 QString PlanEditor::takeUsedElsewhere()
 {
     const auto bytes =
-        m_usedElsewhere->isEmpty() ? usage::WholeNumber{0, true} : m_usedElsewhere->bytes();
+        m_usedElsewhere->isEmpty() ? std::optional<std::int64_t>(0) : m_usedElsewhere->bytes();
     if (!bytes)
-        return notASize();
-    if (!bytes->isInRange)
-        return tooLarge();
+        return m_usedElsewhere->problem();
     m_plan.usedElsewhere = m_former.usedElsewhere;
     const auto shown = shownElsewhere();
-    if (bytes->value == shown.value_or(0) && (!shown || isOfThisPeriod(m_plan)))
+    if (*bytes == shown.value_or(0) && (!shown || isOfThisPeriod(m_plan)))
         return {};
-    const bool isTaken = usage::setUsedElsewhere(m_plan, bytes->value, m_plans.today());
+    const bool isTaken = usage::setUsedElsewhere(m_plan, *bytes, m_plans.today());
     return isTaken ? QString() : tr("Today is in no period of this plan.");
 }
 
 QString PlanEditor::takeWarnings()
 {
-    const auto percentages = percentagesIn(m_warnings->text());
+    const auto percentages = m_warnings->percentages();
     if (!percentages)
         return tr("Write percentages from 1 to %1, such as 80, 100.")
             .arg(history::highestPercentage);
     usage::setWarnings(m_plan, *percentages);
     return {};
-}
-
-QString PlanEditor::notASize()
-{
-    return tr("Write a number, such as 10 or 1.5.");
-}
-
-QString PlanEditor::tooLarge()
-{
-    return tr("That is more than can be counted.");
 }
 
 /// Tells all that is wrong at once, each beside its field.

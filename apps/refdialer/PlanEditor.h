@@ -19,6 +19,7 @@ namespace refdialer
 {
 
 class CoverageEdit;
+class PercentagesEdit;
 class PeriodEdit;
 class PlanWatch;
 class SizeEdit;
@@ -65,8 +66,6 @@ private:
     QString takePeriod();
     QString takeUsedElsewhere();
     QString takeWarnings();
-    static QString notASize();
-    static QString tooLarge();
     bool takeAll();
     void finish(const history::Result<std::int64_t> &stored);
     void setStoring(bool isStoring);
@@ -82,7 +81,7 @@ private:
     SizeEdit *m_amount;
     PeriodEdit *m_period;
     SizeEdit *m_usedElsewhere;
-    QLineEdit *m_warnings;
+    PercentagesEdit *m_warnings;
     std::vector<Field> m_fields; ///< from top to bottom
     QLabel *m_problem;           ///< shown if the plan cannot be stored
     QWidget *m_form;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SizeEdit.h"
 
+#include "LocalNumber.h"
 #include "usage/SizeText.h"
 
 #include <QComboBox>
@@ -17,13 +18,13 @@ namespace
 /// As usage::bytesIn() reads them: other digits than ours are the same numbers.
 QString plainNumber(const QString &text, const QLocale &locale)
 {
-    QString number = text.trimmed();
-    number.replace(QString(locale.decimalPoint()), QStringLiteral("."));
-    for (QChar &each : number) {
-        if (each.digitValue() >= 0)
-            each = QLatin1Char(static_cast<char>('0' + each.digitValue()));
-    }
-    return number;
+    return withPlainDigits(text).replace(QString(locale.decimalPoint()), QStringLiteral("."));
+}
+
+/// It may be meant as the decimal point as well.
+bool isGrouped(const QString &text, const QLocale &locale)
+{
+    return text.contains(QString(locale.groupSeparator()));
 }
 
 } // namespace
@@ -47,18 +48,45 @@ void SizeEdit::setBytes(std::optional<std::int64_t> bytes)
 {
     const usage::WrittenSize size =
         bytes ? usage::writtenSize(*bytes) : usage::WrittenSize{{}, QStringLiteral("GB")};
-    m_number->setText(size.number);
+    m_number->setText(localNumber(size.number, locale()));
     m_unit->setCurrentText(size.unit);
 }
 
 bool SizeEdit::isEmpty() const
 {
-    return m_number->text().trimmed().isEmpty();
+    return number().isEmpty();
 }
 
-std::optional<usage::WholeNumber> SizeEdit::bytes() const
+std::optional<std::int64_t> SizeEdit::bytes() const
 {
-    const QString text = plainNumber(m_number->text(), locale()) + m_unit->currentText();
+    const auto read = readBytes();
+    return read && read->isInRange ? std::optional(read->value) : std::nullopt;
+}
+
+QString SizeEdit::problem() const
+{
+    const auto read = readBytes();
+    if (read)
+        return read->isInRange ? QString() : tr("That is more than can be counted.");
+    const auto example = [this](const char *digits) {
+        return localNumber(QLatin1String(digits), locale());
+    };
+    return isGrouped(number(), locale())
+               ? tr("Write the number without separators of thousands, such as %1 or %2.")
+                     .arg(example("1500"), example("1.5"))
+               : tr("Write a number, such as %1 or %2.").arg(example("10"), example("1.5"));
+}
+
+QString SizeEdit::number() const
+{
+    return m_number->text().trimmed();
+}
+
+std::optional<usage::WholeNumber> SizeEdit::readBytes() const
+{
+    if (isGrouped(number(), locale()))
+        return std::nullopt;
+    const QString text = plainNumber(number(), locale()) + m_unit->currentText();
     return usage::bytesIn(text.toStdString());
 }
 

@@ -1065,14 +1065,6 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>اكتب نسبًا مئوية من 1 إلى %1، مثل 80, 100.</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>اكتب عددًا، مثل 10 أو 1.5.</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>هذا أكثر مما يمكن عدّه.</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1320,6 +1312,21 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>لغة النظام (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>هذا أكثر مما يمكن عدّه.</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>اكتب العدد دون فواصل للآلاف، مثل %1 أو %2.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>اكتب عددًا، مثل %1 أو %2.</translation>
     </message>
 </context>
 <context>

@@ -1065,14 +1065,6 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Schreiben Sie Prozentzahlen von 1 bis %1, etwa 80, 100.</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>Schreiben Sie eine Zahl, etwa 10 oder 1,5.</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>Das ist mehr, als sich zählen lässt.</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1304,6 +1296,21 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>Die des Systems (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>Das ist mehr, als sich zählen lässt.</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>Schreiben Sie die Zahl ohne Tausendertrennzeichen, etwa %1 oder %2.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>Schreiben Sie eine Zahl, etwa %1 oder %2.</translation>
     </message>
 </context>
 <context>

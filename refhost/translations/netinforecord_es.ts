@@ -1065,14 +1065,6 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Escriba porcentajes de 1 a %1, por ejemplo 80, 100.</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>Escriba un número, por ejemplo 10 o 1,5.</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>Es más de lo que se puede contar.</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1304,6 +1296,21 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>El del sistema (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>Es más de lo que se puede contar.</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>Escriba el número sin separadores de miles, por ejemplo %1 o %2.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>Escriba un número, por ejemplo %1 o %2.</translation>
     </message>
 </context>
 <context>

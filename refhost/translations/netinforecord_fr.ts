@@ -1065,14 +1065,6 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Écrivez des pourcentages de 1 à %1, par exemple 80, 100.</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>Écrivez un nombre, par exemple 10 ou 1,5.</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>C’est plus qu’on ne peut compter.</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1304,6 +1296,21 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>Celle du système (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>C’est plus qu’on ne peut compter.</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>Écrivez le nombre sans séparateur de milliers, par exemple %1 ou %2.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>Écrivez un nombre, par exemple %1 ou %2.</translation>
     </message>
 </context>
 <context>

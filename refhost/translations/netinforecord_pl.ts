@@ -1065,14 +1065,6 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Wpisz wartości procentowe od 1 do %1, na przykład 80, 100.</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>Wpisz liczbę, na przykład 10 lub 1,5.</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>To więcej, niż można policzyć.</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1308,6 +1300,21 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>Język systemu (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>To więcej, niż można policzyć.</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>Wpisz liczbę bez separatorów tysięcy, na przykład %1 lub %2.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>Wpisz liczbę, na przykład %1 lub %2.</translation>
     </message>
 </context>
 <context>

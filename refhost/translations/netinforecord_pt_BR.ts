@@ -1065,14 +1065,6 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Escreva porcentagens de 1 a %1, por exemplo 80, 100.</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>Escreva um número, por exemplo 10 ou 1,5.</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>É mais do que se pode contar.</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1304,6 +1296,21 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>O do sistema (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>É mais do que se pode contar.</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>Escreva o número sem separadores de milhar, por exemplo %1 ou %2.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>Escreva um número, por exemplo %1 ou %2.</translation>
     </message>
 </context>
 <context>

@@ -1065,14 +1065,6 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Введите проценты от 1 до %1, например 80, 100.</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>Введите число, например 10 или 1,5.</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>Это больше, чем можно сосчитать.</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1308,6 +1300,21 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>Язык системы (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>Это больше, чем можно сосчитать.</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>Введите число без разделителей тысяч, например %1 или %2.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>Введите число, например %1 или %2.</translation>
     </message>
 </context>
 <context>

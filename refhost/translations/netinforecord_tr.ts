@@ -1065,14 +1065,6 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>1 ile %1 arasında yüzdeler yazın, örneğin 80, 100.</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>Bir sayı yazın, örneğin 10 ya da 1,5.</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>Bu, sayılabilecek olandan fazla.</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1300,6 +1292,21 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>Sisteminki (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>Bu, sayılabilecek olandan fazla.</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>Sayıyı binlik ayırıcı kullanmadan yazın, örneğin %1 ya da %2.</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>Bir sayı yazın, örneğin %1 ya da %2.</translation>
     </message>
 </context>
 <context>

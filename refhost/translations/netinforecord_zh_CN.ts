@@ -1065,14 +1065,6 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>请输入 1 到 %1 的百分比，例如 80, 100。</translation>
     </message>
-    <message>
-        <source>Write a number, such as 10 or 1.5.</source>
-        <translation>请输入数字，例如 10 或 1.5。</translation>
-    </message>
-    <message>
-        <source>That is more than can be counted.</source>
-        <translation>超出了可以计数的范围。</translation>
-    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>
@@ -1300,6 +1292,21 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <message>
         <source>The system&apos;s (%1)</source>
         <translation>系统语言 (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>refdialer::SizeEdit</name>
+    <message>
+        <source>That is more than can be counted.</source>
+        <translation>超出了可以计数的范围。</translation>
+    </message>
+    <message>
+        <source>Write the number without separators of thousands, such as %1 or %2.</source>
+        <translation>请输入不带千位分隔符的数字，例如 %1 或 %2。</translation>
+    </message>
+    <message>
+        <source>Write a number, such as %1 or %2.</source>
+        <translation>请输入数字，例如 %1 或 %2。</translation>
     </message>
 </context>
 <context>

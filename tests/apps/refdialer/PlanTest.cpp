@@ -3,6 +3,7 @@
 
 #include "refhost/libcore/Host.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -42,6 +43,54 @@ DataPlan planCalled(const std::string &name, std::optional<std::int64_t> amount)
     return plan;
 }
 
+DataPlan prepaid()
+{
+    DataPlan plan = planCalled("Prepaid \xc3\xa9");
+    plan.covers = DataPlan::Covers::Sim;
+    plan.covered = "8949000000000001234";
+    plan.network = DataPlan::Network::Roaming;
+    plan.counts = DataPlan::Counts::Sent;
+    plan.amount = 9223372036854775807;
+    plan.period = OnceBetween{dayNumber("2026-11-10"), dayNumber("2026-12-09")};
+    plan.usedElsewhere = UsedElsewhere{-5, dayNumber("2026-11-12")};
+    plan.warnAtPercent = {50, 120};
+    return plan;
+}
+
+QString ruleText(const PeriodRule &rule)
+{
+    if (const auto *monthly = std::get_if<MonthlyFrom>(&rule))
+        return QString("monthly %1").arg(monthly->day);
+    if (const auto *every = std::get_if<EveryDays>(&rule))
+        return QString("every %1 from %2")
+            .arg(every->days)
+            .arg(dayText(QDate::fromJulianDay(every->from)));
+    const auto &once = std::get<OnceBetween>(rule);
+    return dayText(QDate::fromJulianDay(once.first)) + " to " +
+           dayText(QDate::fromJulianDay(once.last));
+}
+
+QString textOf(const DataPlan &plan)
+{
+    const auto &elsewhere = plan.usedElsewhere;
+    QStringList warnings;
+    for (const int percent : plan.warnAtPercent)
+        warnings << QString::number(percent);
+    return QStringList{QString::fromStdString(plan.name),
+                       nameOf(coverNames, plan.covers),
+                       QString::fromStdString(plan.covered),
+                       nameOf(networkNames, plan.network),
+                       nameOf(countNames, plan.counts),
+                       plan.amount ? QString::number(*plan.amount) : "none",
+                       ruleText(plan.period),
+                       elsewhere ? QString("%1 on %2")
+                                       .arg(elsewhere->bytes)
+                                       .arg(dayText(QDate::fromJulianDay(elsewhere->day)))
+                                 : "none",
+                       warnings.join(',')}
+        .join("|");
+}
+
 Connection movedIn(const QString &hour, std::int64_t bytes, bool isRoaming)
 {
     Connection moved = connection("internet", utcOf(hour) + 60, utcOf(hour) + 120);
@@ -74,4 +123,14 @@ QStringList messagesIn(const QWidget &window)
             texts.append(label->text());
     }
     return texts;
+}
+
+void write(const QWidget &window, const QString &name, const QString &text)
+{
+    auto &edit = named<QLineEdit>(window, name);
+    edit.selectAll();
+    if (text.isEmpty())
+        QTest::keyClick(&edit, Qt::Key_Delete);
+    else
+        QTest::keyClicks(&edit, text);
 }

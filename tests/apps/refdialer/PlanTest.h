@@ -38,6 +38,12 @@ protected:
 history::DataPlan planCalled(const std::string &name,
                              std::optional<std::int64_t> amount = std::nullopt);
 
+/// A plan of which every value is said, and none is what another plan has by default.
+history::DataPlan prepaid();
+/// Every value of it but the key, the last one being the percentages to warn at.
+QString textOf(const history::DataPlan &plan);
+QString ruleText(const history::PeriodRule &rule);
+
 /// A connection that received so much in the hour that begins then.
 history::Connection movedIn(const QString &hour, std::int64_t bytes, bool isRoaming = false);
 
@@ -62,5 +68,7 @@ Widget &named(const QWidget &window, const QString &name)
 void press(const QWidget &window, const QString &text);
 /// Chooses the entry with this text in the box of that name.
 void choose(const QWidget &window, const QString &name, const QString &text);
+/// Writes into the field of that name, in the place of what is there.
+void write(const QWidget &window, const QString &name, const QString &text);
 /// The messages that a dialog shows, from top to bottom.
 QStringList messagesIn(const QWidget &window);

@@ -16,70 +16,6 @@ using namespace history;
 using refdialer::PlanDialog;
 using refdialer::PlanEditor;
 
-namespace
-{
-
-/// Every value of it, and none that another plan has by default.
-DataPlan prepaid()
-{
-    DataPlan plan = planCalled("Prepaid \xc3\xa9");
-    plan.covers = DataPlan::Covers::Sim;
-    plan.covered = "8949000000000001234";
-    plan.network = DataPlan::Network::Roaming;
-    plan.counts = DataPlan::Counts::Sent;
-    plan.amount = 9223372036854775807;
-    plan.period = OnceBetween{dayNumber("2026-11-10"), dayNumber("2026-12-09")};
-    plan.usedElsewhere = UsedElsewhere{-5, dayNumber("2026-11-12")};
-    plan.warnAtPercent = {50, 120};
-    return plan;
-}
-
-QString ruleText(const PeriodRule &rule)
-{
-    if (const auto *monthly = std::get_if<MonthlyFrom>(&rule))
-        return QString("monthly %1").arg(monthly->day);
-    if (const auto *every = std::get_if<EveryDays>(&rule))
-        return QString("every %1 from %2")
-            .arg(every->days)
-            .arg(dayText(QDate::fromJulianDay(every->from)));
-    const auto &once = std::get<OnceBetween>(rule);
-    return dayText(QDate::fromJulianDay(once.first)) + " to " +
-           dayText(QDate::fromJulianDay(once.last));
-}
-
-QString textOf(const DataPlan &plan)
-{
-    const auto &elsewhere = plan.usedElsewhere;
-    QStringList warnings;
-    for (const int percent : plan.warnAtPercent)
-        warnings << QString::number(percent);
-    return QStringList{QString::fromStdString(plan.name),
-                       nameOf(coverNames, plan.covers),
-                       QString::fromStdString(plan.covered),
-                       nameOf(networkNames, plan.network),
-                       nameOf(countNames, plan.counts),
-                       plan.amount ? QString::number(*plan.amount) : "none",
-                       ruleText(plan.period),
-                       elsewhere ? QString("%1 on %2")
-                                       .arg(elsewhere->bytes)
-                                       .arg(dayText(QDate::fromJulianDay(elsewhere->day)))
-                                 : "none",
-                       warnings.join(',')}
-        .join("|");
-}
-
-void write(const QWidget &window, const QString &name, const QString &text)
-{
-    auto &edit = named<QLineEdit>(window, name);
-    edit.selectAll();
-    if (text.isEmpty())
-        QTest::keyClick(&edit, Qt::Key_Delete);
-    else
-        QTest::keyClicks(&edit, text);
-}
-
-} // namespace
-
 Q_DECLARE_METATYPE(DataPlan)
 
 class TestPlanDialog : public PlanTest
@@ -96,7 +32,9 @@ private slots:
     void changesNothingThatIsNotTouched();
     void storesNothingBeforeOk();
     void namesWhatIsWrongBesideItsField();
+    void takesASizeAsTheLocaleWritesIt_data();
     void takesASizeAsTheLocaleWritesIt();
+    void takesPercentagesOfAnyScript();
     void offersWhatTheHistoryKnows();
     void movesWhatWasUsedElsewhereIntoThePeriodOfToday();
     void keepsTheInputWhenTheHistoryCannotBeWritten();
@@ -264,18 +202,54 @@ void TestPlanDialog::namesWhatIsWrongBesideItsField()
              QString("away|everything||both|both|none|2026-11-19 to 2026-11-19|none|"));
 }
 
+void TestPlanDialog::takesASizeAsTheLocaleWritesIt_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("outcome");
+    const auto row = [](const char *name, const char *locale, const char *shown,
+                        const char *written, const char *outcome) {
+        QTest::newRow(name) << locale << QString(shown) << QString(written) << QString(outcome);
+    };
+    row("German", "de_DE", "1,5", " 2,5 ", "2560 MB");
+    row("German thousands", "de_DE", "1,5", "1.500",
+        "Write the number without separators of thousands, such as 1500 or 1,5.");
+    row("German, but an English point", "de_DE", "1,5", "2.5",
+        "Write the number without separators of thousands, such as 1500 or 1,5.");
+    row("German words", "de_DE", "1,5", "viel", "Write a number, such as 10 or 1,5.");
+    row("English thousands", "en_GB", "1.5", "1,500",
+        "Write the number without separators of thousands, such as 1500 or 1.5.");
+    row("French", "fr_FR", "1,5", "2.5", "2560 MB");
+    row("French thousands", "fr_FR", "1,5", "1 500", "Write a number, such as 10 or 1,5.");
+    row("Arabic", "ar_EG", "١٫٥", "٢٫٥", "2560 MB");
+}
+
 void TestPlanDialog::takesASizeAsTheLocaleWritesIt()
 {
-    m_window->setLocale(QLocale("de_DE"));
-    const auto german = editorOf(planCalled("german"));
-    write(*german, "Amount in a period", "1,5");
-    QVERIFY(acceptedBy(*german));
-    QCOMPARE(*stored("german").amount, 1536 * megabyte);
-    m_window->setLocale(QLocale("en_GB"));
-    const auto english = editorOf(planCalled("english"));
-    write(*english, "Amount in a period", "1,500");
-    QVERIFY(!acceptedBy(*english));
-    QCOMPARE(messagesIn(*english), QStringList("Write a number, such as 10 or 1.5."));
+    QFETCH(QString, locale);
+    QFETCH(QString, shown);
+    QFETCH(QString, written);
+    m_window->setLocale(QLocale(locale));
+    const auto editor = editorOf(planCalled("home", 1536 * megabyte));
+    auto &amount = named<QLineEdit>(*editor, "Amount in a period");
+    QCOMPARE(amount.text(), shown);
+    amount.setText(written);
+    const QString outcome = acceptedBy(*editor)
+                                ? QString("%1 MB").arg(*stored("home").amount / megabyte)
+                                : messagesIn(*editor).join('|');
+    QTEST(outcome, "outcome");
+}
+
+void TestPlanDialog::takesPercentagesOfAnyScript()
+{
+    m_window->setLocale(QLocale("ar_EG"));
+    const auto editor = editorOf(planCalled("home"));
+    auto &warnings = named<QLineEdit>(*editor, "Warn at percent");
+    QCOMPARE(warnings.text(), QString("٨٠, ١٠٠"));
+    warnings.setText("٩٠، 70，1000、 ٧٠");
+    QVERIFY(acceptedBy(*editor));
+    QVERIFY(textOf(stored("home")).endsWith("|70,90,1000"));
 }
 
 void TestPlanDialog::offersWhatTheHistoryKnows()
