@@ -13,14 +13,14 @@ namespace
 {
 
 /// Of this program, for ever: with another one, each machine would be another one.
-constexpr sd_id128_t applicationId =
-    SD_ID128_MAKE(ff, 67, 79, 24, d3, 6b, 4e, c7, 9d, 56, 11, b3, 4d, 02, c7, 9e);
+constexpr sd_id128_t applicationId = {{0xff, 0x67, 0x79, 0x24, 0xd3, 0x6b, 0x4e, 0xc7, 0x9d, 0x56,
+                                       0x11, 0xb3, 0x4d, 0x02, 0xc7, 0x9e}};
 
 } // namespace
 
 std::string machineId()
 {
-    sd_id128_t id = SD_ID128_NULL;
+    sd_id128_t id = {};
     const int result = sd_id128_get_machine_app_specific(applicationId, &id);
     if (result < 0)
         throw std::system_error(-result, std::generic_category());
