@@ -14,6 +14,7 @@
 #include "RemoveCommand.h"
 #include "SelectionOptions.h"
 #include "StatusCommand.h"
+#include "SystemZone.h"
 #include "TotalsCommand.h"
 #include "TotalsText.h"
 #include "UpkeepCommands.h"
@@ -101,6 +102,7 @@ private:
     MetricsRequest m_metrics;
     RecordRequest m_record;
     std::function<void()> m_action;
+    bool m_followsTheZone = false; ///< it may run for months, and travel
     ExitCode m_exitCode = ExitCode::Success;
 };
 
@@ -161,6 +163,8 @@ void CommandLine::checkCommandIsKnown() const
 ExitCode CommandLine::run()
 {
     checkIsNotOfHistory(standardOutputPath, m_common.storePath);
+    if (!m_followsTheZone)
+        keepSystemZone();
     m_action();
     return m_exitCode;
 }
@@ -369,7 +373,10 @@ void CommandLine::addRecord()
                      "Profile (APN) of what is recorded; the interface's name without it")
         ->type_name("NAME")
         ->check(checkName);
-    command->callback([this] { m_action = [this] { recordConnections(m_common, m_record); }; });
+    command->callback([this] {
+        m_followsTheZone = true;
+        m_action = [this] { recordConnections(m_common, m_record); };
+    });
 }
 
 int complainOfUsage(const CLI::ParseError &error)

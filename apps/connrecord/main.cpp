@@ -7,18 +7,9 @@
 #include <unistd.h>
 
 #include <array>
-#include <cstdlib>
 
 namespace
 {
-
-/// Without this variable, the C library looks at the system's zone file anew for
-/// each time that it converts, which makes up most of a long import.
-void nameTheSystemZone()
-{
-    const bool replacesOthers = false;
-    setenv("TZ", ":/etc/localtime", replacesOthers);
-}
 
 /// What the program opens itself never becomes one of the three standard streams: a
 /// closed one is kept by something that can neither be read nor written as it is.
@@ -36,7 +27,6 @@ void holdClosedStreams()
 int main(int argc, char **argv)
 {
     holdClosedStreams();
-    nameTheSystemZone();
     const QCoreApplication application(argc, argv);
     return connrecord::runCommandLine(argc, argv);
 }

@@ -1,33 +1,23 @@
 // SPDX-License-Identifier: MIT
-#include "NetworkTest.h"
-#include "NotificationDaemon.h"
-#include "PlanSamples.h"
-#include "PrivateBus.h"
-#include "RecorderTest.h"
-#include "RecordingProgram.h"
+#include "LocalZone.h"
+#include "RecordedPlanTest.h"
+#include "SystemZone.h"
 
-#include <QDir>
+#include <QDateTime>
 #include <QFile>
+#include <QTimeZone>
 
 #include <csignal>
 
-/// The program that records, with a real interface, as it warns of data plans on a session
-/// bus of this test's own.
-class ConnrecordWarningsTest : public QObject
+/// Warnings of data plans, as the program that records gives them.
+class ConnrecordWarningsTest : public RecordedPlanTest
 {
     Q_OBJECT
 
 public:
-    explicit ConnrecordWarningsTest(const QString &obstacle)
-        : m_obstacle(obstacle)
-    {
-    }
+    using RecordedPlanTest::RecordedPlanTest;
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void warnsOnceOfEachPercentage();
     void warnsOfTheHighestPercentageAlone();
     void warnsOfEachPlan();
@@ -37,88 +27,8 @@ private slots:
     void warnsWhenTheBusComes();
     void hasTheBusStartTheService();
     void warnsOnlyWhileThatIsWanted();
-
-private:
-    using Program = std::unique_ptr<RecordingProgram>;
-    Program start() const;
-    /// Warns at these percentages of 100 datagrams.
-    void addPlan(const char *name, const std::vector<int> &percentages) const;
-    /// As refdialer's settings have it.
-    void wantWarnings(bool areWanted) const;
-    bool use(int datagrams) const { return m_line->upload(datagrams, datagramSize); }
-    QStringList titles() const { return m_desktop->titles(); }
-
-    static constexpr int datagramSize = 1000;
-    const QString m_obstacle;
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_path;
-    std::optional<VethPair> m_line;
-    std::unique_ptr<PrivateBus> m_bus;
-    std::unique_ptr<NotificationDaemon> m_desktop;
+    void followsTheZoneOfTheSystem();
 };
-
-namespace
-{
-
-QString title(const char *plan, int percent)
-{
-    return QStringLiteral("%1 % of the data plan \"%2\" used").arg(percent).arg(plan);
-}
-
-} // namespace
-
-void ConnrecordWarningsTest::initTestCase()
-{
-    if (!m_obstacle.isEmpty())
-        QSKIP(qPrintable(m_obstacle), "");
-}
-
-void ConnrecordWarningsTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_path = m_folder->filePath("connections.db");
-    m_line.emplace();
-    QVERIFY(m_line->isMade());
-    QVERIFY(m_line->goUp());
-    m_bus = std::make_unique<PrivateBus>(m_folder->path());
-    QVERIFY(m_bus->start());
-    m_desktop = std::make_unique<NotificationDaemon>(m_bus->address());
-    QVERIFY(m_desktop->takeName());
-}
-
-void ConnrecordWarningsTest::cleanup()
-{
-    m_desktop.reset();
-    m_bus.reset();
-    m_line.reset();
-    m_folder.reset();
-}
-
-ConnrecordWarningsTest::Program ConnrecordWarningsTest::start() const
-{
-    return std::make_unique<RecordingProgram>(
-        QStringList{"--store", m_path, "record"},
-        RecordingProgram::Environment{{"DBUS_SESSION_BUS_ADDRESS", m_bus->address()},
-                                      {"XDG_CONFIG_HOME", m_folder->path()}});
-}
-
-void ConnrecordWarningsTest::wantWarnings(bool areWanted) const
-{
-    QVERIFY(QDir(m_folder->path()).mkpath("refdialer"));
-    QFile settings(m_folder->filePath("refdialer/refdialer.conf"));
-    QVERIFY(settings.open(QIODevice::WriteOnly));
-    settings.write(areWanted ? "[refdialer]\nplanWarnings=true\n"
-                             : "[refdialer]\nplanWarnings=false\n");
-}
-
-void ConnrecordWarningsTest::addPlan(const char *name, const std::vector<int> &percentages) const
-{
-    history::DataPlan plan = planOf(history::MonthlyFrom{}, VethPair::bytesOf(100, datagramSize));
-    plan.name = name;
-    plan.warnAtPercent = percentages;
-    auto store = history::Store::openOrCreate(m_path.toStdString());
-    QVERIFY(store && store.value().setPlan(plan));
-}
 
 void ConnrecordWarningsTest::warnsOnceOfEachPercentage()
 {
@@ -259,17 +169,39 @@ void ConnrecordWarningsTest::hasTheBusStartTheService()
 
 void ConnrecordWarningsTest::warnsOnlyWhileThatIsWanted()
 {
-    wantWarnings(false);
+    choose("planWarnings=false");
     addPlan("home", {50, 100});
     const Program program = start();
     QTRY_VERIFY(program->said().contains("Connected"));
     QVERIFY(use(50));
     QTRY_VERIFY_WITH_TIMEOUT(program->said().contains(title("home", 50).toUtf8()),
                              checkpointTimeout);
-    wantWarnings(true);
+    choose("planWarnings=true");
     QVERIFY(use(50));
     // The first one has not been shown before.
     QTRY_COMPARE_WITH_TIMEOUT(titles(), QStringList(title("home", 100)), checkpointTimeout);
+}
+
+/// The two zones are 25 hours apart, so no moment is of the same day in both.
+void ConnrecordWarningsTest::followsTheZoneOfTheSystem()
+{
+    const LocalZone theSystems(nullptr);
+    SystemZone zone;
+    if (const QString obstacle = zone.change("Pacific/Pago_Pago"); !obstacle.isEmpty())
+        QSKIP(qPrintable(obstacle), "");
+    const auto today =
+        QDateTime::currentDateTime().toTimeZone(QTimeZone("Pacific/Kiritimati")).date();
+    const history::JulianDay day = today.toJulianDay();
+    addPlan("east", {50}, history::OnceBetween{day, day + 1});
+    addPlan("west", {50}, history::OnceBetween{day - 3, day - 1});
+    const Program program = start();
+    QTRY_VERIFY(program->said().contains("Connected"));
+    QVERIFY(use(50));
+    QTRY_COMPARE_WITH_TIMEOUT(titles(), QStringList(title("west", 50)), checkpointTimeout);
+    QCOMPARE(zone.change("Pacific/Kiritimati"), QString());
+    QVERIFY(use(1));
+    QTRY_COMPARE_WITH_TIMEOUT(titles(), (QStringList{title("west", 50), title("east", 50)}),
+                              checkpointTimeout);
 }
 
 NETWORK_TEST_MAIN(ConnrecordWarningsTest)
