@@ -3,6 +3,7 @@
 
 #include "NotificationService.h"
 #include "RecordingChoices.h"
+#include "UserLanguage.h"
 #include "WarningText.h"
 #include "history/Store.h"
 #include "recorder/ConnectionRecorder.h"
@@ -11,6 +12,7 @@
 #include <QStringList>
 
 #include <ctime>
+#include <optional>
 #include <utility>
 
 namespace common
@@ -87,10 +89,18 @@ void PlanWarner::warn()
             if (!taken)
                 return fail(taken.error());
             if (!taken.value().empty())
-                m_service->show({warningTitle(each, taken.value().back()), warningDetails(each),
-                                 each.status.isSpent()});
+                show(each, taken.value().back());
         }
     });
+}
+
+void PlanWarner::show(const ReachedPlan &reached, int percent)
+{
+    std::optional<UserLanguage> language;
+    if (!m_translations.isEmpty())
+        language.emplace(m_translations);
+    m_service->show(
+        {warningTitle(reached, percent), warningDetails(reached), reached.status.isSpent()});
 }
 
 template <typename Action>

@@ -47,6 +47,11 @@ public:
                QObject *parent = nullptr);
     ~PlanWarner() override;
 
+    /// Notifications are in the user's language from now on, by the texts in this folder (see
+    /// UserLanguage), which are loaded for that moment alone. As in the beginning, without a
+    /// folder, they are in the program's, and so is all else.
+    void setTranslations(const QString &folder) { m_translations = folder; }
+
 signals:
     /// It has looked at the plans.
     void checked();
@@ -64,6 +69,7 @@ private:
     void requestCheck();
     void check();
     void warn();
+    void show(const usage::ReachedPlan &reached, int percent);
     void lookForService();
     /// Unless the store cannot be read.
     template <typename Action>
@@ -75,6 +81,7 @@ private:
     const std::string m_storePath;
     recorder::Throttle m_throttle;
     const QString m_busAddress;
+    QString m_translations;                         ///< the folder
     std::unique_ptr<NotificationService> m_service; ///< once there was something to warn of
     std::set<Warning> m_told;
     std::string m_failure;

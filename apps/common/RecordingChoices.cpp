@@ -47,4 +47,9 @@ bool arePlanWarningsWanted()
     return setting(planWarningsKey).compare(QLatin1String("false"), Qt::CaseInsensitive) != 0;
 }
 
+QString chosenLanguage()
+{
+    return setting(languageKey);
+}
+
 } // namespace common

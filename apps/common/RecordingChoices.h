@@ -12,6 +12,7 @@ namespace common
 constexpr char settingsGroup[] = "refdialer";
 constexpr char interfacesKey[] = "interfaces";
 constexpr char planWarningsKey[] = "planWarnings";
+constexpr char languageKey[] = "language";
 
 /// The interfaces to record besides the mobile ones, without what can name none.
 QStringList chosenInterfaces();
@@ -21,5 +22,8 @@ QStringList namesIn(const QString &text);
 /// Whether desktop notifications tell of data plans that are nearly used up; so it is
 /// unless the user has switched it off.
 bool arePlanWarningsWanted();
+
+/// The language, as "de" or "pt_BR"; empty for the system's.
+QString chosenLanguage();
 
 } // namespace common

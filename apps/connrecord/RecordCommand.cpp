@@ -205,7 +205,8 @@ void recordConnections(const CommonRequest &common, const RecordRequest &request
         recorder, storePath, RecorderService::Place::Background,
         [](const Problem &problem) { return QString::fromStdString(textOf(problem)); });
     service.start();
-    const ::common::PlanWarner planWarner(recorder, storePath);
+    ::common::PlanWarner planWarner(recorder, storePath);
+    planWarner.setTranslations(QStringLiteral(":/connrecord/translations"));
     tellWarnings(planWarner);
     tellReady();
     const MemorySaver memorySaver(recorder, planWarner);

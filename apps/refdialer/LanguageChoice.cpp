@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "LanguageChoice.h"
 
-#include "CommonUtils.h"
 #include "apps/common/RecordingChoices.h"
+#include "apps/common/UserLanguage.h"
 #include "refhost/libcore/Host.h"
-
-#include <algorithm>
 
 namespace refdialer
 {
 
 namespace
 {
-
-const char *const languageKey = "language";
 
 /// What the environment asks for when times are written, as "de_AT".
 QString timeLocaleName()
@@ -26,13 +22,6 @@ QString timeLocaleName()
     return {};
 }
 
-/// Whoever reads the one understands the other, as with "pt_PT" and "pt_BR"; "zh_TW" and
-/// "zh_CN" are of different scripts.
-bool areReadAlike(const QLocale &one, const QLocale &other)
-{
-    return one.language() == other.language() && one.script() == other.script();
-}
-
 QList<QLocale> allLocales()
 {
     return QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
@@ -42,41 +31,22 @@ QList<QLocale> allLocales()
 
 QString startLanguage()
 {
-    return nearestLanguage(
-        QStringList(CommonUtils::GetSettings(common::settingsGroup, languageKey)) +
-        QLocale::system().uiLanguages());
+    return common::nearestLanguage(common::wantedLanguages(), refhost::availableLanguages());
 }
 
 QString systemLanguage()
 {
-    return nearestLanguage(QLocale::system().uiLanguages());
+    return common::nearestLanguage(QLocale::system().uiLanguages(), refhost::availableLanguages());
 }
 
 bool isSystemLanguageChosen()
 {
-    return CommonUtils::GetSettings(common::settingsGroup, languageKey).isEmpty();
-}
-
-QString nearestLanguage(const QStringList &wanted)
-{
-    const QStringList available = refhost::availableLanguages();
-    for (QString name : wanted) {
-        name.replace(QLatin1Char('-'), QLatin1Char('_'));
-        if (available.contains(name))
-            return name;
-        const auto nearest =
-            std::find_if(available.begin(), available.end(), [&name](const QString &other) {
-                return areReadAlike(QLocale(name), QLocale(other));
-            });
-        if (nearest != available.end())
-            return *nearest;
-    }
-    return QStringLiteral("en");
+    return common::chosenLanguage().isEmpty();
 }
 
 bool storeLanguage(const QString &language)
 {
-    return refhost::storeSetting(common::settingsGroup, languageKey, language);
+    return refhost::storeSetting(common::settingsGroup, common::languageKey, language);
 }
 
 QLocale localeFor(const QString &language)

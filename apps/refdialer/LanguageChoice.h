@@ -17,11 +17,6 @@ QString systemLanguage();
 /// Whether the user has chosen the system's, or nothing.
 bool isSystemLanguageChosen();
 
-/// The texts that fit best to the first of the languages that there are any for, each
-/// as "pt_PT" or "pt-PT": that very one, else one of the same language and script.
-/// English if there are none.
-QString nearestLanguage(const QStringList &wanted);
-
 /// Remembers the user's choice for later runs, the system's if that is empty; false if it
 /// cannot be written.
 bool storeLanguage(const QString &language);

@@ -27,6 +27,8 @@ private slots:
     void warnsWhenTheBusComes();
     void hasTheBusStartTheService();
     void warnsOnlyWhileThatIsWanted();
+    void speaksTheLanguageOfTheUser_data();
+    void speaksTheLanguageOfTheUser();
     void followsTheZoneOfTheSystem();
 };
 
@@ -180,6 +182,34 @@ void ConnrecordWarningsTest::warnsOnlyWhileThatIsWanted()
     QVERIFY(use(50));
     // The first one has not been shown before.
     QTRY_COMPARE_WITH_TIMEOUT(titles(), QStringList(title("home", 100)), checkpointTimeout);
+}
+
+void ConnrecordWarningsTest::speaksTheLanguageOfTheUser_data()
+{
+    QTest::addColumn<QByteArray>("setting");
+    QTest::addColumn<QString>("systemLanguage");
+    QTest::addColumn<QString>("title");
+    const QString german = QString::fromUtf8("50 % des Datentarifs „home“ verbraucht");
+    QTest::newRow("the chosen one") << QByteArray("language=de") << "pl" << german;
+    QTest::newRow("the system's") << QByteArray() << "de_AT" << german;
+    QTest::newRow("one without texts") << QByteArray() << "fi" << title("home", 50);
+}
+
+/// The log is for those who help as well, and stays in English.
+void ConnrecordWarningsTest::speaksTheLanguageOfTheUser()
+{
+    QFETCH(QByteArray, setting);
+    QFETCH(QString, systemLanguage);
+    choose(setting);
+    addPlan("home", {50, 100});
+    const Program program = start(systemLanguage);
+    QTRY_VERIFY(program->said().contains("Connected"));
+    QVERIFY(use(60));
+    QFETCH(QString, title);
+    QTRY_COMPARE_WITH_TIMEOUT(titles(), QStringList(title), checkpointTimeout);
+    QVERIFY(use(40));
+    const QString log = ::title("home", 100);
+    QTRY_VERIFY_WITH_TIMEOUT(program->said().contains(log.toUtf8()), checkpointTimeout);
 }
 
 /// The two zones are 25 hours apart, so no moment is of the same day in both.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EnvironmentVariable.h"
+#include "apps/common/UserLanguage.h"
 #include "apps/refdialer/LanguageChoice.h"
+#include "refhost/libcore/Host.h"
 
 #include <QTest>
 
@@ -40,7 +42,7 @@ void TestLanguageChoice::startsInTheNearestLanguage_data()
 void TestLanguageChoice::startsInTheNearestLanguage()
 {
     QFETCH(QStringList, wanted);
-    QTEST(refdialer::nearestLanguage(wanted), "language");
+    QTEST(common::nearestLanguage(wanted, refhost::availableLanguages()), "language");
 }
 
 void TestLanguageChoice::writesDatesAsTheUsersRegionDoes_data()
