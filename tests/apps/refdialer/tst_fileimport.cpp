@@ -108,7 +108,7 @@ void FileImportTest::takesEveryFormat_data()
     QTest::newRow("JSON") << "history.json" << json << QString() << both;
     QTest::newRow("JSON behind blanks") << "history.csv"
                                         << " \n" + json << QString() << both;
-    QTest::newRow("JSON that is said to be it") << "history.json" << json << "JSON" << both;
+    QTest::newRow("JSON that is said to be it") << "history.json" << json << "JSON (" << both;
     QTest::newRow("a log") << "syslog.1" << firstLog + secondLog << QString()
                            << QStringList{"there", "ppp0"};
     QTest::newRow("a log that is said to be one")
