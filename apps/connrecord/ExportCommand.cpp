@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ExportCommand.h"
 
-#include "MachineId.h"
 #include "OptionValue.h"
 #include "Output.h"
 #include "StoreResult.h"
 #include "UnusedMemory.h"
 #include "apps/common/Export.h"
+#include "apps/common/MachineId.h"
 #include "formats/Utf8Text.h"
 #include "history/ConnectionFields.h"
 #include "history/StoreReports.h"
@@ -76,7 +76,7 @@ std::string machineFor(const ExportRequest &request)
     if (request.machine)
         return optionText("--machine", *request.machine);
     try {
-        return machineId();
+        return common::machineId();
     } catch (const std::system_error &error) {
         throw Failure(ExitCode::Refused, "This system has no number of its own in "
                                          "/etc/machine-id (" +

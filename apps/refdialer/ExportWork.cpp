@@ -4,8 +4,10 @@
 #include "TransferFile.h"
 #include "apps/common/Export.h"
 #include "apps/common/FilePlace.h"
+#include "apps/common/MachineId.h"
 #include "apps/common/ReplacementFile.h"
 
+#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -43,6 +45,18 @@ TransferResult ExportWork::operator()(TransferProgress &progress) const
             tr("They are in \"%1\".").arg(m_choice.file)};
 }
 
+formats::ExportOptions ExportWork::options() const
+{
+    if (!m_choice.format->namesMachine)
+        return {};
+    try {
+        return {common::machineId(), std::nullopt};
+    } catch (const std::system_error &error) {
+        throw TransferFailure{tr("This system has no number of its own in /etc/machine-id: %1.")
+                                  .arg(QString::fromStdString(error.code().message()))};
+    }
+}
+
 std::size_t ExportWork::write(const history::Store &store, TransferProgress &progress) const
 {
     try {
@@ -64,9 +78,11 @@ std::size_t ExportWork::write(const history::Store &store, common::ReplacementFi
 {
     history::ConnectionSelection all;
     all.withHours = m_choice.format->carriesHours;
-    const auto writer = m_choice.format->writer({});
+    common::Extent extent;
+    extent.hasRunning = m_choice.format->namesMachine;
+    const auto writer = m_choice.format->writer(options());
     return valueOrFailure(common::writeConnections(
-        store, all, {}, *writer, [&file](std::string_view piece) { file.write(piece); },
+        store, all, extent, *writer, [&file](std::string_view piece) { file.write(piece); },
         [&progress](std::size_t done) { progress.update(static_cast<std::int64_t>(done)); }));
 }
 

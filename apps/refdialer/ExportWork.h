@@ -29,6 +29,8 @@ public:
     TransferResult operator()(TransferProgress &progress) const;
 
 private:
+    /// What the format has to know of where the history comes from.
+    formats::ExportOptions options() const;
     std::size_t write(const history::Store &store, TransferProgress &progress) const;
     std::size_t write(const history::Store &store, common::ReplacementFile &file,
                       TransferProgress &progress) const;

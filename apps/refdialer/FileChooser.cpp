@@ -68,25 +68,12 @@ QString filterFor(const formats::ExportFormat &format)
     return FileChooser::filterOf(format, QStringLiteral("*.%1").arg(format.suffix));
 }
 
-/// What goes to where many histories come together is written by a program that runs by itself.
-bool isOffered(const formats::ExportFormat &format)
-{
-    return !format.namesMachine;
-}
-
-bool isOffered(const formats::ImportFormat & /*format*/)
-{
-    return true;
-}
-
 template <typename Formats>
 QStringList filtersFor(const Formats &formats)
 {
     QStringList filters;
-    for (const auto &format : formats) {
-        if (isOffered(format))
-            filters.append(filterFor(format));
-    }
+    for (const auto &format : formats)
+        filters.append(filterFor(format));
     return filters;
 }
 
@@ -148,7 +135,7 @@ ExportChoice exportChoiceIn(const QFileDialog &chooser)
     const QString file = chooser.selectedFiles().value(0);
     const std::string suffix = QFileInfo(file).suffix().toLower().toStdString();
     for (const formats::ExportFormat &format : formats::exportFormats) {
-        if (isOffered(format) && suffix == format.suffix)
+        if (suffix == format.suffix)
             return {file, &format};
     }
     return {file, chosenFormat(formats::exportFormats, chooser)};

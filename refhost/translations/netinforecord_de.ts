@@ -454,6 +454,10 @@
 <context>
     <name>refdialer::ExportWork</name>
     <message>
+        <source>This system has no number of its own in /etc/machine-id: %1.</source>
+        <translation>Dieses System hat in /etc/machine-id keine eigene Nummer: %1.</translation>
+    </message>
+    <message>
         <source>Connections exported: %1</source>
         <translation>Exportierte Verbindungen: %1</translation>
     </message>

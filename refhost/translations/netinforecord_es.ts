@@ -454,6 +454,10 @@
 <context>
     <name>refdialer::ExportWork</name>
     <message>
+        <source>This system has no number of its own in /etc/machine-id: %1.</source>
+        <translation>Este sistema no tiene un número propio en /etc/machine-id: %1.</translation>
+    </message>
+    <message>
         <source>Connections exported: %1</source>
         <translation>Conexiones exportadas: %1</translation>
     </message>

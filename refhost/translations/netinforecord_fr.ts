@@ -454,6 +454,10 @@
 <context>
     <name>refdialer::ExportWork</name>
     <message>
+        <source>This system has no number of its own in /etc/machine-id: %1.</source>
+        <translation>Ce système n’a pas de numéro propre dans /etc/machine-id&#xa0;: %1.</translation>
+    </message>
+    <message>
         <source>Connections exported: %1</source>
         <translation>Connexions exportées&#xa0;: %1</translation>
     </message>

@@ -454,6 +454,10 @@
 <context>
     <name>refdialer::ExportWork</name>
     <message>
+        <source>This system has no number of its own in /etc/machine-id: %1.</source>
+        <translation>Ten system nie ma własnego numeru w /etc/machine-id: %1.</translation>
+    </message>
+    <message>
         <source>Connections exported: %1</source>
         <translation>Wyeksportowane połączenia: %1</translation>
     </message>

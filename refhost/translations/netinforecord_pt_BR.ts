@@ -454,6 +454,10 @@
 <context>
     <name>refdialer::ExportWork</name>
     <message>
+        <source>This system has no number of its own in /etc/machine-id: %1.</source>
+        <translation>Este sistema não tem um número próprio em /etc/machine-id: %1.</translation>
+    </message>
+    <message>
         <source>Connections exported: %1</source>
         <translation>Conexões exportadas: %1</translation>
     </message>

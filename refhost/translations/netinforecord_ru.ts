@@ -454,6 +454,10 @@
 <context>
     <name>refdialer::ExportWork</name>
     <message>
+        <source>This system has no number of its own in /etc/machine-id: %1.</source>
+        <translation>У этой системы нет собственного номера в /etc/machine-id: %1.</translation>
+    </message>
+    <message>
         <source>Connections exported: %1</source>
         <translation>Экспортировано соединений: %1</translation>
     </message>

@@ -454,6 +454,10 @@
 <context>
     <name>refdialer::ExportWork</name>
     <message>
+        <source>This system has no number of its own in /etc/machine-id: %1.</source>
+        <translation>Bu sistemin /etc/machine-id içinde kendi numarası yok: %1.</translation>
+    </message>
+    <message>
         <source>Connections exported: %1</source>
         <translation>Dışa aktarılan bağlantılar: %1</translation>
     </message>

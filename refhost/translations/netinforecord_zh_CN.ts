@@ -454,6 +454,10 @@
 <context>
     <name>refdialer::ExportWork</name>
     <message>
+        <source>This system has no number of its own in /etc/machine-id: %1.</source>
+        <translation>此系统在 /etc/machine-id 中没有自己的编号：%1。</translation>
+    </message>
+    <message>
         <source>Connections exported: %1</source>
         <translation>已导出的连接：%1</translation>
     </message>

@@ -6,13 +6,13 @@
 #include <array>
 #include <system_error>
 
-namespace connrecord
+namespace common
 {
 
 namespace
 {
 
-/// Of this program, for ever: with another one, each machine would be another one.
+/// Of these programs, for ever: with another one, each machine would be another one.
 constexpr sd_id128_t applicationId = {{0xff, 0x67, 0x79, 0x24, 0xd3, 0x6b, 0x4e, 0xc7, 0x9d, 0x56,
                                        0x11, 0xb3, 0x4d, 0x02, 0xc7, 0x9e}};
 
@@ -28,4 +28,4 @@ std::string machineId()
     return sd_id128_to_string(id, text.data());
 }
 
-} // namespace connrecord
+} // namespace common

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace connrecord
+namespace common
 {
 
 /// A number of this machine that stays the same and is no other's, 32 hexadecimal digits.
@@ -11,4 +11,4 @@ namespace connrecord
 /// programs. Throws std::system_error if the system has none.
 std::string machineId();
 
-} // namespace connrecord
+} // namespace common
