@@ -220,11 +220,17 @@ void PlanTable::update(const DataPlan &plan)
                                "again.");
 }
 
-/// They were of another number of bytes.
+/// Those that may not be reached with the new amount. What was used is the highest percentage
+/// warned of in the period at least; so the others need not be given again.
 void PlanTable::forgetWarningsOfAnotherAmount(const DataPlan &plan)
 {
-    SQLite::Statement statement(m_database, "DELETE FROM plan_warning WHERE plan = ?1 AND"
-                                            " (SELECT amount FROM plan WHERE key = ?1) IS NOT ?2");
+    SQLite::Statement statement(
+        m_database, "DELETE FROM plan_warning WHERE plan = ?1 AND (?2 IS NULL OR"
+                    " CAST(percent AS REAL) * ?2 >"
+                    " (SELECT CAST(max(other.percent) AS REAL) FROM plan_warning AS other"
+                    " WHERE other.plan = ?1"
+                    " AND other.period_first_day = plan_warning.period_first_day)"
+                    " * (SELECT amount FROM plan WHERE key = ?1))");
     statement.bind(1, plan.key);
     bind(statement, 2, plan.amount);
     statement.exec();

@@ -182,7 +182,7 @@ public:
     Result<std::vector<DataPlan>> plans() const;
     /// Stores the plan as a new one if it has no key, else in the place of the one with its
     /// key, and returns its key. A name that another plan has is a BadRecord. With another
-    /// amount, the warnings that were given of the plan are forgotten.
+    /// amount, warnings that were given are forgotten where they may not be reached any more.
     Result<std::int64_t> setPlan(const DataPlan &plan);
     /// Removes the plan of that name; whether there was one.
     Result<bool> removePlan(const std::string &name);

@@ -124,6 +124,7 @@ private slots:
     void areWarnedOfOnce();
     void areWarnedOfByOneProgramOnly();
     void areWarnedOfAgainWithAnotherAmountOnly();
+    void areNotWarnedOfAgainWhereTheyAreStillReached();
 
 private:
     Store opened() const { return storeWith(m_path, {}); }
@@ -411,6 +412,28 @@ void StoredPlansTest::areWarnedOfAgainWithAnotherAmountOnly()
     plan.amount.reset();
     QVERIFY(store.setPlan(plan));
     QCOMPARE(textOf(store.warningsGiven(plan.key, 2461000).value()), QString());
+}
+
+/// At first, 1000 bytes were used at least in one period, and 500 in the other.
+void StoredPlansTest::areNotWarnedOfAgainWhereTheyAreStillReached()
+{
+    Store store = opened();
+    DataPlan plan = planCalled("home");
+    plan.amount = 1000;
+    plan.key = store.setPlan(plan).value();
+    QVERIFY(store.noteWarnings(plan.key, 2461000, {50, 80, 100}));
+    QVERIFY(store.noteWarnings(plan.key, 2461030, {50}));
+    const auto givenWith = [&](std::int64_t amount) {
+        plan.amount = amount;
+        if (!store.setPlan(plan))
+            return QString("not stored");
+        return textOf(store.warningsGiven(plan.key, 2461000).value()) + ' ' +
+               textOf(store.warningsGiven(plan.key, 2461030).value());
+    };
+    QCOMPARE(givenWith(900), QString("50,80,100 50"));
+    QCOMPARE(givenWith(1125), QString("50,80 "));
+    QCOMPARE(givenWith(1800), QString("50 "));
+    QCOMPARE(givenWith(9223372036854775807), QString(" "));
 }
 
 QTEST_GUILESS_MAIN(StoredPlansTest)
