@@ -206,12 +206,16 @@ history::Result<std::size_t> addUp(Adder &adder, const history::Store &store,
                 adder.add(counted(hour));
         });
     }
-    const auto connections = store.list(range);
-    if (!connections)
-        return connections.error();
-    for (const history::Connection &connection : connections.value())
-        adder.add(counted(connection));
-    return connections.value().size();
+    history::ConnectionSelection selection;
+    selection.range = range;
+    selection.withHours = scope.coveredBy.has_value();
+    return store.visit(selection, [&](const history::Connection &connection) {
+        CountedBytes whole = counted(connection);
+        // A plan counts as home what is not known by the hour.
+        if (scope.coveredBy && connection.hours.empty())
+            whole.isRoaming = false;
+        adder.add(whole);
+    });
 }
 
 /// Hours are told by their offset from UTC: "+02:00".

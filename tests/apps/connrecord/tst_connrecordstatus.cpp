@@ -25,6 +25,7 @@ private slots:
     void refusesWhatItCannotTell();
     void addsUpThePeriodsOfAPlan();
     void addsUpWhatAPlanCovers();
+    void addsUpAtStartsAsAPlanCounts();
     void needsAPlanForItsPeriods();
 
 private:
@@ -219,6 +220,26 @@ void ConnrecordStatusTest::addsUpWhatAPlanCovers()
     setPlan({"home", "--network", "both", "--profile", "internet"});
     QCOMPARE(downloaded({}), 6144);
     QCOMPARE(downloaded({"--from", "2024-05-15"}), 4096);
+}
+
+/// What is not known by the hour is at home, whatever is known of the connection.
+void ConnrecordStatusTest::addsUpAtStartsAsAPlanCounts()
+{
+    Connection withoutHours = sampleConnection("third", 1718870400, 60, 0, 1024);
+    withoutHours.roaming = history::abroad;
+    QVERIFY(Store::openOrCreate(m_history->path().toStdString()).value().add(withoutHours));
+    const auto downloadedOf = [this](const QString &network) {
+        setPlan({"home", "--profile", "third", "--network", network});
+        return run({"totals", "--by-start", "--plan", "home", "--json"})
+            .json()
+            .array()
+            .first()
+            .toObject()
+            .value("downloaded_bytes")
+            .toInt();
+    };
+    QCOMPARE(downloadedOf("home"), 1024);
+    QCOMPARE(downloadedOf("roaming"), 0);
 }
 
 void ConnrecordStatusTest::needsAPlanForItsPeriods()
