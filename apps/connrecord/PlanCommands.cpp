@@ -49,13 +49,24 @@ JulianDay optionDay(const std::string &option, const std::string &text)
     });
 }
 
+/// One at least.
+std::int64_t optionCount(const std::string &option, const std::string &text, std::int64_t largest)
+{
+    return optionValue(option, text, [largest](const std::string &value) {
+        const std::int64_t number = formats::fieldNumber(value, largest);
+        if (number == 0)
+            throw formats::FieldError{'"' + value + "\" is less than 1", false};
+        return number;
+    });
+}
+
 std::vector<int> percentagesIn(const std::string &text)
 {
     std::vector<int> percentages;
     for (std::size_t begin = 0; begin <= text.size();) {
         const std::size_t end = std::min(text.find(',', begin), text.size());
         percentages.push_back(static_cast<int>(
-            optionNumber("--warn", text.substr(begin, end - begin), history::highestPercentage)));
+            optionCount("--warn", text.substr(begin, end - begin), history::highestPercentage)));
         begin = end + 1;
     }
     return percentages;
@@ -87,7 +98,7 @@ history::EveryDays everyDays(const std::string &days, const std::optional<std::s
 {
     if (!from)
         throw Failure(ExitCode::Usage, "--every needs --from, the first day of a period.");
-    return {optionNumber("--every", days, history::longestCycle), optionDay("--from", *from)};
+    return {optionCount("--every", days, history::longestCycle), optionDay("--from", *from)};
 }
 
 void setPeriod(DataPlan &plan, const PlanRequest &request)
@@ -96,7 +107,7 @@ void setPeriod(DataPlan &plan, const PlanRequest &request)
     const auto &[from, to] = request.days;
     if (request.monthly)
         plan.period =
-            history::MonthlyFrom{optionNumber("--monthly", *request.monthly, lastOfAnyMonth)};
+            history::MonthlyFrom{optionCount("--monthly", *request.monthly, lastOfAnyMonth)};
     else if (request.every)
         plan.period = everyDays(*request.every, from);
     else if (from && to)

@@ -169,12 +169,12 @@ void ConnrecordPlanTest::areRefused_data()
     row({"--amount", "-1KB"}, 1, "The amount of the plan \"home\"");
     row({"--network", "moon"}, 2, "home|roaming|both, not moon");
     row({"--count", "up"}, 2, "both|received|sent, not up");
-    row({"--monthly", "0"}, 1, "day of the month");
+    row({"--monthly", "0"}, 1, "For --monthly, \"0\" is less than 1");
     row({"--monthly", "32"}, 1, "For --monthly, \"32\" is more than 31");
     row({"--monthly", "first"}, 2, "For --monthly");
     row({"--monthly", "1", "--every", "28"}, 2, "--monthly excludes --every");
     row({"--every", "28"}, 2, "--every needs --from");
-    row({"--every", "0", "--from", "2024-01-01"}, 1, "number of days");
+    row({"--every", "0", "--from", "2024-01-01"}, 1, "For --every, \"0\" is less than 1");
     row({"--every", "28", "--from", "2024-02-30"}, 2, "For --from");
     row({"--every", "28", "--from", "1969-12-31"}, 1, "not between 1970-01-01 and 9999-12-31");
     row({"--from", "2024-01-01"}, 2, "once --from DATE --to DATE");
@@ -185,7 +185,7 @@ void ConnrecordPlanTest::areRefused_data()
     row({"--sim", "12345678901234567890123456789012"}, 1, "The SIM of the plan \"home\"");
     row({"--warn", ""}, 2, "For --warn");
     row({"--warn", "80,,90"}, 2, "For --warn");
-    row({"--warn", "0"}, 1, "percentage");
+    row({"--warn", "0"}, 1, "For --warn, \"0\" is less than 1");
     row({"--warn", "1001"}, 1, "For --warn, \"1001\" is more than 1000");
     row({"--from", "2000-01-01", "--to", "2000-01-31", "--already-used", "1GB"}, 1,
         "today lies in no period");
