@@ -28,6 +28,7 @@ PlanWarner::PlanWarner(const ConnectionRecorder &recorder, const QString &storeP
     : QObject(parent)
     , m_recorder(recorder)
     , m_storePath(QFile::encodeName(storePath).toStdString())
+    , m_change(m_storePath)
     , m_throttle(interval)
     , m_busAddress(busAddress)
 {
@@ -35,10 +36,20 @@ PlanWarner::PlanWarner(const ConnectionRecorder &recorder, const QString &storeP
     connect(&recorder, &ConnectionRecorder::started, this, &PlanWarner::requestCheck);
     connect(&recorder, &ConnectionRecorder::checkpointWritten, this, &PlanWarner::requestCheck);
     connect(&recorder, &ConnectionRecorder::disconnected, this, &PlanWarner::requestCheck);
+    connect(&recorder, &ConnectionRecorder::connected, this, &PlanWarner::lookForChange);
+    connect(&recorder, &ConnectionRecorder::stateChanged, this, &PlanWarner::lookForChange);
     requestCheck();
 }
 
 PlanWarner::~PlanWarner() = default;
+
+/// At a tick that there is anyway: nothing else would tell of a plan that was made or
+/// changed, or of an import.
+void PlanWarner::lookForChange()
+{
+    if (m_change.isNew())
+        requestCheck();
+}
 
 void PlanWarner::requestCheck()
 {
@@ -47,6 +58,8 @@ void PlanWarner::requestCheck()
 
 void PlanWarner::check()
 {
+    // What has been written so far is looked at now.
+    m_change.isNew();
     bool isAnyDue = false;
     withReachedPlans([this, &isAnyDue](const Store &store, const ReachedPlans &reached) {
         m_failure.clear();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "HistoryChange.h"
 #include "recorder/bus/BusName.h"
 #include "recorder/bus/Throttle.h"
 #include "usage/PlanWarnings.h"
@@ -32,8 +33,9 @@ class NotificationService;
 /// there is no notification service, or the user wants none (arePlanWarningsWanted), that is
 /// not given: it comes as soon as there is one.
 ///
-/// Looks at the plans when bytes have come into the history, and does nothing else. Lives on
-/// the recorder's thread, and is made when that has been started.
+/// Looks at the plans when bytes have come into the history, and, while a line is up, when
+/// another program has written into it; it does nothing else. Lives on the recorder's thread,
+/// and is made when that has been started.
 class PlanWarner : public QObject
 {
     Q_OBJECT
@@ -52,6 +54,10 @@ public:
     /// folder, they are in the program's, and so is all else.
     void setTranslations(const QString &folder) { m_translations = folder; }
 
+public slots:
+    /// The plans may stand otherwise.
+    void requestCheck();
+
 signals:
     /// It has looked at the plans.
     void checked();
@@ -66,7 +72,7 @@ private:
     /// Plan, first day of the period, percentage and the amount it is of.
     using Warning = std::tuple<std::int64_t, history::JulianDay, int, std::int64_t>;
 
-    void requestCheck();
+    void lookForChange();
     void check();
     void warn();
     void show(const usage::ReachedPlan &reached, int percent);
@@ -79,6 +85,7 @@ private:
 
     const recorder::ConnectionRecorder &m_recorder;
     const std::string m_storePath;
+    HistoryChange m_change;
     recorder::Throttle m_throttle;
     const QString m_busAddress;
     QString m_translations;                         ///< the folder

@@ -27,6 +27,7 @@ private slots:
     void warnsWhenTheBusComes();
     void hasTheBusStartTheService();
     void warnsOnlyWhileThatIsWanted();
+    void warnsOfAPlanThatIsMadeLater();
     void speaksTheLanguageOfTheUser_data();
     void speaksTheLanguageOfTheUser();
     void followsTheZoneOfTheSystem();
@@ -182,6 +183,18 @@ void ConnrecordWarningsTest::warnsOnlyWhileThatIsWanted()
     QVERIFY(use(50));
     // The first one has not been shown before.
     QTRY_COMPARE_WITH_TIMEOUT(titles(), QStringList(title("home", 100)), checkpointTimeout);
+}
+
+void ConnrecordWarningsTest::warnsOfAPlanThatIsMadeLater()
+{
+    addPlan("home", {50});
+    const Program program = start();
+    QTRY_VERIFY(program->said().contains("Connected"));
+    QVERIFY(use(60));
+    QTRY_COMPARE_WITH_TIMEOUT(titles(), QStringList(title("home", 50)), checkpointTimeout);
+    addPlan("travel", {10});
+    QTRY_COMPARE_WITH_TIMEOUT(titles(), (QStringList{title("home", 50), title("travel", 10)}),
+                              checkpointTimeout);
 }
 
 void ConnrecordWarningsTest::speaksTheLanguageOfTheUser_data()
