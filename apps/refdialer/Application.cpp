@@ -129,6 +129,12 @@ void Application::restartRecorder()
     startRecorder();
 }
 
+void Application::checkPlans()
+{
+    if (m_recording)
+        m_recording->checkPlans();
+}
+
 void Application::startPlugin()
 {
     const QString file = m_options.pluginFile.isEmpty()
@@ -155,6 +161,7 @@ void Application::showWindow()
     }
     QObject::connect(&m_instance, &SingleInstance::activated, &window, &MainWindow::comeForward);
     QObject::connect(&window, &MainWindow::interfacesChosen, [this] { restartRecorder(); });
+    QObject::connect(&window, &MainWindow::plansRead, [this] { checkPlans(); });
     if (isOwnWindow())
         window.restoreView(storedWindowView());
     window.show();

@@ -44,6 +44,7 @@ private:
     void startRecording();
     void startRecorder();
     void restartRecorder();
+    void checkPlans();
     void startPlugin();
     void showWindow();
 

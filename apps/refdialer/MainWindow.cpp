@@ -80,6 +80,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     m_area.sort(HistoryOrder());
     m_historyPage->setShortest(shortestListed());
     offerBackground();
+    connect(m_plans.get(), &PlanWatch::changed, this, &MainWindow::plansRead);
     connect(&state, &LineState::connected, this, [this] { m_plugin.tellConnected(); });
     connect(&state, &LineState::disconnected, this, &MainWindow::showFinishedConnection);
 }

@@ -50,6 +50,8 @@ public:
 signals:
     /// To record besides the mobile ones.
     void interfacesChosen(const QStringList &names);
+    /// How data plans stand has been read anew, as after a change of them or of the history.
+    void plansRead();
 
 protected:
     void changeEvent(QEvent *event) override;

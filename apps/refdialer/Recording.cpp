@@ -62,6 +62,17 @@ void Recording::start()
     m_state.setWatched(hasStarted);
 }
 
+void Recording::checkPlans()
+{
+    QMetaObject::invokeMethod(
+        m_recorder,
+        [this] {
+            if (m_planWarner)
+                m_planWarner->requestCheck();
+        },
+        Qt::QueuedConnection);
+}
+
 bool Recording::startOnItsThread()
 {
     const bool hasStarted = m_recorder->start();

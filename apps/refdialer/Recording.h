@@ -44,6 +44,9 @@ public:
     /// store. Whether recording is possible is told to the state, also later.
     void start();
 
+    /// Warns soon of data plans that stand otherwise than before.
+    void checkPlans();
+
 private:
     bool startOnItsThread();
     void warnOfPlans();

@@ -20,6 +20,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
@@ -57,6 +58,7 @@ private slots:
     void saysWhyItCannotRecord();
     void tellsOnTheSessionBusWhatItRecords();
     void warnsOfADataPlan();
+    void warnsOfADataPlanThatIsMadeLater();
 
 private:
     bool start(const QStringList &interfaceNames = {});
@@ -76,6 +78,32 @@ QString volume(qint64 bytes)
 {
     return QString::asprintf("%.2f KB", double(bytes) / 1024);
 }
+
+/// A session bus with a notification service, for what starts while this lives.
+class Desktop
+{
+public:
+    Desktop()
+        : m_bus(m_folder.path())
+    {
+    }
+    ~Desktop() { qunsetenv("DBUS_SESSION_BUS_ADDRESS"); }
+
+    bool start()
+    {
+        if (!m_bus.start())
+            return false;
+        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().toUtf8());
+        m_notifications = std::make_unique<NotificationDaemon>(m_bus.address());
+        return m_notifications->takeName();
+    }
+    QStringList titles() const { return m_notifications->titles(); }
+
+private:
+    const QTemporaryDir m_folder;
+    PrivateBus m_bus;
+    std::unique_ptr<NotificationDaemon> m_notifications;
+};
 
 } // namespace
 
@@ -103,7 +131,11 @@ bool TestLiveRecording::start(const QStringList &interfaceNames)
     m_recording = std::make_unique<refdialer::Recording>(storeFile(), interfaceNames, QString(),
                                                          m_history->state());
     m_recording->start();
-    return m_history->open();
+    if (!m_history->open())
+        return false;
+    connect(&m_history->window(), &refdialer::MainWindow::plansRead, this,
+            [this] { m_recording->checkPlans(); });
+    return true;
 }
 
 QString TestLiveRecording::line() const
@@ -258,13 +290,8 @@ void TestLiveRecording::tellsOnTheSessionBusWhatItRecords()
 
 void TestLiveRecording::warnsOfADataPlan()
 {
-    const QTemporaryDir folder;
-    PrivateBus bus(folder.path());
-    QVERIFY(bus.start());
-    qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
-    const auto restore = qScopeGuard([] { qunsetenv("DBUS_SESSION_BUS_ADDRESS"); });
-    NotificationDaemon desktop(bus.address());
-    QVERIFY(desktop.takeName());
+    Desktop desktop;
+    QVERIFY(desktop.start());
     history::DataPlan plan;
     plan.name = "home";
     plan.amount = VethPair::bytesOf(10, 1000);
@@ -280,6 +307,30 @@ void TestLiveRecording::warnsOfADataPlan()
     QTRY_COMPARE_WITH_TIMEOUT(desktop.titles(), QStringList(title), checkpointTimeout);
     // The line of the plan shows it; it is no problem beside.
     QVERIFY(m_history->state().problem().isEmpty());
+}
+
+/// No line is up that would tell of it.
+void TestLiveRecording::warnsOfADataPlanThatIsMadeLater()
+{
+    Desktop desktop;
+    QVERIFY(desktop.start());
+    history::Connection past;
+    past.startUtc = QDateTime::currentSecsSinceEpoch();
+    past.endUtc = past.startUtc;
+    past.downloadedBytes = 1000;
+    history::DataPlan plan;
+    plan.name = "home";
+    plan.amount = past.downloadedBytes;
+    auto store = history::Store::openOrCreate(m_history->storePath());
+    QVERIFY(store && store.value().add(past) && store.value().setPlan(plan));
+    QVERIFY(start());
+    QStringList titles("100 % of the data plan \"home\" used");
+    QTRY_COMPARE(desktop.titles(), titles);
+    plan.name = "travel";
+    QVERIFY(store.value().setPlan(plan));
+    titles.append("100 % of the data plan \"travel\" used");
+    constexpr int throttleTimeout = 30000;
+    QTRY_COMPARE_WITH_TIMEOUT(desktop.titles(), titles, throttleTimeout);
 }
 
 // The network has to be entered before there is a second thread.
