@@ -8,7 +8,7 @@ rm -rf "$copy"
 mkdir -p "$copy"
 cp -r "$source"/{CMakeLists.txt,apps,cmake,docs,formats,history,host,modem,recorder,refhost,src,usage,CHANGELOG.md,LICENSE} "$copy"
 
-sed -i '/^set(languages /s/)$/ it)/' "$copy/refhost/libcore/CMakeLists.txt"
+sed -i '/^set(NETINFORECORD_LANGUAGES /s/)$/ it)/' "$copy/CMakeLists.txt"
 cmake -G Ninja -S "$copy" -B "$build" -D QT_VERSION_MAJOR="$qt" \
     -D NETINFORECORD_BUILD_TESTS=OFF >/dev/null
 cmake --build "$build" --target update_translations
