@@ -263,7 +263,7 @@ void TestWindowControls::followsTheSystemsLanguage()
 
 void TestWindowControls::remembersSizePageAndOrder()
 {
-    window().resize(712, 567);
+    window().resize(712, 667);
     menuEntry(window(), {"View", "Sort by", "Profile"})->trigger();
     menuEntry(window(), {"View", "Sort by", "Descending"})->trigger();
     auto &pages = *window().findChild<QTabWidget *>();
@@ -273,7 +273,7 @@ void TestWindowControls::remembersSizePageAndOrder()
     m_history->close();
     QVERIFY(m_history->open());
     window().restoreView(refdialer::storedWindowView());
-    QTRY_COMPARE(window().size(), QSize(712, 567));
+    QTRY_COMPARE(window().size(), QSize(712, 667));
     QCOMPARE(window().findChild<QTabWidget *>()->currentIndex(), lastPage);
     QCOMPARE(m_history->shownProfiles(), QStringList({"two", "one"}));
     QVERIFY(menuEntry(window(), {"View", "Sort by", "Profile"})->isChecked());
