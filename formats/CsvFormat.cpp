@@ -22,7 +22,6 @@ namespace
 using history::connectionFields;
 using history::forEachField;
 using history::KindOf;
-namespace kind = history::kind;
 
 constexpr std::size_t columnCount = std::tuple_size_v<decltype(connectionFields)>;
 

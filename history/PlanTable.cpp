@@ -24,7 +24,7 @@ namespace
 
 using Kind = StoreError::Kind;
 
-constexpr const char *selection =
+constexpr const char *allPlans =
     "SELECT key, name, covers, covered, network, counts, amount, month_day, cycle_days, first_day,"
     " last_day, used_elsewhere, used_elsewhere_day FROM plan ORDER BY name";
 
@@ -151,7 +151,7 @@ PlanTable::PlanTable(SQLite::Database &database, std::string path)
 
 std::vector<DataPlan> PlanTable::all()
 {
-    RowQuery query(m_database, selection);
+    RowQuery query(m_database, allPlans);
     std::vector<DataPlan> plans;
     while (query.next()) {
         try {
@@ -167,7 +167,7 @@ std::vector<DataPlan> PlanTable::all()
 
 std::vector<std::string> PlanTable::problems()
 {
-    RowQuery query(m_database, selection);
+    RowQuery query(m_database, allPlans);
     std::vector<std::string> problems;
     while (query.next()) {
         try {

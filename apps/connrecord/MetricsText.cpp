@@ -140,6 +140,7 @@ std::vector<ConnectionSum> shownSums(const std::vector<ConnectionSum> &sums)
             place->second.*value = usage::saturatingSum(place->second.*value, sum.*value);
     }
     std::vector<ConnectionSum> result;
+    result.reserve(shown.size());
     for (const auto &[group, sum] : shown)
         result.push_back(sum);
     return result;
