@@ -171,7 +171,7 @@ UtcSpan utcSpan(const CalendarTime &time)
 {
     if (time.utcOffset) {
         const std::int64_t utc = daysSince1970(time) * secondsPerDay + time.hour * secondsPerHour +
-                                 time.minute * 60 + time.second - *time.utcOffset;
+                                 std::int64_t{time.minute} * 60 + time.second - *time.utcOffset;
         return {utc, utc};
     }
     const std::int64_t utc = QDateTime(dateOf(time), timeOfDay(time)).toSecsSinceEpoch();

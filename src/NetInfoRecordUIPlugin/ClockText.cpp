@@ -20,7 +20,7 @@ int millisecondsOfDay()
     const auto offset = LocalZone::offsetAt(now.tv_sec);
     if (!offset)
         return QTime::currentTime().msecsSinceStartOfDay();
-    const std::time_t secondsPerDay = 24 * 3600;
+    const std::time_t secondsPerDay = 86400;
     const std::time_t second = (now.tv_sec + offset->seconds) % secondsPerDay;
     return static_cast<int>(second * 1000 + now.tv_nsec / 1000000);
 }

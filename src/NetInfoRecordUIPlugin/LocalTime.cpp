@@ -46,7 +46,7 @@ QDateTime LocalTime::at(qint64 secondsSinceEpoch, const LocalZone::Offset &offse
     Word &status = statuses[offset.isDaylightTime ? 1 : 0];
     if (status != 0)
         return timeOf(word(secondsSinceEpoch, offset, status));
-    const QDateTime time = QDateTime::fromSecsSinceEpoch(secondsSinceEpoch);
+    QDateTime time = QDateTime::fromSecsSinceEpoch(secondsSinceEpoch);
     const Word itsStatus = wordOf(time) & statusMask;
     if (wordOf(time) == word(secondsSinceEpoch, offset, itsStatus))
         status = itsStatus;

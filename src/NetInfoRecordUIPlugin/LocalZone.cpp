@@ -8,7 +8,7 @@ using LocalZone::Offset;
 namespace
 {
 
-constexpr std::time_t secondsPerDay = 24 * 3600;
+constexpr std::time_t secondsPerDay = 86400;
 
 /// The offset at the begin of a day of UTC, as a look at the zone has found it.
 struct Day {
