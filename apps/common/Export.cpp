@@ -38,7 +38,7 @@ writeConnections(const history::Store &store, const history::ConnectionSelection
         writer.addRunning(connection, text);
         finishOne();
     };
-    const auto count =
+    auto count =
         extent.hasRunning ? store.visit(selection, add, addRunning) : store.visit(selection, add);
     if (!count)
         return count;
