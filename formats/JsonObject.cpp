@@ -2,6 +2,7 @@
 #include "JsonObject.h"
 
 #include "JsonFormat.h"
+#include "Utf8Text.h"
 #include "history/ConnectionFields.h"
 #include "usage/CalendarTime.h"
 
@@ -26,15 +27,15 @@ constexpr int indentOfMember = 8;
 constexpr int indentOfHour = 12;
 constexpr int indentOfHourMember = 16;
 
-bool isPlain(char character)
+/// Whether JSON has it as it stands.
+bool isPlain(const std::string &text)
 {
-    const auto byte = static_cast<unsigned char>(character);
-    return byte >= 0x20 && byte < 0x7f && byte != '"' && byte != '\\';
+    return isPlainAscii(text) && text.find_first_of("\"\\") == std::string::npos;
 }
 
 void appendValue(kind::Text /*kind*/, const std::string &value, std::string &text)
 {
-    if (std::all_of(value.begin(), value.end(), isPlain))
+    if (isPlain(value))
         ((text += '"') += value) += '"';
     else
         text += Json(value).dump(-1, ' ', false, Json::error_handler_t::replace);

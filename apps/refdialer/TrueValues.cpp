@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TrueValues.h"
 
+#include "usage/CalendarTime.h"
 #include "usage/LocalClock.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ std::int64_t wallClock(const QDateTime &time)
     if (!time.isValid())
         return std::numeric_limits<std::int64_t>::min();
     const qint64 days = QDate(1970, 1, 1).daysTo(time.date());
-    return days * 86400 + time.time().msecsSinceStartOfDay() / 1000;
+    return days * usage::secondsPerDay + time.time().msecsSinceStartOfDay() / 1000;
 }
 
 /// For later years older versions of Qt, which the rows come from, take the rules of

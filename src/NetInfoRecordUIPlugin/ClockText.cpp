@@ -20,8 +20,7 @@ int millisecondsOfDay()
     const auto offset = LocalZone::offsetAt(now.tv_sec);
     if (!offset)
         return QTime::currentTime().msecsSinceStartOfDay();
-    const std::time_t secondsPerDay = 86400;
-    const std::time_t second = (now.tv_sec + offset->seconds) % secondsPerDay;
+    const std::time_t second = (now.tv_sec + offset->seconds) % LocalZone::secondsPerDay;
     return static_cast<int>(second * 1000 + now.tv_nsec / 1000000);
 }
 

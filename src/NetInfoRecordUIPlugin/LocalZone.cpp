@@ -4,11 +4,10 @@
 #include <array>
 
 using LocalZone::Offset;
+using LocalZone::secondsPerDay;
 
 namespace
 {
-
-constexpr std::time_t secondsPerDay = 86400;
 
 /// The offset at the begin of a day of UTC, as a look at the zone has found it.
 struct Day {

@@ -8,6 +8,8 @@
 namespace LocalZone
 {
 
+constexpr std::time_t secondsPerDay = 86400;
+
 /// How far local time is ahead of UTC.
 struct Offset {
     int seconds = 0;

@@ -15,7 +15,7 @@ namespace
 constexpr int textLength = 14;
 
 constexpr std::time_t hour = 3600;
-constexpr std::time_t day = 24 * hour;
+constexpr std::time_t day = LocalZone::secondsPerDay;
 
 // In both years every moment has a known offset, however far its clocks are from UTC.
 constexpr int firstYear = 1971;
