@@ -4,6 +4,7 @@
 #include "modem/BusAddress.h"
 #include "modem/Names.h"
 
+#include <QCoreApplication>
 #include <QDBusError>
 #include <QDBusPendingCallWatcher>
 #include <QDir>
@@ -100,12 +101,26 @@ void BusConnection::connectToBus()
 
 void BusConnection::subscribe()
 {
-    m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-                         QStringLiteral("org.freedesktop.DBus.Local"),
-                         QStringLiteral("Disconnected"), this, SLOT(handleDisconnection()));
+    forEachSignal(&QDBusConnection::connect);
+}
+
+/// QtDBus's thread may be handing a signal to this object at this moment. It must be done
+/// with that, and the events that refer to the connection gone, before the connection is
+/// given up: QtDBus would delete it for each that comes later once more.
+void BusConnection::unsubscribe()
+{
+    forEachSignal(&QDBusConnection::disconnect);
+    QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
+}
+
+void BusConnection::forEachSignal(SignalFunction change)
+{
+    (m_connection.*change)(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                           QStringLiteral("org.freedesktop.DBus.Local"),
+                           QStringLiteral("Disconnected"), this, SLOT(handleDisconnection()));
     for (const Subscription &subscription : m_subscriptions)
-        m_connection.connect(QString(), QString(), subscription.interfaceName, subscription.member,
-                             this, SLOT(handleSignal(QDBusMessage)));
+        (m_connection.*change)(QString(), QString(), subscription.interfaceName,
+                               subscription.member, this, SLOT(handleSignal(QDBusMessage)));
 }
 
 /// What is sent meanwhile waits in order behind the greeting.
@@ -170,6 +185,7 @@ void BusConnection::close()
 {
     m_pendingCalls.reset();
     m_uniqueName.clear();
+    unsubscribe();
     QDBusConnection::disconnectFromPeer(m_name);
     m_connection = QDBusConnection(QString());
 }

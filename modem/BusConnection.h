@@ -69,8 +69,16 @@ private slots:
     void handleDisconnection();
 
 private:
+    /// QDBusConnection::connect() or disconnect().
+    using SignalFunction = bool (QDBusConnection::*)(const QString &service, const QString &path,
+                                                     const QString &interfaceName,
+                                                     const QString &member, QObject *receiver,
+                                                     const char *slot);
+
     void connectToBus();
     void subscribe();
+    void unsubscribe();
+    void forEachSignal(SignalFunction change);
     void greet();
     void close();
     void waitForSocket();

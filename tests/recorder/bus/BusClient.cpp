@@ -3,6 +3,7 @@
 
 #include "recorder/bus/RecorderService.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCall>
@@ -18,6 +19,11 @@ namespace
 
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 
+QStringList watchedInterfaces()
+{
+    return {RecorderService::interfaceName(), propertiesInterface};
+}
+
 QString nextName()
 {
     static int count = 0;
@@ -31,7 +37,7 @@ BusClient::BusClient(const QString &address, const QString &serviceName)
     , m_connectionName(nextName())
     , m_bus(QDBusConnection::connectToBus(address, m_connectionName))
 {
-    for (const QString &interfaceName : {RecorderService::interfaceName(), propertiesInterface})
+    for (const QString &interfaceName : watchedInterfaces())
         m_bus.connect(serviceName, RecorderService::objectPath(), interfaceName, QString(), this,
                       SLOT(keep(QDBusMessage)));
 }
@@ -41,8 +47,13 @@ BusClient::~BusClient()
     leave();
 }
 
+/// No signal may be on its way to this object when the connection is given up.
 void BusClient::leave()
 {
+    for (const QString &interfaceName : watchedInterfaces())
+        m_bus.disconnect(m_serviceName, RecorderService::objectPath(), interfaceName, QString(),
+                         this, SLOT(keep(QDBusMessage)));
+    QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
     QDBusConnection::disconnectFromBus(m_connectionName);
     m_bus = QDBusConnection(QString());
 }
