@@ -13,6 +13,17 @@ target_precompile_headers(test_headers PRIVATE
     <QTest> <QSignalSpy> <QTemporaryDir> <QApplication> <QProcess> <QRegularExpression>
     <QTableWidget> <algorithm> <functional> <memory> <string> <vector>)
 
+# netinforecord_test_library(NAME FILES...): what several tests share. Others include its
+# headers by their names alone.
+function(netinforecord_test_library name)
+    add_library(${name} STATIC ${ARGN})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name}
+        PUBLIC Qt${QT_VERSION_MAJOR}::Test Qt${QT_VERSION_MAJOR}::Widgets
+        PRIVATE netinforecord_settings)
+    target_precompile_headers(${name} REUSE_FROM test_headers)
+endfunction()
+
 if(NETINFORECORD_SANITIZE)
     add_library(ended_threads OBJECT EndedThreads.cpp)
     set_target_properties(ended_threads PROPERTIES AUTOMOC OFF)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "formats/ApnTracker.h"
+#include "tests/Many.h"
 
 #include <QString>
 #include <QTest>
@@ -216,7 +217,7 @@ void ApnTrackerTest::takesTheChatOfAScriptThatSharesItsProcessId()
 void ApnTrackerTest::staysFastWithManyChatsThatNobodyClaims()
 {
     // Looking through all of them each time would take many minutes.
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < many(100000); ++i) {
         m_tracker.chatSends(1000 + i, "stale");
         m_tracker.connects(2000000 + i);
         m_tracker.chatSends(1000000 + i, "stale");

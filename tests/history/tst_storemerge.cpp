@@ -3,6 +3,7 @@
 
 #include "StoreSamples.h"
 #include "StoreTestCase.h"
+#include "tests/Many.h"
 
 #include <QTest>
 
@@ -174,7 +175,7 @@ void StoreMergeTest::pairsManyOfOneIdentity()
 {
     Connections stored;
     Connections given;
-    for (int i = 0; i < 50000; ++i) {
+    for (int i = 0; i < many(50000); ++i) {
         stored.push_back(logged("", "p" + std::to_string(i)));
         given.push_back(logged("ppp" + std::to_string(i)));
     }
