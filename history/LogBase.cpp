@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <fstream>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -81,10 +82,11 @@ private:
     std::vector<char> m_page;
 };
 
-/// Whether changes of the log have come into the file already: the first page, which
-/// is the first to be played and differs in each log, or all of them. A program that is
-/// killed while it plays its log leaves a file that has changed since the log has.
-bool isPlayed(const std::string &path)
+/// Whether changes of the log have come into the file already: one of the `telling`
+/// pages, which differ in each log, or all of them. A program that is killed while it
+/// plays its log leaves a file that has changed since the log has; a power cut then leaves
+/// any of the pages.
+bool isPlayed(const std::string &path, const std::set<std::uint32_t> &telling)
 {
     RawFile file(path);
     LogFrames frames(logOf(path));
@@ -98,10 +100,11 @@ bool isPlayed(const std::string &path)
         transaction[frames.pageNumber()] = page == frames.page();
         if (!frames.endsTransaction())
             continue;
-        if (const auto first = transaction.find(1); first != transaction.end() && first->second)
-            return true;
-        for (const auto &[number, isThere] : transaction)
+        for (const auto &[number, isThere] : transaction) {
+            if (isThere && telling.count(number) != 0)
+                return true;
             isInFile[number] = isThere;
+        }
         transaction.clear();
     }
     return std::all_of(isInFile.begin(), isInFile.end(),
@@ -166,7 +169,7 @@ bool LogBase::matches()
     // A log that was written last, or is itself a copy that has kept its time, may have
     // been put back together with the file.
     return log->writtenNs >= file->changedNs || log->writtenNs < log->bornNs ||
-           isRecorded(*file, *log) || isPlayed(m_path);
+           isRecorded(*file, *log) || isPlayed(m_path, tellingPages());
 }
 
 /// What cannot be known, because an older version has written the log or because both
@@ -189,6 +192,22 @@ bool LogBase::isRecorded(const FileChange &file, const FileChange &log)
             throw;
         return false; // the log of one file makes another one unreadable
     }
+}
+
+/// The first page, which counts its changes, and the row's own.
+std::set<std::uint32_t> LogBase::tellingPages()
+{
+    std::set<std::uint32_t> pages = {1};
+    try {
+        SQLite::Statement row(m_database,
+                              "SELECT rootpage FROM sqlite_schema WHERE name = 'log_base'");
+        if (row.executeStep())
+            pages.insert(row.getColumn(0).getUInt());
+    } catch (const SQLite::Exception &exception) {
+        if (!isDamage(exception))
+            throw;
+    }
+    return pages;
 }
 
 } // namespace history

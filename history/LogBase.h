@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <set>
 #include <string>
 
 namespace SQLite
@@ -33,6 +35,7 @@ public:
 private:
     bool matches();
     bool isRecorded(const FileChange &file, const FileChange &log);
+    std::set<std::uint32_t> tellingPages();
 
     SQLite::Database &m_database;
     std::string m_path;

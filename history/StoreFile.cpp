@@ -133,8 +133,20 @@ FileContent inspectUnmarked(const std::string &path, const FileHead &head)
     return FileContent::Nothing;
 }
 
+/// A power cut while a store is made may leave its later sectors alone, and the journal by
+/// which SQLite then takes them back.
+bool isCutWhileMade(const std::string &path, const FileHead &head)
+{
+    const bool isEmpty =
+        std::all_of(head.begin(), head.end(), [](unsigned char each) { return each == 0; });
+    const auto journal = statusOf(path + "-journal");
+    return isEmpty && journal && journal->stx_size > 0;
+}
+
 FileContent inspectHead(const std::string &path, const FileHead &head)
 {
+    if (isCutWhileMade(path, head))
+        return FileContent::Nothing;
     if (std::memcmp(head.data(), magic.data(), magic.size()) != 0)
         throw notAStore(path, "some other file");
     if (bigEndian32(head, applicationIdOffset) != storeApplicationId)

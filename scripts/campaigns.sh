@@ -5,6 +5,7 @@
 #   host        1,000,000 steps of a hostile host, and 200,000 with each compiler's
 #               sanitizers, once with the statistics
 #   kills       1,000 writers of a store and 1,000 recorders killed
+#   power       1,000 cuts of the power while a store is made, written to and recovers
 #   hands       1,000 times that another program records: windows and recorders in the
 #               background that come, go and are killed while bytes flow
 #   reconnects  1,000 connections of a real interface in a network of its own
@@ -12,8 +13,8 @@
 #   texts       times, numbers and volumes as Qt reads and writes them, in a
 #               million random cases each
 #   abi         the binary interface, and a host of the other compiler
-# NETINFORECORD_COUNT sets another number of steps, kills, changes, connections or cases,
-# FUZZ_SECONDS another time. ./test runs a short form of each.
+# NETINFORECORD_COUNT sets another number of steps, kills, cuts, changes, connections or
+# cases, FUZZ_SECONDS another time. ./test runs a short form of each.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/setup.sh
@@ -25,7 +26,7 @@ case "${1-}" in
     ;;
 esac
 campaigns=("$@")
-[ ${#campaigns[@]} -gt 0 ] || campaigns=(host kills hands reconnects texts fuzz abi)
+[ ${#campaigns[@]} -gt 0 ] || campaigns=(host kills power hands reconnects texts fuzz abi)
 
 # run PRESET TESTS [COUNT]: builds a preset and runs the tests that match. A test
 # that was skipped has shown nothing.
@@ -63,6 +64,7 @@ for campaign in "${campaigns[@]}"; do
         run gcc tst_hostilehost 200000
         ;;
     kills) run qt5 'tst_(store|recorder)kills' 1000 ;;
+    power) run qt5 tst_powercuts 1000 ;;
     hands) run qt5 tst_changesofhands 1000 ;;
     reconnects) run qt5 tst_networklosses 1000 ;;
     fuzz) fuzz ;;
@@ -73,7 +75,7 @@ for campaign in "${campaigns[@]}"; do
         run dev '^plugin_for_host_makers$'
         ;;
     *)
-        say "There is no campaign \"$campaign\"; there are host, kills, hands, reconnects, texts, fuzz and abi."
+        say "There is no campaign \"$campaign\"; there are host, kills, power, hands, reconnects, texts, fuzz and abi."
         exit 2
         ;;
     esac

@@ -103,6 +103,8 @@ void RefusedFileTest::refusesAndKeepsUntouched_data()
     });
     row("a long text file", "NotAStore", refhost::KoraNotAStore,
         [](const QString &path) { writeFile(path, QByteArray(8192, 'x')); });
+    row("a file of zeros", "NotAStore", refhost::KoraNotAStore,
+        [](const QString &path) { writeFile(path, QByteArray(8192, '\0')); });
     row("another program's database", "NotAStore", refhost::KoraNotAStore,
         [](const QString &path) { runSql(path.toStdString(), "CREATE TABLE notes (text)"); });
     row("another program's database with a mark", "NotAStore", refhost::KoraNotAStore,

@@ -72,6 +72,7 @@ private slots:
     void leavesAnEmptyFileEmptyWhenOnlyReading();
     void followsALinkToTheFile();
     void keepsWhatACrashLeftInTheLog();
+    void makesAnewWhatAPowerCutLeftHalfMade();
 
 private:
     QString file() const { return QString::fromStdString(m_path); }
@@ -226,6 +227,24 @@ void StoreFileTest::keepsWhatACrashLeftInTheLog()
         QVERIFY(QFile::copy(file() + "-wal", copy + "-wal"));
     }
     QCOMPARE(profilesIn(copy.toStdString()), QString("0 1 2"));
+}
+
+/// The journal is on the disk before the file is written, whose sectors get there in any
+/// order.
+void StoreFileTest::makesAnewWhatAPowerCutLeftHalfMade()
+{
+    writeFile(file(), QByteArray(512, '\0') + QByteArray(7680, 'x'));
+    const QByteArray journalOfAnEmptyFile =
+        QByteArray::fromHex("d9d505f920a163d7" // its mark
+                            "00000000"         // no page is to be put back
+                            "00000000"
+                            "00000000"   // the file had none
+                            "00000200"   // bytes of a sector, to the end of which it has zeros
+                            "00001000"); // bytes of a page
+    writeFile(file() + "-journal",
+              journalOfAnEmptyFile + QByteArray(512 - journalOfAnEmptyFile.size(), '\0'));
+    storeWith(m_path, {connection("new", 1, 2)});
+    QCOMPARE(profilesIn(m_path), QString("new"));
 }
 
 QTEST_GUILESS_MAIN(StoreFileTest)
