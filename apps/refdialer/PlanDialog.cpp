@@ -51,12 +51,24 @@ QTreeWidgetItem *newItem(std::int64_t key, const QStringList &cells)
     return item;
 }
 
+/// For the keyboard as well.
+QLabel *newFigures()
+{
+    auto *const label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setFocusPolicy(Qt::StrongFocus);
+    return label;
+}
+
 } // namespace
 
 PlanDialog::PlanDialog(PlanWatch &plans, QWidget *parent)
     : QDialog(parent)
     , m_plans(plans)
     , m_list(new QTreeWidget)
+    , m_standing(newFigures())
     , m_message(new QLabel)
     , m_edit(new QPushButton(tr("&Edit…")))
     , m_remove(new QPushButton(tr("&Remove…")))
@@ -71,6 +83,7 @@ PlanDialog::PlanDialog(PlanWatch &plans, QWidget *parent)
     m_list->setAllColumnsShowFocus(true);
     m_list->setUniformRowHeights(true);
     m_list->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_standing->setAccessibleName(tr("How the plan stands"));
     m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
 
@@ -79,7 +92,9 @@ PlanDialog::PlanDialog(PlanWatch &plans, QWidget *parent)
     content->addWidget(buttons());
     auto *const layout = new QVBoxLayout(this);
     layout->addLayout(content);
+    layout->addWidget(m_standing);
     layout->addWidget(m_message);
+    setTabOrder(m_list, m_standing);
 
     auto *const removal = new QShortcut(QKeySequence::Delete, m_list);
     removal->setContext(Qt::WidgetShortcut);
@@ -146,16 +161,32 @@ void PlanDialog::showWhatCanBeDone()
         m_chosen = keyOf(*item);
     for (QPushButton *const button : {m_edit, m_remove, m_past})
         button->setEnabled(item != nullptr);
+    showStanding();
 }
 
-std::optional<DataPlan> PlanDialog::plan() const
+void PlanDialog::showStanding()
+{
+    const usage::StandingPlan *const plan = chosen();
+    const QString text = plan ? QStringList({PlanText::figures(*plan, m_plans.today(), locale()),
+                                             PlanText::details(*plan, locale())})
+                                    .join(QLatin1Char('\n'))
+                                    .trimmed()
+                              : QString();
+    m_standing->setVisible(!text.isEmpty());
+    if (text == m_standing->text())
+        return; // what is selected of it stays so
+    m_standing->setText(text);
+    m_standing->setAccessibleDescription(text);
+}
+
+const usage::StandingPlan *PlanDialog::chosen() const
 {
     const auto *const item = m_list->currentItem();
     for (const usage::StandingPlan &each : m_plans.plans()) {
         if (item && each.plan.key == keyOf(*item))
-            return each.plan;
+            return &each;
     }
-    return std::nullopt;
+    return nullptr;
 }
 
 void PlanDialog::addPlan()
@@ -165,8 +196,8 @@ void PlanDialog::addPlan()
 
 void PlanDialog::editPlan()
 {
-    if (const auto chosen = plan())
-        openEditor(*chosen);
+    if (const auto *const standing = chosen())
+        openEditor(standing->plan);
 }
 
 void PlanDialog::openEditor(const DataPlan &plan)
@@ -177,13 +208,14 @@ void PlanDialog::openEditor(const DataPlan &plan)
 
 void PlanDialog::askToRemovePlan()
 {
-    const auto chosen = plan();
-    if (!chosen)
+    const auto *const standing = chosen();
+    if (!standing)
         return;
-    auto *const box = new QMessageBox(
-        QMessageBox::Question, windowTitle(),
-        tr("Remove the data plan \"%1\"?").arg(QString::fromStdString(chosen->name)),
-        QMessageBox::NoButton, this);
+    const std::string name = standing->plan.name;
+    auto *const box =
+        new QMessageBox(QMessageBox::Question, windowTitle(),
+                        tr("Remove the data plan \"%1\"?").arg(QString::fromStdString(name)),
+                        QMessageBox::NoButton, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(tr("The history stays as it is."));
@@ -191,7 +223,7 @@ void PlanDialog::askToRemovePlan()
     QPushButton *const cancel = box->addButton(tr("&Cancel"), QMessageBox::RejectRole);
     box->setDefaultButton(cancel);
     box->setEscapeButton(cancel);
-    connect(remove, &QPushButton::clicked, this, [this, name = chosen->name] { removePlan(name); });
+    connect(remove, &QPushButton::clicked, this, [this, name] { removePlan(name); });
     box->open();
 }
 

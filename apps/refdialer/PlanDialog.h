@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "history/DataPlan.h"
+#include "usage/StandingPlan.h"
 
 #include <QDialog>
 #include <QStringList>
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -38,8 +37,9 @@ private:
     void showPlans();
     void fillList();
     void showWhatCanBeDone();
-    /// The one that is chosen.
-    std::optional<history::DataPlan> plan() const;
+    void showStanding();
+    /// The one that is chosen, if there is one.
+    const usage::StandingPlan *chosen() const;
     void addPlan();
     void editPlan();
     void openEditor(const history::DataPlan &plan);
@@ -51,7 +51,8 @@ private:
     Rows m_rows;               ///< of the list
     std::int64_t m_chosen = 0; ///< the plan's key
     QTreeWidget *m_list;
-    QLabel *m_message; ///< shown if there is one
+    QLabel *m_standing; ///< how the chosen plan stands
+    QLabel *m_message;  ///< shown if there is one
     QPushButton *m_edit;
     QPushButton *m_remove;
     QPushButton *m_past;

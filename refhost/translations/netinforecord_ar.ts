@@ -922,6 +922,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>&amp;Cancel</source>
         <translation>إلغاء (&amp;C)</translation>
     </message>
+    <message>
+        <source>How the plan stands</source>
+        <translation>حالة الباقة</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanEditor</name>

@@ -922,6 +922,10 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message>
+        <source>How the plan stands</source>
+        <translation>Wie der Tarif steht</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanEditor</name>

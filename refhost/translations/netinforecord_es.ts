@@ -922,6 +922,10 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
     </message>
+    <message>
+        <source>How the plan stands</source>
+        <translation>Cómo va el plan</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanEditor</name>

@@ -922,6 +922,10 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
     </message>
+    <message>
+        <source>How the plan stands</source>
+        <translation>Où en est le forfait</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanEditor</name>

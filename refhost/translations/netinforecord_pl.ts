@@ -922,6 +922,10 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
         <source>&amp;Cancel</source>
         <translation>&amp;Anuluj</translation>
     </message>
+    <message>
+        <source>How the plan stands</source>
+        <translation>Stan planu</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanEditor</name>

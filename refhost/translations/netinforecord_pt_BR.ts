@@ -922,6 +922,10 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
     </message>
+    <message>
+        <source>How the plan stands</source>
+        <translation>Como está o plano</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanEditor</name>

@@ -922,6 +922,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>&amp;Cancel</source>
         <translation>取消(&amp;C)</translation>
     </message>
+    <message>
+        <source>How the plan stands</source>
+        <translation>套餐状况</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanEditor</name>

@@ -119,7 +119,7 @@ QStringList messagesIn(const QWidget &window)
 {
     QStringList texts;
     for (const QLabel *const label : window.findChildren<QLabel *>()) {
-        if (label->wordWrap() && !label->isHidden())
+        if (label->wordWrap() && label->accessibleName().isEmpty() && !label->isHidden())
             texts.append(label->text());
     }
     return texts;

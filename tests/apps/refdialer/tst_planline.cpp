@@ -17,6 +17,7 @@
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
+#include <QTreeWidget>
 #include <QWindow>
 
 using namespace history;
@@ -86,6 +87,7 @@ private slots:
     void tellsHowAPlanStands_data();
     void tellsHowAPlanStands();
     void marksHowMuchIsUsedWithTheBar();
+    void tellsTheSameInTheDialogByTheKeyboard();
     void takesNoRoomWithoutAHistory();
     void offersAPlan();
     void showsTheWorstOfManyPlans();
@@ -214,6 +216,30 @@ void TestPlanLine::marksHowMuchIsUsedWithTheBar()
     readPlans();
     QCOMPARE(bar->value(), bar->maximum());
     QVERIFY(shownText(*m_line).contains("|200 %|"));
+}
+
+void TestPlanLine::tellsTheSameInTheDialogByTheKeyboard()
+{
+    QVERIFY(m_store->setPlan(planCalled("home", 10 * gigabyte)));
+    QVERIFY(m_store->setPlan(planCalled("of no amount")));
+    QVERIFY(m_store->add(movedIn("2026-11-16T10:00:00Z", 7 * gigabyte)));
+    readPlans();
+    PlanDialog dialog(*m_watch, m_line.get());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto &list = *dialog.findChild<QTreeWidget *>();
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Tab);
+    const auto *const standing = qobject_cast<QLabel *>(dialog.focusWidget());
+    QVERIFY(standing);
+    QCOMPARE(standing->accessibleName(), QString("How the plan stands"));
+    QCOMPARE(standing->text(),
+             QString("7 GB of 10 GB used, 12 days left, 256 MB a day\nThe period is from "
+                     "01/11/2026 to 30/11/2026. 3.00 GB left. At this pace it will be 11.33 GB in "
+                     "the end."));
+    QCOMPARE(standing->accessibleDescription(), standing->text());
+    QTest::keyClick(&list, Qt::Key_Down);
+    QVERIFY(standing->text().startsWith("7 GB used, 12 days left\nThe period is from"));
 }
 
 void TestPlanLine::takesNoRoomWithoutAHistory()
