@@ -62,21 +62,36 @@ QString nameOf(const Unit &unit)
     return QString::fromLatin1(unit.name.data(), static_cast<int>(unit.name.size()));
 }
 
-struct ShownSize {
-    double value;
-    const char *unit;
-};
-
 constexpr std::array<Unit, 3> shownUnits = {{units[2], units[3], units[4]}};
 
-/// The unit is chosen before rounding, as in the history.
-ShownSize shownSize(std::int64_t bytes)
+double inUnit(std::int64_t bytes, const Unit &unit)
 {
-    double value = static_cast<double>(bytes) / 1024;
-    auto unit = shownUnits.begin();
-    for (; std::abs(value) >= 1024 && unit + 1 != shownUnits.end(); ++unit)
-        value /= 1024;
-    return {value, unit->name.data()};
+    return static_cast<double>(bytes) / static_cast<double>(unit.bytes);
+}
+
+/// The unit is chosen before rounding, as in the history.
+const Unit &shownUnit(std::int64_t bytes)
+{
+    const auto *unit = shownUnits.begin();
+    while (std::abs(inUnit(bytes, *unit)) >= 1024 && unit + 1 != shownUnits.end())
+        ++unit;
+    return *unit;
+}
+
+QString numberText(std::int64_t bytes, const Unit &unit, int decimals, Rounding rounding)
+{
+    if (rounding == Rounding::Nearest)
+        return QString::number(inUnit(bytes, unit), 'f', decimals);
+    std::int64_t scale = 1;
+    for (int i = 0; i < decimals; ++i)
+        scale *= 10;
+    const std::int64_t scaled = scaledDown(bytes, scale, unit.bytes);
+    return QString::number(static_cast<double>(scaled) / static_cast<double>(scale), 'f', decimals);
+}
+
+QString withUnit(const QString &number, const Unit &unit)
+{
+    return number + QLatin1Char(' ') + nameOf(unit);
 }
 
 /// Of decimals only.
@@ -91,12 +106,20 @@ QString withoutTrailingZeros(QString number)
     return number;
 }
 
+QString shortText(std::int64_t bytes, Rounding rounding, int moreDecimals)
+{
+    const Unit &unit = shownUnit(bytes);
+    const double value = std::abs(inUnit(bytes, unit));
+    const int decimals = (value < 10 ? 2 : value < 100 ? 1 : 0) + moreDecimals;
+    return withUnit(withoutTrailingZeros(numberText(bytes, unit, decimals, rounding)), unit);
+}
+
 } // namespace
 
-QString sizeText(std::int64_t bytes)
+QString sizeText(std::int64_t bytes, Rounding rounding)
 {
-    const ShownSize size = shownSize(bytes);
-    return QString::number(size.value, 'f', 2) + QLatin1Char(' ') + QLatin1String(size.unit);
+    const Unit &unit = shownUnit(bytes);
+    return withUnit(numberText(bytes, unit, 2, rounding), unit);
 }
 
 void appendSize(std::string &text, std::int64_t bytes)
@@ -116,13 +139,23 @@ void appendSize(std::string &text, std::int64_t bytes)
     (text += ' ') += unit->name;
 }
 
-QString shortSizeText(std::int64_t bytes)
+QString shortSizeText(std::int64_t bytes, Rounding rounding)
 {
-    const ShownSize size = shownSize(bytes);
-    const double value = std::abs(size.value);
-    const int decimals = value < 10 ? 2 : value < 100 ? 1 : 0;
-    return withoutTrailingZeros(QString::number(size.value, 'f', decimals)) + QLatin1Char(' ') +
-           QLatin1String(size.unit);
+    return shortText(bytes, rounding, 0);
+}
+
+PartText shortPartText(std::int64_t part, std::int64_t whole)
+{
+    // They tell the bytes of a gigabyte apart.
+    constexpr int mostDecimals = 10;
+    const Rounding rounding = part < whole ? Rounding::Down : Rounding::Nearest;
+    PartText text;
+    for (int more = 0; text.part == text.whole && more <= mostDecimals; ++more) {
+        text = {shortText(part, rounding, more), shortText(whole, Rounding::Nearest, more)};
+        if (part >= whole)
+            break;
+    }
+    return text;
 }
 
 QString rateText(std::int64_t bytesPerSecond)
@@ -147,7 +180,7 @@ QStringList writtenUnits()
 WrittenSize writtenSize(std::int64_t bytes)
 {
     for (auto unit = units.rbegin(); unit != units.rend(); ++unit) {
-        const double value = static_cast<double>(bytes) / static_cast<double>(unit->bytes);
+        const double value = inUnit(bytes, *unit);
         const QString number = withoutTrailingZeros(QString::number(value, 'f', 2));
         const auto read = bytesIn((number + nameOf(*unit)).toStdString());
         if (std::abs(value) >= 1 && read->isInRange && read->value == bytes)

@@ -14,14 +14,23 @@
 namespace usage
 {
 
+enum class Rounding { Nearest, Down };
+
 /// A number of bytes as the history shows it: "0.10 KB", "1.50 MB", up to GB, of 1024
 /// each and in every language with a full stop. What is less than none has a minus.
-QString sizeText(std::int64_t bytes);
+QString sizeText(std::int64_t bytes, Rounding rounding = Rounding::Nearest);
 /// The same behind the text, for who writes many.
 void appendSize(std::string &text, std::int64_t bytes);
 
 /// The same in at most three digits, without zeros behind the full stop: "3.2 GB", "560 MB".
-QString shortSizeText(std::int64_t bytes);
+QString shortSizeText(std::int64_t bytes, Rounding rounding = Rounding::Nearest);
+
+struct PartText {
+    QString part;
+    QString whole;
+};
+/// Both in so few digits, unless the part would read as the whole before it has reached it.
+PartText shortPartText(std::int64_t part, std::int64_t whole);
 
 /// "249 B/s"; from 1024 bytes on in the units above: "1.50 KB/s".
 QString rateText(std::int64_t bytesPerSecond);

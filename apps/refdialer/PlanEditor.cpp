@@ -216,7 +216,8 @@ QString PlanEditor::takePeriod()
     return m_period->isInOrder() ? QString() : tr("The last day is before the first one.");
 }
 
-/// What has not been changed keeps its day, unless the day is in another period now.
+/// What has not been changed keeps its day, unless the day is in another period now; one that
+/// was not shown, because its period is over, does not come into the present one.
 QString PlanEditor::takeUsedElsewhere()
 {
     const auto bytes =
@@ -225,7 +226,7 @@ QString PlanEditor::takeUsedElsewhere()
         return m_usedElsewhere->problem();
     m_plan.usedElsewhere = m_former.usedElsewhere;
     const auto shown = shownElsewhere();
-    if (*bytes == shown.value_or(0) && (!shown || isOfThisPeriod(m_plan)))
+    if (*bytes == shown.value_or(0) && shown.has_value() == isOfThisPeriod(m_plan))
         return {};
     const bool isTaken = usage::setUsedElsewhere(m_plan, *bytes, m_plans.today());
     return isTaken ? QString() : tr("Today is in no period of this plan.");

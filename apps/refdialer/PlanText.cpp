@@ -16,6 +16,7 @@ namespace refdialer
 using history::PeriodRule;
 using usage::PlanState;
 using usage::PlanStatus;
+using usage::Rounding;
 using usage::shortSizeText;
 using usage::StandingPlan;
 
@@ -46,8 +47,7 @@ QString PlanText::figures(const StandingPlan &standing, const QDate &today, cons
 
 QString PlanText::ofPeriod(const PlanStatus &status, std::int64_t amount)
 {
-    const QString used = shortSizeText(status.used);
-    const QString whole = shortSizeText(amount);
+    const auto [used, whole] = usage::shortPartText(status.used, amount);
     const std::int64_t left = status.left.value_or(0);
     const bool isLastDay = status.daysLeft == 1;
     if (left < 0 && isLastDay)
@@ -58,9 +58,9 @@ QString PlanText::ofPeriod(const PlanStatus &status, std::int64_t amount)
             .arg(used, whole, shortSizeText(usage::saturatingDifference(0, left)));
     if (isLastDay)
         return tr("%1 of %2 used, %3 left, today is the last day")
-            .arg(used, whole, shortSizeText(left));
+            .arg(used, whole, shortSizeText(left, Rounding::Down));
     return tr("%1 of %2 used, %n days left, %3 a day", nullptr, status.daysLeft)
-        .arg(used, whole, shortSizeText(status.leftADay.value_or(0)));
+        .arg(used, whole, shortSizeText(status.leftADay.value_or(0), Rounding::Down));
 }
 
 QString PlanText::ofUnlimited(const PlanStatus &status)
@@ -110,7 +110,7 @@ QString PlanText::details(const StandingPlan &standing, const QLocale &locale)
         tr("The period is from %1 to %2.")
             .arg(dayText(status.period.first, locale), dayText(status.period.last(), locale))};
     if (status.left)
-        sentences.append(tr("%1 left.").arg(usage::sizeText(*status.left)));
+        sentences.append(tr("%1 left.").arg(usage::sizeText(*status.left, Rounding::Down)));
     if (status.pace)
         sentences.append(
             tr("At this pace it will be %1 in the end.").arg(usage::sizeText(*status.pace)));

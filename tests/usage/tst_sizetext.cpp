@@ -19,6 +19,10 @@ private slots:
     void appendsSizesAsItWritesThem();
     void writesShortSizes_data();
     void writesShortSizes();
+    void roundsDown_data();
+    void roundsDown();
+    void writesAPartAsTheWholeOnlyOnceItIs_data();
+    void writesAPartAsTheWholeOnlyOnceItIs();
     void writesSizesToBeReadAgain_data();
     void writesSizesToBeReadAgain();
     void writesLessThanNothing();
@@ -116,6 +120,60 @@ void SizeTextTest::writesShortSizes()
 {
     QFETCH(qint64, bytes);
     QTEST(shortSizeText(bytes), "size");
+}
+
+void SizeTextTest::roundsDown_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("shortSize");
+    const auto row = [](const char *name, qint64 bytes, const char *size, const char *shortSize) {
+        QTest::newRow(name) << bytes << QString(size) << QString(shortSize);
+    };
+    const qint64 gigabyte = 1 << 30;
+    row("nothing", 0, "0.00 KB", "0 KB");
+    row("a byte less than a megabyte", 1048575, "1023.99 KB", "1023 KB");
+    row("a byte less than ten gigabytes", 10 * gigabyte - 1, "9.99 GB", "9.99 GB");
+    row("tens", 12 * gigabyte - 1, "11.99 GB", "11.9 GB");
+    row("less than nothing", -1, "-0.01 KB", "-0.01 KB");
+    row("the largest", std::numeric_limits<qint64>::max(), "8589934591.99 GB", "8589934591 GB");
+}
+
+void SizeTextTest::roundsDown()
+{
+    QFETCH(qint64, bytes);
+    QTEST(sizeText(bytes, Rounding::Down), "size");
+    QTEST(shortSizeText(bytes, Rounding::Down), "shortSize");
+}
+
+void SizeTextTest::writesAPartAsTheWholeOnlyOnceItIs_data()
+{
+    QTest::addColumn<qint64>("part");
+    QTest::addColumn<qint64>("whole");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, qint64 part, qint64 whole, const char *text) {
+        QTest::newRow(name) << part << whole << QString(text);
+    };
+    const qint64 gigabyte = 1 << 30;
+    const qint64 ten = 10 * gigabyte;
+    const qint64 odd = ten + gigabyte / 25; // 10.04
+    row("a part", 3 * gigabyte, ten, "3 GB of 10 GB");
+    row("a byte less", ten - 1, ten, "9.99 GB of 10 GB");
+    row("the whole", ten, ten, "10 GB of 10 GB");
+    row("less than a whole of more digits", odd - gigabyte / 100, odd, "10.02 GB of 10.04 GB");
+    row("a byte less than that", odd - 1, odd, "10.03 GB of 10.04 GB");
+    row("that", odd, odd, "10 GB of 10 GB");
+    row("more than a whole that is rounded up", ten + gigabyte / 10 - 1, ten + gigabyte / 17,
+        "10.1 GB of 10.1 GB");
+    row("of nothing", 0, 0, "0 KB of 0 KB");
+}
+
+void SizeTextTest::writesAPartAsTheWholeOnlyOnceItIs()
+{
+    QFETCH(qint64, part);
+    QFETCH(qint64, whole);
+    const PartText text = shortPartText(part, whole);
+    QTEST(text.part + " of " + text.whole, "text");
 }
 
 void SizeTextTest::writesSizesToBeReadAgain_data()

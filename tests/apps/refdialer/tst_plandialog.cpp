@@ -37,6 +37,7 @@ private slots:
     void takesPercentagesOfAnyScript();
     void offersWhatTheHistoryKnows();
     void movesWhatWasUsedElsewhereIntoThePeriodOfToday();
+    void bringsNothingBackThatWasUsedElsewhereBefore();
     void keepsTheInputWhenTheHistoryCannotBeWritten();
     void makesAPlanAgainThatHasBeenRemovedMeanwhile();
 
@@ -300,6 +301,18 @@ void TestPlanDialog::movesWhatWasUsedElsewhereIntoThePeriodOfToday()
     QVERIFY(acceptedBy(*later));
     QCOMPARE(stored("home").usedElsewhere->day, dayNumber("2026-11-19"));
     QCOMPARE(stored("home").usedElsewhere->bytes, gigabyte);
+}
+
+void TestPlanDialog::bringsNothingBackThatWasUsedElsewhereBefore()
+{
+    DataPlan plan = planCalled("home");
+    plan.usedElsewhere = UsedElsewhere{gigabyte, dayNumber("2026-10-25")};
+    plan.key = m_store->setPlan(plan).value();
+    const auto editor = editorOf(plan);
+    QCOMPARE(named<QLineEdit>(*editor, "Used elsewhere in this period").text(), QString());
+    named<QSpinBox>(*editor, "From day of the month").setValue(20);
+    QVERIFY(acceptedBy(*editor));
+    QVERIFY(!stored("home").usedElsewhere);
 }
 
 void TestPlanDialog::keepsTheInputWhenTheHistoryCannotBeWritten()

@@ -146,12 +146,14 @@ void TestPlanLine::tellsHowAPlanStands_data()
     row("within", tenGigabytes, 3277 * megabyte, noonOfThe19th,
         "plan|32 %|3.2 GB of 10 GB used, 12 days left, 580 MB a day");
     row("within, on the last day", tenGigabytes, 3277 * megabyte, lastDay,
-        "plan|32 %|3.2 GB of 10 GB used, 6.8 GB left, today is the last day");
+        "plan|32 %|3.2 GB of 10 GB used, 6.79 GB left, today is the last day");
     // 445 of 720 hours have gone.
     row("at a pace that is too much", tenGigabytes, 7 * gigabyte, noonOfThe19th,
         "plan|70 %|Heading for 11.3 GB|7 GB of 10 GB used, 12 days left, 256 MB a day");
     row("warned", tenGigabytes, 8 * gigabyte, noonOfThe19th,
-        "plan|80 %|80 % reached|8 GB of 10 GB used, 12 days left, 171 MB a day");
+        "plan|80 %|80 % reached|8 GB of 10 GB used, 12 days left, 170 MB a day");
+    row("nearly spent", tenGigabytes, 10 * gigabyte - megabyte, noonOfThe19th,
+        "plan|99 %|80 % reached|9.99 GB of 10 GB used, 12 days left, 85.3 KB a day");
     row("spent to the byte", tenGigabytes, 10 * gigabyte, noonOfThe19th,
         "plan|100 %|Used up|10 GB of 10 GB used, 12 days left, 0 KB a day");
     row("spent", tenGigabytes, 10752 * megabyte, noonOfThe19th,
@@ -168,7 +170,7 @@ void TestPlanLine::tellsHowAPlanStands_data()
     DataPlan corrected = tenGigabytes;
     corrected.usedElsewhere = UsedElsewhere{-gigabyte, dayNumber("2026-11-02")};
     row("less than nothing", corrected, 0, noonOfThe19th,
-        "plan|0 %|-1 GB of 10 GB used, 12 days left, 939 MB a day");
+        "plan|0 %|-1 GB of 10 GB used, 12 days left, 938 MB a day");
     DataPlan abroadOnly = tenGigabytes;
     abroadOnly.network = DataPlan::Network::Roaming;
     row("roaming only", abroadOnly, 8 * gigabyte, noonOfThe19th,
@@ -283,7 +285,7 @@ void TestPlanLine::showsTheWorstOfManyPlans()
     QCOMPARE(shown(),
              QString("All data plans…|d|800 %|Used up|8 MB of 1 MB used, 7 MB over, 12 days left|"
                      "b|88 %|80 % reached|8 MB of 9 MB used, 12 days left, 85.3 KB a day|"
-                     "a|8 %|8 MB of 100 MB used, 12 days left, 7.67 MB a day"));
+                     "a|8 %|8 MB of 100 MB used, 12 days left, 7.66 MB a day"));
     QSignalSpy wanted(m_line.get(), &PlanLine::plansWanted);
     press(*m_line, "All data plans…");
     QCOMPARE(wanted.size(), 1);
@@ -374,7 +376,7 @@ void TestPlanLine::speaksTheLanguageOfTheProgram()
     QVERIFY(refhost::setLanguage("de"));
     QTRY_COMPARE(
         shownText(*m_line),
-        QString("home|80 %|80 % erreicht|8 GB von 10 GB verbraucht, noch 12 Tage, 171 MB am Tag"));
+        QString("home|80 %|80 % erreicht|8 GB von 10 GB verbraucht, noch 12 Tage, 170 MB am Tag"));
 }
 
 void TestPlanLine::showsThePeriodsBefore()
