@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <variant>
 #include <vector>
 
@@ -25,16 +26,25 @@ constexpr int highestPercentage = 1000;
 /// From that day of each month, 1 to 31; a month without it takes its last one.
 struct MonthlyFrom {
     std::int64_t day = 1;
+    bool operator==(const MonthlyFrom &other) const { return day == other.day; }
 };
 /// That many days, 1 to longestCycle, again and again; nothing before `from`.
 struct EveryDays {
     std::int64_t days = 28;
     JulianDay from = firstPlanDay;
+    bool operator==(const EveryDays &other) const
+    {
+        return days == other.days && from == other.from;
+    }
 };
 /// From the first to the last day, both included, and never again.
 struct OnceBetween {
     JulianDay first = firstPlanDay;
     JulianDay last = firstPlanDay;
+    bool operator==(const OnceBetween &other) const
+    {
+        return first == other.first && last == other.last;
+    }
 };
 using PeriodRule = std::variant<MonthlyFrom, EveryDays, OnceBetween>;
 
@@ -43,6 +53,10 @@ using PeriodRule = std::variant<MonthlyFrom, EveryDays, OnceBetween>;
 struct UsedElsewhere {
     std::int64_t bytes = 0;
     JulianDay day = firstPlanDay;
+    bool operator==(const UsedElsewhere &other) const
+    {
+        return bytes == other.bytes && day == other.day;
+    }
 };
 
 /// What somebody has agreed on with a provider. Texts are UTF-8.
@@ -62,7 +76,21 @@ struct DataPlan {
     PeriodRule period = MonthlyFrom{};
     std::optional<UsedElsewhere> usedElsewhere;
     std::vector<int> warnAtPercent = {80, 100}; ///< rising, from 1 to highestPercentage
+
+    bool operator==(const DataPlan &other) const
+    {
+        const auto values = [](const DataPlan &plan) {
+            return std::tie(plan.key, plan.name, plan.covers, plan.covered, plan.network,
+                            plan.counts, plan.amount, plan.period, plan.usedElsewhere,
+                            plan.warnAtPercent);
+        };
+        return values(*this) == values(other);
+    }
 };
+
+/// The key of the plan that has been stored, or the plan that another program has put in its
+/// place meanwhile.
+using PlanOutcome = std::variant<std::int64_t, DataPlan>;
 
 /// A value by the name that it has in the store, in JSON and on the command line.
 template <typename Value>

@@ -189,6 +189,16 @@ std::int64_t PlanTable::set(const DataPlan &plan)
     return key;
 }
 
+PlanOutcome PlanTable::replace(const std::optional<DataPlan> &former, const DataPlan &plan)
+{
+    for (const DataPlan &stored : all()) {
+        const bool isReplaced = former ? stored.key == former->key : stored.name == plan.name;
+        if (isReplaced && !(stored == former))
+            return stored;
+    }
+    return set(plan);
+}
+
 void PlanTable::checkNameIsFree(const DataPlan &plan)
 {
     RowQuery query(m_database, "SELECT 1 FROM plan WHERE name = ? AND key <> ?");

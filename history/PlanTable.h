@@ -4,6 +4,7 @@
 #include "DataPlan.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,7 @@ public:
     /// See Store's functions of these names.
     std::vector<DataPlan> all();
     std::int64_t set(const DataPlan &plan);
+    PlanOutcome replace(const std::optional<DataPlan> &former, const DataPlan &plan);
     bool remove(const std::string &name);
     std::vector<int> noteWarnings(std::int64_t plan, JulianDay periodFirst,
                                   const std::vector<int> &percentages);

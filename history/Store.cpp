@@ -252,6 +252,11 @@ Result<std::int64_t> Store::setPlan(const DataPlan &plan)
     return d->write(plan, [&](StoreTables &tables) { return tables.plans.set(plan); });
 }
 
+Result<PlanOutcome> Store::setPlan(const DataPlan &plan, const std::optional<DataPlan> &former)
+{
+    return d->write(plan, [&](StoreTables &tables) { return tables.plans.replace(former, plan); });
+}
+
 Result<bool> Store::removePlan(const std::string &name)
 {
     return attempt(d->database.path(), [&] { return d->removePlan(name); });

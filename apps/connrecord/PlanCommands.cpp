@@ -156,6 +156,27 @@ Failure noPlan(const std::string &storePath, const std::string &name)
                                    "\"; connrecord plan list shows the plans."};
 }
 
+DataPlan changedPlan(DataPlan plan, const PlanRequest &request)
+{
+    setWhatIsGiven(plan, request);
+    return plan;
+}
+
+/// What another program changes between reading and writing is kept too.
+DataPlan changeOrMakePlan(history::Store &store, const DataPlan &ifNew, const PlanRequest &request)
+{
+    auto former = findPlan(store, ifNew.name);
+    for (;;) {
+        DataPlan plan = former ? changedPlan(*former, request) : ifNew;
+        const auto outcome = valueOrFailure(store.setPlan(plan, former));
+        if (const auto *const key = std::get_if<std::int64_t>(&outcome)) {
+            plan.key = *key;
+            return plan;
+        }
+        former = std::get<DataPlan>(outcome);
+    }
+}
+
 void show(const CommonRequest &common, const DataPlan &plan)
 {
     Output().write(common.json ? formats::jsonText(toJson(plan)) : toTable({plan}));
@@ -174,14 +195,9 @@ void setPlan(const CommonRequest &common, const PlanRequest &request)
 {
     DataPlan plan;
     plan.name = optionText("NAME", request.name);
-    setWhatIsGiven(plan, request); // so that no history is made for what is wrong
+    plan = changedPlan(plan, request); // so that no history is made for what is wrong
     auto store = valueOrFailure(history::Store::openOrCreate(common.storePath));
-    if (auto former = findPlan(store, plan.name)) {
-        plan = *std::move(former);
-        setWhatIsGiven(plan, request);
-    }
-    plan.key = valueOrFailure(store.setPlan(plan));
-    show(common, plan);
+    show(common, changeOrMakePlan(store, plan, request));
 }
 
 void removePlan(const CommonRequest &common, const std::string &name)

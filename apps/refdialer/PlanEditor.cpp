@@ -24,6 +24,7 @@ namespace refdialer
 {
 
 using history::DataPlan;
+using history::PlanOutcome;
 using history::Result;
 using history::Store;
 using history::StoreError;
@@ -53,12 +54,22 @@ QComboBox *newChoice(const QStringList &texts)
     return box;
 }
 
+/// In the place of the former one, if it has a key.
+Result<PlanOutcome> setPlan(Store &store, const DataPlan &plan, const DataPlan &former)
+{
+    if (plan.key != 0)
+        return store.setPlan(plan, former);
+    const auto key = store.setPlan(plan);
+    return key ? Result<PlanOutcome>(key.value()) : key.error();
+}
+
 } // namespace
 
 PlanEditor::PlanEditor(PlanWatch &plans, const DataPlan &plan, QWidget *parent)
     : QDialog(parent)
     , m_plans(plans)
     , m_former(plan)
+    , m_replaced(plan)
     , m_plan(plan)
     , m_name(new QLineEdit)
     , m_coverage(new CoverageEdit)
@@ -264,8 +275,9 @@ void PlanEditor::accept()
         return;
     setStoring(true);
     m_plans.store().write(
-        this, [plan = m_plan](Store &store) { return store.setPlan(plan); },
-        [this](const Result<std::int64_t> &stored) { finish(stored); });
+        this,
+        [plan = m_plan, former = m_replaced](Store &store) { return setPlan(store, plan, former); },
+        [this](const Result<PlanOutcome> &outcome) { finish(outcome); });
 }
 
 void PlanEditor::reject()
@@ -274,19 +286,27 @@ void PlanEditor::reject()
         QDialog::reject();
 }
 
-void PlanEditor::finish(const Result<std::int64_t> &stored)
+void PlanEditor::finish(const Result<PlanOutcome> &outcome)
 {
     setStoring(false);
-    if (stored) {
-        m_plan.key = stored.value();
-        m_plans.look();
-        QDialog::accept();
-        return;
+    if (!outcome)
+        return fail(outcome.error());
+    m_plans.look();
+    if (const auto *const changed = std::get_if<DataPlan>(&outcome.value())) {
+        m_replaced = *changed;
+        return tell(*m_problem, tr("Another program has changed this plan meanwhile. OK stores it "
+                                   "as it stands here, Cancel keeps what the other has made."));
     }
+    m_plan.key = std::get<std::int64_t>(outcome.value());
+    QDialog::accept();
+}
+
+void PlanEditor::fail(const StoreError &error)
+{
     // Another program has removed it, so the next OK makes it again.
-    if (stored.error().kind == StoreError::Kind::NoSuchRecord)
+    if (error.kind == StoreError::Kind::NoSuchRecord)
         m_plan.key = 0;
-    tell(*m_problem, QString::fromStdString(stored.error().message));
+    tell(*m_problem, QString::fromStdString(error.message));
 }
 
 void PlanEditor::setStoring(bool isStoring)

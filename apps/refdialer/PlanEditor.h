@@ -67,11 +67,13 @@ private:
     QString takeUsedElsewhere();
     QString takeWarnings();
     bool takeAll();
-    void finish(const history::Result<std::int64_t> &stored);
+    void finish(const history::Result<history::PlanOutcome> &outcome);
+    void fail(const history::StoreError &error);
     void setStoring(bool isStoring);
 
     PlanWatch &m_plans;
-    const history::DataPlan m_former;
+    const history::DataPlan m_former; ///< as it was shown first
+    history::DataPlan m_replaced;     ///< what the user knows to be stored
     history::DataPlan m_plan;
     bool m_isStoring = false;
     QLineEdit *m_name;

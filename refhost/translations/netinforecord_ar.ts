@@ -1073,6 +1073,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>اكتب نسبًا مئوية من 1 إلى %1، مثل 80, 100.</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>غيّر برنامج آخر هذه الباقة في هذه الأثناء. «موافق» يحفظها كما هي هنا، و«إلغاء» يُبقي ما فعله البرنامج الآخر.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

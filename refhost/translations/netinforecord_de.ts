@@ -1073,6 +1073,10 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Schreiben Sie Prozentzahlen von 1 bis %1, etwa 80, 100.</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>Ein anderes Programm hat diesen Tarif inzwischen geändert. OK speichert ihn, wie er hier steht; Abbrechen behält, was das andere daraus gemacht hat.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

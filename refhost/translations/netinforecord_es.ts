@@ -1073,6 +1073,10 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Escriba porcentajes de 1 a %1, por ejemplo 80, 100.</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>Otro programa ha cambiado este plan entretanto. Aceptar lo guarda como está aquí; Cancelar conserva lo que ha hecho el otro.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

@@ -1073,6 +1073,10 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Écrivez des pourcentages de 1 à %1, par exemple 80, 100.</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>Un autre programme a modifié ce forfait entre-temps. OK l’enregistre tel qu’il est ici, Annuler garde ce que l’autre en a fait.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

@@ -1073,6 +1073,10 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Wpisz wartości procentowe od 1 do %1, na przykład 80, 100.</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>Inny program w międzyczasie zmienił ten plan. OK zapisuje go tak, jak jest tutaj, Anuluj zachowuje zmiany innego programu.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

@@ -1073,6 +1073,10 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Escreva porcentagens de 1 a %1, por exemplo 80, 100.</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>Outro programa alterou este plano nesse meio-tempo. OK o salva como está aqui; Cancelar mantém o que o outro fez.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

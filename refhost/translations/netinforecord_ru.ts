@@ -1073,6 +1073,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>Введите проценты от 1 до %1, например 80, 100.</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>Другая программа тем временем изменила этот план. «ОК» сохранит его таким, как здесь, «Отмена» оставит то, что сделала другая программа.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

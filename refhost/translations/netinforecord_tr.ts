@@ -1073,6 +1073,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>1 ile %1 arasında yüzdeler yazın, örneğin 80, 100.</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>Bu arada başka bir program bu planı değiştirdi. Tamam, planı burada durduğu gibi kaydeder; İptal, diğerinin yaptığını korur.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

@@ -1073,6 +1073,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Write percentages from 1 to %1, such as 80, 100.</source>
         <translation>请输入 1 到 %1 的百分比，例如 80, 100。</translation>
     </message>
+    <message>
+        <source>Another program has changed this plan meanwhile. OK stores it as it stands here, Cancel keeps what the other has made.</source>
+        <translation>其他程序在此期间更改了此套餐。“确定”将按此处的内容保存，“取消”将保留其他程序所做的更改。</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PlanLine</name>

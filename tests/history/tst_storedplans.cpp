@@ -114,6 +114,7 @@ private slots:
     void agreeWithAModel();
     void haveANameOfTheirOwn();
     void areNotChangedOnceRemoved();
+    void areReplacedAsTheyWereReadOnly();
     void areNotKeptIfAValueIsOutOfItsRange_data();
     void areNotKeptIfAValueIsOutOfItsRange();
     void areRemovedWhereThereAreNone();
@@ -226,6 +227,34 @@ void StoredPlansTest::areNotChangedOnceRemoved()
     QVERIFY(store.removePlan("home").value());
     QCOMPARE(outcomeOf(store.setPlan(plan)), QString("NoSuchRecord"));
     QCOMPARE(plansIn(store), QString());
+}
+
+void StoredPlansTest::areReplacedAsTheyWereReadOnly()
+{
+    Store store = opened();
+    DataPlan plan = prepaid();
+    const auto made = store.setPlan(plan, std::nullopt);
+    QVERIFY(made && std::holds_alternative<std::int64_t>(made.value()));
+    plan.key = *std::get_if<std::int64_t>(&made.value());
+    QVERIFY(store.setPlan(prepaid(), std::nullopt).value() == PlanOutcome(plan));
+    DataPlan changed = plan;
+    changed.name = "away";
+    std::vector<DataPlan> others(6, plan);
+    others[0].name = "home";
+    others[1].amount.reset();
+    others[2].usedElsewhere->day += 1;
+    others[3].period = OnceBetween{2461000, 2461031};
+    others[4].period = EveryDays{28, 2461000};
+    others[5].warnAtPercent.pop_back();
+    for (const DataPlan &other : others)
+        QVERIFY(store.setPlan(changed, other).value() == PlanOutcome(plan));
+    QCOMPARE(plansIn(store), textOf(plan));
+    QVERIFY(store.setPlan(changed, plan).value() == PlanOutcome(plan.key));
+    QCOMPARE(plansIn(store), textOf(changed));
+    QVERIFY(store.removePlan("away").value());
+    const auto refused = store.setPlan(changed, changed);
+    QVERIFY(!refused);
+    QCOMPARE(refused.error().kind, StoreError::Kind::NoSuchRecord);
 }
 
 void StoredPlansTest::areNotKeptIfAValueIsOutOfItsRange_data()

@@ -7,6 +7,9 @@
 #include <QJsonObject>
 #include <QTest>
 
+#include <future>
+#include <vector>
+
 /// The program's plans, as a user makes and changes them.
 class ConnrecordPlanTest : public QObject
 {
@@ -18,6 +21,7 @@ private slots:
     void areMadeAndListed();
     void areChangedInWhatIsGiven_data();
     void areChangedInWhatIsGiven();
+    void keepTheChangesOfSeveralPrograms();
     void areAlreadyUsedInThePresentPeriod();
     void areRemoved();
     void areRefused_data();
@@ -116,6 +120,28 @@ void ConnrecordPlanTest::areChangedInWhatIsGiven()
     QCOMPARE(changed.exitCode, 0);
     QCOMPARE(changed.json().object(), expected);
     QCOMPARE(plan("home"), expected);
+}
+
+/// Of programs that run at the same time, each with an option of its own.
+void ConnrecordPlanTest::keepTheChangesOfSeveralPrograms()
+{
+    for (int round = 1; round <= 10; ++round) {
+        const QString number = QString::number(round);
+        const std::vector<QStringList> options{
+            {"--amount", number}, {"--warn", number}, {"--monthly", number}, {"--sim", number}};
+        std::vector<std::future<ConnrecordRun>> runs;
+        for (const QStringList &each : options)
+            runs.push_back(std::async(std::launch::async, [this, each] {
+                return run(QStringList{"plan", "set", "home"} + each);
+            }));
+        for (auto &each : runs)
+            QCOMPARE(each.get().error, QByteArray());
+        const QJsonObject stored = plan("home");
+        QCOMPARE(stored.value("amount_bytes"), QJsonValue(round));
+        QCOMPARE(stored.value("warn_at_percent"), QJsonValue(QJsonArray{round}));
+        QCOMPARE(stored.value("period"), QJsonValue(QJsonObject{{"monthly", round}}));
+        QCOMPARE(stored.value("covered"), QJsonValue(number));
+    }
 }
 
 void ConnrecordPlanTest::areAlreadyUsedInThePresentPeriod()

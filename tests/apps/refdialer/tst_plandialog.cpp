@@ -40,6 +40,7 @@ private slots:
     void bringsNothingBackThatWasUsedElsewhereBefore();
     void keepsTheInputWhenTheHistoryCannotBeWritten();
     void makesAPlanAgainThatHasBeenRemovedMeanwhile();
+    void asksBeforeItUndoesWhatAnotherProgramChanged();
 
     void listsThePlans();
     void asksBeforeAPlanIsRemoved();
@@ -346,6 +347,24 @@ void TestPlanDialog::makesAPlanAgainThatHasBeenRemovedMeanwhile()
     QVERIFY(messagesIn(*editor).first().endsWith("another program has removed it, make it again."));
     QVERIFY(acceptedBy(*editor));
     QCOMPARE(*stored("home").amount, 10 * gigabyte);
+}
+
+void TestPlanDialog::asksBeforeItUndoesWhatAnotherProgramChanged()
+{
+    DataPlan plan = planCalled("home");
+    plan.key = m_store->setPlan(plan).value();
+    const auto editor = editorOf(plan);
+    write(*editor, "Amount in a period", "10");
+    for (const int percent : {70, 90}) {
+        plan.warnAtPercent = {percent};
+        QVERIFY(m_store->setPlan(plan));
+        QVERIFY(!acceptedBy(*editor));
+        QVERIFY(messagesIn(*editor).value(0).startsWith("Another program has changed this plan"));
+        QCOMPARE(textOf(stored("home")), textOf(plan));
+        QCOMPARE(named<QLineEdit>(*editor, "Amount in a period").text(), QString("10"));
+    }
+    QVERIFY(acceptedBy(*editor));
+    QCOMPARE(textOf(stored("home")), textOf(planCalled("home", 10 * gigabyte)));
 }
 
 void TestPlanDialog::listsThePlans()
