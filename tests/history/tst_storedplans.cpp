@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "history/Store.h"
 
+#include "SamplePlans.h"
 #include "StoreSamples.h"
 #include "StoreTestCase.h"
 
@@ -18,65 +19,6 @@ using namespace history;
 
 namespace
 {
-
-DataPlan planCalled(const std::string &name)
-{
-    DataPlan plan;
-    plan.name = name;
-    return plan;
-}
-
-/// Every value of it, and none that another plan has by default.
-DataPlan prepaid()
-{
-    DataPlan plan = planCalled("Prepaid \xc3\xa9");
-    plan.covers = DataPlan::Covers::Sim;
-    plan.covered = "8949000000000001234";
-    plan.network = DataPlan::Network::Roaming;
-    plan.counts = DataPlan::Counts::Sent;
-    plan.amount = 9223372036854775807;
-    plan.period = OnceBetween{2461000, 2461030};
-    plan.usedElsewhere = UsedElsewhere{-5, 2461007};
-    plan.warnAtPercent = {50, 120};
-    return plan;
-}
-
-QString ruleText(const PeriodRule &rule)
-{
-    if (const auto *monthly = std::get_if<MonthlyFrom>(&rule))
-        return QString("monthly %1").arg(monthly->day);
-    if (const auto *every = std::get_if<EveryDays>(&rule))
-        return QString("every %1 from %2").arg(every->days).arg(every->from);
-    const auto &once = std::get<OnceBetween>(rule);
-    return QString("%1 to %2").arg(once.first).arg(once.last);
-}
-
-QString textOf(const std::vector<int> &percentages)
-{
-    QStringList texts;
-    for (const int each : percentages)
-        texts << QString::number(each);
-    return texts.join(',');
-}
-
-QString textOf(const DataPlan &plan)
-{
-    const auto number = [](const auto &value) {
-        return value ? QString::number(*value) : QString("none");
-    };
-    const auto &elsewhere = plan.usedElsewhere;
-    return QStringList{QString::fromStdString(plan.name),
-                       nameOf(coverNames, plan.covers),
-                       QString::fromStdString(plan.covered),
-                       nameOf(networkNames, plan.network),
-                       nameOf(countNames, plan.counts),
-                       number(plan.amount),
-                       ruleText(plan.period),
-                       elsewhere ? QString("%1 on %2").arg(elsewhere->bytes).arg(elsewhere->day)
-                                 : "none",
-                       textOf(plan.warnAtPercent)}
-        .join("|");
-}
 
 QString plansIn(const Store &store)
 {
@@ -147,11 +89,12 @@ void StoredPlansTest::areKept_data()
         << planCalled("plain") << "plain|everything||both|both|none|monthly 1|none|80,100";
     QTest::newRow("28 days") << every
                              << "every|profile|internet|home|received|0|every 28 from "
-                                "2461000|none|";
-    QTest::newRow("once") << prepaid()
-                          << QString::fromUtf8(
-                                 "Prepaid \xc3\xa9|sim|8949000000000001234|roaming|sent|"
-                                 "9223372036854775807|2461000 to 2461030|-5 on 2461007|50,120");
+                                "2025-11-20|none|";
+    QTest::newRow("once")
+        << prepaid()
+        << QString::fromUtf8(
+               "Prepaid \xc3\xa9|sim|8949000000000001234|roaming|sent|"
+               "9223372036854775807|2026-11-10 to 2026-12-09|-5 on 2026-11-12|50,120");
 }
 
 void StoredPlansTest::areKept()
@@ -232,24 +175,28 @@ void StoredPlansTest::areNotChangedOnceRemoved()
 void StoredPlansTest::areReplacedAsTheyWereReadOnly()
 {
     Store store = opened();
+    using Former = std::optional<DataPlan>;
+    const auto comesTo = [&](const DataPlan &plan, const Former &former, const PlanOutcome &end) {
+        const auto outcome = store.setPlan(plan, former);
+        return outcome && outcome.value() == end;
+    };
     DataPlan plan = prepaid();
-    const auto made = store.setPlan(plan, std::nullopt);
-    QVERIFY(made && std::holds_alternative<std::int64_t>(made.value()));
-    plan.key = *std::get_if<std::int64_t>(&made.value());
-    QVERIFY(store.setPlan(prepaid(), std::nullopt).value() == PlanOutcome(plan));
+    plan.key = 1;
+    QVERIFY(comesTo(prepaid(), Former(), plan.key));
+    QVERIFY(comesTo(prepaid(), Former(), plan));
     DataPlan changed = plan;
     changed.name = "away";
     std::vector<DataPlan> others(6, plan);
     others[0].name = "home";
     others[1].amount.reset();
     others[2].usedElsewhere->day += 1;
-    others[3].period = OnceBetween{2461000, 2461031};
+    std::get<OnceBetween>(others[3].period).last += 1;
     others[4].period = EveryDays{28, 2461000};
     others[5].warnAtPercent.pop_back();
     for (const DataPlan &other : others)
-        QVERIFY(store.setPlan(changed, other).value() == PlanOutcome(plan));
+        QVERIFY(comesTo(changed, other, plan));
     QCOMPARE(plansIn(store), textOf(plan));
-    QVERIFY(store.setPlan(changed, plan).value() == PlanOutcome(plan.key));
+    QVERIFY(comesTo(changed, plan, plan.key));
     QCOMPARE(plansIn(store), textOf(changed));
     QVERIFY(store.removePlan("away").value());
     const auto refused = store.setPlan(changed, changed);

@@ -35,62 +35,6 @@ void PlanTest::readPlans()
     m_watch->finish();
 }
 
-DataPlan planCalled(const std::string &name, std::optional<std::int64_t> amount)
-{
-    DataPlan plan;
-    plan.name = name;
-    plan.amount = amount;
-    return plan;
-}
-
-DataPlan prepaid()
-{
-    DataPlan plan = planCalled("Prepaid \xc3\xa9");
-    plan.covers = DataPlan::Covers::Sim;
-    plan.covered = "8949000000000001234";
-    plan.network = DataPlan::Network::Roaming;
-    plan.counts = DataPlan::Counts::Sent;
-    plan.amount = 9223372036854775807;
-    plan.period = OnceBetween{dayNumber("2026-11-10"), dayNumber("2026-12-09")};
-    plan.usedElsewhere = UsedElsewhere{-5, dayNumber("2026-11-12")};
-    plan.warnAtPercent = {50, 120};
-    return plan;
-}
-
-QString ruleText(const PeriodRule &rule)
-{
-    if (const auto *monthly = std::get_if<MonthlyFrom>(&rule))
-        return QString("monthly %1").arg(monthly->day);
-    if (const auto *every = std::get_if<EveryDays>(&rule))
-        return QString("every %1 from %2")
-            .arg(every->days)
-            .arg(dayText(QDate::fromJulianDay(every->from)));
-    const auto &once = std::get<OnceBetween>(rule);
-    return dayText(QDate::fromJulianDay(once.first)) + " to " +
-           dayText(QDate::fromJulianDay(once.last));
-}
-
-QString textOf(const DataPlan &plan)
-{
-    const auto &elsewhere = plan.usedElsewhere;
-    QStringList warnings;
-    for (const int percent : plan.warnAtPercent)
-        warnings << QString::number(percent);
-    return QStringList{QString::fromStdString(plan.name),
-                       nameOf(coverNames, plan.covers),
-                       QString::fromStdString(plan.covered),
-                       nameOf(networkNames, plan.network),
-                       nameOf(countNames, plan.counts),
-                       plan.amount ? QString::number(*plan.amount) : "none",
-                       ruleText(plan.period),
-                       elsewhere ? QString("%1 on %2")
-                                       .arg(elsewhere->bytes)
-                                       .arg(dayText(QDate::fromJulianDay(elsewhere->day)))
-                                 : "none",
-                       warnings.join(',')}
-        .join("|");
-}
-
 Connection movedIn(const QString &hour, std::int64_t bytes, bool isRoaming)
 {
     Connection moved = connection("internet", utcOf(hour) + 60, utcOf(hour) + 120);

@@ -3,6 +3,7 @@
 
 #include "FakeClock.h"
 #include "PlanSamples.h"
+#include "SamplePlans.h"
 #include "StoreSamples.h"
 #include "StoreTestCase.h"
 #include "apps/refdialer/PlanWatch.h"
@@ -33,16 +34,6 @@ protected:
     FakeClock *m_clock = nullptr; ///< the watch's
     std::unique_ptr<refdialer::PlanWatch> m_watch;
 };
-
-/// A plan from the first of each month.
-history::DataPlan planCalled(const std::string &name,
-                             std::optional<std::int64_t> amount = std::nullopt);
-
-/// A plan of which every value is said, and none is what another plan has by default.
-history::DataPlan prepaid();
-/// Every value of it but the key, the last one being the percentages to warn at.
-QString textOf(const history::DataPlan &plan);
-QString ruleText(const history::PeriodRule &rule);
 
 /// A connection that received so much in the hour that begins then.
 history::Connection movedIn(const QString &hour, std::int64_t bytes, bool isRoaming = false);
