@@ -300,6 +300,22 @@ bool PlanTable::noteWarning(std::int64_t plan, JulianDay periodFirst, int percen
     return statement.exec() == 1;
 }
 
+std::size_t PlanTable::forgetWarnings(std::int64_t plan, JulianDay periodFirst,
+                                      const std::vector<int> &percentages)
+{
+    SQLite::Statement statement(m_database, "DELETE FROM plan_warning WHERE plan = ?"
+                                            " AND period_first_day = ? AND percent = ?");
+    statement.bind(1, plan);
+    statement.bind(2, periodFirst);
+    std::size_t forgotten = 0;
+    for (const int percent : percentages) {
+        statement.bind(3, percent);
+        forgotten += static_cast<std::size_t>(statement.exec());
+        statement.reset();
+    }
+    return forgotten;
+}
+
 std::vector<int> PlanTable::warningsGiven(std::int64_t plan, JulianDay periodFirst)
 {
     RowQuery query(m_database, "SELECT percent FROM plan_warning WHERE plan = ?"

@@ -33,6 +33,8 @@ public:
     bool remove(const std::string &name);
     std::vector<int> noteWarnings(std::int64_t plan, JulianDay periodFirst,
                                   const std::vector<int> &percentages);
+    std::size_t forgetWarnings(std::int64_t plan, JulianDay periodFirst,
+                               const std::vector<int> &percentages);
     std::vector<int> warningsGiven(std::int64_t plan, JulianDay periodFirst);
 
     /// Of rows that are no plans, a sentence each.

@@ -270,6 +270,14 @@ Result<std::vector<int>> Store::noteWarnings(std::int64_t planKey, JulianDay per
     });
 }
 
+Result<std::size_t> Store::forgetWarnings(std::int64_t planKey, JulianDay periodFirst,
+                                          const std::vector<int> &percentages)
+{
+    return d->write([&](StoreTables &tables) {
+        return tables.plans.forgetWarnings(planKey, periodFirst, percentages);
+    });
+}
+
 Result<std::vector<int>> Store::warningsGiven(std::int64_t planKey, JulianDay periodFirst) const
 {
     return d->read(

@@ -194,7 +194,10 @@ public:
     /// the caller is to warn; of several callers it is one for each.
     Result<std::vector<int>> noteWarnings(std::int64_t planKey, JulianDay periodFirst,
                                           const std::vector<int> &percentages);
-    /// The percentages that noteWarnings() has noted, rising.
+    /// Forgets that these were noted, for who could not warn of them; how many were.
+    Result<std::size_t> forgetWarnings(std::int64_t planKey, JulianDay periodFirst,
+                                       const std::vector<int> &percentages);
+    /// The percentages that are noted, rising.
     Result<std::vector<int>> warningsGiven(std::int64_t planKey, JulianDay periodFirst) const;
 
     /// Writes a copy of the whole history, as it is at one moment, into the empty file

@@ -53,4 +53,10 @@ Result<std::vector<int>> takeWarnings(Store &store, const ReachedPlan &reached)
     return store.noteWarnings(reached.plan.key, periodOf(reached), due.value());
 }
 
+Result<std::size_t> returnWarnings(Store &store, const ReachedPlan &reached,
+                                   const std::vector<int> &percentages)
+{
+    return store.forgetWarnings(reached.plan.key, periodOf(reached), percentages);
+}
+
 } // namespace usage

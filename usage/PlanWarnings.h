@@ -29,4 +29,8 @@ history::Result<std::vector<int>> pendingWarnings(const history::Store &store,
 /// restart, or another program, does not repeat them. Nothing is written if there are none.
 history::Result<std::vector<int>> takeWarnings(history::Store &store, const ReachedPlan &reached);
 
+/// Gives back what takeWarnings() returned, for who could not warn of them after all.
+history::Result<std::size_t> returnWarnings(history::Store &store, const ReachedPlan &reached,
+                                            const std::vector<int> &percentages);
+
 } // namespace usage

@@ -25,7 +25,7 @@ namespace
 constexpr QLatin1String serviceName = modem::latin1("org.freedesktop.Notifications");
 constexpr QLatin1String objectPath = modem::latin1("/org/freedesktop/Notifications");
 
-/// A service that cannot be started yet is not tried again and again.
+/// A service that cannot be started yet, or that refuses, is not tried again and again.
 constexpr std::chrono::minutes pause(1);
 
 // As the service knows them.
@@ -50,7 +50,7 @@ NotificationService::NotificationService(const QString &busAddress, QObject *par
               {names::bus, names::ownerChanged, {modem::ruleForOwnersOf(serviceName)}}}))
 {
     connect(m_bus.get(), &BusConnection::connected, this, &NotificationService::search);
-    connect(m_bus.get(), &BusConnection::disconnected, this, [this] { setThere(false); });
+    connect(m_bus.get(), &BusConnection::disconnected, this, [this] { setOwner(QString()); });
     connect(m_bus.get(), &BusConnection::received, this, &NotificationService::handleOwnerChange);
     m_bus->start();
 }
@@ -59,10 +59,12 @@ NotificationService::~NotificationService() = default;
 
 void NotificationService::look()
 {
-    if (m_isThere)
-        emit found();
-    else if (m_pause.hasExpired())
+    if (!m_pause.hasExpired())
+        return;
+    if (m_owner.isEmpty())
         search();
+    else
+        emit found();
 }
 
 void NotificationService::search()
@@ -72,7 +74,7 @@ void NotificationService::search()
         if (owner.isEmpty())
             startService();
         else
-            setThere(true);
+            setOwner(owner);
     });
 }
 
@@ -83,35 +85,49 @@ void NotificationService::startService()
     m_bus->ask(busCall("StartServiceByName", {QString(serviceName), noFlags}), QStringLiteral("u"),
                [this](const QVariantList &reply) {
                    if (!reply.isEmpty())
-                       setThere(true);
+                       askWhoStarted();
                });
+}
+
+void NotificationService::askWhoStarted()
+{
+    modem::askForOwner(*m_bus, serviceName, [this](const QString &owner) { setOwner(owner); });
 }
 
 void NotificationService::handleOwnerChange(const QDBusMessage &message)
 {
     const auto change = modem::ownerChangeIn(message);
     if (change && change->name == serviceName)
-        setThere(!change->owner.isEmpty());
+        setOwner(change->owner);
 }
 
-void NotificationService::setThere(bool isThere)
+void NotificationService::setOwner(const QString &owner)
 {
-    if (std::exchange(m_isThere, isThere) == isThere || !isThere)
+    if (std::exchange(m_owner, owner) == owner || owner.isEmpty())
         return;
     m_pause.setRemainingTime(0);
     emit found();
 }
 
-void NotificationService::show(const Notification &notification)
+/// The owner is called by its own name: that is whose an answer is.
+void NotificationService::show(const Notification &notification,
+                               const std::function<void()> &handleRefusal)
 {
     constexpr uint replacesNone = 0;
-    QDBusMessage call = QDBusMessage::createMethodCall(serviceName, objectPath, serviceName,
-                                                       QStringLiteral("Notify"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(m_owner, objectPath, serviceName, QStringLiteral("Notify"));
     call.setArguments({QCoreApplication::applicationName(), replacesNone,
                        QStringLiteral(REFDIALER_APPLICATION_ID), notification.title,
                        notification.text, QStringList(), hintsFor(notification),
                        untilTheServiceSays});
-    m_bus->tell(call);
+    m_bus->ask(call, QStringLiteral("u"),
+               [this, owner = m_owner, handleRefusal](const QVariantList &reply) {
+                   if (!reply.isEmpty())
+                       return;
+                   if (m_owner.isEmpty() || m_owner == owner)
+                       m_pause.setRemainingTime(pause);
+                   handleRefusal();
+               });
 }
 
 } // namespace common

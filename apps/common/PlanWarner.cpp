@@ -60,6 +60,7 @@ void PlanWarner::check()
 {
     // What has been written so far is looked at now.
     m_change.isNew();
+    returnRefused();
     bool isAnyDue = false;
     withReachedPlans([this, &isAnyDue](const Store &store, const ReachedPlans &reached) {
         m_failure.clear();
@@ -90,8 +91,8 @@ void PlanWarner::lookForService()
     connect(m_service.get(), &NotificationService::found, this, &PlanWarner::warn);
 }
 
-/// A warning is noted as given before it is shown: who is killed in between loses it, but
-/// nobody gets it twice.
+/// A warning is noted as given before it is shown, and that is undone if it is refused: who is
+/// killed in between loses it, but nobody gets it twice.
 void PlanWarner::warn()
 {
     if (!m_recorder.isRecording() || !arePlanWarningsWanted())
@@ -102,18 +103,40 @@ void PlanWarner::warn()
             if (!taken)
                 return fail(taken.error());
             if (!taken.value().empty())
-                show(each, taken.value().back());
+                show(each, taken.value());
         }
     });
 }
 
-void PlanWarner::show(const ReachedPlan &reached, int percent)
+/// The highest of the percentages is enough.
+void PlanWarner::show(const ReachedPlan &reached, const std::vector<int> &percentages)
 {
     std::optional<UserLanguage> language;
     if (!m_translations.isEmpty())
         language.emplace(m_translations);
-    m_service->show(
-        {warningTitle(reached, percent), warningDetails(reached), reached.status.isSpent()});
+    m_service->show({warningTitle(reached, percentages.back()), warningDetails(reached),
+                     reached.status.isSpent()},
+                    [this, refused = Refused{reached, percentages}] {
+                        m_refused.push_back(refused);
+                        returnRefused();
+                    });
+}
+
+/// As soon as that can be written.
+void PlanWarner::returnRefused()
+{
+    if (m_refused.empty())
+        return;
+    auto store = Store::openForWatching(m_storePath);
+    if (!store)
+        return fail(store.error());
+    while (!m_refused.empty()) {
+        const auto &[reached, percentages] = m_refused.back();
+        const auto returned = usage::returnWarnings(store.value(), reached, percentages);
+        if (!returned)
+            return fail(returned.error());
+        m_refused.pop_back();
+    }
 }
 
 template <typename Action>

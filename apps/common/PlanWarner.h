@@ -30,8 +30,8 @@ class NotificationService;
 /// Warns of data plans that are used up to a percentage that the user has named, while its
 /// recorder, and no other program's, records: with a desktop notification for each plan, of the
 /// highest of the percentages that are new, once in a period, whichever program gives it. Where
-/// there is no notification service, or the user wants none (arePlanWarningsWanted), that is
-/// not given: it comes as soon as there is one.
+/// there is no notification service, or it refuses, or the user wants none
+/// (arePlanWarningsWanted), that is not given: it comes as soon as there is one.
 ///
 /// Looks at the plans when bytes have come into the history, and, while a line is up, when
 /// another program has written into it; it does nothing else. Lives on the recorder's thread,
@@ -71,11 +71,16 @@ private:
     using ReachedPlans = std::vector<usage::ReachedPlan>;
     /// Plan, first day of the period, percentage and the amount it is of.
     using Warning = std::tuple<std::int64_t, history::JulianDay, int, std::int64_t>;
+    struct Refused {
+        usage::ReachedPlan plan;
+        std::vector<int> percentages;
+    };
 
     void lookForChange();
     void check();
     void warn();
-    void show(const usage::ReachedPlan &reached, int percent);
+    void show(const usage::ReachedPlan &reached, const std::vector<int> &percentages);
+    void returnRefused();
     void lookForService();
     /// Unless the store cannot be read.
     template <typename Action>
@@ -90,6 +95,7 @@ private:
     const QString m_busAddress;
     QString m_translations;                         ///< the folder
     std::unique_ptr<NotificationService> m_service; ///< once there was something to warn of
+    std::vector<Refused> m_refused;                 ///< still noted as given
     std::set<Warning> m_told;
     std::string m_failure;
 };

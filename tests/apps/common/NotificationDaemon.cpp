@@ -59,10 +59,23 @@ bool NotificationDaemon::handleMessage(const QDBusMessage &message,
     if (message.interface() != serviceName || message.member() != QLatin1String("Notify") ||
         message.signature() != QLatin1String("susssasa{sv}i"))
         return false;
+    if (m_manner != Manner::Shows)
+        return answerWithoutShowing(message, connection);
     const QVariantList arguments = message.arguments();
     const auto hints = qdbus_cast<QVariantMap>(arguments.at(6));
     m_shown.append({arguments.at(0).toString(), arguments.at(3).toString(),
                     arguments.at(4).toString(), hints.value("desktop-entry").toString(),
                     hints.value("urgency", -1).toInt()});
     return connection.send(message.createReply(uint(m_shown.size())));
+}
+
+bool NotificationDaemon::answerWithoutShowing(const QDBusMessage &message,
+                                              const QDBusConnection &connection)
+{
+    ++m_notShown;
+    if (m_manner == Manner::SaysNothing)
+        return true;
+    return connection.send(
+        message.createErrorReply(serviceName + QLatin1String(".Error.ExcessNotificationGeneration"),
+                                 QStringLiteral("Too many notifications")));
 }

@@ -25,6 +25,11 @@ public:
     bool takeName();
     bool giveNameAway();
 
+    enum class Manner { Shows, Refuses, SaysNothing };
+    /// What it does with notifications from now on; those that it does not show are counted.
+    void setManner(Manner manner) { m_manner = manner; }
+    int notShown() const { return m_notShown; }
+
     QList<Notification> shown() const { return m_shown; }
     QStringList titles() const;
 
@@ -32,7 +37,11 @@ public:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:
+    bool answerWithoutShowing(const QDBusMessage &message, const QDBusConnection &connection);
+
     const QString m_connectionName; ///< among QtDBus's connections
     QDBusConnection m_bus;
     QList<Notification> m_shown;
+    Manner m_manner = Manner::Shows;
+    int m_notShown = 0;
 };
