@@ -63,7 +63,7 @@ public:
     {
     }
 
-    history::Connection connection() const;
+    void readInto(history::Connection &connection) const;
     /// Whether it is of one that still lasted, which has no end.
     bool isStillRunning() const
     {
@@ -82,12 +82,11 @@ private:
     const std::size_t m_columns;
 };
 
-history::Connection RowReader::connection() const
+void RowReader::readInto(history::Connection &connection) const
 {
     checkColumnCount();
     for (std::size_t column = 0; column < m_columns; ++column)
         checkBytes(column);
-    history::Connection connection;
     std::size_t column = 0;
     try {
         forEachField(connectionFields, [&](const auto &field) {
@@ -100,14 +99,13 @@ history::Connection RowReader::connection() const
     } catch (const FieldError &error) {
         fail(column, error.reason);
     }
-    return connection;
 }
 
 std::string RowReader::text() const
 {
     std::string text;
-    for (const auto &cell : m_row)
-        text += (&cell == &m_row.front() ? "" : ",") + cell.text;
+    for (std::size_t column = 0; column < m_row.size(); ++column)
+        text += (column == 0 ? "" : ",") + m_row[column].text;
     return text;
 }
 
@@ -152,8 +150,9 @@ bool isBlank(const CsvRow &row)
 /// Blank lines are nothing at the end of a file, and wrong before it.
 void checkIsBlankEnd(CsvReader &reader, const CsvRow &firstBlank, std::size_t columns)
 {
-    while (const auto row = reader.next()) {
-        if (!isBlank(*row))
+    CsvRow row;
+    while (reader.next(row)) {
+        if (!isBlank(row))
             RowReader(firstBlank, columns).checkColumnCount();
     }
 }
@@ -173,30 +172,28 @@ std::string csvHeader()
     return line;
 }
 
-std::vector<history::Connection> connectionsFromCsv(LineReader &lines,
-                                                    const RunningVisitor &running)
+void readCsv(LineReader &lines, const ConnectionTaker &take, const RunningVisitor &running)
 {
     CsvReader reader(lines, columnCount);
-    const auto firstRow = reader.next();
-    if (!firstRow)
+    CsvRow row;
+    if (!reader.next(row))
         throw CsvError{1, 0,
                        "the file is empty, the first line has to be the header " + csvHeader()};
     // Files of earlier versions lack the last ones.
-    const std::size_t columns = std::clamp(firstRow->size(), fewestColumns, columnCount);
-    RowReader(*firstRow, columns).checkHeader();
-    std::vector<history::Connection> connections;
-    while (const auto row = reader.next()) {
-        if (isBlank(*row)) {
-            checkIsBlankEnd(reader, *row, columns);
-            break;
-        }
-        const RowReader reading(*row, columns);
-        if (running && reading.isStillRunning())
+    const std::size_t columns = std::clamp(row.size(), fewestColumns, columnCount);
+    RowReader(row, columns).checkHeader();
+    history::Connection connection;
+    while (reader.next(row)) {
+        if (isBlank(row))
+            return checkIsBlankEnd(reader, row, columns);
+        const RowReader reading(row, columns);
+        if (running && reading.isStillRunning()) {
             running(reading.line(), reading.text());
-        else
-            connections.push_back(reading.connection());
+            continue;
+        }
+        reading.readInto(connection);
+        take(connection);
     }
-    return connections;
 }
 
 bool isBeginningOfCsv(std::string_view beginning)

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "CsvFormat.h"
 #include "CsvReader.h"
-#include "ImportReader.h"
 #include "InputError.h"
 #include "LineReader.h"
+#include "SpooledImport.h"
 
 namespace formats
 {
@@ -11,24 +11,19 @@ namespace formats
 namespace
 {
 
-class CsvImport : public ImportReader
+class CsvImport : public SpooledImport
 {
 public:
     void read(const ImportSource &source, const ReadProgress &progress) override;
-    Imported imported() override { return std::move(m_imported); }
-
-private:
-    Imported m_imported;
 };
 
 void CsvImport::read(const ImportSource &source, const ReadProgress &progress)
 {
     LineReader lines(source.device, longestCsvLine + 1, progress);
     try {
-        m_imported.connections =
-            connectionsFromCsv(lines, [this](std::int64_t line, const std::string &text) {
-                countRunning(m_imported, line, text);
-            });
+        readCsv(
+            lines, [this](const history::Connection &connection) { add(connection); },
+            [this](std::int64_t line, const std::string &text) { addRunning(line, text); });
         lines.checkReadToTheEnd(source.name);
     } catch (const CsvError &error) {
         lines.checkReadToTheEnd(source.name);

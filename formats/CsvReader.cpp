@@ -14,18 +14,18 @@ CsvReader::CsvReader(LineReader &lines, std::size_t mostColumns)
 {
 }
 
-std::optional<CsvRow> CsvReader::next()
+bool CsvReader::next(CsvRow &row)
 {
     if (!startLine())
-        return std::nullopt;
-    CsvRow row;
+        return false;
+    row.clear();
     takeField(row);
     while (!isAtRowEnd()) {
         m_rest.remove_prefix(1); // the comma
         checkColumns(row);
         takeField(row);
     }
-    return row;
+    return true;
 }
 
 bool CsvReader::startLine()
@@ -55,10 +55,10 @@ void CsvReader::checkColumns(const CsvRow &row) const
                        "the line has more than " + std::to_string(m_mostColumns) + " columns"};
 }
 
-void CsvReader::checkText(const CsvRow &row, std::int64_t firstLine, const std::string &text) const
+void CsvReader::checkText(std::size_t column, const CsvField &field) const
 {
-    if (text.size() > largestCsvText)
-        throw CsvError{firstLine, row.size(),
+    if (field.text.size() > largestCsvText)
+        throw CsvError{field.line, column,
                        "the text has more than " + std::to_string(largestCsvText) + " bytes"};
 }
 
@@ -69,58 +69,58 @@ bool CsvReader::isAtRowEnd() const
 
 void CsvReader::takeField(CsvRow &row)
 {
-    const std::int64_t line = m_lines.lineNumber();
+    const std::size_t column = row.size();
+    CsvField &field = row.add(m_lines.lineNumber());
     const bool isQuoted = !m_rest.empty() && m_rest.front() == '"';
-    std::string text = isQuoted ? quotedText(row) : plainText(row);
-    checkText(row, line, text);
-    row.push_back({std::move(text), line});
+    if (isQuoted)
+        takeQuotedText(column, field);
+    else
+        takePlainText(column, field);
+    checkText(column, field);
 }
 
-std::string CsvReader::plainText(const CsvRow &row)
+void CsvReader::takePlainText(std::size_t column, CsvField &field)
 {
     std::string_view text = m_rest.substr(0, m_rest.find(','));
     m_rest.remove_prefix(text.size());
     if (m_rest.empty() && !text.empty() && text.back() == '\r')
         text.remove_suffix(1);
     if (text.find('"') != std::string_view::npos)
-        throw CsvError{m_lines.lineNumber(), row.size(),
+        throw CsvError{m_lines.lineNumber(), column,
                        "a quotation mark stands in a text that is not quoted as a whole"};
     if (text.find('\r') != std::string_view::npos)
-        throw CsvError{m_lines.lineNumber(), row.size(),
+        throw CsvError{m_lines.lineNumber(), column,
                        "a carriage return stands in a text that is not quoted"};
-    return std::string(text);
+    field.text = text;
 }
 
-std::string CsvReader::quotedText(const CsvRow &row)
+void CsvReader::takeQuotedText(std::size_t column, CsvField &field)
 {
-    const std::int64_t firstLine = m_lines.lineNumber();
-    std::string text;
     m_rest.remove_prefix(1);
     for (;;) {
         const std::size_t quote = m_rest.find('"');
-        text += m_rest.substr(0, quote);
+        field.text += m_rest.substr(0, quote);
         if (quote == std::string_view::npos) {
-            takeLineBreak(row, firstLine, text);
+            takeLineBreak(column, field);
             continue;
         }
         m_rest.remove_prefix(quote + 1);
         if (!usage::startsWith(m_rest, "\""))
             break;
-        text += '"';
+        field.text += '"';
         m_rest.remove_prefix(1);
     }
     if (!isAtRowEnd() && m_rest.front() != ',')
-        throw CsvError{m_lines.lineNumber(), row.size(),
+        throw CsvError{m_lines.lineNumber(), column,
                        "something stands between the closing quotation mark and the next comma"};
-    return text;
 }
 
-void CsvReader::takeLineBreak(const CsvRow &row, std::int64_t firstLine, std::string &text)
+void CsvReader::takeLineBreak(std::size_t column, CsvField &field)
 {
-    checkText(row, firstLine, text);
+    checkText(column, field);
     if (!nextLine())
-        throw CsvError{firstLine, row.size(), "the quotation mark is never closed"};
-    text += '\n';
+        throw CsvError{field.line, column, "the quotation mark is never closed"};
+    field.text += '\n';
 }
 
 } // namespace formats

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,7 +16,30 @@ struct CsvField {
     std::int64_t line = 0; ///< the line of the file that it begins in, from 1
 };
 
-using CsvRow = std::vector<CsvField>;
+/// The fields of a row; those of former rows keep their room.
+class CsvRow
+{
+public:
+    std::size_t size() const { return m_size; }
+    const CsvField &operator[](std::size_t column) const { return m_fields[column]; }
+    const CsvField &front() const { return m_fields.front(); }
+
+    void clear() { m_size = 0; }
+    /// The field behind the last one, with an empty text.
+    CsvField &add(std::int64_t line)
+    {
+        if (m_size == m_fields.size())
+            m_fields.emplace_back();
+        CsvField &field = m_fields[m_size++];
+        field.text.clear();
+        field.line = line;
+        return field;
+    }
+
+private:
+    std::vector<CsvField> m_fields;
+    std::size_t m_size = 0;
+};
 
 /// What is wrong, and where. Thrown by everything that reads CSV.
 struct CsvError {
@@ -40,19 +62,19 @@ public:
     /// `lines` has to give one byte more than longestCsvLine of each line.
     CsvReader(LineReader &lines, std::size_t mostColumns);
 
-    /// The next row, nothing after the last one.
-    std::optional<CsvRow> next();
+    /// Puts the next row into `row`; false after the last one.
+    bool next(CsvRow &row);
 
 private:
     bool startLine();
     bool nextLine();
     void checkColumns(const CsvRow &row) const;
-    void checkText(const CsvRow &row, std::int64_t firstLine, const std::string &text) const;
+    void checkText(std::size_t column, const CsvField &field) const;
     bool isAtRowEnd() const;
     void takeField(CsvRow &row);
-    std::string plainText(const CsvRow &row);
-    std::string quotedText(const CsvRow &row);
-    void takeLineBreak(const CsvRow &row, std::int64_t firstLine, std::string &text);
+    void takePlainText(std::size_t column, CsvField &field);
+    void takeQuotedText(std::size_t column, CsvField &field);
+    void takeLineBreak(std::size_t column, CsvField &field);
 
     LineReader &m_lines;
     const std::size_t m_mostColumns;

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "LogCompletion.h"
+#include "history/ConnectionSpool.h"
 #include "history/Store.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace formats
@@ -31,15 +32,14 @@ struct GuessedYear {
 
 /// What the files of one import hold together.
 struct Imported {
-    std::vector<history::Connection> connections;
-    std::vector<ProfileSource> profileSources; ///< of each connection; of a log alone
+    std::vector<history::Connection> connections; ///< of a log; of every other file in the spool
+    std::vector<ProfileSource> profileSources;    ///< of each of these
     std::vector<Unusable> unusable;
     std::optional<GuessedYear> guessedYear;
-};
+    std::unique_ptr<history::ConnectionSpool> spool; ///< null for a log
 
-/// Counts a connection of that line that still lasted when the file was written: it comes
-/// again when it has ended.
-void countRunning(Imported &imported, std::int64_t line, std::string_view text);
+    std::size_t size() const { return spool ? spool->size() : connections.size(); }
+};
 
 /// Stores the connections that the history does not have yet, all or none. What a log
 /// knows more about one that is there is taken over.

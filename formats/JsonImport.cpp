@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "FieldValue.h"
-#include "ImportReader.h"
 #include "InputError.h"
 #include "JsonFormat.h"
 #include "JsonLine.h"
+#include "SpooledImport.h"
 
 #include <QByteArray>
 #include <QIODevice>
@@ -100,17 +100,15 @@ private:
     DeviceBytes *m_bytes;
 };
 
-class JsonImport : public ImportReader
+class JsonImport : public SpooledImport
 {
 public:
     void read(const ImportSource &source, const ReadProgress &progress) override;
-    Imported imported() override { return std::move(m_imported); }
 
 private:
     void parse(DeviceBytes &bytes);
     bool take(DeviceBytes &bytes, int level, Json::parse_event_t event, const Json &parsed);
 
-    Imported m_imported;
     std::size_t m_taken = 0; ///< connections, finished or not
 };
 
@@ -153,9 +151,9 @@ bool JsonImport::take(DeviceBytes &bytes, int level, Json::parse_event_t event, 
     if (level != 1 || event != Event::object_end)
         return true;
     if (isStillRunning(parsed))
-        countRunning(m_imported, bytes.line(), lineOf(parsed));
+        addRunning(bytes.line(), lineOf(parsed));
     else
-        m_imported.connections.push_back(connectionFromJson(parsed));
+        add(connectionFromJson(parsed));
     ++m_taken;
     bytes.startConnection();
     return false;

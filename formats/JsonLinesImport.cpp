@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "FieldValue.h"
-#include "ImportReader.h"
 #include "InputError.h"
 #include "JsonFormat.h"
 #include "JsonLine.h"
 #include "LineReader.h"
+#include "SpooledImport.h"
 #include "Utf8Text.h"
 
 #include <string_view>
@@ -18,16 +18,13 @@ namespace
 /// No connection with its hours is longer, in bytes.
 constexpr std::size_t longestJsonLine = 16777216;
 
-class JsonLinesImport : public ImportReader
+class JsonLinesImport : public SpooledImport
 {
 public:
     void read(const ImportSource &source, const ReadProgress &progress) override;
-    Imported imported() override { return std::move(m_imported); }
 
 private:
     void take(std::string_view line, std::int64_t number);
-
-    Imported m_imported;
 };
 
 void JsonLinesImport::read(const ImportSource &source, const ReadProgress &progress)
@@ -59,9 +56,9 @@ void JsonLinesImport::take(std::string_view line, std::int64_t number)
         return;
     const Json json = Json::parse(text);
     if (isStillRunning(json))
-        countRunning(m_imported, number, text);
+        addRunning(number, text);
     else if (!json.is_object() || !json.contains(jsonLastKeyName))
-        m_imported.connections.push_back(connectionFromJson(json));
+        add(connectionFromJson(json));
 }
 
 } // namespace

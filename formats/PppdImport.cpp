@@ -58,8 +58,10 @@ Imported PppdImport::imported()
     checkYear(log);
     PppdConnections connections(m_options.profile);
     connections.takeAll(log.events);
-    Imported imported{
-        connections.connections(), connections.profileSources(), connections.unusable(), {}};
+    Imported imported;
+    imported.connections = connections.connections();
+    imported.profileSources = connections.profileSources();
+    imported.unusable = connections.unusable();
     if (log.isYearGuess)
         imported.guessedYear = GuessedYear{name(), log.lastYear};
     return imported;

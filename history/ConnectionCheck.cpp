@@ -80,4 +80,24 @@ void check(const std::vector<Connection> &connections)
                     connections[i], connectionFields);
 }
 
+void CheckedConnections::rewind()
+{
+    m_source.rewind();
+    m_given = 0;
+}
+
+bool CheckedConnections::next(Connection &connection)
+{
+    if (!m_source.next(connection))
+        return false;
+    ++m_given;
+    try {
+        checkFields("the connection", connection, connectionFields);
+    } catch (const StoreFailure &) {
+        checkFields("connection " + std::to_string(m_given) + " of " + std::to_string(size()),
+                    connection, connectionFields);
+    }
+    return true;
+}
+
 } // namespace history

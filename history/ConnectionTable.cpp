@@ -1,49 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "ConnectionTable.h"
 
+#include "ConnectionBatch.h"
 #include "ConnectionMerge.h"
+#include "ConnectionSource.h"
 #include "Fingerprint.h"
+#include "StoredIdentities.h"
 
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
 
 #include <algorithm>
 #include <string>
-#include <unordered_map>
 
 namespace history
 {
 
 namespace
 {
-
-constexpr const char *tableName = "connection";
-
-struct ContentsHash {
-    std::size_t operator()(const Connection *connection) const
-    {
-        return identityFingerprintOf(*connection);
-    }
-};
-
-struct ContentsEqual {
-    bool operator()(const Connection *left, const Connection *right) const
-    {
-        return isSame(*left, *right);
-    }
-};
-
-/// How often each connection is still to be inserted.
-using Tally = std::unordered_map<const Connection *, std::size_t, ContentsHash, ContentsEqual>;
-
-Tally tallyOf(const std::vector<Connection> &connections)
-{
-    Tally tally;
-    tally.reserve(connections.size());
-    for (const Connection &connection : connections)
-        ++tally[&connection];
-    return tally;
-}
 
 /// Those rows that may be one of the given connections: one pass over the time
 /// in which they ended.
@@ -66,38 +40,17 @@ std::vector<Connection> storedCandidates(SQLite::Database &database,
     return candidates;
 }
 
-/// Takes away what the table has already: one pass over the time that the
-/// connections span, however many of them start at the same second.
-void subtractStored(SQLite::Database &database, const std::vector<Connection> &connections,
-                    Tally &tally)
-{
-    const auto [first, last] =
-        std::minmax_element(connections.begin(), connections.end(),
-                            [](const Connection &left, const Connection &right) {
-                                return left.startUtc < right.startUtc;
-                            });
-    ConnectionQuery query(database, "WHERE start_utc BETWEEN ? AND ?");
-    query.bind(1, first->startUtc);
-    query.bind(2, last->startUtc);
-    while (query.next()) {
-        const Connection stored = query.row().toConnection();
-        const auto found = tally.find(&stored);
-        if (found != tally.end() && found->second > 0)
-            --found->second;
-    }
-}
-
 } // namespace
 
 ConnectionQuery::ConnectionQuery(const SQLite::Database &database, const char *condition)
-    : RowQuery(database, selectionOf(connectionFields, tableName) + condition)
+    : RowQuery(database, selectionOf(connectionFields, ConnectionTable::name) + condition)
 {
 }
 
 ConnectionTable::ConnectionTable(SQLite::Database &database)
     : m_database(database)
-    , m_insertion(database, insertionOf(connectionFields, tableName))
-    , m_removal(database, std::string("DELETE FROM ") + tableName + " WHERE key = ?")
+    , m_insertion(database, insertionOf(connectionFields, name))
+    , m_removal(database, std::string("DELETE FROM ") + name + " WHERE key = ?")
 {
 }
 
@@ -169,25 +122,23 @@ bool ConnectionTable::holds(const std::string &interfaceName, std::int64_t start
     return query.getColumn(0).getInt() != 0;
 }
 
-std::size_t ConnectionTable::insertMissing(const std::vector<Connection> &connections,
+std::size_t ConnectionTable::insertMissing(ConnectionSource &connections,
                                            const Insertion &insertOne,
                                            const Store::Progress &progress)
 {
-    if (connections.empty())
-        return 0;
-    Tally tally = tallyOf(connections);
-    subtractStored(m_database, connections, tally);
+    StoredIdentities stored(m_database, connections.starts());
     std::size_t inserted = 0;
-    for (std::size_t i = 0; i < connections.size(); ++i) {
-        std::size_t &missing = tally.at(&connections[i]);
-        if (missing > 0) {
-            insertOne(connections[i]);
-            --missing;
+    std::size_t done = 0;
+    ConnectionBatch batch(m_database, insertOne);
+    for (connections.rewind(); connections.next(batch.next());) {
+        if (!stored.take(batch.next())) {
+            batch.add();
             ++inserted;
         }
         if (progress)
-            progress(i + 1);
+            progress(++done);
     }
+    batch.finish();
     return inserted;
 }
 

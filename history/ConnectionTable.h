@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ConnectionBatch.h"
 #include "RowQuery.h"
 #include "Store.h"
 
@@ -90,12 +91,14 @@ public:
 class ConnectionTable
 {
 public:
+    static constexpr const char *name = "connection";
+
     explicit ConnectionTable(SQLite::Database &database);
 
     using Visitor = std::function<void(const ConnectionRow &)>;
 
     /// Puts a connection that is missing into this table and what belongs to it elsewhere.
-    using Insertion = std::function<void(const Connection &connection)>;
+    using Insertion = ConnectionBatch::Insertion;
     /// Puts one into the place of the one with its key, under a new key.
     using Replacement = std::function<void(const Connection &connection)>;
 
@@ -121,8 +124,8 @@ public:
     bool holds(const std::string &interfaceName, std::int64_t startUtc);
     /// Inserts those of `connections` that are not there yet; see
     /// Store::addMissing.
-    std::size_t insertMissing(const std::vector<Connection> &connections,
-                              const Insertion &insertOne, const Store::Progress &progress);
+    std::size_t insertMissing(ConnectionSource &connections, const Insertion &insertOne,
+                              const Store::Progress &progress);
     /// Inserts and completes what a log tells; see Store::merge.
     Store::Merged merge(const std::vector<Connection> &connections, const Insertion &insertOne,
                         const Replacement &replaceOne, const Store::Completion &complete,

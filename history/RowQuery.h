@@ -5,6 +5,7 @@
 
 #include <SQLiteCpp/Statement.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -126,18 +127,35 @@ std::string selectionOf(const Fields &fields, const char *table)
     return "SELECT key, " + columnsOf(fields) + " FROM " + table + ' ';
 }
 
+/// For so many rows.
 template <typename Fields>
-std::string insertionOf(const Fields &fields, const char *table)
+std::string insertionOf(const Fields &fields, const char *table, std::size_t rows = 1)
 {
-    return std::string("INSERT INTO ") + table + " (" + columnsOf(fields) + ") VALUES (" +
-           joined(fields, ", ", [](const auto &) { return "?"; }) + ')';
+    const std::string row = '(' + joined(fields, ", ", [](const auto &) { return "?"; }) + ')';
+    std::string sql =
+        std::string("INSERT INTO ") + table + " (" + columnsOf(fields) + ") VALUES " + row;
+    for (std::size_t i = 1; i < rows; ++i)
+        sql += ", " + row;
+    return sql;
 }
 
-/// Binds the values to the parameters from the first on; returns the one behind them.
+inline void bindValue(SQLite::Statement &statement, int parameter, std::int64_t value)
+{
+    statement.bind(parameter, value);
+}
+
+inline void bindValue(SQLite::Statement &statement, int parameter, const std::string &text)
+{
+    statement.bindNoCopy(parameter, text);
+}
+
+/// Binds the values to the parameters from the first on; returns the one behind them. The
+/// record has to stay as it is until the statement has run.
 template <typename Record, typename Fields>
 int bindFields(SQLite::Statement &statement, int first, const Record &record, const Fields &fields)
 {
-    forEachField(fields, [&](const auto &field) { statement.bind(first++, record.*field.member); });
+    forEachField(fields,
+                 [&](const auto &field) { bindValue(statement, first++, record.*field.member); });
     return first;
 }
 

@@ -170,9 +170,15 @@ Result<std::int64_t> Store::add(const Connection &connection)
 Result<std::size_t> Store::addMissing(const std::vector<Connection> &connections,
                                       const Progress &progress)
 {
-    return d->write(connections, [&](StoreTables &tables) {
-        return tables.insertMissing(connections, progress);
-    });
+    ListedConnections listed(connections);
+    return d->write(connections,
+                    [&](StoreTables &tables) { return tables.insertMissing(listed, progress); });
+}
+
+Result<std::size_t> Store::addMissing(ConnectionSource &connections, const Progress &progress)
+{
+    CheckedConnections checked(connections);
+    return d->write([&](StoreTables &tables) { return tables.insertMissing(checked, progress); });
 }
 
 Result<Store::Merged> Store::merge(const std::vector<Connection> &connections,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ConnectionSelection.h"
+#include "ConnectionSource.h"
 #include "DataPlan.h"
 #include "Result.h"
 
@@ -111,6 +112,8 @@ public:
     /// tell none apart, and nothing is changed in what is there.
     Result<std::size_t> addMissing(const std::vector<Connection> &connections,
                                    const Progress &progress = {});
+    /// The same of any number of them, which are held one at a time.
+    Result<std::size_t> addMissing(ConnectionSource &connections, const Progress &progress = {});
 
     /// What merge() has changed.
     struct Merged {

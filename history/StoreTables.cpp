@@ -105,8 +105,7 @@ void StoreTables::replace(const Connection &connection)
     connections.remove(connection.key);
 }
 
-std::size_t StoreTables::insertMissing(const std::vector<Connection> &given,
-                                       const Store::Progress &progress)
+std::size_t StoreTables::insertMissing(ConnectionSource &given, const Store::Progress &progress)
 {
     return connections.insertMissing(
         given, [this](const Connection &missing) { insert(missing); }, progress);

@@ -37,8 +37,7 @@ public:
     /// See Store::revision().
     std::uint64_t revision();
     std::int64_t insert(const Connection &connection);
-    std::size_t insertMissing(const std::vector<Connection> &given,
-                              const Store::Progress &progress);
+    std::size_t insertMissing(ConnectionSource &given, const Store::Progress &progress);
     Store::Merged merge(const std::vector<Connection> &given, const Store::Completion &complete,
                         const Store::Progress &progress);
     /// In the place of the one with its key, whose hours it gets, under a new key: who has

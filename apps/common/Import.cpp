@@ -20,7 +20,7 @@ history::Result<history::Store::Merged> storeImported(const std::string &storePa
                                                       const formats::Imported &imported,
                                                       ImportProgress &progress)
 {
-    progress.beginStoring(static_cast<std::int64_t>(imported.connections.size()));
+    progress.beginStoring(static_cast<std::int64_t>(imported.size()));
     auto store = history::Store::openOrCreate(storePath);
     if (!store)
         return store.error();

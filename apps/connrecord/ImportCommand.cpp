@@ -92,7 +92,7 @@ void warnOfGuess(const formats::GuessedYear &guess)
 std::string reportText(const formats::Imported &imported, const history::Store::Merged &merged,
                        const std::vector<std::string> &paths)
 {
-    const std::size_t read = imported.connections.size();
+    const std::size_t read = imported.size();
     std::string text = "Connections read: " + std::to_string(read) +
                        "\nAdded: " + std::to_string(merged.added) +
                        "\nAlready there: " + std::to_string(read - merged.added) + '\n';
@@ -110,7 +110,7 @@ std::string reportText(const formats::Imported &imported, const history::Store::
 formats::Json reportJson(const formats::Imported &imported, const history::Store::Merged &merged,
                          const std::vector<std::string> &paths)
 {
-    const std::size_t read = imported.connections.size();
+    const std::size_t read = imported.size();
     formats::Json unusable = formats::Json::array();
     for (const formats::Unusable &entry : imported.unusable)
         unusable.push_back({{"reason", entry.reason},

@@ -78,9 +78,8 @@ history::Store::Merged ImportWork::store(const formats::Imported &imported,
 
 QString ImportWork::summary(const formats::Imported &imported, const history::Store::Merged &merged)
 {
-    QStringList lines{
-        tr("Connections added: %1").arg(merged.added),
-        tr("In the history already: %1").arg(imported.connections.size() - merged.added)};
+    QStringList lines{tr("Connections added: %1").arg(merged.added),
+                      tr("In the history already: %1").arg(imported.size() - merged.added)};
     if (merged.completed > 0)
         lines.append(tr("Completed by what the log knows: %1").arg(merged.completed));
     return lines.join(QLatin1Char('\n'));

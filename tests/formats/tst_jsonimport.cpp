@@ -5,6 +5,7 @@
 #include "tests/formats/Documents.h"
 
 #include <QBuffer>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace formats;
@@ -20,6 +21,8 @@ private slots:
     void tellsWhereAndWhy_data();
     void tellsWhereAndWhy();
     void refusesWhatWouldFillTheMemory();
+    void readsMoreThanTheMemoryIsToHold();
+    void saysWhereThereIsNoRoom();
 };
 
 namespace
@@ -53,7 +56,7 @@ std::vector<history::Connection> imported(QByteArray json)
     device.open(QIODevice::ReadOnly);
     const auto reader = jsonImport({});
     reader->read({device, "input", 0}, [](std::int64_t) {});
-    return reader->imported().connections;
+    return connectionsOf(reader->imported());
 }
 
 /// Why it is not imported; empty if it is.
@@ -75,6 +78,18 @@ QByteArray object(const QByteArray &from = {}, const QByteArray &to = {})
                       R"("hours":[{"hour":"2024-01-31T22:00:00Z","roaming":false,)"
                       R"("uploaded_bytes":3,"downloaded_bytes":4}]})")
         .replace(from, to);
+}
+
+/// Of which hardly one fits into the memory that an import takes.
+std::vector<history::Connection> largeConnections()
+{
+    std::vector<history::Connection> connections(5, sample());
+    for (std::size_t i = 0; i < connections.size(); ++i) {
+        connections[i].profile = std::string(700000, static_cast<char>('a' + i));
+        if (i % 2 == 1)
+            connections[i].hours.clear();
+    }
+    return connections;
 }
 
 } // namespace
@@ -176,6 +191,30 @@ void JsonImportTest::refusesWhatWouldFillTheMemory()
 {
     QVERIFY(!refusalOf("[{\"profile\":\"" + QByteArray(20000000, 'x')).isEmpty());
     QVERIFY(!refusalOf(QByteArray(20000000, '[')).isEmpty());
+}
+
+void JsonImportTest::readsMoreThanTheMemoryIsToHold()
+{
+    const auto given = largeConnections();
+    auto connections = imported(toJsonText(given));
+    QCOMPARE(connections.size(), given.size());
+    for (std::size_t i = 0; i < given.size(); ++i)
+        connections[i].key = given[i].key;
+    QVERIFY(toJsonText(connections) == toJsonText(given));
+}
+
+void JsonImportTest::saysWhereThereIsNoRoom()
+{
+    const QTemporaryDir folder;
+    const QByteArray gone = folder.filePath("gone").toUtf8();
+    const QByteArray former = qgetenv("TMPDIR");
+    qputenv("TMPDIR", gone);
+    const QByteArray refusal = refusalOf(toJsonText(largeConnections()));
+    const QByteArray small = refusalOf(toJsonText({sample()}));
+    former.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", former);
+    QVERIFY2(refusal.contains('"' + gone + '"'), refusal.constData());
+    QVERIFY2(refusal.contains("Nothing was imported"), refusal.constData());
+    QCOMPARE(small, QByteArray());
 }
 
 QTEST_GUILESS_MAIN(JsonImportTest)

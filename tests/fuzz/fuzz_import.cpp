@@ -4,6 +4,7 @@
 #include "ImportedConnections.h"
 #include "formats/Formats.h"
 #include "formats/InputError.h"
+#include "tests/formats/Documents.h"
 
 #include <QBuffer>
 
@@ -31,7 +32,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     const auto reader = format.reader({});
     try {
         reader->read({device, "input", now}, [](std::int64_t) {});
-        fuzz::requireLossless(reader->imported().connections);
+        fuzz::requireLossless(formats::connectionsOf(reader->imported()));
     } catch (const InputError &error) {
         fuzz::require(std::string_view(error.what()).substr(0, 5) == "input",
                       "the error begins with the name of the file");

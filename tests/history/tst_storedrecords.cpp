@@ -52,6 +52,7 @@ private slots:
     void addMissingTellsEqualConnectionsByTheirNumber();
     void addMissingTellsConnectionsApartByAnyField_data();
     void addMissingTellsConnectionsApartByAnyField();
+    void addMissingKeepsTheOrderOfMany();
     void addMissingReportsEveryConnectionLookedAt();
     void addMissingAddsAllOrNone();
     void addMissingKeepsNothingWhenTheListenerThrows();
@@ -185,6 +186,25 @@ void StoredRecordsTest::addMissingTellsConnectionsApartByAnyField()
     Store store = storeWith(m_path, {connection("p", 1, 2)});
     QCOMPARE(outcomeOf(store.addMissing({other})), QString("1"));
     QCOMPARE(outcomeOf(store.addMissing({other})), QString("0"));
+}
+
+void StoredRecordsTest::addMissingKeepsTheOrderOfMany()
+{
+    auto given = numberedConnections(100);
+    QStringList order;
+    for (Connection &each : given) {
+        each.startUtc = each.endUtc = 3600;
+        order << QString::fromStdString(each.profile);
+    }
+    given[40].uploadedBytes = 7;
+    given[40].hours = {{3600, true, 7, given[40].downloadedBytes}};
+    Store store = storeWith(m_path, {});
+    QCOMPARE(outcomeOf(store.addMissing(given)), QString("100"));
+    QCOMPARE(profilesIn(m_path), order.join(' '));
+    const auto hours = store.hours();
+    QVERIFY(hours);
+    for (const auto &hour : hours.value())
+        QCOMPARE(hour.isKnown, hour.profile == given[40].profile);
 }
 
 void StoredRecordsTest::addMissingReportsEveryConnectionLookedAt()
