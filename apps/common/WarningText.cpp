@@ -9,6 +9,8 @@
 namespace common
 {
 
+using usage::Rounding;
+
 namespace
 {
 
@@ -28,12 +30,12 @@ QString WarningText::title(const QString &plan, int percent)
 
 QString WarningText::details(const QString &amount, const usage::PlanStatus &status)
 {
-    const QString used = usage::sizeText(status.used);
+    const QString used = usage::sizeText(status.used, Rounding::Down);
     const QString last = status.period.last().toString(Qt::ISODate);
     if (status.isSpent())
         return tr("%1 of %2; the period lasts until %3.").arg(used, amount, last);
     return tr("%1 of %2, %3 left until %4.")
-        .arg(used, amount, usage::sizeText(status.left.value_or(0)), last);
+        .arg(used, amount, usage::sizeText(status.left.value_or(0), Rounding::Down), last);
 }
 
 } // namespace

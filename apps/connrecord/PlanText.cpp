@@ -3,7 +3,6 @@
 
 #include "ConnectionText.h"
 #include "TextTable.h"
-#include "usage/SizeText.h"
 
 #include <QDate>
 #include <QStringList>
@@ -139,9 +138,9 @@ Json toJson(const std::vector<DataPlan> &plans)
     return array;
 }
 
-QString sizeIfAny(const std::optional<std::int64_t> &bytes)
+QString sizeIfAny(const std::optional<std::int64_t> &bytes, usage::Rounding rounding)
 {
-    return bytes ? usage::sizeText(*bytes) : QString();
+    return bytes ? usage::sizeText(*bytes, rounding) : QString();
 }
 
 Json numberIfAny(const std::optional<std::int64_t> &number)

@@ -18,6 +18,7 @@ using formats::Json;
 using usage::PeriodUse;
 using usage::PlanState;
 using usage::PlanStatus;
+using usage::Rounding;
 using usage::StandingPlan;
 
 const char *nameOf(PlanState state)
@@ -48,6 +49,8 @@ QString stateText(const StandingPlan &standing)
     return QLatin1String(nameOf(state));
 }
 
+/// Used and left are rounded down: neither reads as more than it is, together they never come to
+/// more than the amount, and it does not read as used up before it is.
 std::vector<QString> row(const StandingPlan &standing)
 {
     const QString name = nameText(standing.plan.name);
@@ -59,11 +62,11 @@ std::vector<QString> row(const StandingPlan &standing)
                                                   dayText(status.period.last()));
     return {name,
             period,
-            usage::sizeText(status.used),
+            usage::sizeText(status.used, Rounding::Down),
             amount,
-            sizeIfAny(status.left),
+            sizeIfAny(status.left, Rounding::Down),
             QString::number(status.daysLeft),
-            sizeIfAny(status.leftADay),
+            sizeIfAny(status.leftADay, Rounding::Down),
             sizeIfAny(status.pace),
             stateText(standing)};
 }

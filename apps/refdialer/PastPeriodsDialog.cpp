@@ -27,6 +27,7 @@ using history::DataPlan;
 using history::Result;
 using history::Store;
 using usage::PeriodUse;
+using usage::Rounding;
 
 namespace
 {
@@ -165,8 +166,8 @@ void PastPeriodsDialog::addRow(const PeriodUse &use)
                                    new QTableWidgetItem(isPresent ? tr("Present") : QString()));
     int column = 0;
     for (const QString &text :
-         {day(use.period.first), day(use.period.last()), usage::sizeText(use.used),
-          use.left ? usage::sizeText(*use.left) : QString()}) {
+         {day(use.period.first), day(use.period.last()), usage::sizeText(use.used, Rounding::Down),
+          use.left ? usage::sizeText(*use.left, Rounding::Down) : QString()}) {
         auto *const item = new QTableWidgetItem(text);
         item->setTextAlignment(Qt::AlignVCenter | Qt::AlignRight);
         m_table->setItem(row, column++, item);

@@ -33,6 +33,7 @@ private slots:
     void cleanup() { refhost::setLanguage(QStringLiteral("en")); }
 
     void saysWhatIsUsedAndLeft();
+    void leavesAByteOfAPlan();
     void saysHowLongASpentPlanLasts();
     void speaksTheLanguageOfTheProgram();
 };
@@ -42,6 +43,12 @@ void WarningTextTest::saysWhatIsUsedAndLeft()
     QCOMPARE(common::warningText(reached(8 * megabyte), 80),
              QString("80 % of the data plan \"%3 & <b>\" used: 8.00 MB of 10.00 MB, 2.00 MB "
                      "left until 2026-11-30."));
+}
+
+void WarningTextTest::leavesAByteOfAPlan()
+{
+    QCOMPARE(common::warningDetails(reached(10 * megabyte - 1)),
+             QString("9.99 MB of 10.00 MB, 0.00 KB left until 2026-11-30."));
 }
 
 void WarningTextTest::saysHowLongASpentPlanLasts()

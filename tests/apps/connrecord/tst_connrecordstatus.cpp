@@ -62,7 +62,7 @@ void ConnrecordStatusTest::tellsHowPlansStand()
     QCOMPARE(status.output, QByteArray("PLAN   PERIOD                       USED    AMOUNT     "
                                        "LEFT  DAYS LEFT    A DAY       PACE  STATE\n"
                                        "home   2024-05-15 to 2024-06-14  4.00 KB  10.00 KB  6.00 "
-                                       "KB         30  0.20 KB  124.00 KB  within\n"
+                                       "KB         30  0.19 KB  124.00 KB  within\n"
                                        "trip                                       8.00 KB         "
                                        "                                 no period\n"
                                        "weeks  2024-05-13 to 2024-05-19  6.00 KB                   "
