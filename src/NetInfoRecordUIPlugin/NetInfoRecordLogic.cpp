@@ -110,7 +110,6 @@ bool NetInfoRecordLogic::GetAllConnectedRecords()
         // A null array has no second element: its first one is reported as missing,
         // and that is all.
         const int convertible = records ? count : std::min(count, 1);
-        m_records.reserve(convertible);
         for (int i = 0; i < convertible; ++i)
             populateSDKtoUIStructure(i, records ? records + i : nullptr);
 #ifdef NETINFORECORD_WIRE_STATISTICS
