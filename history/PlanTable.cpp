@@ -179,24 +179,25 @@ std::vector<std::string> PlanTable::problems()
     return problems;
 }
 
-std::int64_t PlanTable::set(const DataPlan &plan)
+std::int64_t PlanTable::set(const DataPlan &plan, const std::vector<int> &reached)
 {
     checkNameIsFree(plan);
     const std::int64_t key = plan.key == 0 ? insert(plan) : plan.key;
     if (plan.key != 0)
-        update(plan);
+        update(plan, reached);
     replaceThresholds(key, plan.warnAtPercent);
     return key;
 }
 
-PlanOutcome PlanTable::replace(const std::optional<DataPlan> &former, const DataPlan &plan)
+PlanOutcome PlanTable::replace(const std::optional<DataPlan> &former, const DataPlan &plan,
+                               const std::vector<int> &reached)
 {
     for (const DataPlan &stored : all()) {
         const bool isReplaced = former ? stored.key == former->key : stored.name == plan.name;
         if (isReplaced && !(stored == former))
             return stored;
     }
-    return set(plan);
+    return set(plan, reached);
 }
 
 void PlanTable::checkNameIsFree(const DataPlan &plan)
@@ -217,9 +218,9 @@ std::int64_t PlanTable::insert(const DataPlan &plan)
     return m_database.getLastInsertRowid();
 }
 
-void PlanTable::update(const DataPlan &plan)
+void PlanTable::update(const DataPlan &plan, const std::vector<int> &reached)
 {
-    forgetWarningsOfAnotherAmount(plan);
+    forgetWarningsOfAnotherAmount(plan, reached);
     SQLite::Statement statement(m_database, change);
     bindPlan(statement, plan);
     statement.bind(13, plan.key);
@@ -230,20 +231,22 @@ void PlanTable::update(const DataPlan &plan)
                                "again.");
 }
 
-/// Those that may not be reached with the new amount. What was used is the highest percentage
-/// warned of in the period at least; so the others need not be given again.
-void PlanTable::forgetWarningsOfAnotherAmount(const DataPlan &plan)
+void PlanTable::forgetWarningsOfAnotherAmount(const DataPlan &plan, const std::vector<int> &reached)
 {
-    SQLite::Statement statement(
-        m_database, "DELETE FROM plan_warning WHERE plan = ?1 AND (?2 IS NULL OR"
-                    " CAST(percent AS REAL) * ?2 >"
-                    " (SELECT CAST(max(other.percent) AS REAL) FROM plan_warning AS other"
-                    " WHERE other.plan = ?1"
-                    " AND other.period_first_day = plan_warning.period_first_day)"
-                    " * (SELECT amount FROM plan WHERE key = ?1))");
-    statement.bind(1, plan.key);
-    bind(statement, 2, plan.amount);
-    statement.exec();
+    RowQuery query(m_database, "SELECT percent, period_first_day FROM plan_warning"
+                               " WHERE plan = ?1"
+                               " AND (SELECT amount FROM plan WHERE key = ?1) IS NOT ?2");
+    query.bind(1, plan.key);
+    if (plan.amount)
+        query.bind(2, *plan.amount);
+    std::vector<std::pair<JulianDay, int>> forgotten;
+    while (query.next()) {
+        const int percent = percentageIn(query.row());
+        if (std::find(reached.begin(), reached.end(), percent) == reached.end())
+            forgotten.emplace_back(query.row().integer(1), percent);
+    }
+    for (const auto &[periodFirst, percent] : forgotten)
+        forgetWarnings(plan.key, periodFirst, {percent});
 }
 
 void PlanTable::replaceThresholds(std::int64_t plan, const std::vector<int> &percentages)

@@ -28,8 +28,9 @@ public:
 
     /// See Store's functions of these names.
     std::vector<DataPlan> all();
-    std::int64_t set(const DataPlan &plan);
-    PlanOutcome replace(const std::optional<DataPlan> &former, const DataPlan &plan);
+    std::int64_t set(const DataPlan &plan, const std::vector<int> &reached);
+    PlanOutcome replace(const std::optional<DataPlan> &former, const DataPlan &plan,
+                        const std::vector<int> &reached);
     bool remove(const std::string &name);
     std::vector<int> noteWarnings(std::int64_t plan, JulianDay periodFirst,
                                   const std::vector<int> &percentages);
@@ -44,8 +45,8 @@ private:
     bool noteWarning(std::int64_t plan, JulianDay periodFirst, int percent);
     void checkNameIsFree(const DataPlan &plan);
     std::int64_t insert(const DataPlan &plan);
-    void update(const DataPlan &plan);
-    void forgetWarningsOfAnotherAmount(const DataPlan &plan);
+    void update(const DataPlan &plan, const std::vector<int> &reached);
+    void forgetWarningsOfAnotherAmount(const DataPlan &plan, const std::vector<int> &reached);
     void replaceThresholds(std::int64_t plan, const std::vector<int> &percentages);
     std::vector<int> thresholdsOf(std::int64_t plan);
     void removeOf(std::int64_t plan, const char *table);

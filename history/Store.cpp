@@ -255,12 +255,14 @@ Result<std::vector<DataPlan>> Store::plans() const
 
 Result<std::int64_t> Store::setPlan(const DataPlan &plan)
 {
-    return d->write(plan, [&](StoreTables &tables) { return tables.plans.set(plan); });
+    return d->write(plan, [&](StoreTables &tables) { return tables.plans.set(plan, {}); });
 }
 
-Result<PlanOutcome> Store::setPlan(const DataPlan &plan, const std::optional<DataPlan> &former)
+Result<PlanOutcome> Store::setPlan(const DataPlan &plan, const std::optional<DataPlan> &former,
+                                   const std::vector<int> &reached)
 {
-    return d->write(plan, [&](StoreTables &tables) { return tables.plans.replace(former, plan); });
+    return d->write(
+        plan, [&](StoreTables &tables) { return tables.plans.replace(former, plan, reached); });
 }
 
 Result<bool> Store::removePlan(const std::string &name)

@@ -185,11 +185,13 @@ public:
     Result<std::vector<DataPlan>> plans() const;
     /// Stores the plan as a new one if it has no key, else in the place of the one with its
     /// key, and returns its key. A name that another plan has is a BadRecord. With another
-    /// amount, warnings that were given are forgotten where they may not be reached any more.
+    /// amount, the warnings that were noted are forgotten.
     Result<std::int64_t> setPlan(const DataPlan &plan);
     /// The same in the place of `former`, the plan as it was read before, or of no plan if none
     /// had this name. Nothing changes if another program has changed or made it since then.
-    Result<PlanOutcome> setPlan(const DataPlan &plan, const std::optional<DataPlan> &former);
+    /// Warnings at percentages that the plan has `reached` with the new amount too stay noted.
+    Result<PlanOutcome> setPlan(const DataPlan &plan, const std::optional<DataPlan> &former,
+                                const std::vector<int> &reached);
     /// Removes the plan of that name; whether there was one.
     Result<bool> removePlan(const std::string &name);
     /// Notes that these percentages of the plan with the key are being warned of, in its

@@ -6,6 +6,8 @@
 namespace usage
 {
 
+using history::DataPlan;
+using history::PlanOutcome;
 using history::Result;
 using history::Store;
 
@@ -25,7 +27,7 @@ Result<std::vector<ReachedPlan>> reachedPlans(const Store &store, std::int64_t u
     if (!plans)
         return plans.error();
     std::vector<ReachedPlan> reached;
-    for (const history::DataPlan &plan : plans.value()) {
+    for (const DataPlan &plan : plans.value()) {
         if (!plan.amount || plan.warnAtPercent.empty())
             continue;
         const auto status = currentStatus(store, plan, utc);
@@ -57,6 +59,16 @@ Result<std::size_t> returnWarnings(Store &store, const ReachedPlan &reached,
                                    const std::vector<int> &percentages)
 {
     return store.forgetWarnings(reached.plan.key, periodOf(reached), percentages);
+}
+
+Result<PlanOutcome> replacePlan(Store &store, const DataPlan &plan,
+                                const std::optional<DataPlan> &former, std::int64_t utc)
+{
+    const auto status = currentStatus(store, plan, utc);
+    if (!status)
+        return status.error();
+    return store.setPlan(plan, former,
+                         status.value() ? status.value()->warnings : std::vector<int>());
 }
 
 } // namespace usage

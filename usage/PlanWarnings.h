@@ -5,6 +5,7 @@
 #include "history/Store.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace usage
@@ -32,5 +33,12 @@ history::Result<std::vector<int>> takeWarnings(history::Store &store, const Reac
 /// Gives back what takeWarnings() returned, for who could not warn of them after all.
 history::Result<std::size_t> returnWarnings(history::Store &store, const ReachedPlan &reached,
                                             const std::vector<int> &percentages);
+
+/// Stores the plan in the place of `former` as Store::setPlan() does, without repeating, for the
+/// sake of another amount, a warning that the plan has reached at `utc` with it too.
+history::Result<history::PlanOutcome> replacePlan(history::Store &store,
+                                                  const history::DataPlan &plan,
+                                                  const std::optional<history::DataPlan> &former,
+                                                  std::int64_t utc);
 
 } // namespace usage

@@ -7,6 +7,7 @@
 #include "StoreResult.h"
 #include "usage/LocalDays.h"
 #include "usage/PlanChange.h"
+#include "usage/PlanWarnings.h"
 #include "usage/SizeText.h"
 
 #include <algorithm>
@@ -168,7 +169,8 @@ DataPlan changeOrMakePlan(history::Store &store, const DataPlan &ifNew, const Pl
     auto former = findPlan(store, ifNew.name);
     for (;;) {
         DataPlan plan = former ? changedPlan(*former, request) : ifNew;
-        const auto outcome = valueOrFailure(store.setPlan(plan, former));
+        const auto outcome =
+            valueOrFailure(usage::replacePlan(store, plan, former, std::time(nullptr)));
         if (const auto *const key = std::get_if<std::int64_t>(&outcome)) {
             plan.key = *key;
             return plan;

@@ -8,6 +8,7 @@
 #include "SizeEdit.h"
 #include "usage/BillingPeriod.h"
 #include "usage/PlanChange.h"
+#include "usage/PlanWarnings.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -55,10 +56,11 @@ QComboBox *newChoice(const QStringList &texts)
 }
 
 /// In the place of the former one, if it has a key.
-Result<PlanOutcome> setPlan(Store &store, const DataPlan &plan, const DataPlan &former)
+Result<PlanOutcome> setPlan(Store &store, const DataPlan &plan, const DataPlan &former,
+                            std::int64_t utc)
 {
     if (plan.key != 0)
-        return store.setPlan(plan, former);
+        return usage::replacePlan(store, plan, former, utc);
     const auto key = store.setPlan(plan);
     return key ? Result<PlanOutcome>(key.value()) : key.error();
 }
@@ -276,7 +278,9 @@ void PlanEditor::accept()
     setStoring(true);
     m_plans.store().write(
         this,
-        [plan = m_plan, former = m_replaced](Store &store) { return setPlan(store, plan, former); },
+        [plan = m_plan, former = m_replaced, utc = m_plans.utc()](Store &store) {
+            return setPlan(store, plan, former, utc);
+        },
         [this](const Result<PlanOutcome> &outcome) { finish(outcome); });
 }
 

@@ -177,7 +177,7 @@ void StoredPlansTest::areReplacedAsTheyWereReadOnly()
     Store store = opened();
     using Former = std::optional<DataPlan>;
     const auto comesTo = [&](const DataPlan &plan, const Former &former, const PlanOutcome &end) {
-        const auto outcome = store.setPlan(plan, former);
+        const auto outcome = store.setPlan(plan, former, {});
         return outcome && outcome.value() == end;
     };
     DataPlan plan = prepaid();
@@ -199,7 +199,7 @@ void StoredPlansTest::areReplacedAsTheyWereReadOnly()
     QVERIFY(comesTo(changed, plan, plan.key));
     QCOMPARE(plansIn(store), textOf(changed));
     QVERIFY(store.removePlan("away").value());
-    const auto refused = store.setPlan(changed, changed);
+    const auto refused = store.setPlan(changed, changed, {});
     QVERIFY(!refused);
     QCOMPARE(refused.error().kind, StoreError::Kind::NoSuchRecord);
 }
@@ -390,26 +390,24 @@ void StoredPlansTest::areWarnedOfAgainWithAnotherAmountOnly()
     QCOMPARE(textOf(store.warningsGiven(plan.key, 2461000).value()), QString());
 }
 
-/// At first, 1000 bytes were used at least in one period, and 500 in the other.
 void StoredPlansTest::areNotWarnedOfAgainWhereTheyAreStillReached()
 {
     Store store = opened();
-    DataPlan plan = planCalled("home");
-    plan.amount = 1000;
+    DataPlan plan = planCalled("home", 1000);
     plan.key = store.setPlan(plan).value();
     QVERIFY(store.noteWarnings(plan.key, 2461000, {50, 80, 100}));
-    QVERIFY(store.noteWarnings(plan.key, 2461030, {50}));
-    const auto givenWith = [&](std::int64_t amount) {
+    const auto givenWith = [&](std::optional<std::int64_t> amount,
+                               const std::vector<int> &reached) {
+        const DataPlan former = plan;
         plan.amount = amount;
-        if (!store.setPlan(plan))
+        if (!store.setPlan(plan, former, reached))
             return QString("not stored");
-        return textOf(store.warningsGiven(plan.key, 2461000).value()) + ' ' +
-               textOf(store.warningsGiven(plan.key, 2461030).value());
+        return textOf(store.warningsGiven(plan.key, 2461000).value());
     };
-    QCOMPARE(givenWith(900), QString("50,80,100 50"));
-    QCOMPARE(givenWith(1125), QString("50,80 "));
-    QCOMPARE(givenWith(1800), QString("50 "));
-    QCOMPARE(givenWith(9223372036854775807), QString(" "));
+    QCOMPARE(givenWith(1000, {}), QString("50,80,100"));
+    QCOMPARE(givenWith(1200, {50, 80}), QString("50,80"));
+    QCOMPARE(givenWith(2000, {20, 50}), QString("50"));
+    QCOMPARE(givenWith(std::nullopt, {}), QString());
 }
 
 QTEST_GUILESS_MAIN(StoredPlansTest)

@@ -29,6 +29,7 @@ private slots:
     void areNotGivenOfARemovedPlan();
     void writeNothingIfNoneIsDue();
     void areNotGivenIfTheyCannotBeNoted();
+    void areGivenAgainOfAnAmountThatHasNotReachedThem();
 
 private:
     Percentages taken(Store &store, std::int64_t used, const QDate &day) const;
@@ -100,6 +101,29 @@ void PlanWarningsTest::areNotGivenIfTheyCannotBeNoted()
     Store store = storeWith(m_path, {});
     runSql(m_path, "PRAGMA user_version = 1000");
     QCOMPARE(taken(store, 8000, QDate(2026, 11, 20)), Percentages{-1});
+}
+
+/// 7000 bytes are used, elsewhere.
+void PlanWarningsTest::areGivenAgainOfAnAmountThatHasNotReachedThem()
+{
+    const QDate day(2026, 11, 20);
+    const std::int64_t noon = QDateTime(day, QTime(12, 0)).toSecsSinceEpoch();
+    Store store = storeWith(m_path, {});
+    QCOMPARE(taken(store, 7000, day), Percentages{50});
+    const auto takenOf = [&](std::int64_t amount, std::int64_t used) {
+        DataPlan changed = m_plan;
+        changed.amount = amount;
+        changed.usedElsewhere = UsedElsewhere{7000, day.toJulianDay()};
+        if (!replacePlan(store, changed, m_plan, noon))
+            return Percentages{-1};
+        m_plan = changed;
+        m_plan.usedElsewhere.reset();
+        return store.setPlan(m_plan) ? taken(store, used, day) : Percentages{-1};
+    };
+    QCOMPARE(takenOf(12000, 7000), Percentages());
+    QCOMPARE(takenOf(14000, 7000), Percentages());
+    QCOMPARE(takenOf(14001, 7000), Percentages());
+    QCOMPARE(takenOf(14002, 7001), Percentages{50});
 }
 
 QTEST_GUILESS_MAIN(PlanWarningsTest)
