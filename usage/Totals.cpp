@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <limits>
 #include <map>
+#include <string_view>
 #include <tuple>
 #include <utility>
 
@@ -20,8 +21,10 @@ namespace usage
 namespace
 {
 
-/// Those that a group's sum has in common, in the order of the sums.
-using GroupKey = std::tuple<std::string, std::string, std::string, bool, std::int64_t>;
+/// What a group's sum has in common: period, roaming, profile, SIM and operator. What is
+/// compared in no time stands first.
+template <typename Text>
+using GroupKey = std::tuple<std::int64_t, bool, Text, Text, Text>;
 
 /// One group's sum, and what is in it.
 struct Group {
@@ -144,7 +147,7 @@ private:
     const Grouping &m_grouping;
     const LocalClock m_clock;
     PeriodNumbers m_periods;
-    std::map<GroupKey, Group> m_groups;
+    std::map<GroupKey<std::string>, Group, std::less<>> m_groups;
 };
 
 void Adder::add(const CountedBytes &counted)
@@ -166,13 +169,17 @@ Group *Adder::groupOf(const CountedBytes &counted)
     const auto period = m_scope.days.contains(day) ? m_periods.at(counted.utc, day) : std::nullopt;
     if (!period)
         return nullptr;
-    const auto part = [](bool isApart, const std::string &text) {
-        return isApart ? text : std::string();
+    const auto part = [](bool isApart, std::string_view text) {
+        return isApart ? text : std::string_view();
     };
-    return &m_groups[{part(m_grouping.byProfile, counted.profile),
-                      part(m_grouping.bySim, counted.sim),
-                      part(m_grouping.byOperator, counted.operatorName),
-                      m_grouping.byRoaming && counted.isRoaming, *period}];
+    const GroupKey<std::string_view> key(*period, m_grouping.byRoaming && counted.isRoaming,
+                                         part(m_grouping.byProfile, counted.profile),
+                                         part(m_grouping.bySim, counted.sim),
+                                         part(m_grouping.byOperator, counted.operatorName));
+    auto found = m_groups.find(key);
+    if (found == m_groups.end())
+        found = m_groups.emplace(GroupKey<std::string>(key), Group()).first;
+    return &found->second;
 }
 
 template <typename Value>
@@ -182,16 +189,25 @@ std::int64_t countOfDifferent(std::vector<Value> values)
     return std::unique(values.begin(), values.end()) - values.begin();
 }
 
+bool comesBefore(const Sum &left, const Sum &right)
+{
+    const auto place = [](const Sum &sum) {
+        return std::tie(sum.profile, sum.sim, sum.operatorName, sum.isRoaming, sum.period);
+    };
+    return place(left) < place(right);
+}
+
 std::vector<Sum> Adder::takeSums()
 {
     std::vector<Sum> sums;
     sums.reserve(m_groups.size());
     for (auto &[key, group] : m_groups) {
         Sum &sum = group.sum;
-        std::tie(sum.profile, sum.sim, sum.operatorName, sum.isRoaming, sum.period) = key;
+        std::tie(sum.period, sum.isRoaming, sum.profile, sum.sim, sum.operatorName) = key;
         sum.connections = countOfDifferent(std::move(group.connections));
         sums.push_back(std::move(sum));
     }
+    std::sort(sums.begin(), sums.end(), comesBefore);
     return sums;
 }
 
