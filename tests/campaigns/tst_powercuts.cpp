@@ -64,7 +64,7 @@ void tst_PowerCuts::initTestCase()
 
 void tst_PowerCuts::losesNothingThatWasKept()
 {
-    const int cuts = campaign::count(30);
+    const int cuts = campaign::count(20);
     const std::uint64_t seed = campaign::seed(20260103);
     campaign::Random random(seed);
     PowerDisk disk(seed);

@@ -261,6 +261,10 @@ void PlanUseTest::tellsThePeriodsBefore()
     QCOMPARE(textOfPast(once, "2026-10-31T23:00:00Z"),
              QString("2026-10-01 to 2026-10-31: 20000, -10000"));
     QCOMPARE(textOfPast(MonthlyFrom{1}, "2026-08-05T10:00:00Z"), QString());
+    // No present one is put before it.
+    const auto all = allUses(store, planOf(once), utcOf("2026-10-31T23:00:00Z"));
+    QCOMPARE(all.value().size(), std::size_t(1));
+    QCOMPARE(all.value().front().used, std::int64_t(20000));
 }
 
 QTEST_GUILESS_MAIN(PlanUseTest)
