@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommonUtils.h"
+#include "Controls.h"
 #include "HistoryWindow.h"
 #include "MenuEntry.h"
 #include "apps/common/RecordingChoices.h"
@@ -12,7 +13,6 @@
 #include "apps/refdialer/WindowView.h"
 #include "refhost/libcore/Host.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -66,8 +66,6 @@ private slots:
     void bearsAnyStoredView();
 
     void reachesEveryControlByTab();
-    void namesEveryControl_data();
-    void namesEveryControl();
 
 private:
     void withSettings(const std::function<void(SettingsDialog &)> &step);
@@ -83,29 +81,6 @@ namespace
 QString setting(const char *key)
 {
     return CommonUtils::GetSettings("refdialer", key);
-}
-
-/// What the user can get to with keys, but for what Qt makes for its own widgets.
-QList<QWidget *> controlsIn(const QWidget &window)
-{
-    QList<QWidget *> controls;
-    for (QWidget *const widget : window.findChildren<QWidget *>()) {
-        if ((widget->focusPolicy() & Qt::TabFocus) && !widget->objectName().startsWith("qt_") &&
-            !widget->focusProxy() && widget->window() == &window)
-            controls.append(widget);
-    }
-    return controls;
-}
-
-QString nameOf(QWidget &widget)
-{
-    QAccessibleInterface *const interface = QAccessible::queryAccessibleInterface(&widget);
-    return interface ? interface->text(QAccessible::Name) : QString();
-}
-
-QString descriptionOf(const QWidget &widget)
-{
-    return QString("%1 \"%2\"").arg(widget.metaObject()->className(), widget.objectName());
 }
 
 } // namespace
@@ -344,30 +319,6 @@ void TestWindowControls::reachesEveryControlByTab()
     }
     for (const QWidget *const control : wanted - reached)
         QFAIL(qPrintable(descriptionOf(*control)));
-}
-
-void TestWindowControls::namesEveryControl_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString &language : refhost::availableLanguages())
-        QTest::newRow(qPrintable(language)) << language;
-}
-
-void TestWindowControls::namesEveryControl()
-{
-    QFETCH(QString, language);
-    QVERIFY(refhost::setLanguage(language));
-    QCoreApplication::processEvents();
-    SettingsDialog dialog(nullptr, &window());
-    int count = 0;
-    for (const QWidget *const parent :
-         {static_cast<const QWidget *>(&window()), static_cast<const QWidget *>(&dialog)}) {
-        for (QWidget *const control : controlsIn(*parent)) {
-            QVERIFY2(!nameOf(*control).trimmed().isEmpty(), qPrintable(descriptionOf(*control)));
-            ++count;
-        }
-    }
-    QVERIFY(count > 10);
 }
 
 QTEST_MAIN(TestWindowControls)
