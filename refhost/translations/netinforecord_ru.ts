@@ -1131,38 +1131,38 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::PlanText</name>
     <message>
         <source>%1 of %2 used, %3 over, today is the last day</source>
-        <translation>Израсходовано %1 из %2, сверх плана %3, сегодня последний день</translation>
+        <translation>Расход: %1 из %2, сверх плана %3, последний день</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 used, %3 over, %n days left</source>
         <translation>
-            <numerusform>Израсходовано %1 из %2, сверх плана %3, остался %n день</numerusform>
-            <numerusform>Израсходовано %1 из %2, сверх плана %3, осталось %n дня</numerusform>
-            <numerusform>Израсходовано %1 из %2, сверх плана %3, осталось %n дней</numerusform>
+            <numerusform>Расход: %1 из %2, сверх плана %3, ещё %n день</numerusform>
+            <numerusform>Расход: %1 из %2, сверх плана %3, ещё %n дня</numerusform>
+            <numerusform>Расход: %1 из %2, сверх плана %3, ещё %n дней</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 used, %3 left, today is the last day</source>
-        <translation>Израсходовано %1 из %2, осталось %3, сегодня последний день</translation>
+        <translation>Расход: %1 из %2, остаток %3, последний день</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 used, %n days left, %3 a day</source>
         <translation>
-            <numerusform>Израсходовано %1 из %2, остался %n день, %3 в день</numerusform>
-            <numerusform>Израсходовано %1 из %2, осталось %n дня, %3 в день</numerusform>
-            <numerusform>Израсходовано %1 из %2, осталось %n дней, %3 в день</numerusform>
+            <numerusform>Расход: %1 из %2, ещё %n день, %3 в день</numerusform>
+            <numerusform>Расход: %1 из %2, ещё %n дня, %3 в день</numerusform>
+            <numerusform>Расход: %1 из %2, ещё %n дней, %3 в день</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 used, today is the last day</source>
-        <translation>Израсходовано %1, сегодня последний день</translation>
+        <translation>Расход: %1, последний день</translation>
     </message>
     <message numerus="yes">
         <source>%1 used, %n days left</source>
         <translation>
-            <numerusform>Израсходовано %1, остался %n день</numerusform>
-            <numerusform>Израсходовано %1, осталось %n дня</numerusform>
-            <numerusform>Израсходовано %1, осталось %n дней</numerusform>
+            <numerusform>Расход: %1, ещё %n день</numerusform>
+            <numerusform>Расход: %1, ещё %n дня</numerusform>
+            <numerusform>Расход: %1, ещё %n дней</numerusform>
         </translation>
     </message>
     <message>

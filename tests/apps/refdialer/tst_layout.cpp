@@ -38,6 +38,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 using Make = QWidget *(*)();
 Q_DECLARE_METATYPE(Make)
@@ -195,14 +196,30 @@ void lookAtTheStatistics(HistoryWindow &history, const Look &look)
         lookAtModal(look, [&history] { QVERIFY(history.plugin().showStatistics()); });
 }
 
-void lookAtThePlans(HistoryWindow &history, const Look &look)
+/// Of each kind of period and of each state.
+std::vector<history::DataPlan> differentPlans()
 {
-    auto store = history::Store::openOrCreate(history.storePath());
-    history::DataPlan plan;
-    plan.name = profile.toStdString();
-    plan.amount = 1023LL << 30;
-    plan.period = history::EveryDays{28};
-    QVERIFY(store.value().setPlan(plan));
+    constexpr std::int64_t amount = 1023LL << 30;
+    const history::JulianDay today = QDate::currentDate().toJulianDay();
+    history::DataPlan within;
+    within.name = profile.toStdString();
+    within.amount = amount;
+    within.period = history::EveryDays{28};
+    history::DataPlan unlimited = within;
+    unlimited.amount.reset();
+    unlimited.period = history::MonthlyFrom{31};
+    history::DataPlan warned = within;
+    warned.usedElsewhere = history::UsedElsewhere{amount / 10 * 9, today};
+    history::DataPlan spent = within;
+    spent.period = history::OnceBetween{today - 1, today + 99};
+    spent.usedElsewhere = history::UsedElsewhere{amount + 1, today};
+    history::DataPlan ended = within;
+    ended.period = history::OnceBetween{today - 2, today - 1};
+    return {within, unlimited, warned, spent, ended};
+}
+
+void lookAtThePlan(HistoryWindow &history, const history::DataPlan &plan, const Look &look)
+{
     refdialer::PlanWatch plans(QString::fromStdString(history.storePath()));
     plans.finish();
     refdialer::PlanLine line(plans);
@@ -216,6 +233,16 @@ void lookAtThePlans(HistoryWindow &history, const Look &look)
         window->show();
         look(*window);
         window->close();
+    }
+}
+
+void lookAtThePlans(HistoryWindow &history, const Look &look)
+{
+    auto store = history::Store::openOrCreate(history.storePath());
+    for (const history::DataPlan &plan : differentPlans()) {
+        QVERIFY(store.value().setPlan(plan));
+        lookAtThePlan(history, plan, look);
+        QVERIFY(store.value().removePlan(plan.name));
     }
 }
 
