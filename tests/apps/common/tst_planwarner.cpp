@@ -83,8 +83,11 @@ bool PlanWarnerTest::startProgram()
     return true;
 }
 
+/// The bus may notice only later that the former one has gone.
 bool PlanWarnerTest::startDesktop()
 {
+    if (m_desktop)
+        m_desktop->giveNameAway();
     m_desktop = std::make_unique<NotificationDaemon>(m_bus->address());
     return m_desktop->takeName();
 }
