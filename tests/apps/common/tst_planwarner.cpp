@@ -138,7 +138,6 @@ void PlanWarnerTest::givesAShownWarningOnceThoughTheServiceGoes()
 {
     QVERIFY(startProgram());
     QTRY_COMPARE(titles(), theWarning);
-    m_desktop.reset();
     QVERIFY(startDesktop());
     QVERIFY(startProgram());
     QSignalSpy checks(m_warner.get(), &PlanWarner::checked);
