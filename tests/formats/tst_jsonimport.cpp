@@ -2,6 +2,7 @@
 #include "formats/ImportReader.h"
 #include "formats/InputError.h"
 #include "formats/JsonFormat.h"
+#include "tests/Many.h"
 #include "tests/formats/Documents.h"
 
 #include <QBuffer>
@@ -189,8 +190,8 @@ void JsonImportTest::tellsWhereAndWhy()
 
 void JsonImportTest::refusesWhatWouldFillTheMemory()
 {
-    QVERIFY(!refusalOf("[{\"profile\":\"" + QByteArray(20000000, 'x')).isEmpty());
-    QVERIFY(!refusalOf(QByteArray(20000000, '[')).isEmpty());
+    QVERIFY(!refusalOf("[{\"profile\":\"" + QByteArray(many(20000000), 'x')).isEmpty());
+    QVERIFY(!refusalOf(QByteArray(many(20000000), '[')).isEmpty());
 }
 
 void JsonImportTest::readsMoreThanTheMemoryIsToHold()

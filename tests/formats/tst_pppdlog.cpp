@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PppdSample.h"
+#include "tests/Many.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -132,11 +133,11 @@ void PppdLogTest::keepsTheBeginningOfTexts_data()
 {
     QTest::addColumn<QByteArray>("line");
 
-    const QByteArray many(5000, 'x');
-    QTest::newRow("line") << "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/" + many;
-    QTest::newRow("host") << "Nov 10 17:02:09 gw" + many + " pppd[485]: Connect: a <--> b";
-    QTest::newRow("process") << "Nov 10 17:02:09 gw pppd" + many + "[485]: Connect: a <--> b";
-    QTest::newRow("interface") << "Nov 10 17:02:09 gw pppd[485]: Connect: ppp" + many + " <--> b";
+    const QByteArray tail(5000, 'x');
+    QTest::newRow("line") << "Nov 10 17:02:09 gw pppd[485]: Connect: ppp0 <--> /dev/" + tail;
+    QTest::newRow("host") << "Nov 10 17:02:09 gw" + tail + " pppd[485]: Connect: a <--> b";
+    QTest::newRow("process") << "Nov 10 17:02:09 gw pppd" + tail + "[485]: Connect: a <--> b";
+    QTest::newRow("interface") << "Nov 10 17:02:09 gw pppd[485]: Connect: ppp" + tail + " <--> b";
 }
 
 void PppdLogTest::keepsTheBeginningOfTexts()
@@ -180,11 +181,11 @@ void PppdLogTest::survivesWhatIsNoLog_data()
     QTest::addColumn<QByteArray>("contents");
 
     QTest::newRow("an empty file") << QByteArray();
-    QTest::newRow("NULs") << QByteArray(100000, '\0');
+    QTest::newRow("NULs") << QByteArray(many(100000), '\0');
     QTest::newRow("bytes that are not UTF-8") << QByteArray(100000, '\xFF');
-    QTest::newRow("a line of eight megabytes") << QByteArray(8 << 20, 'x');
-    QTest::newRow("a line of eight megabytes of spaces") << QByteArray(8 << 20, ' ');
-    QTest::newRow("many empty lines") << QByteArray(100000, '\n');
+    QTest::newRow("a long line") << QByteArray(many(8000000), 'x');
+    QTest::newRow("a long line of spaces") << QByteArray(many(8000000), ' ');
+    QTest::newRow("many empty lines") << QByteArray(many(100000), '\n');
 }
 
 void PppdLogTest::survivesWhatIsNoLog()

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+#include <optional>
 #include <random>
 
 using history::DataPlan;
@@ -25,6 +26,12 @@ private slots:
     void agreesWithBars_data();
     void agreesWithBars();
     void coversWhatIsSpecial();
+
+private:
+    const YearsOfHistory &historyOf(const QByteArray &zone, int firstYear);
+
+    std::optional<YearsOfHistory> m_history;
+    QByteArray m_zone; ///< of this history
 };
 
 namespace
@@ -121,6 +128,17 @@ void addRows(const QByteArray &zone, int firstYear)
 
 } // namespace
 
+/// The same one as long as nobody asks for another zone's: it takes long to make.
+const YearsOfHistory &TotalsAgreementTest::historyOf(const QByteArray &zone, int firstYear)
+{
+    if (!m_history || m_zone != zone) {
+        m_history.reset();
+        m_history.emplace(zone.constData(), firstYear);
+        m_zone = zone;
+    }
+    return *m_history;
+}
+
 void TotalsAgreementTest::agreesWithAQuery_data()
 {
     QTest::addColumn<QByteArray>("zone");
@@ -140,8 +158,7 @@ void TotalsAgreementTest::agreesWithAQuery()
     QFETCH(int, firstYear);
     QFETCH(QStringList, options);
     QFETCH(QString, query);
-    const YearsOfHistory history(zone.constData(), firstYear);
-    const QStringList queried = history.rowsOf(query.toStdString());
+    const QStringList queried = historyOf(zone, firstYear).rowsOf(query.toStdString());
     QVERIFY(!queried.isEmpty());
     QCOMPARE(YearsOfHistory::totalsTold(options + QStringList("--by-start"),
                                         {"profile", "month", "connections", "connected_seconds",
@@ -151,6 +168,7 @@ void TotalsAgreementTest::agreesWithAQuery()
 
 void TotalsAgreementTest::agreesWithBars_data()
 {
+    m_history.reset();
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<int>("year");
     QTest::addColumn<DataPlan>("plan");
@@ -206,7 +224,7 @@ void TotalsAgreementTest::agreesWithBars()
 /// Without these in it, an agreement would say little.
 void TotalsAgreementTest::coversWhatIsSpecial()
 {
-    const YearsOfHistory history("Europe/Berlin", 2023);
+    const YearsOfHistory &history = historyOf("Europe/Berlin", 2023);
     const auto count = [&history](const std::string &condition) {
         return history.rowsOf("SELECT count(*) FROM connection WHERE " + condition).first().toInt();
     };

@@ -25,7 +25,7 @@ namespace
 {
 
 constexpr int historiesAtOnce = 4;
-constexpr int changesPerRound = 40;
+constexpr int changesPerRound = 20;
 /// Milliseconds, between one thing that happens to a history's programs and the next.
 constexpr int longestRest = 1500;
 
