@@ -31,6 +31,11 @@ QFileDialog *FileChooser::make(QWidget *parent, const QString &title)
 {
     auto *const chooser = new QFileDialog(parent, title);
     chooser->setAttribute(Qt::WA_DeleteOnClose);
+    // Room for the kinds of files, some of which have long names.
+    constexpr int charactersInLine = 100;
+    constexpr int lines = 30;
+    const QFontMetrics font = chooser->fontMetrics();
+    chooser->resize(charactersInLine * font.averageCharWidth(), lines * font.lineSpacing());
     return chooser;
 }
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "HistoryPage.h"
 
+#include "ColumnRoom.h"
 #include "HistoryArea.h"
 #include "HistorySearch.h"
 
 #include <QShortcut>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace refdialer
@@ -28,6 +30,7 @@ HistoryPage::HistoryPage(PluginHandle &plugin, const QString &storeFile, QWidget
     connect(m_search, &HistorySearch::left, m_area, &HistoryArea::takeFocus);
     connect(m_notice, &HistoryNotice::allWanted, m_search, &HistorySearch::clear);
     connect(m_area, &HistoryArea::changed, this, &HistoryPage::showReason);
+    connect(m_area, &HistoryArea::changed, this, &HistoryPage::giveColumnsRoom);
 }
 
 void HistoryPage::beginSearch()
@@ -59,6 +62,17 @@ void HistoryPage::applyFilter()
     HistoryFilter filter = m_search->filter();
     filter.shortestSeconds = m_shortestSeconds;
     m_area->setFilter(filter);
+}
+
+/// The plug-in shows its table as soon as it is to, and may make another one.
+void HistoryPage::giveColumnsRoom()
+{
+    auto *const table = m_area->findChild<QTableWidget *>();
+    if (!table)
+        return;
+    if (!m_columns)
+        m_columns = new ColumnRoom(*table);
+    m_columns->widen();
 }
 
 void HistoryPage::showReason()

@@ -3,11 +3,13 @@
 
 #include "HistoryNotice.h"
 
+#include <QPointer>
 #include <QWidget>
 
 namespace refdialer
 {
 
+class ColumnRoom;
 class HistoryArea;
 class HistorySearch;
 class PluginHandle;
@@ -32,11 +34,13 @@ public:
 private:
     void addKeys();
     void applyFilter();
+    void giveColumnsRoom();
     void showReason();
 
     HistorySearch *m_search;
     HistoryNotice *m_notice;
     HistoryArea *m_area;
+    QPointer<ColumnRoom> m_columns; ///< the table's
     qint64 m_shortestSeconds = 0;
 };
 

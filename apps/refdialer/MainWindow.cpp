@@ -26,6 +26,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -35,9 +36,6 @@ namespace refdialer
 
 namespace
 {
-
-// Wide enough for the six columns of the history beside a scroll bar.
-constexpr QSize defaultSize(780, 500);
 
 /// The service records into the user's own history only.
 BackgroundUnit *makeBackgroundUnit(const HistorySource &source, QObject *parent)
@@ -75,7 +73,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     createMenus();
     createStatusBar();
     retranslate();
-    resize(defaultSize);
+    resize(usualSizeOf(*this).boundedTo(screen()->availableSize()));
     m_area.showHistory();
     m_area.sort(HistoryOrder());
     m_historyPage->setShortest(shortestListed());

@@ -102,6 +102,7 @@ PlanDialog::PlanDialog(PlanWatch &plans, QWidget *parent)
     connect(m_list, &QTreeWidget::itemActivated, this, &PlanDialog::editPlan);
     connect(m_list, &QTreeWidget::currentItemChanged, this, &PlanDialog::showWhatCanBeDone);
     connect(&m_plans, &PlanWatch::changed, this, &PlanDialog::showPlans);
+    fitColumns();
     showPlans();
 }
 
@@ -150,6 +151,11 @@ void PlanDialog::fillList()
         if (key == chosen || !m_list->currentItem())
             m_list->setCurrentItem(item);
     }
+    fitColumns();
+}
+
+void PlanDialog::fitColumns()
+{
     for (int column = 0; column < m_list->columnCount(); ++column)
         m_list->resizeColumnToContents(column);
 }

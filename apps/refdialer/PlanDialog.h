@@ -36,6 +36,7 @@ private:
     QWidget *buttons();
     void showPlans();
     void fillList();
+    void fitColumns();
     void showWhatCanBeDone();
     void showStanding();
     /// The one that is chosen, if there is one.

@@ -6,6 +6,7 @@
 #include "refhost/libcore/Host.h"
 
 #include <QStringList>
+#include <QWidget>
 
 namespace refdialer
 {
@@ -19,6 +20,9 @@ const char *const orderKey = "order";
 
 const char *const ascending = "ascending";
 const char *const descending = "descending";
+
+constexpr int charactersInLine = 148;
+constexpr int linesInWindow = 36;
 
 /// As HistoryColumn counts them.
 const QStringList &columnNames()
@@ -49,6 +53,12 @@ HistoryOrder orderIn(const QString &text)
 }
 
 } // namespace
+
+QSize usualSizeOf(const QWidget &window)
+{
+    const QFontMetrics font = window.fontMetrics();
+    return {charactersInLine * font.averageCharWidth(), linesInWindow * font.lineSpacing()};
+}
 
 WindowView storedWindowView()
 {

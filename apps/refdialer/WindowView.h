@@ -4,6 +4,9 @@
 #include "HistorySort.h"
 
 #include <QByteArray>
+#include <QSize>
+
+class QWidget;
 
 namespace refdialer
 {
@@ -14,6 +17,10 @@ struct WindowView {
     int page = 0;        ///< from the left
     HistoryOrder order;
 };
+
+/// Of a window that has not been set up: wide enough for the line of a plan and the columns of
+/// the history.
+QSize usualSizeOf(const QWidget &window);
 
 /// As it was stored last; what is not there, or makes no sense, is as at first.
 WindowView storedWindowView();
