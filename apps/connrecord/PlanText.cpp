@@ -68,7 +68,7 @@ QString alreadyUsedText(const DataPlan &plan)
 {
     const auto &elsewhere = plan.usedElsewhere;
     return elsewhere ? QStringLiteral("%1 on %2")
-                           .arg(sizeIfAny(elsewhere->bytes), dayText(elsewhere->day))
+                           .arg(usage::sizeText(elsewhere->bytes), dayText(elsewhere->day))
                      : QString();
 }
 
@@ -138,9 +138,9 @@ Json toJson(const std::vector<DataPlan> &plans)
     return array;
 }
 
-QString sizeIfAny(const std::optional<std::int64_t> &bytes)
+QString sizeIfAny(const std::optional<std::int64_t> &bytes, usage::Rounding rounding)
 {
-    return bytes ? usage::sizeText(*bytes, usage::Rounding::Down) : QString();
+    return bytes ? usage::sizeText(*bytes, rounding) : QString();
 }
 
 Json numberIfAny(const std::optional<std::int64_t> &number)

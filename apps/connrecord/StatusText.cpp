@@ -18,6 +18,7 @@ using formats::Json;
 using usage::PeriodUse;
 using usage::PlanState;
 using usage::PlanStatus;
+using usage::Rounding;
 using usage::StandingPlan;
 
 const char *nameOf(PlanState state)
@@ -61,11 +62,11 @@ std::vector<QString> row(const StandingPlan &standing)
                                                   dayText(status.period.last()));
     return {name,
             period,
-            sizeIfAny(status.used),
+            usage::sizeText(status.used, Rounding::Down),
             amount,
-            sizeIfAny(status.left),
+            sizeIfAny(status.left, Rounding::Down),
             QString::number(status.daysLeft),
-            sizeIfAny(status.leftADay),
+            sizeIfAny(status.leftADay, Rounding::Down),
             sizeIfAny(status.pace),
             stateText(standing)};
 }

@@ -140,6 +140,7 @@ void Application::startPlugin()
     const QString file = m_options.pluginFile.isEmpty()
                              ? PluginHandle::defaultFile()
                              : QFileInfo(m_options.pluginFile).absoluteFilePath();
+    m_trueValues = TrueValues::beginReading(m_source.file.toStdString());
     m_plugin = PluginHandle::load(file);
     m_container.add(m_plugin->classId(), m_plugin->root());
     refhost::setPluginContainer(&m_container);
@@ -152,7 +153,7 @@ void Application::startPlugin()
 
 void Application::showWindow()
 {
-    MainWindow window(*m_plugin, m_source, m_state);
+    MainWindow window(*m_plugin, m_source, m_state, std::move(m_trueValues));
     refhost::setMainWindow(&window);
     if (!m_options.pictureFile.isEmpty()) {
         window.finishReading();

@@ -5,10 +5,12 @@
 #include "Options.h"
 #include "SingleInstance.h"
 #include "StateLine.h"
+#include "TrueValues.h"
 #include "refhost/libcore/PluginContainer.h"
 
 #include <QCoreApplication>
 
+#include <future>
 #include <memory>
 
 namespace refdialer
@@ -56,6 +58,7 @@ private:
     LineState m_state;
     std::unique_ptr<ServicePlugin> m_dialupService;
     std::unique_ptr<Recording> m_recording;
+    std::future<TrueValues> m_trueValues; ///< until the window has them
     std::unique_ptr<PluginHandle> m_plugin;
 };
 

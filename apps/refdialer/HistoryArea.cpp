@@ -66,10 +66,25 @@ void HistoryArea::hideHistory()
     m_plugin.hide();
 }
 
+void HistoryArea::takeRows(TrueValues values)
+{
+    if (!table())
+        return;
+    adopt(*table());
+    m_shown = shownIn(*table(), std::move(values));
+    arrangeRows();
+}
+
 void HistoryArea::sort(const HistoryOrder &order)
 {
     m_order = order;
-    sortTable();
+    if (!table())
+        return;
+    // Not if a plug-in has loaded rows on its own.
+    if (m_shown.count() == table()->rowCount())
+        arrangeRows();
+    else
+        takeRows(TrueValues::readFrom(m_storePath));
 }
 
 void HistoryArea::setFilter(const HistoryFilter &filter)
@@ -167,15 +182,12 @@ void HistoryArea::retranslate()
         table()->setAccessibleName(tr("Connections"));
 }
 
-void HistoryArea::sortTable()
+void HistoryArea::arrangeRows()
 {
-    if (!table())
-        return;
-    adopt(*table());
     // What hides a row is what it shows, not its place.
     m_selection->showAll();
     m_selection->finish();
-    m_shown = ShownConnections(sortRows(*table(), m_order, TrueValues::readFrom(m_storePath)));
+    sortRows(*table(), m_order, m_shown);
     applyFilter();
     m_selection->finish();
     emit changed();
@@ -229,9 +241,10 @@ void HistoryArea::load(const std::function<void()> &loadRows)
         return;
     }
     const TableViewState state(*table(), m_shown);
+    auto values = TrueValues::beginReading(m_storePath);
     setUpdatesEnabled(false);
     loadRows();
-    sortTable();
+    takeRows(values.get());
     if (table())
         state.restore(*table(), m_shown);
     setUpdatesEnabled(true);

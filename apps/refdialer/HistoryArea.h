@@ -21,6 +21,7 @@ namespace refdialer
 {
 
 class PluginHandle;
+class TrueValues;
 class VisibleSelection;
 
 /// The place in the main window where the plug-in shows its history. What others
@@ -38,6 +39,8 @@ public:
 
     void showHistory();
     void hideHistory();
+    /// Takes over the rows that the plug-in has loaded, of which these are the true values.
+    void takeRows(TrueValues values);
     /// Puts the rows in this order, now and whenever they are loaded anew.
     void sort(const HistoryOrder &order);
     /// Lists these connections only, now and whenever they are loaded anew. The others'
@@ -76,7 +79,7 @@ private:
     QTableWidget *table() const;
     void adopt(QTableWidget &table);
     void retranslate();
-    void sortTable();
+    void arrangeRows();
     void applyFilter();
     void announceDeletion();
     void endFiltering();

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "HistoryRow.h"
 
-#include <QLocale>
 #include <QTableWidget>
 
+#include <algorithm>
 #include <charconv>
+#include <optional>
 
 namespace refdialer
 {
@@ -12,16 +13,31 @@ namespace refdialer
 namespace
 {
 
+/// The number that the characters are; none if they are not just that. Qt takes fifty
+/// times as long to read one.
+template <typename Number>
+std::optional<Number> numberIn(QStringView characters)
+{
+    constexpr int longest = 32;
+    char digits[longest];
+    if (characters.size() > longest)
+        return std::nullopt;
+    const auto end = std::transform(characters.begin(), characters.end(), digits,
+                                    [](QChar character) { return character.toLatin1(); });
+    Number number = 0;
+    const auto read = std::from_chars(digits, end, number);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
+}
+
 /// "25:01:01", whose hours may have any number of digits.
-qint64 secondsIn(const QString &text)
+qint64 secondsIn(QStringView text)
 {
     qint64 seconds = 0;
-    int begin = 0;
-    while (begin <= text.size()) {
-        const auto colon = text.indexOf(QLatin1Char(':'), begin);
-        const auto end = colon < 0 ? text.size() : colon;
-        seconds = seconds * 60 + QLocale::c().toLongLong(QStringView(text).mid(begin, end - begin));
-        begin = int(end) + 1;
+    while (!text.isEmpty()) {
+        const auto *const colon = std::find(text.begin(), text.end(), QLatin1Char(':'));
+        const auto length = qsizetype(colon - text.begin());
+        seconds = seconds * 60 + numberIn<qint64>(text.left(length)).value_or(0);
+        text = text.mid(std::min<qsizetype>(length + 1, text.size()));
     }
     return seconds;
 }
@@ -39,15 +55,13 @@ double unitOf(QStringView letters)
 }
 
 /// "1.50 MB", always with a full stop.
-double bytesIn(const QString &text)
+double bytesIn(QStringView text)
 {
     constexpr int unitLength = 3;
-    const double unit = unitOf(QStringView(text).right(unitLength));
-    // Qt takes fifty times as long to read a number.
-    const QByteArray digits = text.left(text.size() - unitLength).toLatin1();
-    double number = 0;
-    const auto read = std::from_chars(digits.cbegin(), digits.cend(), number);
-    return unit > 0 && read.ec == std::errc() && read.ptr == digits.cend() ? number * unit : 0;
+    if (text.size() < unitLength)
+        return 0;
+    const double unit = unitOf(text.right(unitLength));
+    return unit * numberIn<double>(text.chopped(unitLength)).value_or(0);
 }
 
 } // namespace

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "HistorySort.h"
 
-#include "TrueValues.h"
-#include "UpdatesOff.h"
+#include "RowMove.h"
+#include "ShownConnections.h"
 
 #include <QCollator>
+#include <QHash>
 #include <QTableWidget>
 
 #include <algorithm>
 #include <numeric>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -18,136 +20,102 @@ namespace refdialer
 namespace
 {
 
-/// Stands in for a cell while the table sorts: Qt's own sort moves whole
-/// rows, and what refers to them, by what the cells of one column say.
-class RankItem : public QTableWidgetItem
-{
-public:
-    RankItem(int rank, QTableWidgetItem *shown)
-        : m_rank(rank)
-        , m_shown(shown)
-    {
-    }
-
-    bool operator<(const QTableWidgetItem &other) const override
-    {
-        return m_rank < static_cast<const RankItem &>(other).m_rank;
-    }
-
-    QTableWidgetItem *shown() const { return m_shown; }
-
-private:
-    const int m_rank;
-    QTableWidgetItem *const m_shown;
-};
-
+using Rows = std::vector<ShownConnection>;
 using Order = std::vector<int>;
+/// A number for each row, which rises as what it is sorted by does.
+using Keys = std::vector<std::int64_t>;
 
-std::int64_t amount(const history::Connection &connection, HistoryColumn column)
+std::int64_t amount(const ShownConnection &connection, HistoryColumn column)
 {
     switch (column) {
     case HistoryColumn::End:
         return connection.endUtc;
     case HistoryColumn::ConnectedTime:
-        return connection.connectedSeconds;
+        return connection.values.connectedSeconds;
     case HistoryColumn::Uploaded:
-        return connection.uploadedBytes;
+        return connection.values.uploadedBytes;
     case HistoryColumn::Downloaded:
-        return connection.downloadedBytes;
+        return connection.values.downloadedBytes;
     default:
         return connection.startUtc;
     }
 }
 
-template <typename Keys>
-void sortBy(const Keys &keys, Qt::SortOrder direction, Order &order)
+Keys amounts(const Rows &rows, HistoryColumn column)
 {
-    std::stable_sort(order.begin(), order.end(), [&keys, direction](int a, int b) {
-        const auto &first = keys[direction == Qt::AscendingOrder ? a : b];
-        const auto &second = keys[direction == Qt::AscendingOrder ? b : a];
-        return first < second;
-    });
+    Keys keys;
+    keys.reserve(rows.size());
+    for (const ShownConnection &row : rows)
+        keys.push_back(amount(row, column));
+    return keys;
 }
 
-void sortByAmount(const std::vector<history::Connection> &rows, const HistoryOrder &by,
-                  Order &order)
+QString profileIn(const QTableWidget &table, int row)
 {
-    std::vector<std::int64_t> amounts;
-    amounts.reserve(rows.size());
-    for (const history::Connection &row : rows)
-        amounts.push_back(amount(row, by.column));
-    sortBy(amounts, by.direction, order);
+    const QTableWidgetItem *const cell = table.item(row, int(HistoryColumn::Profile));
+    return cell ? cell->data(Qt::DisplayRole).toString() : QString();
 }
 
-void sortByProfile(const std::vector<history::Connection> &rows, Qt::SortOrder direction,
-                   const QLocale &locale, Order &order)
+/// The places of the names in their order; those that are equal in it share one.
+QHash<QString, std::int64_t> placesOf(const QStringList &names, const QLocale &locale)
 {
     QCollator collator(locale);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
-    std::vector<QCollatorSortKey> keys;
-    keys.reserve(rows.size());
-    for (const history::Connection &row : rows)
-        keys.push_back(collator.sortKey(QString::fromStdString(row.profile)));
-    sortBy(keys, direction, order);
+    QStringList sorted = names;
+    std::sort(sorted.begin(), sorted.end(), [&collator](const QString &a, const QString &b) {
+        return collator.compare(a, b) < 0;
+    });
+    QHash<QString, std::int64_t> places;
+    std::int64_t place = 0;
+    for (int i = 0; i < sorted.size(); ++i) {
+        if (i > 0 && collator.compare(sorted[i - 1], sorted[i]) < 0)
+            ++place;
+        places.insert(sorted[i], place);
+    }
+    return places;
 }
 
-std::vector<history::Connection> connectionsIn(const QTableWidget &table, TrueValues values)
+/// Compares each name once, however many rows show it.
+Keys profilePlaces(const QTableWidget &table)
 {
-    std::vector<history::Connection> rows;
-    rows.reserve(std::size_t(table.rowCount()));
+    QHash<QString, std::int64_t> known;
     for (int row = 0; row < table.rowCount(); ++row)
-        rows.push_back(values.take(historyRow(table, row)));
-    return rows;
+        known.insert(profileIn(table, row), 0);
+    known = placesOf(known.keys(), table.locale());
+    Keys keys;
+    keys.reserve(std::size_t(table.rowCount()));
+    for (int row = 0; row < table.rowCount(); ++row)
+        keys.push_back(known.value(profileIn(table, row)));
+    return keys;
 }
 
 /// The places of the rows in their new order.
-Order orderOf(const std::vector<history::Connection> &rows, const HistoryOrder &by,
-              const QLocale &locale)
+Order orderOf(const Rows &rows, const Keys &keys, Qt::SortOrder direction)
 {
     Order order(rows.size());
     std::iota(order.begin(), order.end(), 0);
-    // The plug-in's own order is another one each time; so that rows which are equal
-    // otherwise stay where they are, the one that was stored last comes first.
-    std::sort(order.begin(), order.end(), [&rows](int a, int b) {
-        return std::pair(rows[b].key, a) < std::pair(rows[a].key, b);
+    std::sort(order.begin(), order.end(), [&](int a, int b) {
+        if (keys[a] != keys[b])
+            return (direction == Qt::AscendingOrder) == (keys[a] < keys[b]);
+        // The plug-in's own order is another one each time; so that rows which are equal
+        // otherwise stay where they are, the one that was stored last comes first.
+        return std::tie(rows[b].startUtc, rows[b].key, a) <
+               std::tie(rows[a].startUtc, rows[a].key, b);
     });
-    sortByAmount(rows, HistoryOrder(), order);
-    if (by.column == HistoryColumn::Profile)
-        sortByProfile(rows, by.direction, locale, order);
-    else
-        sortByAmount(rows, by, order);
     return order;
-}
-
-void moveRows(QTableWidget &table, const Order &order)
-{
-    constexpr int column = int(HistoryColumn::Start);
-    const UpdatesOff off(table);
-    for (std::size_t rank = 0; rank < order.size(); ++rank) {
-        QTableWidgetItem *const shown = table.takeItem(order[rank], column);
-        table.setItem(order[rank], column, new RankItem(int(rank), shown));
-    }
-    table.model()->sort(column);
-    for (int row = 0; row < table.rowCount(); ++row) {
-        const auto *const item = static_cast<const RankItem *>(table.takeItem(row, column));
-        table.setItem(row, column, item->shown());
-        delete item;
-    }
 }
 
 } // namespace
 
-std::vector<history::Connection> sortRows(QTableWidget &table, const HistoryOrder &by,
-                                          TrueValues values)
+void sortRows(QTableWidget &table, const HistoryOrder &by, ShownConnections &shown)
 {
-    std::vector<history::Connection> rows = connectionsIn(table, std::move(values));
-    const Order order = orderOf(rows, by, table.locale());
+    const Keys keys = by.column == HistoryColumn::Profile ? profilePlaces(table)
+                                                          : amounts(shown.rows(), by.column);
+    const Order order = orderOf(shown.rows(), keys, by.direction);
+    if (std::is_sorted(order.begin(), order.end()))
+        return;
     moveRows(table, order);
-    std::vector<history::Connection> sorted;
-    sorted.reserve(rows.size());
-    for (const int row : order)
-        sorted.push_back(std::move(rows[row]));
-    return sorted;
+    shown.rearrange(order);
 }
 
 } // namespace refdialer

@@ -5,30 +5,22 @@
 
 #include <QMetaType>
 
-#include <vector>
-
 class QTableWidget;
-
-namespace history
-{
-struct Connection;
-}
 
 namespace refdialer
 {
 
-class TrueValues;
+class ShownConnections;
 
 struct HistoryOrder {
     HistoryColumn column = HistoryColumn::Start;
     Qt::SortOrder direction = Qt::DescendingOrder;
 };
 
-/// Puts the rows in this order, once; those that are equal in it stand newest
-/// first. Cells, selection and current cell move with their rows, and the
-/// table's own sorting stays as it is. Returns what the rows show now, from the top.
-std::vector<history::Connection> sortRows(QTableWidget &table, const HistoryOrder &order,
-                                          TrueValues values);
+/// Puts the rows in this order, once, and what they show with them; those that are equal
+/// in it stand newest first. Cells, selection and current cell move with their rows, and
+/// the table's own sorting stays as it is.
+void sortRows(QTableWidget &table, const HistoryOrder &order, ShownConnections &shown);
 
 } // namespace refdialer
 

@@ -17,6 +17,7 @@
 #include "ProblemLine.h"
 #include "SettingsDialog.h"
 #include "SumLabel.h"
+#include "TrueValues.h"
 #include "UsagePage.h"
 #include "ViewMenu.h"
 #include "recorder/bus/RecorderService.h"
@@ -48,7 +49,8 @@ BackgroundUnit *makeBackgroundUnit(const HistorySource &source, QObject *parent)
 
 } // namespace
 
-MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state)
+MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state,
+                       std::future<TrueValues> values)
     : m_plugin(plugin)
     , m_state(state)
     , m_background(makeBackgroundUnit(source, this))
@@ -75,7 +77,7 @@ MainWindow::MainWindow(PluginHandle &plugin, const HistorySource &source, const 
     retranslate();
     resize(usualSizeOf(*this).boundedTo(screen()->availableSize()));
     m_area.showHistory();
-    m_area.sort(HistoryOrder());
+    m_area.takeRows(values.get());
     m_historyPage->setShortest(shortestListed());
     offerBackground();
     connect(m_plans.get(), &PlanWatch::changed, this, &MainWindow::plansRead);

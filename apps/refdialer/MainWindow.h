@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <future>
 #include <memory>
 
 class QTabWidget;
@@ -22,6 +23,7 @@ class LineState;
 class PlanLine;
 class PlanWatch;
 class PluginHandle;
+class TrueValues;
 class UsagePage;
 class ViewMenu;
 
@@ -33,8 +35,10 @@ class MainWindow : public QMainWindow
 public:
     /// Shows the history of a plug-in that has been started, and tells it what
     /// becomes of connections. Both outlive the window, which ends the plug-in
-    /// before its own area goes.
-    MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state);
+    /// before its own area goes. The true values of what the plug-in has loaded may still
+    /// be on their way.
+    MainWindow(PluginHandle &plugin, const HistorySource &source, const LineState &state,
+               std::future<TrueValues> values);
     ~MainWindow() override;
 
     /// Returns when everything is shown that is read on other threads.

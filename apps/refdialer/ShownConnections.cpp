@@ -2,34 +2,48 @@
 #include "ShownConnections.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace refdialer
 {
 
-ShownConnections::ShownConnections(const std::vector<history::Connection> &rows)
+ShownConnection::ShownConnection(const history::Connection &connection)
+    : key(connection.key)
+    , fingerprint(history::Store::fingerprintOf(connection))
+    , startUtc(connection.startUtc)
+    , endUtc(connection.endUtc)
+    , values{connection.connectedSeconds, connection.uploadedBytes, connection.downloadedBytes}
 {
-    m_rows.reserve(rows.size());
-    for (const history::Connection &connection : rows) {
-        const std::uint64_t fingerprint = history::Store::fingerprintOf(connection);
-        // One that the store does not have is known by its values alone.
-        const std::uint64_t identity =
-            connection.key > 0 ? std::uint64_t(connection.key) : fingerprint;
-        m_rows.push_back(
-            {identity,
-             fingerprint,
-             {connection.connectedSeconds, connection.uploadedBytes, connection.downloadedBytes}});
-        m_fingerprint += fingerprint;
-    }
+}
+
+ShownConnections::ShownConnections(std::vector<ShownConnection> rows)
+    : m_rows(std::move(rows))
+{
+    for (const ShownConnection &row : m_rows)
+        m_fingerprint += row.fingerprint;
 }
 
 std::uint64_t ShownConnections::identity(int row) const
 {
-    return row >= 0 && row < count() ? m_rows[std::size_t(row)].identity : 0;
+    if (row < 0 || row >= count())
+        return 0;
+    const ShownConnection &connection = m_rows[std::size_t(row)];
+    // One that the store does not have is known by its values alone.
+    return connection.key > 0 ? std::uint64_t(connection.key) : connection.fingerprint;
 }
 
 ConnectionValues ShownConnections::values(int row) const
 {
     return row >= 0 && row < count() ? m_rows[std::size_t(row)].values : ConnectionValues();
+}
+
+void ShownConnections::rearrange(const std::vector<int> &order)
+{
+    std::vector<ShownConnection> rows;
+    rows.reserve(order.size());
+    for (const int row : order)
+        rows.push_back(m_rows[std::size_t(row)]);
+    m_rows = std::move(rows);
 }
 
 void ShownConnections::remove(int first, int last)

@@ -16,14 +16,27 @@ struct ConnectionValues {
     std::int64_t downloadedBytes = 0;
 };
 
+/// What the window keeps of a connection that a row shows: as many as there are rows.
+struct ShownConnection {
+    ShownConnection() = default;
+    explicit ShownConnection(const history::Connection &connection);
+
+    std::int64_t key = 0; ///< 0 for one that the store does not have
+    std::uint64_t fingerprint = 0;
+    std::int64_t startUtc = 0;
+    std::int64_t endUtc = 0;
+    ConnectionValues values;
+};
+
 /// Which connections the history table shows, row by row from the top.
 class ShownConnections
 {
 public:
     ShownConnections() = default;
-    explicit ShownConnections(const std::vector<history::Connection> &rows);
+    explicit ShownConnections(std::vector<ShownConnection> rows);
 
     int count() const { return int(m_rows.size()); }
+    const std::vector<ShownConnection> &rows() const { return m_rows; }
     /// Tells the row's connection from all others, also after they are loaded anew;
     /// 0 if there is no such row.
     std::uint64_t identity(int row) const;
@@ -32,17 +45,13 @@ public:
     /// What Store::fingerprint gives for a store of just these.
     std::uint64_t fingerprint() const { return m_fingerprint; }
 
+    /// The rows have moved: `order` has the former place of each, from the top.
+    void rearrange(const std::vector<int> &order);
     /// The rows from `first` to `last` are not in the table any more.
     void remove(int first, int last);
 
 private:
-    struct Row {
-        std::uint64_t identity;
-        std::uint64_t fingerprint;
-        ConnectionValues values;
-    };
-
-    std::vector<Row> m_rows;
+    std::vector<ShownConnection> m_rows;
     std::uint64_t m_fingerprint = 0;
 };
 

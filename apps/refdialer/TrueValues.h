@@ -2,13 +2,21 @@
 #pragma once
 
 #include "HistoryRow.h"
+#include "ShownConnections.h"
 
-#include "history/Store.h"
+#include <QHash>
 
 #include <cstddef>
 #include <cstdint>
+#include <future>
+#include <string>
 #include <utility>
 #include <vector>
+
+namespace usage
+{
+class LocalClock;
+}
 
 namespace refdialer
 {
@@ -20,29 +28,41 @@ class TrueValues
 public:
     /// The finished connections in the store at this path; none if it cannot be read.
     static TrueValues readFrom(const std::string &storePath);
+    /// The same on a thread of its own, for who has something else to do meanwhile.
+    static std::future<TrueValues> beginReading(const std::string &storePath);
 
-    explicit TrueValues(std::vector<history::Connection> connections);
+    TrueValues() = default;
+    explicit TrueValues(const std::vector<history::Connection> &connections);
 
     /// The connection that the row shows, or what can be read from the row itself,
     /// with the key 0, where the store has none. Each connection is given once, so that rows which
     /// show the same still differ.
-    history::Connection take(const HistoryRow &row);
+    ShownConnection take(const HistoryRow &row);
 
 private:
     /// Seconds as a clock on the wall shows them: a row knows no time zone, and at the
     /// end of summer time one hour is shown twice.
     using Times = std::pair<std::int64_t, std::int64_t>;
 
+    /// What a connection is found by; small, since many are looked at to find one.
     struct Entry {
         Times times;
-        std::size_t index = 0; // of the connection
-        bool isTaken = false;
+        int profile; // its number
+        int index;   // of the connection; -1 once it is taken
     };
 
+    void reserve(std::size_t count);
+    void add(const history::Connection &connection, const usage::LocalClock &clock);
+    void sortByTimes();
     Entry *entryShownBy(const HistoryRow &row);
+    const ConnectionValues &valuesOf(const Entry &entry) const;
 
-    std::vector<history::Connection> m_connections;
-    std::vector<Entry> m_entries; // by their times
+    std::vector<ShownConnection> m_connections;
+    std::vector<Entry> m_entries;   // by their times
+    QHash<QString, int> m_profiles; // many connections share one
 };
+
+/// What the rows of the plug-in's table show, from the top.
+ShownConnections shownIn(const QTableWidget &table, TrueValues values);
 
 } // namespace refdialer

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HistoryWindow.h"
 
+#include "apps/refdialer/TrueValues.h"
 #include "refhost/libcore/Host.h"
 
 #include <SQLiteCpp/Database.h>
@@ -83,11 +84,13 @@ bool HistoryWindow::open(bool hasDialupService)
 {
     if (hasDialupService)
         m_container.add(m_service.classId(), m_service.root());
+    auto values = refdialer::TrueValues::beginReading(m_storePath);
     m_plugin = refdialer::PluginHandle::load(pluginFile());
     if (!m_plugin->start())
         return false;
     m_window = std::make_unique<refdialer::MainWindow>(
-        *m_plugin, refdialer::HistorySource{QString::fromStdString(m_storePath), false}, m_state);
+        *m_plugin, refdialer::HistorySource{QString::fromStdString(m_storePath), false}, m_state,
+        std::move(values));
     refhost::setMainWindow(m_window.get());
     m_window->show();
     return QTest::qWaitForWindowActive(m_window.get()) && m_window->findChild<QTableWidget *>();

@@ -9,6 +9,7 @@
 #include "apps/refdialer/SettingsDialog.h"
 #include "apps/refdialer/SortMenu.h"
 #include "apps/refdialer/SummaryChoice.h"
+#include "apps/refdialer/TrueValues.h"
 
 #include <QAction>
 #include <QApplication>
@@ -111,7 +112,8 @@ void TestMainWindow::init()
     m_recording = new RecordingPlugin(m_calls);
     m_plugin = PluginHandle::adopt(m_recording);
     QVERIFY(m_plugin);
-    m_window = std::make_unique<MainWindow>(*m_plugin, refdialer::HistorySource{}, m_state);
+    m_window = std::make_unique<MainWindow>(*m_plugin, refdialer::HistorySource{}, m_state,
+                                            refdialer::TrueValues::beginReading(std::string()));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }

@@ -2,6 +2,7 @@
 #include "HistoryWindow.h"
 #include "MenuEntry.h"
 #include "RecordingPlugin.h"
+#include "apps/refdialer/TrueValues.h"
 #include "refhost/libcore/Host.h"
 
 #include <QAction>
@@ -89,7 +90,8 @@ void StatisticsEntryTest::isGreyedWithAReasonBesideAPluginWithoutMetadata()
     QStringList calls;
     const auto plugin = refdialer::PluginHandle::adopt(new RecordingPlugin(calls));
     const refdialer::LineState state;
-    const refdialer::MainWindow window(*plugin, refdialer::HistorySource{}, state);
+    const refdialer::MainWindow window(*plugin, refdialer::HistorySource{}, state,
+                                       refdialer::TrueValues::beginReading(std::string()));
     const QAction *const greyed = menuEntry(window, {"View", "Statistics…"});
     QVERIFY(greyed && !greyed->isEnabled());
     QVERIFY(greyed->toolTip().contains("--plugin"));
