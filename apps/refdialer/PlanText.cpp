@@ -49,13 +49,13 @@ QString PlanText::ofPeriod(const PlanStatus &status, std::int64_t amount)
 {
     const auto [used, whole] = usage::shortPartText(status.used, amount);
     const std::int64_t left = status.left.value_or(0);
+    const QString over = shortSizeText(usage::saturatingDifference(0, left), Rounding::Down);
     const bool isLastDay = status.daysLeft == 1;
     if (left < 0 && isLastDay)
-        return tr("%1 of %2 used, %3 over, today is the last day")
-            .arg(used, whole, shortSizeText(usage::saturatingDifference(0, left)));
+        return tr("%1 of %2 used, %3 over, today is the last day").arg(used, whole, over);
     if (left < 0)
         return tr("%1 of %2 used, %3 over, %n days left", nullptr, status.daysLeft)
-            .arg(used, whole, shortSizeText(usage::saturatingDifference(0, left)));
+            .arg(used, whole, over);
     if (isLastDay)
         return tr("%1 of %2 used, %3 left, today is the last day")
             .arg(used, whole, shortSizeText(left, Rounding::Down));
@@ -65,7 +65,7 @@ QString PlanText::ofPeriod(const PlanStatus &status, std::int64_t amount)
 
 QString PlanText::ofUnlimited(const PlanStatus &status)
 {
-    const QString used = shortSizeText(status.used);
+    const QString used = shortSizeText(status.used, Rounding::Down);
     if (status.daysLeft == 1)
         return tr("%1 used, today is the last day").arg(used);
     return tr("%1 used, %n days left", nullptr, status.daysLeft).arg(used);

@@ -49,6 +49,9 @@ void WarningTextTest::leavesAByteOfAPlan()
 {
     QCOMPARE(common::warningDetails(reached(10 * megabyte - 1)),
              QString("9.99 MB of 10.00 MB, 0.00 KB left until 2026-11-30."));
+    usage::ReachedPlan smaller = reached(10 * megabyte - 1);
+    smaller.plan.amount = 10 * megabyte - 1;
+    QVERIFY(common::warningDetails(smaller).startsWith("9.99 MB of 9.99 MB"));
 }
 
 void WarningTextTest::saysHowLongASpentPlanLasts()

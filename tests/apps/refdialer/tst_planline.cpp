@@ -164,6 +164,8 @@ void TestPlanLine::tellsHowAPlanStands_data()
         "plan|100 %|Used up|0 KB of 0 KB used, 12 days left, 0 KB a day");
     row("without an amount", unlimited(MonthlyFrom{1}), 1536 * 1024, noonOfThe19th,
         "plan|1.5 MB used, 12 days left");
+    row("without an amount, a byte below", unlimited(MonthlyFrom{1}), gigabyte - 1, noonOfThe19th,
+        "plan|1023 MB used, 12 days left");
     row("without an amount, on the last day", unlimited(MonthlyFrom{1}), 1536 * 1024, lastDay,
         "plan|1.5 MB used, today is the last day");
 
