@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <limits>
+#include <optional>
 
 namespace history
 {
@@ -21,6 +22,8 @@ struct TimeRange {
 /// Which connections Store::visit() shows: all, but for what is given.
 struct ConnectionSelection {
     TimeRange range; ///< of their starts
+    /// Finished ones with higher keys only, which have come later.
+    std::optional<std::int64_t> afterKey;
     /// Asked of those; it may be asked twice of one, whose hours are not there yet.
     std::function<bool(const ConnectionBase &connection)> isWanted;
     /// That many finished ones at most, the ones that started last.

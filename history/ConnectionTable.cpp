@@ -42,7 +42,7 @@ std::vector<Connection> storedCandidates(SQLite::Database &database,
 
 } // namespace
 
-ConnectionQuery::ConnectionQuery(const SQLite::Database &database, const char *condition)
+ConnectionQuery::ConnectionQuery(const SQLite::Database &database, const std::string &condition)
     : RowQuery(database, selectionOf(connectionFields, ConnectionTable::name) + condition)
 {
 }

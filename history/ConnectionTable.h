@@ -81,7 +81,7 @@ private:
 class ConnectionQuery : public RowQuery
 {
 public:
-    ConnectionQuery(const SQLite::Database &database, const char *condition);
+    ConnectionQuery(const SQLite::Database &database, const std::string &condition);
 
     ConnectionRow row() const { return ConnectionRow(RowQuery::row()); }
 };

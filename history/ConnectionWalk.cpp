@@ -7,6 +7,23 @@
 namespace history
 {
 
+namespace
+{
+
+// Keys are in the index by which it is sorted: rows that are not wanted are not read.
+const std::string isInRange =
+    "WHERE start_utc >= ?1 AND start_utc < ?2 AND (?3 IS NULL OR key > ?3)";
+
+void bind(ConnectionQuery &query, std::int64_t fromUtc, const ConnectionSelection &selection)
+{
+    query.bind(1, fromUtc);
+    query.bind(2, selection.range.untilUtc);
+    if (selection.afterKey)
+        query.bind(3, *selection.afterKey);
+}
+
+} // namespace
+
 ConnectionWalk::ConnectionWalk(SQLite::Database &database, HourTable &hours,
                                const ConnectionSelection &selection)
     : m_database(database)
@@ -22,10 +39,8 @@ std::size_t ConnectionWalk::visit(const ConnectionVisitor &visitor)
     const bool isLimited = m_selection.most < std::numeric_limits<std::size_t>::max();
     if (isLimited && !findFirst())
         return 0;
-    ConnectionQuery query(m_database,
-                          "WHERE start_utc >= ? AND start_utc < ? ORDER BY start_utc, key");
-    query.bind(1, m_firstUtc);
-    query.bind(2, m_selection.range.untilUtc);
+    ConnectionQuery query(m_database, isInRange + " ORDER BY start_utc, key");
+    bind(query, m_firstUtc, m_selection);
     std::size_t count = 0;
     while (query.next()) {
         query.row().readInto(m_connection);
@@ -48,10 +63,8 @@ bool ConnectionWalk::isSelected(const Connection &connection) const
 /// Goes back from the newest one, which costs as much as what is to be shown.
 bool ConnectionWalk::findFirst()
 {
-    ConnectionQuery query(m_database, "WHERE start_utc >= ? AND start_utc < ?"
-                                      " ORDER BY start_utc DESC, key DESC");
-    query.bind(1, m_selection.range.fromUtc);
-    query.bind(2, m_selection.range.untilUtc);
+    ConnectionQuery query(m_database, isInRange + " ORDER BY start_utc DESC, key DESC");
+    bind(query, m_selection.range.fromUtc, m_selection);
     std::size_t found = 0;
     std::int64_t utc = 0;
     std::int64_t key = 0;

@@ -11,10 +11,11 @@ constexpr std::size_t pieceBytes = 65536;
 
 } // namespace
 
-history::Result<std::size_t>
-writeConnections(const history::Store &store, const history::ConnectionSelection &selection,
-                 const Extent &extent, formats::ConnectionWriter &writer, const TextSink &sink,
-                 const history::Store::Progress &progress)
+history::Result<std::size_t> writeConnections(const history::Store &store,
+                                              const history::ConnectionSelection &selection,
+                                              Running running, formats::ConnectionWriter &writer,
+                                              const TextSink &sink,
+                                              const history::Store::Progress &progress)
 {
     std::string text;
     std::size_t done = 0;
@@ -29,8 +30,6 @@ writeConnections(const history::Store &store, const history::ConnectionSelection
             progress(done);
     };
     const auto add = [&](const history::Connection &connection) {
-        if (connection.key <= extent.afterKey)
-            return;
         writer.add(connection, text);
         finishOne();
     };
@@ -38,8 +37,8 @@ writeConnections(const history::Store &store, const history::ConnectionSelection
         writer.addRunning(connection, text);
         finishOne();
     };
-    auto count =
-        extent.hasRunning ? store.visit(selection, add, addRunning) : store.visit(selection, add);
+    auto count = running == Running::Written ? store.visit(selection, add, addRunning)
+                                             : store.visit(selection, add);
     if (!count)
         return count;
     writer.end(text);

@@ -5,9 +5,7 @@
 #include "history/Store.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
-#include <limits>
 #include <string_view>
 
 namespace common
@@ -16,19 +14,16 @@ namespace common
 /// Takes the next piece of a text, of whole characters.
 using TextSink = std::function<void(std::string_view piece)>;
 
-/// What of the selected connections a document holds: without more, all that are finished.
-struct Extent {
-    /// Finished ones with higher keys only, which have come later.
-    std::int64_t afterKey = std::numeric_limits<std::int64_t>::min();
-    bool hasRunning = false; ///< those that last, too
-};
+/// Whether a document holds the connections that last, behind those that are finished.
+enum class Running { LeftOut, Written };
 
 /// Writes the document of the selected connections piece by piece, holding one at a time,
 /// and returns how many those were. What the functions given throw is passed on. Until
 /// the store has opened the history and read some of it, nothing is written.
-history::Result<std::size_t>
-writeConnections(const history::Store &store, const history::ConnectionSelection &selection,
-                 const Extent &extent, formats::ConnectionWriter &writer, const TextSink &sink,
-                 const history::Store::Progress &progress = {});
+history::Result<std::size_t> writeConnections(const history::Store &store,
+                                              const history::ConnectionSelection &selection,
+                                              Running running, formats::ConnectionWriter &writer,
+                                              const TextSink &sink,
+                                              const history::Store::Progress &progress = {});
 
 } // namespace common

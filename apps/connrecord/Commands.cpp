@@ -49,8 +49,9 @@ void write(const std::string &storePath, const history::ConnectionSelection &sel
 {
     giveBackUnusedMemory(); // what only the start of the program has needed
     const auto store = valueOrFailure(history::Store::openForReading(storePath));
-    valueOrFailure(common::writeConnections(
-        store, selection, {}, writer, [&output](std::string_view piece) { output.add(piece); }));
+    valueOrFailure(
+        common::writeConnections(store, selection, common::Running::LeftOut, writer,
+                                 [&output](std::string_view piece) { output.add(piece); }));
     output.complete();
 }
 

@@ -124,16 +124,16 @@ void exportConnections(const CommonRequest &common, const ExportRequest &request
     formats::ExportOptions options;
     if (request.format->namesMachine)
         options.machine = machineFor(request);
-    common::Extent extent;
-    extent.hasRunning = request.after || request.format->namesMachine;
+    const auto running = request.after || request.format->namesMachine ? common::Running::Written
+                                                                       : common::Running::LeftOut;
     if (request.after) {
         options.delivery = deliveryFor(common.storePath, *request.after);
-        extent.afterKey = options.delivery->afterKey;
+        selection.afterKey = options.delivery->afterKey;
     }
     giveBackUnusedMemory(); // what only the start of the program has needed
     const auto store = valueOrFailure(history::Store::openForReading(common.storePath));
     valueOrFailure(common::writeConnections(
-        store, selection, extent, *writerFor(*request.format, options, output),
+        store, selection, running, *writerFor(*request.format, options, output),
         [&output](std::string_view piece) { output.add(piece); }));
     output.complete();
 }

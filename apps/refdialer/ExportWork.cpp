@@ -78,11 +78,11 @@ std::size_t ExportWork::write(const history::Store &store, common::ReplacementFi
 {
     history::ConnectionSelection all;
     all.withHours = m_choice.format->carriesHours;
-    common::Extent extent;
-    extent.hasRunning = m_choice.format->namesMachine;
+    const auto running =
+        m_choice.format->namesMachine ? common::Running::Written : common::Running::LeftOut;
     const auto writer = m_choice.format->writer(options());
     return valueOrFailure(common::writeConnections(
-        store, all, extent, *writer, [&file](std::string_view piece) { file.write(piece); },
+        store, all, running, *writer, [&file](std::string_view piece) { file.write(piece); },
         [&progress](std::size_t done) { progress.update(static_cast<std::int64_t>(done)); }));
 }
 

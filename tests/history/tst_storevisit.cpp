@@ -61,6 +61,7 @@ private slots:
     void showsHoursIfTheyAreWanted();
     void showsTheOnesThatStartedLast_data();
     void showsTheOnesThatStartedLast();
+    void showsThoseThatCameLater();
     void showsThoseThatLastBehind();
     void showsOneMoment();
     void passesOnWhatAVisitorThrows();
@@ -125,6 +126,22 @@ void StoreVisitTest::showsTheOnesThatStartedLast()
         return std::stoi(each.profile) % 2 == 0;
     };
     QTEST(visited(store, selection), "even");
+}
+
+void StoreVisitTest::showsThoseThatCameLater()
+{
+    Store store = storeWith(m_path, {connection("1", 30, 40), connection("2", 20, 21),
+                                     connection("3", 10, 11), connection("4", 40, 41)});
+    QVERIFY(store.begin(lasting("open", 1, 5)));
+    ConnectionSelection selection;
+    selection.afterKey = 2;
+    QCOMPARE(visited(store, selection), QString("3 4 [open]"));
+    selection.most = 1;
+    QCOMPARE(visited(store, selection), QString("4 [open]"));
+    selection.most = 3;
+    QCOMPARE(visited(store, selection), QString("3 4 [open]"));
+    selection.afterKey = 4;
+    QCOMPARE(visited(store, selection), QString("[open]"));
 }
 
 void StoreVisitTest::showsThoseThatLastBehind()

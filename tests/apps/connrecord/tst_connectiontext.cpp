@@ -168,7 +168,7 @@ void ConnectionTextTest::writesPieceByPiece()
     std::size_t written = 0;
     std::vector<std::size_t> pieces; // what was written of the connections when each came
     const auto count = common::writeConnections(
-        store.value(), {}, {}, *csvWriter(),
+        store.value(), {}, common::Running::LeftOut, *csvWriter(),
         [&](std::string_view piece) {
             text += piece;
             pieces.push_back(written);
