@@ -22,16 +22,25 @@ void ExpectedHistory::init()
     fetch();
 }
 
-void ExpectedHistory::connectionStatus(unsigned int status)
+bool ExpectedHistory::connectionStatus(unsigned int status)
 {
     if (!m_hasWindow || !answers.hasDialupService)
-        return;
+        return false;
     m_wasConnected = m_wasConnected || status == 1;
     if (status != 0 || !m_wasConnected || m_isSuppressed)
-        return;
+        return false;
     m_wasConnected = false;
-    if (answers.wantsSummary)
+    return true;
+}
+
+void ExpectedHistory::endConnection()
+{
+    if (!m_hasWindow)
+        return;
+    if (answers.wantsSummary) {
         m_hasSummary = answers.hasLastRecord;
+        m_summaries += m_hasSummary ? 1 : 0;
+    }
     fetch();
 }
 
@@ -51,6 +60,8 @@ void ExpectedHistory::end()
     m_hasWindow = false;
     m_hasTable = false;
     m_hasSummary = false;
+    m_hasStatistics = false;
+    m_isCounted = false;
     m_keyOfId.clear();
 }
 
@@ -58,6 +69,7 @@ void ExpectedHistory::fetch()
 {
     m_keyOfId.clear();
     m_fillings += m_hasTable ? 1 : 0;
+    m_isCounted = answers.canList;
     if (!answers.canList || !answers.handsOutArray)
         return;
     sdk.handOut();
@@ -94,6 +106,7 @@ void ExpectedHistory::confirmDeleteAll(const Question &question)
     for (auto rest = m_keyOfId.size(); rest > 0; --rest)
         sdk.remove(0);
     m_keyOfId.clear();
+    m_isCounted = false;
     m_fillings += m_hasTable ? 1 : 0;
 }
 

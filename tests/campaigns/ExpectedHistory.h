@@ -27,10 +27,14 @@ public:
 
     void replaceRoot();
     void init();
-    void connectionStatus(unsigned int status);
+    /// Whether the plug-in asks for its setting now; endConnection() is what follows.
+    bool connectionStatus(unsigned int status);
+    void endConnection();
     void suppressSummaries();
     void applyTexts();
-    void destroyTable() { m_hasTable = false; }
+    void destroyTable() { m_hasTable = m_hasStatistics = false; }
+    void showStatistics() { m_hasStatistics = true; }
+    void destroyStatistics() { m_hasStatistics = false; }
     void closeSummary() { m_hasSummary = false; }
     void end();
 
@@ -47,6 +51,12 @@ public:
     bool hasWindow() const { return m_hasWindow; }
     bool hasTable() const { return m_hasTable; }
     bool hasSummary() const { return m_hasSummary; }
+    /// How many summaries there have been.
+    int summaries() const { return m_summaries; }
+    bool hasStatistics() const { return m_hasStatistics; }
+    /// Whether there is anything that the statistics could add up, and of what.
+    bool isCounted() const { return m_isCounted; }
+    QVector<int> countedKeys() const { return m_keyOfId.values().toVector(); }
     /// The keys on screen, ascending; none without a table.
     QVector<int> rows() const;
     /// What stands before each header text; null before any was set.
@@ -58,10 +68,13 @@ private:
     bool m_hasWindow = false;
     bool m_hasTable = false;
     bool m_hasSummary = false;
+    bool m_hasStatistics = false;
+    bool m_isCounted = false;
     bool m_isSuppressed = false;
     bool m_wasConnected = false; // as long as the process lives
     QString m_headerPrefix;
     QMap<int, int> m_keyOfId;
-    int m_window = 0;   // counts the windows that there have been
+    int m_window = 0; // counts the windows that there have been
+    int m_summaries = 0;
     int m_fillings = 0; // counts the changes of the table's rows
 };

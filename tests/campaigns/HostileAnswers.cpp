@@ -2,6 +2,7 @@
 // What a hostile host answers, and what happens to its records meanwhile.
 #include "HostileHost.h"
 
+#include <QDateTime>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -38,7 +39,11 @@ void HostileHost::recordConnection()
     if (m_sdk.keys.size() >= mostRecords)
         return;
     const int key = ++m_lastKey;
-    const QByteArray start = QByteArray::number(m_random.below(2000000000));
+    // Half of them in the months that the statistics show.
+    const qint64 seconds =
+        m_random.once(2) ? m_random.below(2000000000)
+                         : QDateTime::currentSecsSinceEpoch() - m_random.below(100 * 24 * 3600);
+    const QByteArray start = QByteArray::number(seconds);
     const QByteArray amounts[] = {"0", "1024", "99999999999", "-1", "no number", "1e300", ""};
     _KORA_ST_CONNRECORD record =
         scripted::record(QString::number(key), start, start, m_random.oneOf(amounts),
@@ -46,6 +51,7 @@ void HostileHost::recordConnection()
     if (m_random.once(8)) // an extra text without its terminator
         std::fill(std::begin(record.szExtraText2), std::end(record.szExtraText2), '\xfe');
     m_records.insert(key, record);
+    m_everRecorded.insert(key, record);
     m_sdk.keys.append(key);
     if (m_random.once(12))
         m_sdk.stuck.insert(key);

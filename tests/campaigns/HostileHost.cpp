@@ -31,6 +31,7 @@ HostileHost::HostileHost(std::uint64_t seed)
         return status;
     };
     host.handedOut = [this] { m_sdk.handOut(); };
+    host.settingAsked = [this] { doWhileSettingIsAsked(); };
     replaceRoot();
 }
 
@@ -75,7 +76,11 @@ const std::vector<HostileHost::Action> &HostileHost::actions()
         {"open the menu", 12, &HostileHost::openMenu},
         {"click the summary away", 3, &HostileHost::clickSummary},
         {"close the summary", 1, &HostileHost::closeSummary},
-        {"ask for the statistics", 1, &HostileHost::clickStatistics},
+        {"ask for the statistics", 4, &HostileHost::clickStatistics},
+        {"choose in the statistics", 4, &HostileHost::chooseInStatistics},
+        {"click the statistics away", 1, &HostileHost::clickStatisticsAway},
+        {"close the statistics", 1, &HostileHost::closeStatistics},
+        {"destroy the statistics", 1, &HostileHost::destroyStatistics},
         {"record a connection", 20, &HostileHost::recordConnection},
         {"remove a record elsewhere", 3, &HostileHost::removeElsewhere},
         {"change the answers", 6, &HostileHost::changeAnswers},
@@ -244,10 +249,27 @@ void HostileHost::notifyStatus()
 {
     const unsigned int statuses[] = {0, 0, 0, 1, 1, 1, 2, 0xffffffffU};
     const unsigned int status = m_random.oneOf(statuses);
-    const bool hadSummary = m_expected.hasSummary();
-    m_expected.connectionStatus(status);
-    m_summaries += m_expected.hasSummary() && !hadSummary ? 1 : 0;
+    const int summaries = m_expected.summaries();
+    const bool isToAsk = m_expected.connectionStatus(status);
+    const auto asked = m_settings;
     expect("Notify", m_plugin->notify()->Notify(1536, status, 7), 0U);
+    expect("Notify asks for the setting", m_settings - asked, isToAsk ? 1 : 0);
+    m_summaries += m_expected.summaries() - summaries;
+}
+
+/// What a host may do in the middle of the plug-in's work, but not to its root object.
+void HostileHost::doWhileSettingIsAsked()
+{
+    ++m_settings;
+    void (HostileHost::*const events[])() = {
+        &HostileHost::callOnDestroy,     &HostileHost::destroyArea,
+        &HostileHost::destroyMainWindow, &HostileHost::destroyContainer,
+        &HostileHost::closeSummary,      &HostileHost::destroyStatistics,
+        &HostileHost::recordConnection,  &HostileHost::removeElsewhere,
+        &HostileHost::changeAnswers,     &HostileHost::clickStatistics};
+    if (m_random.once(3))
+        (this->*m_random.oneOf(events))();
+    m_expected.endConnection();
 }
 
 void HostileHost::notifyUnknown()
@@ -256,10 +278,15 @@ void HostileHost::notifyUnknown()
     expect("Notify", m_plugin->notify()->Notify(m_random.oneOf(events), 1, 1), 0U);
 }
 
-void HostileHost::end()
+void HostileHost::callOnDestroy()
 {
     m_expected.end();
     static_cast<IDestroyEvent *>(m_plugin->ui())->OnDestroy();
+}
+
+void HostileHost::end()
+{
+    callOnDestroy();
     // What comes next finds no window, until the host asks for a new root.
     if (m_random.once(2))
         replaceRoot();
@@ -269,56 +296,4 @@ void HostileHost::endTwice()
 {
     static_cast<IDestroyEvent *>(m_plugin->ui())->OnDestroy();
     end();
-}
-
-void HostileHost::destroy(QPointer<QWidget> &widget)
-{
-    const bool holdsContainer = widget && m_expected.hasTable() && widget->isAncestorOf(table());
-    const bool holdsSummary = widget && summary() && summary()->parentWidget() == widget;
-    if (holdsContainer)
-        m_expected.destroyTable();
-    if (holdsSummary)
-        m_expected.closeSummary();
-    delete widget;
-}
-
-void HostileHost::destroyArea()
-{
-    destroy(m_area);
-}
-
-void HostileHost::destroyMainWindow()
-{
-    destroy(m_mainWindow);
-}
-
-void HostileHost::destroyContainer()
-{
-    QPointer<QWidget> container = m_expected.hasTable() ? table()->parentWidget() : nullptr;
-    destroy(container);
-}
-
-void HostileHost::sortRows()
-{
-    if (m_expected.hasTable())
-        table()->sortItems(m_random.below(6),
-                           m_random.once(2) ? Qt::AscendingOrder : Qt::DescendingOrder);
-}
-
-void HostileHost::hideRow()
-{
-    if (m_expected.hasTable() && table()->rowCount() > 0)
-        table()->setRowHidden(m_random.below(table()->rowCount()), m_random.once(2));
-}
-
-void HostileHost::handleEvents()
-{
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-void HostileHost::paint()
-{
-    if (m_expected.hasTable())
-        table()->window()->grab();
 }

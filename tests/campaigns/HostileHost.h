@@ -40,6 +40,9 @@ public:
     int questions() const { return m_questions; }
     int menus() const { return m_menus; }
     int summaries() const { return m_summaries; }
+    /// How often the statistics were shown, and how often they had bytes to show.
+    int statisticsShown() const { return m_statistics; }
+    int statisticsWithBytes() const { return m_countedBytes; }
 
 private:
     struct Action {
@@ -68,6 +71,8 @@ private:
     void notifyUnknown();
     void end();
     void endTwice();
+    void callOnDestroy();
+    void doWhileSettingIsAsked();
 
     // What the host does to its own windows, and to the plug-in's.
     void destroyArea();
@@ -88,7 +93,13 @@ private:
     void pressInMenu(QMenu &menu);
     void clickSummary();
     void closeSummary();
+
+    // What the user does with the statistics, where the plug-in has them.
     void clickStatistics();
+    void chooseInStatistics();
+    void clickStatisticsAway();
+    void closeStatistics();
+    void destroyStatistics();
 
     // What happens meanwhile, and how things stand from now on.
     void recordConnection();
@@ -119,6 +130,9 @@ private:
     void expect(const char *what, const Value &is, const Value &shouldBe);
     QTableWidget *table() const;
     QWidget *summary() const;
+    static QWidget *statistics();
+    void compareStatistics(int monthsAgo);
+    QString statisticsValue(const char *label) const;
     QVector<int> rowsOnScreen() const;
     QVector<int> selectedKeys() const;
 
@@ -127,6 +141,7 @@ private:
     ExpectedHistory m_expected;
     NumberedSdk m_sdk;
     QHash<int, _KORA_ST_CONNRECORD> m_records;
+    QHash<int, _KORA_ST_CONNRECORD> m_everRecorded;
     int m_lastKey = 0;
     std::unique_ptr<LoadedPlugin> m_plugin;
     QPointer<QWidget> m_area;
@@ -137,6 +152,9 @@ private:
     int m_questions = 0;
     int m_menus = 0;
     int m_summaries = 0;
+    int m_settings = 0;
+    int m_statistics = 0;
+    int m_countedBytes = 0;
     QString m_complaint;
     QStringList m_trace;
 };

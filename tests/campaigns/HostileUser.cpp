@@ -173,16 +173,12 @@ void HostileHost::closeSummary()
         summary()->close();
 }
 
-void HostileHost::clickStatistics()
-{
-    invokeSlot("OnAccumulateClicked");
-}
-
 void HostileHost::compare()
 {
     expect("a history window", m_plugin->historyWindow() != nullptr, m_expected.hasWindow());
     expect("a table", table() != nullptr, m_expected.hasTable());
     expect("a summary", summary() != nullptr, m_expected.hasSummary());
+    expect("statistics", statistics() != nullptr, m_expected.hasStatistics());
     expect("the rows", rowsOnScreen(), m_expected.rows());
     expect("the SDK's records", m_sdk.keys, m_expected.sdk.keys);
     expect("arrays not given back", scripted::Host::instance().openArrays, 0);

@@ -47,9 +47,11 @@ void tst_HostileHost::staysWhatItShouldBe()
     if (!host.complaint().isEmpty())
         QFAIL(qPrintable(host.complaint() + QLatin1String("\nLast steps:\n") +
                          host.trace().join(QLatin1Char('\n'))));
-    qInfo("%d steps, %d questions, %d menus, %d summaries", host.steps(), host.questions(),
-          host.menus(), host.summaries());
+    qInfo("%d steps, %d questions, %d menus, %d summaries, %d statistics, %d with bytes",
+          host.steps(), host.questions(), host.menus(), host.summaries(), host.statisticsShown(),
+          host.statisticsWithBytes());
     QVERIFY(host.questions() > 0 && host.menus() > 0 && host.summaries() > 0);
+    QCOMPARE(host.statisticsShown() > 0, host.statisticsWithBytes() > 0);
 }
 
 void tst_HostileHost::leavesNothingBehindWhenItIsUnloaded()
