@@ -95,6 +95,19 @@ expect 'mode of a file that was there' 640 "$(stat -c %a "$work/connrecord.prom"
 refuse 2 'prometheus|openmetrics' metrics --format xml
 refuse 5 'belongs to the history' metrics --output "$store"
 
+# Sums that no reader could hold, within a group and over several ones.
+for places in 'home home' 'home roaming'; do
+    (
+        store="$work/huge $places.db"
+        start=0
+        for place in $places; do
+            printf '%s\n' "$(run export)" "huge,2024-05-3$((start++))T18:30:00Z,2024-05-31T18:31:00Z,60,$(((1 << 63) - 1)),0,normal,ppp0,,,,$place," |
+                run import --format csv - >/dev/null
+        done
+        refuse 1 'than can be added up' metrics
+    )
+done
+
 # deliver KEY [OPTION...]
 deliver() { run export --format jsonl --machine bus --after "$@"; }
 keys() { deliver "$@" | sed -n 's/.*"key":\([0-9]*\).*"running":\([a-z]*\).*/\1 \2/p'; }

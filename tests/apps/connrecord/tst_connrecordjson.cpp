@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "ChangingHistory.h"
+#include "DeliveryReceiver.h"
 #include "SampleHistory.h"
 #include "history/Store.h"
 
 #include <QTest>
+
+#include <algorithm>
+#include <vector>
 
 using namespace history;
 
@@ -16,6 +21,8 @@ private slots:
     void exportsWhatIsAsked_data();
     void exportsWhatIsAsked();
     void tellsTheWrongMemberAndStoresNothing();
+    void deliversAllThatHappens_data();
+    void deliversAllThatHappens();
 };
 
 namespace
@@ -97,6 +104,37 @@ void ConnrecordJsonTest::tellsTheWrongMemberAndStoresNothing()
     QVERIFY2(result.error.startsWith("connrecord: standard input, connection 3: member "),
              result.error);
     QVERIFY(!QFile::exists(other));
+}
+
+void ConnrecordJsonTest::deliversAllThatHappens_data()
+{
+    QTest::addColumn<unsigned>("seed");
+    QTest::newRow("seed 1") << 1U;
+    QTest::newRow("seed 2") << 2U;
+}
+
+/// With a delivery now and then; these arrive in any order, some twice.
+void ConnrecordJsonTest::deliversAllThatHappens()
+{
+    QFETCH(unsigned, seed);
+    const SampleHistory machine;
+    ChangingHistory history(machine.path().toStdString(), seed);
+    std::vector<QByteArray> deliveries;
+    qint64 after = 0;
+    for (int delivered = 0; delivered < 8; ++delivered) {
+        for (int step = 0; step < 5; ++step)
+            history.change();
+        deliveries.push_back(
+            machine.run({"export", "--format", "jsonl", "--after", QString::number(after)}).output);
+        after = lastKeyOf(deliveries.back());
+    }
+    for (std::size_t again = deliveries.size(); again-- > 0;)
+        deliveries.push_back(deliveries[history.random()() % deliveries.size()]);
+    std::shuffle(deliveries.begin(), deliveries.end(), history.random());
+    DeliveryReceiver receiver;
+    for (const QByteArray &each : deliveries)
+        receiver.take(each);
+    QVERIFY(receiver.sent() == history.sent());
 }
 
 QTEST_GUILESS_MAIN(ConnrecordJsonTest)
