@@ -104,6 +104,15 @@ function(netinforecord_folder_library target)
         VISIBILITY_INLINES_HIDDEN ON)
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${target} PRIVATE netinforecord_settings)
+    netinforecord_count_coverage(${target})
+endfunction()
+
+# Counts what runs of these sources, for scripts/coverage.sh.
+function(netinforecord_count_coverage target)
+    if(NETINFORECORD_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage)
+        target_link_options(${target} INTERFACE --coverage)
+    endif()
 endfunction()
 
 # A library or module of the product: hidden symbols, found by its siblings

@@ -1,96 +1,57 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """Changes the sources at random, one small change at a time, and asks the tests whether
-they notice. Works on a copy in build/mutate, so the sources stay as they are. A change
-that does not compile is passed over. What was tried is kept: the same command goes on
-where it was interrupted, with more changes if --count has grown. The changes that no test
-has noticed are listed in a file there.
+they notice. Works on a copy in build/mutate, so the sources stay as they are.
 
-Each change meets the tests of its own folder first, then, unless --own, all others."""
+All changes are built at once, side by side with what they change, and the environment
+says which one to take. A first run of the tests without any shows which tests reach which
+change; a change meets those only, the quickest first. One that does not compile is passed
+over. What was tried is kept: the same command resumes where it was interrupted. The
+changes that no test has noticed are listed in a file there."""
 import argparse
+import concurrent.futures
+import json
+import os
 import pathlib
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
+import threading
+import time
+
+sys.dont_write_bytecode = True
+import mutants  # noqa: E402
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 WORK = ROOT / "build/mutate"
 SOURCE = WORK / "source"
 # In the place where the preset puts it, so that a compiler cache knows what is compiled.
 BUILD = SOURCE / "build/dev"
-# Where the tests of a folder are.
-TESTS = {"src": "tests/plugin", "history": "tests/history", "usage": "tests/usage",
-         "formats": "tests/formats", "recorder": "tests/recorder", "modem": "tests/modem",
-         "refhost": "tests/refhost", "apps": "tests/apps"}
-SECONDS_FOR_A_TEST = 120
-
-# What stands for itself in each text: strings, characters and comments.
-OPAQUE = re.compile(r'R"\((?:.|\n)*?\)"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\''
-                    r"|//[^\n]*|/\*(?:.|\n)*?\*/|^[ \t]*#[^\n]*", re.MULTILINE)
-
-# Name, what is changed, and what it becomes. Binary operators have a space on each side,
-# which tells them from template brackets, pointers and signs.
-OPERATORS = [
-    ("comparison", r" == ", " != "), ("comparison", r" != ", " == "),
-    ("comparison", r" < ", " <= "), ("comparison", r" <= ", " < "),
-    ("comparison", r" > ", " >= "), ("comparison", r" >= ", " > "),
-    ("arithmetic", r" \+ ", " - "), ("arithmetic", r" - ", " + "),
-    ("arithmetic", r" \* ", " / "), ("arithmetic", r" / ", " * "),
-    ("arithmetic", r" % ", " / "), ("arithmetic", r" \+= ", " -= "),
-    ("arithmetic", r" -= ", " += "), ("arithmetic", r"\+\+", "--"),
-    ("boolean", r" && ", " || "), ("boolean", r" \|\| ", " && "),
-    ("boolean", r"(?<=[ (])!(?=[A-Za-z(])", ""),
-    ("boolean", r"\btrue\b", "false"), ("boolean", r"\bfalse\b", "true"),
-    ("constant", r"(?<![\w.'])\d+(?![\w.'])", lambda found: str(int(found) + 1)),
-    ("constant", r"(?<![\w.'])[1-9]\d*(?![\w.'])", lambda found: str(int(found) - 1)),
-    # A whole call or assignment on a line of its own.
-    ("statement", r"(?m)(?<=[;{})]\n)[ \t]+(?!return\b|using\b|break\b|continue\b|throw\b|case\b)"
-                  r"[\w:.>\-\[\]*]+(?: [+\-|]?= |\(|\+\+|--)[^;{}\n]*;$", ";"),
-    ("return value", r"(?<=\breturn )(?!(?:0|false|nullptr|std::nullopt);)[^;{}\n]+(?=;)", "{}"),
-]
-
-
-class Mutant:
-    """One change of one file."""
-
-    def __init__(self, path, text, name, span, replacement):
-        self.path = path
-        self.original = text
-        self.span = span
-        self.replacement = replacement
-        line = text.count("\n", 0, span[0]) + 1
-        place = span[0] - text.rfind("\n", 0, span[0])
-        before = " ".join(text[slice(*span)].split())
-        self.title = f"{path}:{line}:{place}\t{name}\t{before} -> {replacement.strip() or 'nothing'}"
-
-    @property
-    def text(self):
-        start, end = self.span
-        return self.original[:start] + self.replacement + self.original[end:]
-
-    @property
-    def folder(self):
-        return self.path.split("/")[0]
+HEADER = ROOT / "scripts/mutation.h"
+# Where the tests of a folder are, those of the folders that use it last.
+TESTS = {
+    "src": ["plugin"],
+    "history": ["history", "refhost", "recorder", "apps/connrecord"],
+    "usage": ["usage", "apps/connrecord"],
+    "formats": ["formats", "apps/connrecord"],
+    "recorder": ["recorder", "recorder/bus", "apps/connrecord"],
+    "modem": ["modem", "recorder"],
+    "apps/connrecord": ["apps/connrecord"],
+}
+# What is changed need not be fast, but compile fast.
+UNOPTIMISED = """cmake_language(DEFER CALL set_property TARGET history usage formats modem recorder
+    recorder_bus NetInfoRecordUIPluginObjects connrecord_objects
+    APPEND PROPERTY COMPILE_OPTIONS -O0 -g0 -U_FORTIFY_SOURCE)
+"""
+# A change may let a test wait for ever.
+SLOWNESS, LEAST_SECONDS = 4, 20
 
 
 def fail(sentence):
     sys.exit(f"mutate.py: {sentence}")
-
-
-def blanked(text):
-    """The text with spaces in the place of what stands for itself."""
-    return OPAQUE.sub(lambda found: re.sub(r"[^\n]", " ", found.group()), text)
-
-
-def mutants_of(path):
-    text = (ROOT / path).read_text(encoding="utf-8")
-    code = blanked(text)
-    for name, pattern, replacement in OPERATORS:
-        for found in re.finditer(pattern, code):
-            new = replacement(found.group()) if callable(replacement) else replacement
-            yield Mutant(path, text, name, found.span(), new)
 
 
 def tracked(*patterns):
@@ -106,56 +67,137 @@ def write_if_changed(target, contents):
     target.write_bytes(contents)
 
 
-def copy_sources():
-    for name in tracked():
-        target = SOURCE / name
-        write_if_changed(target, (ROOT / name).read_bytes())
-        target.chmod((ROOT / name).stat().st_mode & 0o777)
+class Changes:
+    """The changes of a seed, by their numbers, and the files that hold them."""
+
+    def __init__(self, folders, seed, count):
+        # Read once, whoever edits them meanwhile.
+        self.contents = {name: (ROOT / name).read_bytes() for name in tracked()}
+        self.texts = {path: self.contents[path].decode()
+                      for path in tracked(*(f"{folder}/*.cpp" for folder in folders))}
+        every = [each for path, text in self.texts.items()
+                 for each in mutants.mutants_of(path, text)]
+        self.possible = len(every)
+        random.Random(seed).shuffle(every)
+        self.of_file = {path: {} for path in self.texts}
+        number = 0
+        for mutant in every:
+            others = self.of_file[mutant.path].values()
+            if number == count:
+                break
+            if not any(mutant.overlaps(other) for other in others):
+                number += 1
+                self.of_file[mutant.path][number] = mutant
+
+    def numbered(self):
+        return {number: mutant for each in self.of_file.values() for number, mutant in each.items()}
+
+    def write(self):
+        for name, contents in self.contents.items():
+            if self.of_file.get(name):
+                contents = mutants.with_alternatives(self.texts[name], self.of_file[name],
+                                                     HEADER).encode()
+            write_if_changed(SOURCE / name, contents)
+            (SOURCE / name).chmod((ROOT / name).stat().st_mode & 0o777)
+
+    def drop(self, path, lines):
+        """What does not compile; everything in the file if that is not known."""
+        found = {number for number, mutant in self.of_file[path].items()
+                 if any(mutant.first_line <= line - 1 <= mutant.last_line for line in lines)}
+        for number in found or list(self.of_file[path]):
+            del self.of_file[path][number]
 
 
-def run(*command):
-    return subprocess.run(command, cwd=SOURCE, capture_output=True, text=True, check=False)
-
-
-def builds(folders):
-    targets = [f"{folder}/all" if folder else "all" for folder in folders]
-    return run("cmake", "--build", str(BUILD), "--target", *targets)
-
-
-def tests(folder):
-    """In the folder, or everywhere."""
-    return run("ctest", "--test-dir", str(BUILD / folder), "--stop-on-failure", "--output-on-failure",
-               "--timeout", str(SECONDS_FOR_A_TEST))
-
-
-def prepare(stages):
-    """Builds the copy as it is; its tests have to pass."""
-    copy_sources()
-    configured = run("cmake", "--preset", "dev")
+def build(changes, targets):
+    """Builds the copy with all changes that compile."""
+    changes.write()
+    unoptimised = WORK / "unoptimised.cmake"
+    unoptimised.write_text(UNOPTIMISED, encoding="utf-8")
+    configured = subprocess.run(["cmake", "--preset", "dev", "-DNETINFORECORD_WIRE_STATISTICS=ON",
+                                 f"-DCMAKE_PROJECT_NetInfoRecord_INCLUDE={unoptimised}"],
+                                cwd=SOURCE, capture_output=True, text=True, check=False)
     if configured.returncode != 0:
         fail(f"the copy cannot be configured:\n{configured.stderr[-2000:]}")
-    built = builds(stages)
-    if built.returncode != 0:
-        fail(f"the copy does not build; mend the sources first:\n{built.stdout[-2000:]}")
-    for stage in stages:
-        tested = tests(stage)
-        if tested.returncode != 0:
-            fail("tests fail without any change, so they would notice everything; "
-                 f"mend them first:\n{tested.stdout[-2000:]}")
+    while True:
+        built = subprocess.run(["cmake", "--build", str(BUILD), "--target", *targets, "--",
+                                "-k", "0"], cwd=SOURCE, capture_output=True, text=True, check=False)
+        if built.returncode == 0:
+            return
+        wrong = {}
+        for path, line in re.findall(r"^(\S+?):(\d+):\d+: +(?:error|required from here)",
+                                     built.stdout, re.MULTILINE):
+            path = os.path.relpath(os.path.join(BUILD, path), SOURCE)
+            if changes.of_file.get(path):
+                wrong.setdefault(path, set()).add(int(line))
+        if not wrong:
+            fail(f"the copy does not build; mend the sources first:\n{built.stdout[-3000:]}")
+        for path, lines in wrong.items():
+            changes.drop(path, lines)
+        print(f"{len(changes.numbered())} changes compile so far ...", flush=True)
+        changes.write()
 
 
-def outcome(mutant, stages):
-    target = SOURCE / mutant.path
-    target.write_text(mutant.text, encoding="utf-8")
-    try:
-        for stage in stages:
-            if builds([stage]).returncode != 0:
-                return "does not compile"
-            if tests(stage).returncode != 0:
-                return "noticed"
-        return "survived"
-    finally:
-        target.write_bytes((ROOT / mutant.path).read_bytes())
+class Test:
+    """One test as ctest knows it."""
+
+    def __init__(self, folder, description):
+        properties = {each["name"]: each["value"] for each in description["properties"]}
+        self.folder = folder
+        self.name = description["name"]
+        self.command = description["command"]
+        self.environment = dict(each.split("=", 1) for each in properties.get("ENVIRONMENT", []))
+        self.working_directory = properties.get("WORKING_DIRECTORY")
+        self.seconds = 0.0
+        self.reached = set()
+
+    def passes(self, home, limit, **environment):
+        """With a home of its own, for another change may be tried in the same test."""
+        all_values = {**os.environ, **self.environment, **environment, "HOME": str(home),
+                      "XDG_DATA_HOME": f"{home}/data", "XDG_CONFIG_HOME": f"{home}/config"}
+        shutil.rmtree(home, ignore_errors=True)
+        home.mkdir(parents=True)
+        with subprocess.Popen(self.command, cwd=self.working_directory, env=all_values,
+                              stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL, start_new_session=True) as process:
+            try:
+                return process.wait(limit) == 0
+            except subprocess.TimeoutExpired:
+                return False
+            finally:
+                try:
+                    os.killpg(process.pid, signal.SIGKILL)
+                except ProcessLookupError:
+                    pass
+
+
+def tests_of(folder):
+    output = subprocess.check_output(["ctest", "--test-dir", str(BUILD / "tests" / folder),
+                                      "--show-only=json-v1"], text=True)
+    return [Test(folder, each) for each in json.loads(output)["tests"] if "command" in each]
+
+
+def is_sound(test):
+    """Runs the test without a change and notes what it reaches."""
+    trace = WORK / "traces" / test.name
+    trace.parent.mkdir(exist_ok=True)
+    trace.write_text("")
+    trace.chmod(0o666)
+    begin = time.monotonic()
+    passed = test.passes(WORK / "homes" / test.name, 600, MUTATION_TRACE=str(trace))
+    test.seconds = time.monotonic() - begin
+    test.reached = {int(line) for line in trace.read_text().split()}
+    return passed
+
+
+def outcome(number, mutant, tests):
+    folders = next(each for folder, each in TESTS.items() if mutant.path.startswith(f"{folder}/"))
+    reaching = [test for test in tests if number in test.reached and test.folder in folders]
+    home = WORK / "homes" / threading.current_thread().name
+    for test in sorted(reaching, key=lambda each: (folders.index(each.folder) > 0, each.seconds)):
+        limit = max(LEAST_SECONDS, SLOWNESS * test.seconds)
+        if not test.passes(home, limit, MUTATION=str(number)):
+            return f"noticed by {test.name}"
+    return "survived" if reaching else "not reached"
 
 
 class Results:
@@ -163,26 +205,27 @@ class Results:
 
     def __init__(self, path):
         self.path = path
+        self.lock = threading.Lock()
         self.outcomes = {}
         if path.is_file():
             lines = path.read_text(encoding="utf-8").splitlines()
             self.outcomes = dict(reversed(line.split("\t", 1)) for line in lines)
 
     def add(self, title, result):
-        self.outcomes[title] = result
-        with self.path.open("a", encoding="utf-8") as file:
-            file.write(f"{result}\t{title}\n")
-
-    def with_outcome(self, result):
-        return [title for title, each in self.outcomes.items() if each == result]
+        with self.lock:
+            self.outcomes[title] = result
+            with self.path.open("a", encoding="utf-8") as file:
+                file.write(f"{result}\t{title}\n")
+            print(f"{len(self.outcomes)}\t{result}\t{title}", flush=True)
 
 
 def arguments():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--seed", type=int, default=1, help="which changes (default: 1)")
-    parser.add_argument("--count", type=int, default=50, help="how many that compile (default: 50)")
-    parser.add_argument("--own", action="store_true", help="only the tests of the change's folder")
+    parser.add_argument("--count", type=int, default=100,
+                        help="how many, those that do not compile among them (default: 100)")
+    parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="how many at a time")
     parser.add_argument("folders", nargs="*", metavar="FOLDER",
                         help=f"of {', '.join(TESTS)} (default: all)")
     given = parser.parse_args()
@@ -200,29 +243,32 @@ def arguments():
 
 def main():
     given = arguments()
-    stages = {folder: [TESTS[folder]] + ([] if given.own else [""]) for folder in given.folders}
     WORK.mkdir(parents=True, exist_ok=True)
-    run_name = f"{given.seed}{'-own' if given.own else ''}"
-    results = Results(WORK / f"results-{run_name}.txt")
-    mutants = [mutant for path in tracked(*(f"{folder}/**.cpp" for folder in given.folders))
-               for mutant in mutants_of(path)]
-    random.Random(given.seed).shuffle(mutants)
-    print(f"{len(mutants)} changes are possible; building the copy ...", flush=True)
-    prepare(sorted({stage for each in stages.values() for stage in each}, reverse=True))
-    tried = 0
-    for mutant in mutants:
-        if tried == given.count:
-            break
-        if mutant.title not in results.outcomes:
-            results.add(mutant.title, outcome(mutant, stages[mutant.folder]))
-        result = results.outcomes[mutant.title]
-        tried += result != "does not compile"
-        print(f"{tried}\t{result}\t{mutant.title}", flush=True)
-    survivors = results.with_outcome("survived")
-    noticed = len(results.with_outcome("noticed"))
-    table = WORK / f"survivors-{run_name}.txt"
-    table.write_text("".join(f"{title}\n" for title in survivors), encoding="utf-8")
-    print(f"{noticed} of {noticed + len(survivors)} changes of seed {given.seed} were noticed; "
+    changes = Changes(given.folders, given.seed, given.count)
+    print(f"{changes.possible} changes are possible; building ...", flush=True)
+    folders = sorted({folder for each in given.folders for folder in TESTS[each]})
+    build(changes, [f"tests/{folder}/all" for folder in folders])
+    results = Results(WORK / f"results-{given.seed}-{given.count}.txt")
+    tests = [test for folder in folders for test in tests_of(folder)]
+    with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
+        print(f"{len(tests)} tests without a change ...", flush=True)
+        for test, passed in zip(list(tests), pool.map(is_sound, tests)):
+            if not passed:
+                print(f"{test.name} fails without any change and is left out", flush=True)
+                tests.remove(test)
+        numbered = changes.numbered()
+
+        def attempt(number):
+            if numbered[number].title not in results.outcomes:
+                results.add(numbered[number].title, outcome(number, numbered[number], tests))
+        list(pool.map(attempt, sorted(numbered)))
+    survivors = {title: result for title, result in results.outcomes.items()
+                 if not result.startswith("noticed")}
+    table = WORK / f"survivors-{given.seed}-{given.count}.txt"
+    table.write_text("".join(f"{result}\t{title}\n" for title, result in sorted(
+        survivors.items())), encoding="utf-8")
+    total = len(results.outcomes)
+    print(f"{total - len(survivors)} of {total} changes of seed {given.seed} were noticed; "
           f"the others are in {table.relative_to(ROOT)}")
 
 
@@ -230,4 +276,4 @@ if __name__ == "__main__":
     try:
         main()
     except KeyboardInterrupt:
-        fail("interrupted; the same command goes on from here")
+        fail("interrupted; the same command resumes here")
