@@ -14,8 +14,9 @@ ColumnRoom::ColumnRoom(QTableWidget &table)
     : QObject(&table)
     , m_table(table)
 {
-    // All rows of a long history would take their time.
-    m_table.horizontalHeader()->setResizeContentsPrecision(0);
+    // All rows of a long history would take their time, and 0 means all while it is hidden.
+    constexpr int rowsToMeasure = 100;
+    m_table.horizontalHeader()->setResizeContentsPrecision(rowsToMeasure);
     // Whoever sets the heads sets the widths as well, after that.
     connect(m_table.model(), &QAbstractItemModel::headerDataChanged, this,
             [this] { QTimer::singleShot(0, this, &ColumnRoom::beginAnew); });

@@ -18,7 +18,7 @@ public:
     /// The table's child.
     explicit ColumnRoom(QTableWidget &table);
 
-    /// For the heads and the rows that are seen.
+    /// For the heads and as many rows as are seen.
     void widen();
 
 private:
