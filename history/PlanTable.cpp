@@ -91,7 +91,7 @@ auto valueIn(const Row &row, int column, const Names &names, const char *what,
                  beginningOf(text) + "\", is none of " + choice + '.');
 }
 
-void bind(SQLite::Statement &statement, int index, const Number &value)
+void bindNumber(SQLite::Statement &statement, int index, const Number &value)
 {
     if (value)
         statement.bind(index, *value);
@@ -108,13 +108,13 @@ void bindPlan(SQLite::Statement &statement, const DataPlan &plan)
     statement.bind(3, plan.covered);
     statement.bind(4, nameOf(networkNames, plan.network));
     statement.bind(5, nameOf(countNames, plan.counts));
-    bind(statement, 6, plan.amount);
-    bind(statement, 7, rule.monthDay);
-    bind(statement, 8, rule.cycleDays);
-    bind(statement, 9, rule.firstDay);
-    bind(statement, 10, rule.lastDay);
-    bind(statement, 11, elsewhere ? Number(elsewhere->bytes) : Number());
-    bind(statement, 12, elsewhere ? Number(elsewhere->day) : Number());
+    bindNumber(statement, 6, plan.amount);
+    bindNumber(statement, 7, rule.monthDay);
+    bindNumber(statement, 8, rule.cycleDays);
+    bindNumber(statement, 9, rule.firstDay);
+    bindNumber(statement, 10, rule.lastDay);
+    bindNumber(statement, 11, elsewhere ? Number(elsewhere->bytes) : Number());
+    bindNumber(statement, 12, elsewhere ? Number(elsewhere->day) : Number());
 }
 
 std::optional<UsedElsewhere> usedElsewhereOf(const std::string &name, const Number &bytes,

@@ -72,7 +72,12 @@ class Batch:
         begun = folder / (self.stamp.name + ".begun")
         begun.touch()
         together = tidy(folder, self.source)
-        found = "" if not together else "".join(tidy(build, file) for file in self.files)
+        found = ""
+        if together:
+            # Worth mending where the files themselves turn out to be clean.
+            print(f"{self.files[0]} and {len(self.files) - 1} others are read one by one:\n"
+                  + together, file=sys.stderr)
+            found = "".join(tidy(build, file) for file in self.files)
         if not found:
             begun.rename(self.stamp)
         return found

@@ -21,7 +21,7 @@
 namespace
 {
 
-const char buildTime[] = __TIME__;
+const char dialogBuildTime[] = __TIME__;
 constexpr Log::Place initPlace(Log::accumulateDlg, "init");
 constexpr Log::Form listenerForm{
     "Entered: %s: %s: %d: %s:", "End: %s: %s: %d: %s:", Log::Details::PlaceThenTime};
@@ -55,7 +55,7 @@ QDateTime (*AccumulateDlg::m_pCurrentDateTime)() = &QDateTime::currentDateTime;
 
 void AccumulateDlg::uiSetObjectName()
 {
-    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, dialogBuildTime);
     log.entry(70);
     setNameIfPresent(m_pSelectProfileLbl, "m_pSelectProfileLbl");
     setNameIfPresent(m_pSelectMonthLbl, "m_pSelectMonthLbl");
@@ -73,7 +73,7 @@ void AccumulateDlg::uiSetObjectName()
 /// well, for hosts that read them.
 void AccumulateDlg::uiSetGeometry()
 {
-    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, dialogBuildTime);
     log.entry(126);
     if (m_pMainWidget) {
         if (m_pDialog) {
@@ -96,7 +96,7 @@ void AccumulateDlg::uiSetGeometry()
 
 void AccumulateDlg::uiSetText()
 {
-    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, dialogBuildTime);
     log.entry(230);
     if (!m_pDialog) {
         log.line("AccumulateDlg is not yet initialized: %s %s: %d: %s:", 235);
@@ -125,7 +125,7 @@ void AccumulateDlg::uiSetText()
 
 void AccumulateDlg::showWindow(QWidget *parent)
 {
-    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, dialogBuildTime);
     log.entry(301);
     m_pRecordLogic = NetInfoRecordLogic::Instance();
     if (!m_pMainWidget) {
@@ -152,7 +152,7 @@ void AccumulateDlg::showWindow(QWidget *parent)
 
 AccumulateDlg::AccumulateDlg()
 {
-    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, dialogBuildTime);
     log.entry(361);
     init();
     log.exit(365);
@@ -162,7 +162,7 @@ AccumulateDlg::~AccumulateDlg() = default;
 
 void AccumulateDlg::init()
 {
-    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, buildTime);
+    const Log::Operation log(Log::startFile, Log::accumulateDlg, __func__, dialogBuildTime);
     log.entry(370);
     std::unique_ptr<QVBoxLayout> vertical;
     if (!createSelection(vertical) || !createStatistics(vertical.get()) ||

@@ -16,7 +16,7 @@ int NET_INFO_RECORD_VERSION = 257;
 namespace
 {
 
-const char buildTime[] = __TIME__;
+const char pluginBuildTime[] = __TIME__;
 
 // Not literals of the library's own memory, here and wherever a text goes to
 // the host: a copy may outlive the library.
@@ -54,7 +54,7 @@ extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data()
 NetInfoRecordUIPlugin::NetInfoRecordUIPlugin()
 {
     // This one line has no colon after the path; log readers know it so.
-    const Log::Operation log(Log::startFile, Log::netInfoRecordUIPlugin, __func__, buildTime);
+    const Log::Operation log(Log::startFile, Log::netInfoRecordUIPlugin, __func__, pluginBuildTime);
     log.entry(48);
     m_pLogic = NetInfoRecordLogic::Instance();
     m_pHistoryDlg = ConnectionHistoryDlg::Instance();
@@ -65,7 +65,8 @@ NetInfoRecordUIPlugin::~NetInfoRecordUIPlugin() = default;
 
 bool NetInfoRecordUIPlugin::ShowWindow(QWidget *parent, QRect &rect)
 {
-    const Log::Operation log(Log::startFileColon, Log::netInfoRecordUIPlugin, __func__, buildTime);
+    const Log::Operation log(Log::startFileColon, Log::netInfoRecordUIPlugin, __func__,
+                             pluginBuildTime);
     log.entry(71);
     if (m_pHistoryDlg) {
         m_rcWindow = rect;
