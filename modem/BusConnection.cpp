@@ -2,6 +2,7 @@
 #include "modem/BusConnection.h"
 
 #include "modem/BusAddress.h"
+#include "modem/ModemLog.h"
 #include "modem/Names.h"
 
 #include <QCoreApplication>
@@ -10,7 +11,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
-#include <QLoggingCategory>
 
 #include <atomic>
 #include <climits>
@@ -21,8 +21,6 @@ namespace modem
 
 namespace
 {
-
-Q_LOGGING_CATEGORY(log, "modem", QtWarningMsg)
 
 /// A socket is there a moment before somebody listens to it, and a bus that loses
 /// everybody at once is not asked again and again.

@@ -2,12 +2,12 @@
 #include "modem/Modems.h"
 
 #include "modem/BusConnection.h"
+#include "modem/ModemLog.h"
 #include "modem/Names.h"
 #include "modem/OwnerChange.h"
 
 #include <QDBusArgument>
 #include <QDBusMessage>
-#include <QLoggingCategory>
 
 #include <utility>
 #include <vector>
@@ -15,10 +15,10 @@
 namespace modem
 {
 
+Q_LOGGING_CATEGORY(log, "modem", QtWarningMsg)
+
 namespace
 {
-
-Q_LOGGING_CATEGORY(log, "modem", QtWarningMsg)
 
 constexpr QLatin1String interfacesAdded = latin1("InterfacesAdded");
 constexpr QLatin1String interfacesRemoved = latin1("InterfacesRemoved");

@@ -14,7 +14,7 @@ using history::Store;
 namespace
 {
 
-history::JulianDay periodOf(const ReachedPlan &reached)
+history::JulianDay firstDayOf(const ReachedPlan &reached)
 {
     return reached.status.period.first.toJulianDay();
 }
@@ -41,7 +41,7 @@ Result<std::vector<ReachedPlan>> reachedPlans(const Store &store, std::int64_t u
 
 Result<std::vector<int>> pendingWarnings(const Store &store, const ReachedPlan &reached)
 {
-    const auto given = store.warningsGiven(reached.plan.key, periodOf(reached));
+    const auto given = store.warningsGiven(reached.plan.key, firstDayOf(reached));
     if (!given)
         return given.error();
     return dueWarnings(reached.status, given.value());
@@ -52,13 +52,13 @@ Result<std::vector<int>> takeWarnings(Store &store, const ReachedPlan &reached)
     auto due = pendingWarnings(store, reached);
     if (!due || due.value().empty())
         return due;
-    return store.noteWarnings(reached.plan.key, periodOf(reached), due.value());
+    return store.noteWarnings(reached.plan.key, firstDayOf(reached), due.value());
 }
 
 Result<std::size_t> returnWarnings(Store &store, const ReachedPlan &reached,
                                    const std::vector<int> &percentages)
 {
-    return store.forgetWarnings(reached.plan.key, periodOf(reached), percentages);
+    return store.forgetWarnings(reached.plan.key, firstDayOf(reached), percentages);
 }
 
 Result<PlanOutcome> replacePlan(Store &store, const DataPlan &plan,

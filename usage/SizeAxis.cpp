@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SizeAxis.h"
 
+#include "SizeText.h"
+
 #include <algorithm>
 #include <array>
 
@@ -10,7 +12,6 @@ namespace usage
 namespace
 {
 
-constexpr std::int64_t kilobyte = 1024;
 constexpr std::int64_t gigabyte = kilobyte * kilobyte * kilobyte;
 /// In a unit that there is a larger one of; the last ones are parts of that one.
 constexpr std::array<std::int64_t, 10> stepsInUnit = {1, 2, 5, 10, 20, 50, 100, 200, 256, 512};

@@ -20,7 +20,6 @@ struct Unit {
     std::int64_t bytes;
 };
 
-constexpr std::int64_t kilobyte = 1024;
 constexpr std::array<Unit, 6> units = {{
     {"", 1},
     {"B", 1},

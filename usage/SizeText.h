@@ -14,6 +14,9 @@
 namespace usage
 {
 
+/// Bytes. Each larger unit is as many of the one below.
+inline constexpr std::int64_t kilobyte = 1024;
+
 enum class Rounding { Nearest, Down };
 
 /// A number of bytes as the history shows it: "0.10 KB", "1.50 MB", up to GB, of 1024

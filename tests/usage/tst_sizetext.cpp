@@ -55,14 +55,13 @@ void SizeTextTest::writesSizesAndRatesAsTheHistoryDoes_data()
     const auto row = [](const char *name, qint64 bytes, const char *size, const char *rate) {
         QTest::newRow(name) << bytes << QString::fromLatin1(size) << QString::fromLatin1(rate);
     };
-    const qint64 kilobyte = 1024;
-    const qint64 megabyte = kilobyte * 1024;
+    const qint64 megabyte = usage::kilobyte * 1024;
     const qint64 gigabyte = megabyte * 1024;
     row("nothing", 0, "0.00 KB", "0 B/s");
     row("one byte", 1, "0.00 KB", "1 B/s");
     row("half a kilobyte", 512, "0.50 KB", "512 B/s");
-    row("a byte below a kilobyte", kilobyte - 1, "1.00 KB", "1023 B/s");
-    row("a kilobyte", kilobyte, "1.00 KB", "1.00 KB/s");
+    row("a byte below a kilobyte", usage::kilobyte - 1, "1.00 KB", "1023 B/s");
+    row("a kilobyte", usage::kilobyte, "1.00 KB", "1.00 KB/s");
     row("a byte below a megabyte", megabyte - 1, "1024.00 KB", "1024.00 KB/s");
     row("a megabyte", megabyte, "1.00 MB", "1.00 MB/s");
     row("a byte below a gigabyte", gigabyte - 1, "1024.00 MB", "1024.00 MB/s");
