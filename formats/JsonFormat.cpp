@@ -2,6 +2,7 @@
 #include "JsonFormat.h"
 
 #include "FieldValue.h"
+#include "JsonText.h"
 #include "Utf8Text.h"
 #include "history/ConnectionFields.h"
 #include "usage/TextScanner.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "JsonText.h"
+#include "Json.h"
 #include "history/Connection.h"
 
 #include <string_view>

@@ -2,6 +2,7 @@
 #include "JsonObject.h"
 
 #include "JsonFormat.h"
+#include "JsonText.h"
 #include "Utf8Text.h"
 #include "history/ConnectionFields.h"
 #include "usage/CalendarTime.h"

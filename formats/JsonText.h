@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Json.h"
+
 #include <QByteArray>
 
 #include <nlohmann/json.hpp>
 
 namespace formats
 {
-
-/// A document for programs. Qt's own one would not do: Qt 5 has it
-/// turn large integers into doubles.
-using Json = nlohmann::json;
 
 /// The document's text, indented, ended by a line feed; what is not UTF-8 in it
 /// becomes U+FFFD.

@@ -8,6 +8,7 @@
 #include "UnusedMemory.h"
 #include "apps/common/Export.h"
 #include "formats/Formats.h"
+#include "formats/JsonText.h"
 #include "usage/CalendarTime.h"
 
 #include <cstdint>

@@ -5,6 +5,7 @@
 #include "Output.h"
 #include "PlanText.h"
 #include "StoreResult.h"
+#include "formats/JsonText.h"
 #include "usage/LocalDays.h"
 #include "usage/PlanChange.h"
 #include "usage/PlanWarnings.h"

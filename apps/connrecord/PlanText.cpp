@@ -3,6 +3,7 @@
 
 #include "ConnectionText.h"
 #include "TextTable.h"
+#include "formats/JsonText.h"
 
 #include <QDate>
 #include <QStringList>

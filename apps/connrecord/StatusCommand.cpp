@@ -7,6 +7,7 @@
 #include "PlanCommands.h"
 #include "StatusText.h"
 #include "StoreResult.h"
+#include "formats/JsonText.h"
 #include "usage/PlanUse.h"
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include "ConnectionText.h"
 #include "PlanText.h"
 #include "TextTable.h"
+#include "formats/JsonText.h"
 #include "usage/SizeText.h"
 
 #include <string>

@@ -5,6 +5,7 @@
 #include "PlanCommands.h"
 #include "StoreResult.h"
 #include "TotalsText.h"
+#include "formats/JsonText.h"
 
 #include <limits>
 #include <string>

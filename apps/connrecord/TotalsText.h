@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "formats/JsonText.h"
+#include "formats/Json.h"
 #include "usage/Totals.h"
 
 #include <QByteArray>

@@ -2,6 +2,7 @@
 #include "formats/ImportReader.h"
 #include "formats/InputError.h"
 #include "formats/JsonFormat.h"
+#include "formats/JsonText.h"
 #include "tests/Many.h"
 #include "tests/formats/Documents.h"
 
