@@ -5,13 +5,14 @@ are compiled in that build directory.
 
 Nearly all the time goes into the headers that sources share, so those of a target are
 read as one file. Where clang-tidy does not like what it reads there, be it that two
-files use a name twice, each is asked alone, and that answer counts. Files that were
-found clean and have not changed since are not asked again.
+files use a name twice, it is asked about each half, down to single files, whose answer
+counts. Files that were found clean and have not changed since are not asked again.
 """
 import concurrent.futures
 import json
 import os
 import pathlib
+import shlex
 import subprocess
 import sys
 
@@ -41,54 +42,51 @@ def batches(database, sources):
 
 
 class Batch:
-    def __init__(self, folder, number, entries):
-        self.files = [os.path.relpath(entry["file"]) for entry in entries]
+    def __init__(self, entries):
         self.entries = entries
-        self.source = folder / f"{number}.cpp"
-        self.stamp = folder / (self.files[0].replace("/", "_") + f".{len(self.files)}.clean")
+        self.files = [os.path.relpath(entry["file"]) for entry in entries]
+        self.name = self.files[0].replace("/", "_") + f".{len(self.files)}"
 
     def size(self):
         return sum(os.path.getsize(file) for file in self.files)
 
-    def write(self):
-        # Not by #include: of what is included, not all is analysed.
-        self.source.write_text("".join(f'#line 1 "{file}"\n{pathlib.Path(file).read_text()}'
-                                       for file in self.files))
-        first = self.entries[0]
-        quoted = f"-iquote {pathlib.Path(first['file']).parent} -c "
-        return {
-            "directory": first["directory"],
-            "file": str(self.source),
-            "command": first["command"].replace(first["file"], str(self.source))
-                                       .replace("-c ", quoted, 1),
-        }
-
-    def is_clean(self, headers):
-        if not self.stamp.exists():
+    def is_clean(self, folder, headers):
+        stamp = folder / f"{self.name}.clean"
+        if not stamp.exists():
             return False
-        clean_since = self.stamp.stat().st_mtime
+        clean_since = stamp.stat().st_mtime
         return all(os.path.getmtime(file) < clean_since for file in [*self.files, *headers])
 
-    def check(self, build, folder):
+    def check(self, folder):
         """What clang-tidy finds; empty if the files are clean."""
-        begun = folder / (self.stamp.name + ".begun")
+        begun = folder / f"{self.name}.begun"
         begun.touch()
-        together = tidy(folder, self.source)
-        found = ""
-        if together:
+        found = self.found_together(folder)
+        if found and len(self.files) > 1:
             # Worth mending where the files themselves turn out to be clean.
-            print(f"{self.files[0]} and {len(self.files) - 1} others are read one by one:\n"
-                  + together, file=sys.stderr)
-            found = "".join(tidy(build, file) for file in self.files)
+            print(f"{self.files[0]} and {len(self.files) - 1} more are read apart:",
+                  found.splitlines()[0], file=sys.stderr)
+            middle = len(self.files) // 2
+            found = "".join(Batch(half).check(folder)
+                            for half in (self.entries[:middle], self.entries[middle:]))
         if not found:
-            begun.rename(self.stamp)
+            begun.rename(folder / f"{self.name}.clean")
         return found
 
-
-def tidy(build, file):
-    done = subprocess.run(["clang-tidy", "--quiet", "-p", str(build), str(file)],
-                          capture_output=True, text=True, check=False)
-    return done.stdout or (done.stderr if done.returncode else "")
+    def found_together(self, folder):
+        first = self.entries[0]
+        source = pathlib.Path(first["file"])
+        options = shlex.split(first["command"].split(" -o ")[0])
+        options = options[next(i for i, word in enumerate(options) if word.startswith("-")):]
+        if len(self.files) > 1:
+            # Not by #include: of what is included, not all is analysed.
+            options += ["-iquote", str(source.parent)]
+            source = folder / f"{self.name}.cpp"
+            source.write_text("".join(f'#line 1 "{file}"\n{pathlib.Path(file).read_text()}'
+                                      for file in self.files))
+        done = subprocess.run(["clang-tidy", "--quiet", str(source), "--", *options],
+                              cwd=first["directory"], capture_output=True, text=True, check=False)
+        return done.stdout or (done.stderr if done.returncode else "")
 
 
 def main():
@@ -98,15 +96,14 @@ def main():
     database = json.loads((build / "compile_commands.json").read_text())
     sources = set(tracked(*(f"{name}/*.cpp" for name in folders)))
     headers = [*tracked("*.h"), ".clang-tidy"]
-    every = [Batch(folder, number, entries)
-             for number, entries in enumerate(batches(database, sources))]
-    (folder / "compile_commands.json").write_text(json.dumps([batch.write() for batch in every]))
+    every = [Batch(entries) for entries in batches(database, sources)]
     missing = sources.difference(*(batch.files for batch in every))
     for file in sorted(missing):
         print(f"{file} is compiled by no target", file=sys.stderr)
-    left = sorted((batch for batch in every if not batch.is_clean(headers)), key=Batch.size)
+    left = sorted((batch for batch in every if not batch.is_clean(folder, headers)),
+                  key=Batch.size)
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        found = "".join(pool.map(lambda batch: batch.check(build, folder), reversed(left)))
+        found = "".join(pool.map(lambda batch: batch.check(folder), reversed(left)))
     sys.stdout.write(found)
     return 1 if found or missing else 0
 
