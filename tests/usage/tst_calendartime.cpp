@@ -2,6 +2,7 @@
 #include "LocalZone.h"
 #include "usage/CalendarTime.h"
 #include "usage/LocalClock.h"
+#include "usage/TextScanner.h"
 
 #include <QDateTime>
 #include <QTest>
@@ -23,6 +24,8 @@ private slots:
     void writesLocalTimeAsQtDoes();
     void writesDurationsWithGrowingHours_data();
     void writesDurationsWithGrowingHours();
+    void knowsPlacesInTheCalendar();
+    void takesTextsApart();
 };
 
 void CalendarTimeTest::readsIsoTimes_data()
@@ -157,6 +160,45 @@ void CalendarTimeTest::writesDurationsWithGrowingHours()
 {
     QFETCH(qint64, seconds);
     QTEST(durationText(seconds), "text");
+}
+
+void CalendarTimeTest::knowsPlacesInTheCalendar()
+{
+    const CalendarTime summer = localCalendarTime(1717180200);
+    QCOMPARE(summer.day * 100 + summer.hour, 3120);
+    QVERIFY(!summer.utcOffset);
+    const CalendarTime utc = utcCalendarTime(1717180200);
+    QCOMPARE(utc.day * 100 + utc.hour, 3118);
+    QCOMPARE(utc.utcOffset.value_or(-1), 0);
+    QCOMPARE(utcSpan(utc).earliest, std::int64_t(1717180200));
+    QCOMPARE(utcSpan(utc).latest, std::int64_t(1717180200));
+    // 02:30 in the night in which clocks are set back.
+    const UtcSpan twice = utcSpan({2024, 10, 27, 2, 30, 0, {}});
+    QCOMPARE(twice.earliest, std::int64_t(1729989000));
+    QCOMPARE(twice.latest, std::int64_t(1729992600));
+    QVERIFY(isValid({0, 2, 29, 0, 0, 0, {}}));
+    QVERIFY(!isValid({2023, 2, 29, 0, 0, 0, {}}));
+}
+
+void CalendarTimeTest::takesTextsApart()
+{
+    TextScanner scanner("word \t[one] 12345x");
+    QCOMPARE(scanner.takeWord(), std::string_view("word"));
+    QVERIFY(scanner.takeSpaces());
+    QVERIFY(!scanner.takeSpaces());
+    QVERIFY(scanner.take('['));
+    QVERIFY(!scanner.takeUntil(")"));
+    QCOMPARE(scanner.takeUntil("] ").value_or("none"), std::string_view("one"));
+    QVERIFY(!scanner.takeNumber(6, 8));
+    QCOMPARE(scanner.takeNumber(1, 2).value_or(-1), 12);
+    QCOMPARE(scanner.takeDigits(), std::string_view("345"));
+    scanner.takeCharacter();
+    QVERIFY(scanner.isAtEnd());
+    QVERIFY(endsWith("abc", "bc") && !endsWith("c", "bc"));
+    QVERIFY(!wholeNumber("") && !wholeNumber("1x") && !wholeNumber("+1"));
+    QCOMPARE(wholeNumber("-12")->value, std::int64_t(-12));
+    QVERIFY(wholeNumber("9223372036854775807")->isInRange);
+    QVERIFY(!wholeNumber("9223372036854775808")->isInRange);
 }
 
 QTEST_GUILESS_MAIN(CalendarTimeTest)

@@ -4,6 +4,7 @@
 #include "PlanSamples.h"
 #include "StoreSamples.h"
 #include "StoreTestCase.h"
+#include "usage/PlanChange.h"
 
 #include <QTest>
 
@@ -30,6 +31,7 @@ private slots:
     void writeNothingIfNoneIsDue();
     void areNotGivenIfTheyCannotBeNoted();
     void areGivenAgainOfAnAmountThatHasNotReachedThem();
+    void areOfPlansThatHaveReachedOne();
 
 private:
     Percentages taken(Store &store, std::int64_t used, const QDate &day) const;
@@ -124,6 +126,47 @@ void PlanWarningsTest::areGivenAgainOfAnAmountThatHasNotReachedThem()
     QCOMPARE(takenOf(14000, 7000), Percentages());
     QCOMPARE(takenOf(14001, 7000), Percentages());
     QCOMPARE(takenOf(14002, 7001), Percentages{50});
+}
+
+/// 60 of 100 bytes are used elsewhere.
+void PlanWarningsTest::areOfPlansThatHaveReachedOne()
+{
+    const QDate day(2026, 11, 20);
+    const std::int64_t noon = QDateTime(day, QTime(12, 0)).toSecsSinceEpoch();
+    Store store = storeWith(m_path, {});
+    const auto addPlan = [&store](const std::string &name, const DataPlan &plan) {
+        DataPlan named = plan;
+        named.name = name;
+        return bool(store.setPlan(named));
+    };
+    DataPlan plan = planOf(OnceBetween{dayNumber("2026-11-01"), dayNumber("2026-11-30")}, 100);
+    QVERIFY(!setUsedElsewhere(plan, 60, QDate(2026, 12, 1)));
+    QVERIFY(!plan.usedElsewhere);
+    QVERIFY(setUsedElsewhere(plan, 60, day));
+    setWarnings(plan, {90, 50, 90, 60});
+    QCOMPARE(plan.warnAtPercent, (Percentages{50, 60, 90}));
+    QVERIFY(addPlan("reached", plan));
+    setWarnings(plan, {61});
+    QVERIFY(addPlan("not reached", plan));
+    setWarnings(plan, {});
+    QVERIFY(addPlan("never", plan));
+    setWarnings(plan, {50});
+    plan.amount.reset();
+    QVERIFY(addPlan("unlimited", plan));
+    QVERIFY(setUsedElsewhere(plan, 0, QDate(2026, 12, 1)));
+    QVERIFY(!plan.usedElsewhere);
+
+    const auto reached = reachedPlans(store, noon).value();
+    QCOMPARE(reached.size(), std::size_t(1));
+    QCOMPARE(reached.front().plan.name, std::string("reached"));
+    QCOMPARE(takeWarnings(store, reached.front()).value(), (Percentages{50, 60}));
+    QCOMPARE(returnWarnings(store, reached.front(), {60}).value(), std::size_t(1));
+    QCOMPARE(pendingWarnings(store, reached.front()).value(), Percentages{60});
+    QVERIFY(reachedPlans(store, noon + 30 * 86400).value().empty());
+    runSql(m_path, "PRAGMA user_version = 1000");
+    QVERIFY(!reachedPlans(store, noon));
+    QVERIFY(!pendingWarnings(store, reached.front()));
+    QVERIFY(!replacePlan(store, plan, std::nullopt, noon));
 }
 
 QTEST_GUILESS_MAIN(PlanWarningsTest)
