@@ -254,7 +254,8 @@ void TotalsTest::areThoseOfPlans()
     using State = PlanState;
     QCOMPARE(states(firstOfJune + 3600),
              (QList<State>{State::Warned, State::Spent, State::Warned, State::Within}));
-    QCOMPARE(states(lateInMay), QList<State>(4, State::NoPeriod));
+    QCOMPARE(states(lateInMay),
+             (QList<State>{State::NoPeriod, State::NoPeriod, State::NoPeriod, State::NoPeriod}));
 }
 
 QTEST_GUILESS_MAIN(TotalsTest)
