@@ -27,6 +27,7 @@ KNOWN_TO = {
         "history",
     ],
     "examples": ["host"],
+    "scripts": [],
 }
 # They may know everything.
 OPEN = ("tests/", "benchmarks/")
