@@ -259,7 +259,7 @@ void TestHistorySort::movesCellsUnchanged()
 
 void TestHistorySort::movesSelectionAndCurrentCell()
 {
-    // No two rows change places, so that to and fro are not the same.
+    // No two rows change places, so that a direction mixed up would show.
     for (int i = 0; i < 5; ++i)
         addRow(connection(std::string(1, char('a' + i)), firstDay + i * 3 % 5, 60),
                {"00:01:00", "1.00 MB", "2.00 KB"});
