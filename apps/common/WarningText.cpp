@@ -47,7 +47,8 @@ QString warningTitle(const usage::ReachedPlan &reached, int percent)
 
 QString warningDetails(const usage::ReachedPlan &reached)
 {
-    return WarningText::details(usage::sizeText(reached.plan.amount.value_or(0)), reached.status);
+    const QString amount = usage::sizeText(reached.plan.amount.value_or(0), Rounding::Down);
+    return WarningText::details(amount, reached.status);
 }
 
 QString warningText(const usage::ReachedPlan &reached, int percent)

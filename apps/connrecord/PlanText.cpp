@@ -69,7 +69,7 @@ QString alreadyUsedText(const DataPlan &plan)
 {
     const auto &elsewhere = plan.usedElsewhere;
     return elsewhere ? QStringLiteral("%1 on %2")
-                           .arg(usage::sizeText(elsewhere->bytes), dayText(elsewhere->day))
+                           .arg(sizeIfAny(elsewhere->bytes), dayText(elsewhere->day))
                      : QString();
 }
 
@@ -139,9 +139,9 @@ Json toJson(const std::vector<DataPlan> &plans)
     return array;
 }
 
-QString sizeIfAny(const std::optional<std::int64_t> &bytes, usage::Rounding rounding)
+QString sizeIfAny(const std::optional<std::int64_t> &bytes)
 {
-    return bytes ? usage::sizeText(*bytes, rounding) : QString();
+    return bytes ? usage::sizeText(*bytes, usage::Rounding::Down) : QString();
 }
 
 Json numberIfAny(const std::optional<std::int64_t> &number)

@@ -23,8 +23,7 @@ formats::Json toJson(const history::DataPlan &plan);
 formats::Json toJson(const std::vector<history::DataPlan> &plans);
 
 // What a plan, or its standing, need not have.
-QString sizeIfAny(const std::optional<std::int64_t> &bytes,
-                  usage::Rounding rounding = usage::Rounding::Nearest);
+QString sizeIfAny(const std::optional<std::int64_t> &bytes);
 formats::Json numberIfAny(const std::optional<std::int64_t> &number);
 
 } // namespace connrecord

@@ -19,7 +19,6 @@ using formats::Json;
 using usage::PeriodUse;
 using usage::PlanState;
 using usage::PlanStatus;
-using usage::Rounding;
 using usage::StandingPlan;
 
 const char *nameOf(PlanState state)
@@ -63,11 +62,11 @@ std::vector<QString> row(const StandingPlan &standing)
                                                   dayText(status.period.last()));
     return {name,
             period,
-            usage::sizeText(status.used, Rounding::Down),
+            sizeIfAny(status.used),
             amount,
-            sizeIfAny(status.left, Rounding::Down),
+            sizeIfAny(status.left),
             QString::number(status.daysLeft),
-            sizeIfAny(status.leftADay, Rounding::Down),
+            sizeIfAny(status.leftADay),
             sizeIfAny(status.pace),
             stateText(standing)};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HistorySearch.h"
 
+#include "DayFormat.h"
 #include "UserDecision.h"
 #include "usage/LocalDays.h"
 
@@ -10,7 +11,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QShortcut>
 #include <QStyle>
 
@@ -36,15 +36,6 @@ QDate firstOfMonth(const QDate &day)
 QDate lastOfMonth(const QDate &day)
 {
     return {day.year(), day.month(), day.daysInMonth()};
-}
-
-/// The region's usual form; two digits of a year would be any century's.
-QString dayFormat(const QLocale &locale)
-{
-    QString format = locale.dateFormat(QLocale::ShortFormat);
-    if (!format.contains(QLatin1String("yyyy")))
-        format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    return format;
 }
 
 } // namespace
@@ -199,7 +190,7 @@ void HistorySearch::retranslate()
     m_toLabel->setText(tr("t&o"));
     m_last->setAccessibleName(tr("Last day"));
     for (QDateEdit *const day : {m_first, m_last})
-        day->setDisplayFormat(dayFormat(locale()));
+        showAsInRegion(*day);
 }
 
 } // namespace refdialer

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PeriodEdit.h"
 
+#include "DayFormat.h"
+
 #include <QComboBox>
 #include <QDateEdit>
+#include <QEvent>
 #include <QFormLayout>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -97,6 +100,20 @@ PeriodEdit::PeriodEdit(const QDate &today, QWidget *parent)
     setFocusProxy(m_kind);
     connect(m_kind, QOverload<int>::of(&QComboBox::currentIndexChanged), m_pages,
             &QStackedWidget::setCurrentIndex);
+    showDaysAsInRegion();
+}
+
+void PeriodEdit::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LocaleChange)
+        showDaysAsInRegion();
+    QWidget::changeEvent(event);
+}
+
+void PeriodEdit::showDaysAsInRegion()
+{
+    for (QDateEdit *const day : {m_from, m_first, m_last})
+        showAsInRegion(*day);
 }
 
 QWidget *PeriodEdit::monthlyPage()

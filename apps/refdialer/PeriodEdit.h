@@ -28,10 +28,14 @@ public:
     /// Whether the last day, where there is one, is not before the first.
     bool isInOrder() const;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     struct Setter;
     enum Kind { Monthly, Cycle, Once };
 
+    void showDaysAsInRegion();
     QWidget *monthlyPage();
     QWidget *cyclePage();
     QWidget *oncePage();

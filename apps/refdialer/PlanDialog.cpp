@@ -17,6 +17,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace refdialer
@@ -30,6 +31,7 @@ namespace
 {
 
 constexpr int keyRole = Qt::UserRole;
+constexpr int mostCharactersInList = 100;
 
 std::int64_t keyOf(const QTreeWidgetItem &item)
 {
@@ -39,7 +41,7 @@ std::int64_t keyOf(const QTreeWidgetItem &item)
 QStringList cellsOf(const DataPlan &plan, const QLocale &locale)
 {
     return {QString::fromStdString(plan.name),
-            plan.amount ? usage::sizeText(*plan.amount) : QString(),
+            plan.amount ? usage::sizeText(*plan.amount, usage::Rounding::Down) : QString(),
             PlanText::period(plan.period, locale)};
 }
 
@@ -158,6 +160,10 @@ void PlanDialog::fitColumns()
 {
     for (int column = 0; column < m_list->columnCount(); ++column)
         m_list->resizeColumnToContents(column);
+    // Without a name that makes it too wide, all columns are seen at once.
+    const int columns = m_list->header()->length() + 2 * m_list->frameWidth();
+    m_list->setMinimumWidth(
+        std::min(columns, mostCharactersInList * m_list->fontMetrics().averageCharWidth()));
 }
 
 void PlanDialog::showWhatCanBeDone()

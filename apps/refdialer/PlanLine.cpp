@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QLocale>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStyle>
@@ -53,9 +54,22 @@ ElidedLabel *newName()
     return label;
 }
 
+/// With a frame that is seen whatever the palette: a style may derive its own from black alone.
+class FramedBar : public QProgressBar
+{
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QProgressBar::paintEvent(event);
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+};
+
 QProgressBar *newBar()
 {
-    auto *const bar = new QProgressBar;
+    auto *const bar = new FramedBar;
     bar->setRange(0, 100);
     bar->setTextVisible(false);
     bar->setFixedWidth(charactersInBar * bar->fontMetrics().averageCharWidth());

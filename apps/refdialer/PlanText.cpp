@@ -91,8 +91,9 @@ QString PlanText::alarm(const StandingPlan &standing)
     case PlanState::NoPeriod:
         return {};
     case PlanState::Within:
-        return isTooFast(standing) ? tr("Heading for %1").arg(shortSizeText(*standing.status->pace))
-                                   : QString();
+        return isTooFast(standing)
+                   ? tr("Heading for %1").arg(shortSizeText(*standing.status->pace, Rounding::Down))
+                   : QString();
     case PlanState::Warned:
         return tr("%1 % reached").arg(standing.status->warnings.back());
     case PlanState::Spent:
@@ -111,9 +112,10 @@ QString PlanText::details(const StandingPlan &standing, const QLocale &locale)
             .arg(dayText(status.period.first, locale), dayText(status.period.last(), locale))};
     if (status.left)
         sentences.append(tr("%1 left.").arg(usage::sizeText(*status.left, Rounding::Down)));
-    if (status.pace)
-        sentences.append(
-            tr("At this pace it will be %1 in the end.").arg(usage::sizeText(*status.pace)));
+    // What takes off more than was used makes it less than nothing.
+    if (status.pace && *status.pace >= 0)
+        sentences.append(tr("At this pace it will be %1 in the end.")
+                             .arg(usage::sizeText(*status.pace, Rounding::Down)));
     return sentences.join(QLatin1Char(' '));
 }
 

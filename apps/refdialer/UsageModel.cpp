@@ -19,6 +19,19 @@ bool isSameTime(const usage::UsageBar &bar, const usage::UsageBar &other)
     return bar.first == other.first;
 }
 
+/// Broken at the space that is nearest to the middle, so that all columns have room.
+QString inTwoLines(QString text)
+{
+    const int middle = int(text.size()) / 2;
+    const int before = int(text.lastIndexOf(QLatin1Char(' '), middle));
+    const int after = int(text.indexOf(QLatin1Char(' '), middle));
+    const bool isBeforeNearer = after < 0 || (before >= 0 && middle - before < after - middle);
+    const int nearest = isBeforeNearer ? before : after;
+    if (nearest >= 0)
+        text[nearest] = QLatin1Char('\n');
+    return text;
+}
+
 } // namespace
 
 void UsageModel::setBars(const std::vector<usage::UsageBar> &bars, usage::BarUnit unit)
@@ -69,7 +82,7 @@ QVariant UsageModel::headerData(int section, Qt::Orientation orientation, int ro
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
-    return UsageText::columnNames(m_unit).value(section);
+    return inTwoLines(UsageText::columnNames(m_unit).value(section));
 }
 
 QString UsageModel::text() const

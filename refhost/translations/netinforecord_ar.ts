@@ -448,7 +448,7 @@
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
-        <translation>يتعذر نسخ السجل النموذجي ‎%1‎ إلى ‎%2‎: ‎%3‎. أعد تثبيت refdialer أو وفّر مساحة هناك.</translation>
+        <translation>يتعذر نسخ السجل النموذجي ‎%1‎ إلى ‎%2‎‏: ‎%3‎. أعد تثبيت refdialer أو وفّر مساحة هناك.</translation>
     </message>
 </context>
 <context>
@@ -467,7 +467,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
-        <translation>تتعذر الكتابة في «‎%1‎»: ‎%2‎. تحقق من القرص والمجلد وأذوناته.</translation>
+        <translation>تتعذر الكتابة في «‎%1‎»‏: ‎%2‎. تحقق من القرص والمجلد وأذوناته.</translation>
     </message>
 </context>
 <context>
@@ -726,7 +726,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
-        <translation>لم يُستخدم، ‎%1‎: ‎%2‎؛ أول مرة في السطر ‎%3‎ من «‎%4‎»: ‎%5‎</translation>
+        <translation>لم يُستخدم، ‎%1‎‏: ‎%2‎؛ أول مرة في السطر ‎%3‎ من «‎%4‎»‏: ‎%5‎</translation>
     </message>
 </context>
 <context>
@@ -861,7 +861,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::Picture</name>
     <message>
         <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
-        <translation>تتعذر كتابة الصورة ‎%1‎: ‎%2‎. حدد ملفًا في مجلد يمكنك الكتابة فيه.</translation>
+        <translation>تتعذر كتابة الصورة ‎%1‎‏: ‎%2‎. حدد ملفًا في مجلد يمكنك الكتابة فيه.</translation>
     </message>
 </context>
 <context>
@@ -1234,7 +1234,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>The plug-in %1 cannot be loaded: %2.</source>
-        <translation>يتعذر تحميل الملحق ‎%1‎: ‎%2‎.</translation>
+        <translation>يتعذر تحميل الملحق ‎%1‎‏: ‎%2‎.</translation>
     </message>
     <message>
         <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
@@ -1272,7 +1272,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
-        <translation>يتعذر تحميل خدمة الطلب الهاتفي ‎%1‎: ‎%2‎. أعد تثبيت refdialer، أو استغن عن الخدمة باستخدام ‎--no-dialup-service‎.</translation>
+        <translation>يتعذر تحميل خدمة الطلب الهاتفي ‎%1‎‏: ‎%2‎. أعد تثبيت refdialer، أو استغن عن الخدمة باستخدام ‎--no-dialup-service‎.</translation>
     </message>
 </context>
 <context>
@@ -1461,11 +1461,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::TransferProgress</name>
     <message>
         <source>Reading &quot;%1&quot;: %2 of %3</source>
-        <translation>قراءة «‎%1‎»: ‎%2‎ من ‎%3‎</translation>
+        <translation>قراءة «‎%1‎»‏: ‎%2‎ من ‎%3‎</translation>
     </message>
     <message>
         <source>Reading &quot;%1&quot;: %2</source>
-        <translation>قراءة «‎%1‎»: ‎%2‎</translation>
+        <translation>قراءة «‎%1‎»‏: ‎%2‎</translation>
     </message>
     <message>
         <source>Adding connections to the history: %1 of %2</source>

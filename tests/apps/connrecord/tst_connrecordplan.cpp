@@ -23,6 +23,7 @@ private slots:
     void areChangedInWhatIsGiven();
     void keepTheChangesOfSeveralPrograms();
     void areAlreadyUsedInThePresentPeriod();
+    void areRoundedDown();
     void areRemoved();
     void areRefused_data();
     void areRefused();
@@ -159,6 +160,15 @@ void ConnrecordPlanTest::areAlreadyUsedInThePresentPeriod()
     QCOMPARE(plan("home").value("already_used").toObject(), used);
     QCOMPARE(run({"plan", "set", "home", "--already-used", "0"}).exitCode, 0);
     QCOMPARE(plan("home").value("already_used"), QJsonValue(QJsonValue::Null));
+}
+
+void ConnrecordPlanTest::areRoundedDown()
+{
+    QCOMPARE(run({"plan", "set", "home", "--amount", "1048575KB", "--already-used", "1048575KB"})
+                 .exitCode,
+             0);
+    for (const QStringList &command : {QStringList{"plan", "list"}, QStringList{"status"}})
+        QCOMPARE(run(command).output.count("1023.99 MB"), 2);
 }
 
 void ConnrecordPlanTest::areRemoved()

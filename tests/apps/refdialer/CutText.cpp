@@ -104,6 +104,13 @@ QList<Shown> textsOf(const QTabBar &tabs)
     return texts;
 }
 
+/// Of a section; a list may have to be scrolled to see the rest.
+int shownWidth(const QHeaderView &header, int section)
+{
+    const int begin = header.sectionViewportPosition(section);
+    return (QRect(begin, 0, header.sectionSize(section), 1) & header.viewport()->rect()).width();
+}
+
 QList<Shown> textsOf(const QHeaderView &header)
 {
     QList<Shown> texts;
@@ -111,7 +118,7 @@ QList<Shown> textsOf(const QHeaderView &header)
         const QString text = header.model()->headerData(i, header.orientation()).toString();
         if (header.orientation() == Qt::Horizontal && !header.isSectionHidden(i))
             texts.append({text, asHighAs(header, header.sectionSizeHint(i)),
-                          asHighAs(header, header.sectionSize(i))});
+                          asHighAs(header, shownWidth(header, i))});
     }
     return texts;
 }

@@ -16,6 +16,8 @@ private slots:
     void startsInTheNearestLanguage();
     void writesDatesAsTheUsersRegionDoes_data();
     void writesDatesAsTheUsersRegionDoes();
+    void writesDatesWithTheDigitsOfSizes_data();
+    void writesDatesWithTheDigitsOfSizes();
 };
 
 void TestLanguageChoice::startsInTheNearestLanguage_data()
@@ -89,6 +91,24 @@ void TestLanguageChoice::writesDatesAsTheUsersRegionDoes()
     const EnvironmentVariable lcTime("LC_TIME", time);
     const EnvironmentVariable langVariable("LANG", lang);
     QTEST(refdialer::localeFor(language).name(), "locale");
+}
+
+void TestLanguageChoice::writesDatesWithTheDigitsOfSizes_data()
+{
+    QTest::addColumn<QByteArray>("region");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("Arabic") << QByteArray("ar_EG.UTF-8") << "ar";
+    QTest::newRow("English where nobody speaks it") << QByteArray("fa_IR.UTF-8") << "en";
+}
+
+void TestLanguageChoice::writesDatesWithTheDigitsOfSizes()
+{
+    QFETCH(QByteArray, region);
+    QFETCH(QString, language);
+    const EnvironmentVariable lcAll("LC_ALL", region);
+    const QLocale locale = refdialer::localeFor(language);
+    QCOMPARE(locale.toString(1.5), QString("1.5"));
+    QCOMPARE(locale.language(), QLocale(language).language());
 }
 
 QTEST_MAIN(TestLanguageChoice)

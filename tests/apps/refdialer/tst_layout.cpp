@@ -207,6 +207,7 @@ void TestLayout::givesTheHistoryRoomForALargeFont()
     HistoryWindow history;
     QVERIFY(storeForEveryWindow(history));
     QVERIFY(history.open());
+    history.window().resize(refdialer::usualSizeOf(history.window()));
     QTRY_COMPARE(cutTexts(history.table()), QStringList());
     history.plugin().changeLanguage(QStringLiteral("ru"));
     QTRY_COMPARE(cutTexts(history.table()), QStringList());

@@ -34,6 +34,7 @@ private slots:
     void namesWhatIsWrongBesideItsField();
     void takesASizeAsTheLocaleWritesIt_data();
     void takesASizeAsTheLocaleWritesIt();
+    void writesDaysAsTheRegionDoes();
     void takesPercentagesOfAnyScript();
     void offersWhatTheHistoryKnows();
     void movesWhatWasUsedElsewhereIntoThePeriodOfToday();
@@ -241,6 +242,15 @@ void TestPlanDialog::takesASizeAsTheLocaleWritesIt()
                                 ? QString("%1 MB").arg(*stored("home").amount / megabyte)
                                 : messagesIn(*editor).join('|');
     QTEST(outcome, "outcome");
+}
+
+void TestPlanDialog::writesDaysAsTheRegionDoes()
+{
+    m_window->setLocale(QLocale("de_DE"));
+    const auto editor = editorOf(planCalled("home"));
+    QCOMPARE(named<QDateEdit>(*editor, "First day").text(), QString("19.11.2026"));
+    editor->setLocale(QLocale("en_GB"));
+    QCOMPARE(named<QDateEdit>(*editor, "First day").text(), QString("19/11/2026"));
 }
 
 void TestPlanDialog::takesPercentagesOfAnyScript()

@@ -87,6 +87,8 @@ private slots:
     void tellsHowAPlanStands_data();
     void tellsHowAPlanStands();
     void marksHowMuchIsUsedWithTheBar();
+    void tellsNoPaceOfLessThanNothing();
+    void framesTheBarInEveryPalette();
     void tellsTheSameInTheDialogByTheKeyboard();
     void takesNoRoomWithoutAHistory();
     void offersAPlan();
@@ -222,6 +224,33 @@ void TestPlanLine::marksHowMuchIsUsedWithTheBar()
     QVERIFY(shownText(*m_line).contains("|200 %|"));
 }
 
+void TestPlanLine::tellsNoPaceOfLessThanNothing()
+{
+    DataPlan corrected = planCalled("home", 10 * gigabyte);
+    corrected.usedElsewhere = UsedElsewhere{-gigabyte, dayNumber("2026-11-02")};
+    QVERIFY(m_store->setPlan(corrected));
+    readPlans();
+    QCOMPARE(m_line->findChild<QProgressBar *>()->toolTip(),
+             QString("The period is from 01/11/2026 to 30/11/2026. 11.00 GB left."));
+}
+
+void TestPlanLine::framesTheBarInEveryPalette()
+{
+    QVERIFY(m_store->setPlan(planCalled("home", 10 * gigabyte)));
+    readPlans();
+    auto &bar = *m_line->findChild<QProgressBar *>();
+    QPalette palette(Qt::white, Qt::black, Qt::black, Qt::black, Qt::black, Qt::white, Qt::black);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    bar.setPalette(palette);
+    const QImage picture = bar.grab().toImage();
+    const QRect whole = picture.rect();
+    const QPoint centre = whole.center();
+    QCOMPARE(picture.pixelColor(centre), QColor(Qt::black));
+    for (const QPoint &edge : {QPoint(whole.left(), centre.y()), QPoint(whole.right(), centre.y()),
+                               QPoint(centre.x(), whole.top()), QPoint(centre.x(), whole.bottom())})
+        QCOMPARE(picture.pixelColor(edge), QColor(Qt::white));
+}
+
 void TestPlanLine::tellsTheSameInTheDialogByTheKeyboard()
 {
     QVERIFY(m_store->setPlan(planCalled("home", 10 * gigabyte)));
@@ -239,7 +268,7 @@ void TestPlanLine::tellsTheSameInTheDialogByTheKeyboard()
     QCOMPARE(standing->accessibleName(), QString("How the plan stands"));
     QCOMPARE(standing->text(),
              QString("7 GB of 10 GB used, 12 days left, 256 MB a day\nThe period is from "
-                     "01/11/2026 to 30/11/2026. 3.00 GB left. At this pace it will be 11.33 GB in "
+                     "01/11/2026 to 30/11/2026. 3.00 GB left. At this pace it will be 11.32 GB in "
                      "the end."));
     QCOMPARE(standing->accessibleDescription(), standing->text());
     QTest::keyClick(&list, Qt::Key_Down);
