@@ -11,8 +11,11 @@ namespace
 {
 
 // Keys are in the index by which it is sorted: rows that are not wanted are not read.
-const std::string isInRange =
-    "WHERE start_utc >= ?1 AND start_utc < ?2 AND (?3 IS NULL OR key > ?3)";
+std::string inRange(const char *order)
+{
+    return std::string("WHERE start_utc >= ?1 AND start_utc < ?2 AND (?3 IS NULL OR key > ?3)") +
+           order;
+}
 
 void bind(ConnectionQuery &query, std::int64_t fromUtc, const ConnectionSelection &selection)
 {
@@ -39,7 +42,7 @@ std::size_t ConnectionWalk::visit(const ConnectionVisitor &visitor)
     const bool isLimited = m_selection.most < std::numeric_limits<std::size_t>::max();
     if (isLimited && !findFirst())
         return 0;
-    ConnectionQuery query(m_database, isInRange + " ORDER BY start_utc, key");
+    ConnectionQuery query(m_database, inRange(" ORDER BY start_utc, key"));
     bind(query, m_firstUtc, m_selection);
     std::size_t count = 0;
     while (query.next()) {
@@ -63,7 +66,7 @@ bool ConnectionWalk::isSelected(const Connection &connection) const
 /// Goes back from the newest one, which costs as much as what is to be shown.
 bool ConnectionWalk::findFirst()
 {
-    ConnectionQuery query(m_database, isInRange + " ORDER BY start_utc DESC, key DESC");
+    ConnectionQuery query(m_database, inRange(" ORDER BY start_utc DESC, key DESC"));
     bind(query, m_selection.range.fromUtc, m_selection);
     std::size_t found = 0;
     std::int64_t utc = 0;

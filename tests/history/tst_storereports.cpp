@@ -55,6 +55,15 @@ QString keysGivenBy(const std::string &path)
     return text;
 }
 
+OpenConnection begunAt(std::int64_t utc)
+{
+    OpenConnection open;
+    open.bootId = "boot";
+    open.interfaceIndex = 3;
+    open.startUtc = open.updatedUtc = utc;
+    return open;
+}
+
 } // namespace
 
 /// What is told of a whole history, and what is put into one from a spool.
@@ -185,10 +194,7 @@ void StoreReportsTest::storesNothingOfASpoolWithABadRecord()
 void StoreReportsTest::refusesOpenConnectionsThatCannotBe()
 {
     Store store = storeWith(m_path, {});
-    OpenConnection open;
-    open.bootId = "boot";
-    open.interfaceIndex = 3;
-    open.startUtc = open.updatedUtc = hour;
+    OpenConnection open = begunAt(hour);
     open.hours = {{hour + 1, false, 0, 0}};
     const auto begun = store.begin(open);
     QVERIFY(!begun);
@@ -215,10 +221,7 @@ void StoreReportsTest::copiesTheHistory()
 void StoreReportsTest::knowsWhatWasTakenOver()
 {
     Store store = storeWith(m_path, {});
-    OpenConnection open;
-    open.bootId = "boot";
-    open.interfaceIndex = 3;
-    open.startUtc = open.updatedUtc = hour;
+    OpenConnection open = begunAt(hour);
     QVERIFY(!store.wasTakenOver("file 1").value());
     const auto begun = store.begin(open);
     QVERIFY(begun && store.checkpoint(begun.value(), "file 1"));
