@@ -158,8 +158,9 @@ std::vector<DataPlan> PlanTable::all()
             plans.push_back(planIn(query.row()));
         } catch (const StoreFailure &failure) {
             throw StoreFailure(Kind::Damaged,
-                               failure.error().message + " Another program has changed it in " +
-                                   historyAt(m_path) + "; remove this plan and make it again.");
+                               failure.error().message + " " + historyAt(m_path) +
+                                   " has it so from another program; remove this plan and make "
+                                   "it again.");
         }
     }
     return plans;
@@ -206,8 +207,8 @@ void PlanTable::checkNameIsFree(const DataPlan &plan)
     query.bind(1, plan.name);
     query.bind(2, plan.key);
     if (query.next())
-        throw badRow("There is " + planCalled(plan.name) + " already in " + historyAt(m_path) +
-                     "; nothing was changed, choose another name.");
+        throw badRow(historyAt(m_path) + " has " + planCalled(plan.name) +
+                     " already; nothing was changed, choose another name.");
 }
 
 std::int64_t PlanTable::insert(const DataPlan &plan)
@@ -226,9 +227,8 @@ void PlanTable::update(const DataPlan &plan, const std::vector<int> &reached)
     statement.bind(13, plan.key);
     if (statement.exec() == 0)
         throw StoreFailure(Kind::NoSuchRecord,
-                           "In " + historyAt(m_path) + ", " + planCalled(plan.name) +
-                               " is there no longer; another program has removed it, make it "
-                               "again.");
+                           historyAt(m_path) + " has " + planCalled(plan.name) +
+                               " no longer; another program has removed it, make it again.");
 }
 
 void PlanTable::forgetWarningsOfAnotherAmount(const DataPlan &plan, const std::vector<int> &reached)

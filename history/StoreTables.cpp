@@ -52,9 +52,8 @@ void addHoursProblem(Examination &result, HourTable &hours, std::int64_t key)
 StoreFailure wrongHours(const std::string &path)
 {
     return {StoreError::Kind::BadRecord,
-            "The hours of the connection do not add up to its byte counts; nothing was changed "
-            "in " +
-                historyAt(path) + "."};
+            historyAt(path) + " was not changed: the hours of the connection do not add up to its "
+                              "byte counts."};
 }
 
 } // namespace

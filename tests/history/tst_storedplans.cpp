@@ -154,7 +154,9 @@ void StoredPlansTest::haveANameOfTheirOwn()
         const auto refused = store.setPlan(other);
         QCOMPARE(outcomeOf(refused), QString("BadRecord"));
         const QString sentence = QString::fromStdString(refused.error().message);
-        QVERIFY2(sentence.contains("\"work\" already"), qPrintable(sentence));
+        QVERIFY2(sentence.startsWith("The connection history \"") &&
+                     sentence.contains("\" has the plan \"work\" already;"),
+                 qPrintable(sentence));
     }
     home.name = "at home";
     QCOMPARE(store.setPlan(home).value(), home.key);
@@ -168,7 +170,10 @@ void StoredPlansTest::areNotChangedOnceRemoved()
     DataPlan plan = planCalled("home");
     plan.key = store.setPlan(plan).value();
     QVERIFY(store.removePlan("home").value());
-    QCOMPARE(outcomeOf(store.setPlan(plan)), QString("NoSuchRecord"));
+    const auto refused = store.setPlan(plan);
+    QCOMPARE(outcomeOf(refused), QString("NoSuchRecord"));
+    const QString sentence = QString::fromStdString(refused.error().message);
+    QVERIFY2(sentence.contains("\" has the plan \"home\" no longer;"), qPrintable(sentence));
     QCOMPARE(plansIn(store), QString());
 }
 
