@@ -151,7 +151,7 @@ QString UsagePainter::groupText(const Group &group) const
         return QString::number(group.first.year());
     const QString texts[] = {
         UsageText::monthName(group.first, m_locale),
-        m_locale.standaloneMonthName(group.first.month(), QLocale::LongFormat),
+        UsageText::monthNameAlone(group.first, m_locale),
         m_locale.standaloneMonthName(group.first.month(), QLocale::ShortFormat),
     };
     for (const QString &text : texts) {

@@ -54,8 +54,15 @@ QString UsageText::partName(usage::UsagePart part)
 QString UsageText::monthName(const QDate &month, const QLocale &locale)
 {
     //: a month and its year
-    return tr("%1 %2").arg(locale.standaloneMonthName(month.month()),
-                           QString::number(month.year()));
+    return tr("%1 %2").arg(monthNameAlone(month, locale), QString::number(month.year()));
+}
+
+/// Where dates have the number of the month, only its short name has that too.
+QString UsageText::monthNameAlone(const QDate &month, const QLocale &locale)
+{
+    const bool isNumber = !locale.dateFormat(QLocale::LongFormat).contains(QLatin1String("MMM"));
+    return locale.standaloneMonthName(month.month(),
+                                      isNumber ? QLocale::ShortFormat : QLocale::LongFormat);
 }
 
 QString UsageText::barName(const usage::UsageBar &bar, usage::BarUnit unit, const QLocale &locale)

@@ -24,6 +24,7 @@ public:
     static QString partName(usage::UsagePart part);
     /// "November 2026"
     static QString monthName(const QDate &month, const QLocale &locale);
+    static QString monthNameAlone(const QDate &month, const QLocale &locale);
     /// The day or month of the bar.
     static QString barName(const usage::UsageBar &bar, usage::BarUnit unit, const QLocale &locale);
     /// The days or months shown: "November 2026", "2026", "15/11/26 to 14/12/26".

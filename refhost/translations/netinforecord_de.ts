@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>&quot;/proc/sys/kernel/random/boot_id&quot; cannot be read, so connections are not recorded; mount /proc.</source>
-        <translation>&quot;/proc/sys/kernel/random/boot_id&quot; lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein.</translation>
+        <translation>„/proc/sys/kernel/random/boot_id“ lässt sich nicht lesen, daher werden keine Verbindungen aufgezeichnet. Hängen Sie /proc ein.</translation>
     </message>
     <message>
         <source>Connections are recorded by another program already, and appear here when they have ended.</source>
@@ -1531,11 +1531,11 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
     </message>
     <message>
         <source>Received at home</source>
-        <translation>Zu Hause empfangen</translation>
+        <translation>Im Heimatnetz empfangen</translation>
     </message>
     <message>
         <source>Sent at home</source>
-        <translation>Zu Hause gesendet</translation>
+        <translation>Im Heimatnetz gesendet</translation>
     </message>
     <message>
         <source>Received roaming</source>
@@ -1564,7 +1564,7 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
     </message>
     <message>
         <source>%1: received %2 at home and %3 roaming, sent %4 at home and %5 roaming</source>
-        <translation>%1: zu Hause %2 und im Roaming %3 empfangen, zu Hause %4 und im Roaming %5 gesendet</translation>
+        <translation>%1: im Heimatnetz %2 und im Roaming %3 empfangen, im Heimatnetz %4 und im Roaming %5 gesendet</translation>
     </message>
     <message>
         <source>Day</source>

@@ -3,6 +3,7 @@
 #include "PlanSamples.h"
 #include "StoreSamples.h"
 #include "UsagePageCase.h"
+#include "apps/refdialer/UsageText.h"
 #include "refhost/libcore/Host.h"
 
 #include <QAccessible>
@@ -39,6 +40,7 @@ private slots:
     void saysThatThereIsNothingYet();
     void saysWhyThereAreNoFigures();
     void speaksTheLanguageOfTheProgram();
+    void writesMonthsAsDatesDo();
 
     void hasRoomForManyBars_data();
     void hasRoomForManyBars();
@@ -327,12 +329,25 @@ void UsagePageTest::speaksTheLanguageOfTheProgram()
     open();
     QVERIFY(refhost::setLanguage("de"));
     m_page->setLocale(QLocale(QLocale::German));
-    QTRY_VERIFY(shows("Alle Verbindungen: zu Hause 3.00 MB und im Roaming 2.00 MB empfangen, zu "
-                      "Hause 1.00 MB und im Roaming 0.00 KB gesendet"));
+    QTRY_VERIFY(shows("Alle Verbindungen: im Heimatnetz 3.00 MB und im Roaming 2.00 MB "
+                      "empfangen, im Heimatnetz 1.00 MB und im Roaming 0.00 KB gesendet"));
     chart().setCurrent(0);
     const QDate first(today().year(), today().month(), 1);
     QVERIFY(chart().textOf(0).startsWith(
         QLocale(QLocale::German).toString(first, QLocale::LongFormat)));
+}
+
+void UsagePageTest::writesMonthsAsDatesDo()
+{
+    const QDate november(2026, 11, 1);
+    const auto textIn = [&november](const char *language) {
+        return refhost::setLanguage(language)
+                   ? refdialer::UsageText::monthName(november, QLocale(language))
+                   : QString();
+    };
+    QCOMPARE(textIn("zh_CN"), QStringLiteral("2026年11月"));
+    QCOMPARE(textIn("ru"), QStringLiteral("ноябрь 2026"));
+    QCOMPARE(textIn("de"), QString("November 2026"));
 }
 
 void UsagePageTest::hasRoomForManyBars_data()
