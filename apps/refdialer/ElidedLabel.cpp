@@ -11,6 +11,11 @@
 namespace refdialer
 {
 
+QString toolTipOf(const QString &text)
+{
+    return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+}
+
 ElidedLabel::ElidedLabel(Qt::TextElideMode mode)
     : m_mode(mode)
 {
@@ -32,10 +37,7 @@ QSize ElidedLabel::minimumSizeHint() const
 bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && shownText() != text()) {
-        // As markup, a long text is broken into lines and its own markup would act.
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                           QStringLiteral("<p>") + text().toHtmlEscaped() + QStringLiteral("</p>"),
-                           this);
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), toolTipOf(text()), this);
         return true;
     }
     if (event->type() == QEvent::FontChange)

@@ -6,6 +6,9 @@
 namespace refdialer
 {
 
+/// A plain text for a tool tip, which breaks markup alone into lines.
+QString toolTipOf(const QString &text);
+
 /// One line of plain text, always as high as the font alone says. Where there is
 /// too little room the text is shortened, and whole in the tool tip.
 class ElidedLabel : public QLabel

@@ -78,7 +78,7 @@ void StateLine::showState()
             m_rows[row][std::size_t(column)]->setVisible(!text.isEmpty());
         }
     }
-    setToolTip(sourceText());
+    setToolTip(toolTipOf(sourceText()));
 }
 
 /// The texts of each row's columns, of which the last ones may be left out.

@@ -10,6 +10,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
 #include <QTimeZone>
@@ -67,6 +68,8 @@ void TestStateLine::saysWhereTheHistoryComesFrom()
     QVERIFY(store.open(QFile::WriteOnly));
     QCOMPARE(shownText(StateLine({file, false}, state)), "History in " + file);
     QCOMPARE(line.findChild<QLabel *>()->textFormat(), Qt::PlainText);
+    QCOMPARE(QTextDocumentFragment::fromHtml(line.toolTip()).toPlainText(),
+             "No connections recorded yet in " + file);
 }
 
 void TestStateLine::saysThatItIsASample()
