@@ -26,7 +26,8 @@ QSize ElidedLabel::sizeHint() const
 {
     // A text's width in whole pixels may be less than it takes.
     m_widest = std::max(m_widest, fontMetrics().horizontalAdvance(text()) + 1);
-    return {m_widest, minimumSizeHint().height()};
+    const QMargins margins = contentsMargins();
+    return {m_widest + margins.left() + margins.right(), minimumSizeHint().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const
@@ -48,7 +49,7 @@ bool ElidedLabel::event(QEvent *event)
 void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    style()->drawItemText(&painter, rect(),
+    style()->drawItemText(&painter, contentsRect(),
                           int(QStyle::visualAlignment(layoutDirection(), alignment())) |
                               Qt::TextSingleLine,
                           palette(), isEnabled(), shownText(), foregroundRole());
@@ -56,7 +57,7 @@ void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
 
 QString ElidedLabel::shownText() const
 {
-    return fontMetrics().elidedText(text(), m_mode, width());
+    return fontMetrics().elidedText(text(), m_mode, contentsRect().width());
 }
 
 } // namespace refdialer

@@ -4,6 +4,7 @@
 #include "HistoryArea.h"
 
 #include <QEvent>
+#include <QStyle>
 
 namespace refdialer
 {
@@ -12,6 +13,9 @@ SumLabel::SumLabel(const HistoryArea &area)
     : ElidedLabel(Qt::ElideRight)
     , m_area(area)
 {
+    // Where the other lines of the window begin.
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    setContentsMargins(margin, 0, margin, 0);
     connect(&area, &HistoryArea::changed, this, &SumLabel::showSum);
     showSum();
 }

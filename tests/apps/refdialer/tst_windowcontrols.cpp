@@ -10,6 +10,8 @@
 #include "apps/refdialer/ListChoice.h"
 #include "apps/refdialer/RecordingSettings.h"
 #include "apps/refdialer/SettingsDialog.h"
+#include "apps/refdialer/StateLine.h"
+#include "apps/refdialer/SumLabel.h"
 #include "apps/refdialer/WindowView.h"
 #include "refhost/libcore/Host.h"
 
@@ -31,6 +33,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <cstdlib>
 #include <functional>
 #include <memory>
 
@@ -60,6 +63,7 @@ private slots:
     void listsFromTheShortestChosen();
     void followsTheSystemsLanguage();
 
+    void beginsTheSumWhereTheOtherLinesBegin();
     void remembersSizePageAndOrder();
     void startsAsAtFirstWithoutAStoredView();
     void bearsAnyStoredView_data();
@@ -234,6 +238,17 @@ void TestWindowControls::followsTheSystemsLanguage()
     withSettings([](SettingsDialog &dialog) {
         QCOMPARE(dialog.findChild<QComboBox *>()->currentIndex(), 0);
     });
+}
+
+void TestWindowControls::beginsTheSumWhereTheOtherLinesBegin()
+{
+    const auto beginOf = [this](const QLabel &label) {
+        return label.mapTo(&window(), label.contentsRect().topLeft()).x();
+    };
+    const auto *const sum = window().findChild<refdialer::SumLabel *>();
+    const auto *const line = window().findChild<refdialer::StateLine *>()->findChild<QLabel *>();
+    // The status bar has a little margin of its own.
+    QVERIFY(std::abs(beginOf(*sum) - beginOf(*line)) < line->fontMetrics().averageCharWidth());
 }
 
 void TestWindowControls::remembersSizePageAndOrder()
