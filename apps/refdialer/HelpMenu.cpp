@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "HelpMenu.h"
 
+#include "MessageBox.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QEvent>
-#include <QMessageBox>
 #include <QUrl>
 
 namespace refdialer
@@ -43,10 +44,11 @@ void HelpMenu::openManual()
     const QString file = manualFile();
     if (QFile::exists(file) && QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
         return;
-    QMessageBox::information(parentWidget()->window(), tr("Manual"),
-                             tr("The manual %1 cannot be opened here. \"man refdialer\" shows it "
-                                "in a terminal.")
-                                 .arg(QDir::toNativeSeparators(file)));
+    MessageBox(QMessageBox::Information, tr("Manual"),
+               tr("The manual %1 cannot be opened here. \"man refdialer\" shows it in a terminal.")
+                   .arg(QDir::toNativeSeparators(file)),
+               parentWidget()->window())
+        .exec();
 }
 
 void HelpMenu::showAbout()
@@ -59,8 +61,11 @@ void HelpMenu::showAbout()
         tr("It uses Qt %1 and libmnl (LGPL), SQLite (public domain), SQLiteCpp and JSON for "
            "Modern C++ (MIT), libarchive (BSD), zlib (zlib licence) and UTF8-CPP (Boost licence).")
             .arg(QString::fromLatin1(qVersion()))};
-    QMessageBox::about(parentWidget()->window(), tr("About refdialer"),
-                       paragraphs.join(QLatin1String("\n\n")));
+    MessageBox box(QMessageBox::NoIcon, tr("About refdialer"),
+                   paragraphs.join(QLatin1String("\n\n")), parentWidget()->window());
+    constexpr int iconSize = 64;
+    box.setIconPixmap(box.windowIcon().pixmap(iconSize));
+    box.exec();
 }
 
 void HelpMenu::retranslate()

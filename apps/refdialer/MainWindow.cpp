@@ -10,6 +10,7 @@
 #include "LanguageChoice.h"
 #include "LineState.h"
 #include "ListChoice.h"
+#include "MessageBox.h"
 #include "PlanLine.h"
 #include "PlanMenu.h"
 #include "PlanWatch.h"
@@ -26,7 +27,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -170,7 +170,7 @@ void MainWindow::closeIfInBackground()
             return;
         }
         forgetClosingChoice();
-        QMessageBox::warning(this, windowTitle(), text);
+        MessageBox(QMessageBox::Warning, windowTitle(), text, this).exec();
     });
 }
 
@@ -179,7 +179,7 @@ void MainWindow::recordInBackground()
     m_historyPage->notice().offerBackground(false);
     turnOnBackground([this](BackgroundUnit::Outcome, const QString &text) {
         m_background->look();
-        QMessageBox::information(this, windowTitle(), text);
+        MessageBox(QMessageBox::Information, windowTitle(), text, this).exec();
     });
 }
 
@@ -283,10 +283,11 @@ void MainWindow::showSettings()
 void MainWindow::showStatistics()
 {
     if (!m_plugin.showStatistics())
-        QMessageBox::warning(this, windowTitle(),
-                             tr("The history plug-in says that it has statistics but cannot be "
-                                "asked for them. Start refdialer with another one: --plugin "
-                                "FILE."));
+        MessageBox(QMessageBox::Warning, windowTitle(),
+                   tr("The history plug-in says that it has statistics but cannot be asked for "
+                      "them. Start refdialer with another one: --plugin FILE."),
+                   this)
+            .exec();
 }
 
 } // namespace refdialer

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PlanDialog.h"
 
+#include "MessageBox.h"
 #include "PastPeriodsDialog.h"
 #include "PlanEditor.h"
 #include "PlanText.h"
@@ -246,8 +247,9 @@ void PlanDialog::removePlan(const std::string &name)
         [this](const Result<bool> &removed) {
             m_plans.look();
             if (!removed)
-                QMessageBox::warning(this, windowTitle(),
-                                     QString::fromStdString(removed.error().message));
+                MessageBox(QMessageBox::Warning, windowTitle(),
+                           QString::fromStdString(removed.error().message), this)
+                    .exec();
         });
 }
 

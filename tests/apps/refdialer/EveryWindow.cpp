@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
 #include <QTest>
 #include <QTimer>
 
@@ -35,11 +37,21 @@ bool storeForEveryWindow(const HistoryWindow &history)
     return history.store({connection(profile, 0), today});
 }
 
+bool makeItTheUsersOwn(const HistoryWindow &history, const QString &home)
+{
+    qputenv("HOME", home.toLocal8Bit());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/dev/null");
+    const QDir folder(home + "/.local/share/refdialer");
+    return folder.mkpath(".") && QFile::link(QString::fromStdString(history.storePath()),
+                                             folder.filePath("connections.db"));
+}
+
 void lookAtEveryWindow(HistoryWindow &history, const Look &look)
 {
     lookAtEveryPage(history, look);
     lookAtEveryDialog(history, look);
     lookAtEveryPlan(history, look);
+    lookAtEveryMessage(history, look);
 }
 
 void lookAtModal(const QString &name, const Look &look, const std::function<void()> &open)

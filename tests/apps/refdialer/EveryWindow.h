@@ -18,6 +18,9 @@ extern const QString profileForEveryWindow;
 /// Stores what gives the windows long figures to show.
 bool storeForEveryWindow(const HistoryWindow &history);
 
+/// Makes the history the user's own, whose home that folder is, and the session bus none at all.
+bool makeItTheUsersOwn(const HistoryWindow &history, const QString &home);
+
 /// Opens each window of the program, brings it into each of its states and looks at it then.
 /// A new window, page or state gets a line there.
 void lookAtEveryWindow(HistoryWindow &history, const Look &look);
@@ -26,6 +29,7 @@ void lookAtEveryWindow(HistoryWindow &history, const Look &look);
 void lookAtEveryPage(HistoryWindow &history, const Look &look);
 void lookAtEveryDialog(HistoryWindow &history, const Look &look);
 void lookAtEveryPlan(HistoryWindow &history, const Look &look);
+void lookAtEveryMessage(HistoryWindow &history, const Look &look);
 
 /// Does what opens a modal window or a menu, looks at that and closes it.
 void lookAtModal(const QString &name, const Look &look, const std::function<void()> &open);

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "EveryWindow.h"
+#include "apps/refdialer/Failure.h"
+#include "apps/refdialer/FailureReport.h"
+#include "apps/refdialer/HistoryNotice.h"
+#include "apps/refdialer/PlanDialog.h"
+#include "apps/refdialer/PlanWatch.h"
+#include "apps/refdialer/RecordingSettings.h"
+#include "apps/refdialer/SettingsDialog.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QTest>
+#include <QTreeWidget>
+
+using history::DataPlan;
+using history::Store;
+
+namespace
+{
+
+void lookAtAServiceThatDoesNotStart(HistoryWindow &history, const Look &look)
+{
+    auto *const notice = history.window().findChild<refdialer::HistoryNotice *>();
+    lookAtModal("no service", look, [notice] { emit notice->backgroundWanted(); });
+}
+
+void lookAtSettingsThatAreNotStored(HistoryWindow &history, const Look &look)
+{
+    refdialer::SettingsDialog dialog(nullptr, &history.window());
+    dialog.show();
+    emit dialog.findChild<refdialer::RecordingSettings *>()->stored(false);
+    settle();
+    look("settings that are not stored", dialog);
+}
+
+/// Presses the button that does what is asked about.
+void confirm(const QMessageBox &question)
+{
+    for (QAbstractButton *const button : question.buttons()) {
+        if (question.buttonRole(button) == QMessageBox::DestructiveRole)
+            button->click();
+    }
+}
+
+/// Of a plan in a history in whose place something else comes.
+void lookAtARemovalThatFails(HistoryWindow &history, const Look &look)
+{
+    const QString path = QString::fromStdString(history.storePath()) + "-other";
+    DataPlan plan;
+    plan.name = profileForEveryWindow.toStdString();
+    QVERIFY(Store::openOrCreate(path.toStdString()).value().setPlan(plan));
+    refdialer::PlanWatch plans(path);
+    plans.finish();
+    refdialer::PlanDialog dialog(plans, &history.window());
+    QVERIFY(QFile::rename(path, path + "-away"));
+    QVERIFY(QDir().mkdir(path));
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClick(dialog.findChild<QTreeWidget *>(), Qt::Key_Delete);
+    lookAtModal("failed removal", look, [&dialog] { confirm(*dialog.findChild<QMessageBox *>()); });
+}
+
+void lookAtAFailedStart(const Look &look)
+{
+    try {
+        refdialer::PluginHandle::load(QStringLiteral("/a.so"));
+    } catch (const refdialer::Failure &failure) {
+        lookAtModal("failed start", look, [&failure] { refdialer::reportInWindow(failure); });
+    }
+}
+
+} // namespace
+
+void lookAtEveryMessage(HistoryWindow &history, const Look &look)
+{
+    lookAtAServiceThatDoesNotStart(history, look);
+    lookAtSettingsThatAreNotStored(history, look);
+    lookAtARemovalThatFails(history, look);
+    lookAtAFailedStart(look);
+}
