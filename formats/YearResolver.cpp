@@ -53,6 +53,7 @@ YearResolver::YearResolver(const std::vector<ClockRun> &runs, std::optional<int>
         deduceLastYear(turns.lastTrusted, changed);
         m_isGuess = m_isGuess || turns.areUncertain;
     }
+    keepWrittenYears();
     m_lastYear = m_years[turns.lastTrusted];
 }
 
@@ -90,6 +91,14 @@ void YearResolver::deduceLastYear(std::size_t lastRun, std::int64_t changedUtc)
     if (hasImpossibleDay())
         resolveFrom(lastRun, year);
     m_isGuess = changedUtc - utc(last, lastRun) > usage::secondsPerDay;
+}
+
+void YearResolver::keepWrittenYears()
+{
+    for (std::size_t i = 0; i < m_runs.size(); ++i) {
+        if (m_runs[i].year != 0)
+            m_years[i] = m_runs[i].year;
+    }
 }
 
 } // namespace formats

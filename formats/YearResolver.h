@@ -35,6 +35,7 @@ public:
 private:
     void resolveFrom(std::size_t run, int year);
     void deduceLastYear(std::size_t lastRun, std::int64_t changedUtc);
+    void keepWrittenYears();
 
     const std::vector<ClockRun> &m_runs;
     std::vector<int> m_years; ///< of each run; before resolveFrom(), counted from the first

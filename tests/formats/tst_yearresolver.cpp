@@ -12,11 +12,13 @@ class YearResolverTest : public QObject
     Q_OBJECT
 
 private slots:
+    void knowsThePlaceOfEachDay();
     void givesEachLineItsYear_data();
     void givesEachLineItsYear();
     void takesTheYearThatIsGiven_data();
     void takesTheYearThatIsGiven();
     void keepsAYearThatIsWritten();
+    void keepsYearsApartThatAreWritten();
     void countsFromAYearThatIsWritten();
     void saysWhereTheYearIsAGuess_data();
     void saysWhereTheYearIsAGuess();
@@ -87,6 +89,14 @@ QStringList withoutYears(const QStringList &lines)
 
 } // namespace
 
+void YearResolverTest::knowsThePlaceOfEachDay()
+{
+    const QDate first(2024, 1, 1);
+    for (QDate day = first; day.year() == first.year(); day = day.addDays(1))
+        QCOMPARE(placeInYear({0, day.month(), day.day(), 1, 2, 3, {}}),
+                 std::int64_t(first.daysTo(day)) * secondsPerDay + 3723);
+}
+
 void YearResolverTest::givesEachLineItsYear_data()
 {
     QTest::addColumn<QStringList>("lines");
@@ -118,6 +128,12 @@ void YearResolverTest::givesEachLineItsYear_data()
         << QStringList{"2023-12-31 23:59:58", "2024-01-01 00:00:00", "2023-12-31 23:59:59",
                        "2024-01-01 00:00:01"}
         << "2024-01-01 00:00:01";
+    QTest::newRow("a minute out of order at the turn of the year, and then days without lines")
+        << QStringList{"2024-01-01 00:00:30", "2023-12-31 23:59:30", "2024-01-05 12:00:00"}
+        << "2024-01-05 12:00:00";
+    QTest::newRow("more than a minute before that, nearly a year has passed")
+        << QStringList{"2023-01-01 00:00:30", "2023-12-31 23:59:29", "2024-01-05 12:00:00"}
+        << "2024-01-05 12:00:00";
     QTest::newRow("written in a zone ahead")
         << QStringList{"2023-11-12 17:00:00", "2023-11-12 22:00:00"} << autumn;
     QTest::newRow("a clock set back in the middle")
@@ -193,6 +209,16 @@ void YearResolverTest::keepsAYearThatIsWritten()
     QCOMPARE(log.resolved(years), lines);
     QCOMPARE(years.lastYear(), 2024);
     QVERIFY(!years.isGuess());
+}
+
+/// Not all lines show theirs, and nothing else tells that a year has passed.
+void YearResolverTest::keepsYearsApartThatAreWritten()
+{
+    const Log log(
+        {"2023-03-01 00:00:00", "03-01 00:00:10", "2024-03-01 00:00:20", "03-01 00:00:30"});
+    QCOMPARE(log.resolved(log.years({}, "2024-11-12 08:00:00")),
+             QStringList({"2023-03-01 00:00:00", "2023-03-01 00:00:10", "2024-03-01 00:00:20",
+                          "2024-03-01 00:00:30"}));
 }
 
 void YearResolverTest::countsFromAYearThatIsWritten()
