@@ -31,7 +31,6 @@ void JsonLinesImport::read(const ImportSource &source, const ReadProgress &progr
 {
     LineReader lines(source.device, longestJsonLine + 1, progress);
     const auto fail = [&](const std::string &reason) {
-        lines.checkReadToTheEnd(source.name);
         throw InputError(source.name + ", line " + std::to_string(lines.lineNumber()) + ": " +
                          reason + ". Nothing was imported.");
     };

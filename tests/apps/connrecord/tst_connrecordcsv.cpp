@@ -34,6 +34,7 @@ private slots:
     void refusesWhatWouldFillTheMemory();
     void tellsAFileThatCannotBeRead_data();
     void tellsAFileThatCannotBeRead();
+    void takesWhatFollowsTwoHyphensForAFile();
     void showsTheProgressOfALongImportOnATerminal();
 
 private:
@@ -149,15 +150,19 @@ void ConnrecordCsvTest::tellsTheWrongLineAndStoresNothing()
 
 void ConnrecordCsvTest::storesNothingOfAFileThatCannotBeReadToItsEnd_data()
 {
+    QTest::addColumn<QString>("format");
     QTest::addColumn<QByteArray>("readable");
 
-    QTest::newRow("it fails between two lines") << csvOf(3);
-    QTest::newRow("it fails within a line") << csvOf(3) + "internet.example,2024-05-31T1";
-    QTest::newRow("it fails within quotation marks") << csvOf(3) + "\"internet.";
+    QTest::newRow("it fails between two lines") << "csv" << csvOf(3);
+    QTest::newRow("it fails within a line") << "csv" << csvOf(3) + "internet.example,2024-05-31T1";
+    QTest::newRow("it fails within quotation marks") << "csv" << csvOf(3) + "\"internet.";
+    QTest::newRow("it fails within JSON") << "json" << QByteArray("[{\"profile\":\"internet.");
+    QTest::newRow("it fails within a line of JSON") << "jsonl" << QByteArray("{\"profile\":");
 }
 
 void ConnrecordCsvTest::storesNothingOfAFileThatCannotBeReadToItsEnd()
 {
+    QFETCH(QString, format);
     QFETCH(QByteArray, readable);
     // Behind what was written at its other end, a terminal whose other end is closed
     // cannot be read.
@@ -171,8 +176,8 @@ void ConnrecordCsvTest::storesNothingOfAFileThatCannotBeReadToItsEnd()
              static_cast<ssize_t>(readable.size()));
     QCOMPARE(::close(otherEnd), 0);
     const ConnrecordRun result = runProgram(
-        "sh", {"-c", "\"$0\" --store \"$1\" import --format csv - <&" + QString::number(failing),
-               connrecordProgram(), m_store});
+        "sh", {"-c", "\"$0\" --store \"$1\" import --format \"$2\" - <&" + QString::number(failing),
+               connrecordProgram(), m_store, format});
     QCOMPARE(::close(failing), 0);
     QCOMPARE(result.exitCode, 4);
     QCOMPARE(result.output, QByteArray());
@@ -222,6 +227,16 @@ void ConnrecordCsvTest::tellsAFileThatCannotBeRead()
                  result.error);
         QVERIFY(!QFile::exists(m_store));
     }
+}
+
+void ConnrecordCsvTest::takesWhatFollowsTwoHyphensForAFile()
+{
+    writeFile(m_folder->filePath("--json"), csvOf(2));
+    const ConnrecordRun result =
+        runProgram("sh", {"-c", "cd \"$1\" && \"$0\" --store \"$2\" import --format csv -- --json",
+                          connrecordProgram(), m_folder->path(), m_store});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.output, QByteArray("Connections read: 2\nAdded: 2\nAlready there: 0\n"));
 }
 
 void ConnrecordCsvTest::showsTheProgressOfALongImportOnATerminal()
