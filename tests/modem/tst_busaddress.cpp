@@ -10,6 +10,7 @@ class TestBusAddress : public QObject
 private slots:
     void readsTheAddressOfABus_data();
     void readsTheAddressOfABus();
+    void findsTheSystemBus();
 };
 
 void TestBusAddress::readsTheAddressOfABus_data()
@@ -32,6 +33,19 @@ void TestBusAddress::readsTheAddressOfABus()
     QFETCH(const QString, address);
     QTEST(modem::isLocalBusAddress(address), "isLocal");
     QTEST(modem::socketOfBusAddress(address), "socket");
+}
+
+void TestBusAddress::findsTheSystemBus()
+{
+    const char *const name = "DBUS_SYSTEM_BUS_ADDRESS";
+    const QByteArray former = qgetenv(name);
+    qputenv(name, "unix:path=/run/bus");
+    const QString named = modem::systemBusAddress();
+    qputenv(name, "");
+    const QString unnamed = modem::systemBusAddress();
+    former.isNull() ? qunsetenv(name) : qputenv(name, former);
+    QCOMPARE(named, QString("unix:path=/run/bus"));
+    QCOMPARE(unnamed, QString("unix:path=/var/run/dbus/system_bus_socket"));
 }
 
 QTEST_GUILESS_MAIN(TestBusAddress)

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "PeerBus.h"
 #include "PrivateBus.h"
 #include "modem/BusConnection.h"
 
+#include <QCoreApplication>
 #include <QDBusConnectionInterface>
+#include <QDir>
+#include <QLoggingCategory>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -54,6 +58,67 @@ private:
     std::thread m_thread;
 };
 
+/// A bus that gives its client a name, or takes nobody in.
+class Doorkeeper : public PeerBus
+{
+public:
+    Doorkeeper(const QString &address, bool isOpen)
+        : PeerBus(address)
+        , m_isOpen(isOpen)
+    {
+    }
+
+    bool hasAnswered() const { return m_hasAnswered; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
+    {
+        m_hasAnswered = connection.send(
+            m_isOpen ? message.createReply(":1.0")
+                     : message.createErrorReply(QDBusError::AccessDenied, "Not you"));
+        return true;
+    }
+
+private:
+    const bool m_isOpen;
+    bool m_hasAnswered = false;
+};
+
+/// Counts what is said of attempts to reach a bus.
+class FailureCount
+{
+public:
+    FailureCount()
+    {
+        number = 0;
+        former = qInstallMessageHandler(&FailureCount::handle);
+        QLoggingCategory::setFilterRules("modem.debug=true");
+    }
+    ~FailureCount()
+    {
+        QLoggingCategory::setFilterRules({});
+        qInstallMessageHandler(former);
+    }
+    FailureCount(const FailureCount &) = delete;
+    FailureCount &operator=(const FailureCount &) = delete;
+
+    static inline int number = 0;
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
+    {
+        if (qstrcmp(context.category, "modem") == 0)
+            ++number;
+        else
+            former(type, context, text);
+    }
+
+    static inline QtMessageHandler former = nullptr;
+};
+
+BusConnection::Subscription toWhatIsSaid()
+{
+    return {interfaceName, "Said", {QString("type='signal',interface='%1'").arg(interfaceName)}};
+}
+
 } // namespace
 
 class TestBusConnection : public QObject
@@ -62,6 +127,10 @@ class TestBusConnection : public QObject
 
 private slots:
     void leavesABusInTheMiddleOfASignal();
+    void asksNobodyWithoutABus();
+    void isNotThereUnlessTheBusGreetsIt();
+    void findsABusWithoutAFileAgain();
+    void followsTheFoldersOfABusThatComesLate();
 };
 
 /// QtDBus's thread is often delivering one at that very moment, not always: the more often it is
@@ -72,18 +141,95 @@ void TestBusConnection::leavesABusInTheMiddleOfASignal()
     PrivateBus bus(folder.path());
     QVERIFY(bus.start());
     const Talker talker(bus.address());
-    const QString rule = QStringLiteral("type='signal',interface='%1'").arg(interfaceName);
     for (int round = 0; round < 40; ++round) {
         std::vector<std::unique_ptr<BusConnection>> connections;
         for (int i = 0; i < 10; ++i) {
             connections.push_back(std::make_unique<BusConnection>(
-                bus.address(),
-                std::vector<BusConnection::Subscription>{{interfaceName, "Said", {rule}}}));
+                bus.address(), std::vector<BusConnection::Subscription>{toWhatIsSaid()}));
             QVERIFY(connections.back()->start());
         }
         QSignalSpy received(connections.back().get(), &BusConnection::received);
         QVERIFY(received.wait());
     }
+}
+
+/// Nor does what was asked before there is one go to it.
+void TestBusConnection::asksNobodyWithoutABus()
+{
+    const QTemporaryDir folder;
+    PrivateBus bus(folder.path());
+    BusConnection connection(bus.address(), {});
+    bool isEarlyAnswered = false;
+    connection.ask(modem::busCall("GetId"), "s",
+                   [&](const QVariantList &) { isEarlyAnswered = true; });
+    connection.tell(modem::busCall("GetId"));
+    QVERIFY(bus.start());
+    QSignalSpy connected(&connection, &BusConnection::connected);
+    QVERIFY(connection.start());
+    QVERIFY(connected.wait());
+    bool isAnswered = false;
+    connection.ask(modem::busCall("GetId"), "s",
+                   [&](const QVariantList &reply) { isAnswered = reply.size() == 1; });
+    QTRY_VERIFY(isAnswered);
+    QVERIFY(!isEarlyAnswered);
+}
+
+void TestBusConnection::isNotThereUnlessTheBusGreetsIt()
+{
+    const QTemporaryDir folder;
+    Doorkeeper bus("unix:path=" + folder.filePath("bus"), false);
+    BusConnection connection(bus.address(), {toWhatIsSaid()});
+    const QSignalSpy connected(&connection, &BusConnection::connected);
+    const QSignalSpy received(&connection, &BusConnection::received);
+    QVERIFY(connection.start());
+    QTRY_VERIFY(bus.hasAnswered());
+    bus.send("/", interfaceName, "Said", {});
+    bus.waitForClient();
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(connected.size(), 0);
+    QCOMPARE(received.size(), 0);
+    QCOMPARE(connection.uniqueName(), QString());
+}
+
+/// Where it was cut off from one, it tries once more.
+void TestBusConnection::findsABusWithoutAFileAgain()
+{
+    const QString address =
+        QString("unix:abstract=netinforecord-test-%1").arg(QCoreApplication::applicationPid());
+    BusConnection connection(address, {});
+    QSignalSpy connected(&connection, &BusConnection::connected);
+    QSignalSpy disconnected(&connection, &BusConnection::disconnected);
+    {
+        const Doorkeeper bus(address, true);
+        QVERIFY(connection.start());
+        QVERIFY(connected.wait());
+        QCOMPARE(connection.uniqueName(), QString(":1.0"));
+    }
+    QVERIFY(disconnected.wait());
+    QCOMPARE(connection.uniqueName(), QString());
+    const Doorkeeper bus(address, true);
+    QVERIFY(connected.wait());
+    QCOMPARE(connection.uniqueName(), QString(":1.0"));
+}
+
+void TestBusConnection::followsTheFoldersOfABusThatComesLate()
+{
+    const QTemporaryDir folder;
+    PrivateBus bus(folder.filePath("later/still"));
+    BusConnection connection(bus.address(), {});
+    QSignalSpy connected(&connection, &BusConnection::connected);
+    const FailureCount failures;
+    QVERIFY(connection.start());
+    // Once more each time, for what has come just before it was watched for.
+    QTRY_COMPARE(failures.number, 2);
+    QVERIFY(QDir(folder.path()).mkdir("other"));
+    QTRY_COMPARE(failures.number, 3);
+    QVERIFY(QDir(folder.path()).mkdir("later"));
+    QTRY_COMPARE(failures.number, 5);
+    QVERIFY(QDir(folder.path()).mkdir("later/still"));
+    QTRY_COMPARE(failures.number, 7);
+    QVERIFY(bus.start());
+    QVERIFY(connected.wait());
 }
 
 QTEST_GUILESS_MAIN(TestBusConnection)

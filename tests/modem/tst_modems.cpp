@@ -255,7 +255,7 @@ void TestModems::ignoresStrangers()
 void TestModems::believesAnswersWithoutASenderButNoSignals()
 {
     startDaemon();
-    NamelessBus bus(m_folder->filePath("nameless"), *m_daemon);
+    NamelessBus bus("unix:path=" + m_folder->filePath("nameless"), *m_daemon);
     m_modems = std::make_unique<Modems>(bus.address());
     m_modems->start();
     QTRY_COMPARE(apn(), "internet.example");
