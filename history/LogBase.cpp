@@ -54,7 +54,7 @@ public:
     {
         m_log.read(m_header.data(), logHeaderSize);
         const std::uint32_t pageSize = bigEndian(m_header.data() + pageSizeOffset);
-        if (m_log && pageSize > 0 && pageSize <= largestPage)
+        if (pageSize <= largestPage)
             m_page.resize(pageSize);
     }
 

@@ -45,9 +45,8 @@ std::string uriOf(const std::string &path)
     constexpr const char *digits = "0123456789ABCDEF";
     std::string uri = "file:";
     for (const char each : path) {
-        const auto byte = static_cast<unsigned char>(each);
-        if (each == '%' || each == '?' || each == '#' || byte < 0x21 || byte > 0x7e)
-            uri += {'%', digits[byte >> 4U], digits[byte & 15U]};
+        if (each == '%' || each == '?' || each == '#')
+            uri += {'%', digits[each >> 4], digits[each & 15]};
         else
             uri += each;
     }

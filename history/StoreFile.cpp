@@ -187,7 +187,7 @@ void createPrivateFile(const std::string &path)
 {
     createFolders(std::filesystem::path(path).parent_path());
     const int file = open(path.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (file < 0 && errno == EEXIST && statusOf(path))
+    if (file < 0 && errno == EEXIST)
         return;
     const bool isMade = file >= 0 && fchmod(file, S_IRUSR | S_IWUSR) == 0;
     const int reason = errno;

@@ -12,6 +12,8 @@
 #include <QDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 #include <functional>
 
 using history::Connection;
@@ -105,8 +107,21 @@ void RefusedFileTest::refusesAndKeepsUntouched_data()
         [](const QString &path) { writeFile(path, QByteArray(8192, 'x')); });
     row("a file of zeros", "NotAStore", refhost::KoraNotAStore,
         [](const QString &path) { writeFile(path, QByteArray(8192, '\0')); });
+    row("a file of zeros beside an empty journal", "NotAStore", refhost::KoraNotAStore,
+        [](const QString &path) {
+            writeFile(path, QByteArray(8192, '\0'));
+            writeFile(path + "-journal", {});
+        });
     row("another program's database", "NotAStore", refhost::KoraNotAStore,
         [](const QString &path) { runSql(path.toStdString(), "CREATE TABLE notes (text)"); });
+    // A number whose last byte is zero, as if there was none.
+    row("another program's database of 256 views on a page", "NotAStore", refhost::KoraNotAStore,
+        [](const QString &path) {
+            std::string sql = "PRAGMA page_size = 65536; BEGIN;";
+            for (int i = 0; i < 256; ++i)
+                sql += "CREATE VIEW notes" + std::to_string(i) + " AS SELECT 1;";
+            runSql(path.toStdString(), sql + "COMMIT");
+        });
     row("another program's database with a mark", "NotAStore", refhost::KoraNotAStore,
         [](const QString &path) {
             runSql(path.toStdString(), "PRAGMA application_id = 77; PRAGMA user_version = 1");
@@ -195,6 +210,9 @@ void RefusedFileTest::saysWhatIsInTheStoresPlace_data()
     QTest::newRow("another program's")
         << Maker([](auto &path) { runSql(path.toStdString(), "CREATE TABLE notes (text)"); })
         << "a database of another program";
+    QTest::newRow("a pipe") << Maker([](const QString &path) {
+        QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
+    }) << "a device";
 }
 
 void RefusedFileTest::saysWhatIsInTheStoresPlace()

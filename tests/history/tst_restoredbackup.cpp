@@ -48,6 +48,15 @@ QByteArray loggedPage(const QByteArray &log, int page)
     return log.mid(frame + 24, pageSize);
 }
 
+/// The log with another byte in each page.
+QByteArray withOtherPages(QByteArray log)
+{
+    constexpr int place = 100;
+    for (int frame = 32; frame + 24 + place < log.size(); frame += 24 + pageSize)
+        log[frame + 24 + place] = char(log.at(frame + 24 + place) ^ 1);
+    return log;
+}
+
 void copyOver(const QString &from, const QString &to)
 {
     writeFile(to, contentsOf(from));
@@ -85,6 +94,8 @@ private slots:
     void aLogIsPlayedOnWhereItWasInterrupted_data();
     void aLogIsPlayedOnWhereItWasInterrupted();
     void aLogThatAnotherProgramHasPlayedIsNoObstacle();
+    void onlyWholeChangesOfALogCount_data();
+    void onlyWholeChangesOfALogCount();
     void aLogIsPlayedWhereAPowerCutHasTakenTimesBack();
     void aLogThatTheUserVouchesForIsPlayed();
 
@@ -269,6 +280,45 @@ void RestoredBackupTest::aLogThatAnotherProgramHasPlayedIsNoObstacle()
     peer.kill();
     QVERIFY(QFileInfo(m_log).size() > 0);
     QCOMPARE(profilesIn(m_path.toStdString()), QString("changed changed changed"));
+}
+
+void RestoredBackupTest::onlyWholeChangesOfALogCount_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("profiles");
+    constexpr int whole = 1 << 30;
+    const QString kept = "peer kept";
+    QTest::newRow("it is whole") << whole << 0 << QByteArray() << "CannotOpen";
+    QTest::newRow("it ends within its header") << 20 << 0 << QByteArray() << kept;
+    QTest::newRow("its pages have no size") << whole << 8 << QByteArray(4, '\0') << kept;
+    QTest::newRow("its pages are larger than any") << whole << 8 << QByteArray(4, '\x7f') << kept;
+    QTest::newRow("it ends within the head of a change") << 40 << 0 << QByteArray() << kept;
+    QTest::newRow("it ends within a change") << -10 << 0 << QByteArray() << kept;
+    QTest::newRow("its changes are those of an earlier one")
+        << whole << 16 << QByteArray(8, 'x') << kept;
+}
+
+/// What it holds is another file's: this one's own changes are in the file already, which
+/// another program has written since.
+void RestoredBackupTest::onlyWholeChangesOfALogCount()
+{
+    QFETCH(int, size);
+    QFETCH(int, offset);
+    QFETCH(QByteArray, bytes);
+    storeWith(m_path.toStdString(), {connection("kept", 10000000, 10000001)});
+    StorePeer peer;
+    QCOMPARE(peer.tell("hold " + m_path + " 1"), QString("ok 1"));
+    runSql(m_path.toStdString(), "PRAGMA wal_checkpoint");
+    peer.kill();
+    const QByteArray log = withOtherPages(contentsOf(m_log));
+    writeFile(
+        m_log,
+        log.left(size < 0 ? int(log.size()) + size : size).replace(offset, bytes.size(), bytes));
+    awaitTimeAfterTheLog();
+    copyOver(m_path, m_path);
+    QTEST(profilesIn(m_path.toStdString()), "profiles");
 }
 
 void RestoredBackupTest::aLogIsPlayedWhereAPowerCutHasTakenTimesBack()

@@ -6,6 +6,9 @@
 
 #include <QTest>
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <cstdio>
 
 using history::Connection;
@@ -25,6 +28,7 @@ private slots:
     void theNamedStoreIsTheDefault();
     void theDefaultLiesInTheDataFolder();
     void theDefaultLiesInTheHomeFolderWithoutADataFolder();
+    void theDefaultLiesInTheUsersFolderWithoutAnEnvironment();
     void keepsEveryFieldOfAConnection();
     void listsByStartTimeThenByKey();
     void findsItsRecordsAfterReopening();
@@ -64,6 +68,19 @@ void StoreTest::theDefaultLiesInTheHomeFolderWithoutADataFolder()
     qputenv("XDG_DATA_HOME", dataFolder);
     QCOMPARE(withoutFolder, expected);
     QCOMPARE(withRelativeFolder, expected);
+}
+
+void StoreTest::theDefaultLiesInTheUsersFolderWithoutAnEnvironment()
+{
+    const QByteArray dataFolder = qgetenv("XDG_DATA_HOME");
+    const QByteArray home = qgetenv("HOME");
+    qunsetenv("XDG_DATA_HOME");
+    qunsetenv("HOME");
+    const std::string path = Store::defaultPath();
+    qputenv("XDG_DATA_HOME", dataFolder);
+    qputenv("HOME", home);
+    QCOMPARE(path,
+             getpwuid(getuid())->pw_dir + std::string("/.local/share/refdialer/connections.db"));
 }
 
 void StoreTest::keepsEveryFieldOfAConnection()

@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <functional>
 
@@ -61,6 +62,7 @@ private slots:
     void isPrivateWhateverTheUmask();
     void keepsTheModeOfAFolderThatIsThere();
     void takesTheAccessOfOthersAway();
+    void leavesAFileOfSomebodyElseItsAccess();
     void writesAheadAndKeepsIntegers();
     void marksItsFile();
     void isWholeBeforeItsLog_data();
@@ -71,6 +73,9 @@ private slots:
     void takesANewFile();
     void leavesAnEmptyFileEmptyWhenOnlyReading();
     void followsALinkToTheFile();
+    void refusesALinkThatLeadsNowhere();
+    void takesAnyNameForAName_data();
+    void takesAnyNameForAName();
     void keepsWhatACrashLeftInTheLog();
     void makesAnewWhatAPowerCutLeftHalfMade();
 
@@ -124,6 +129,18 @@ void StoreFileTest::takesTheAccessOfOthersAway()
     QVERIFY(store);
     for (const char *const suffix : {"", "-wal", "-shm"})
         QCOMPARE(modeOf(file() + suffix), mode_t(0600));
+}
+
+void StoreFileTest::leavesAFileOfSomebodyElseItsAccess()
+{
+    if (geteuid() != 0)
+        QSKIP("only root can give a file away", "");
+    makeStore(m_path);
+    constexpr uid_t somebody = 65534;
+    QCOMPARE(chown(m_path.c_str(), somebody, somebody), 0);
+    QCOMPARE(chmod(m_path.c_str(), 0664), 0);
+    QVERIFY(Store::openOrCreate(m_path));
+    QCOMPARE(modeOf(file()), mode_t(0664));
 }
 
 void StoreFileTest::writesAheadAndKeepsIntegers()
@@ -216,6 +233,35 @@ void StoreFileTest::followsALinkToTheFile()
     QVERIFY(QFile::link(file(), link));
     storeWith(link.toStdString(), {connection("through the link", 1, 2)});
     QVERIFY(profilesIn(m_path).startsWith("through the link 0 1 2"));
+}
+
+void StoreFileTest::refusesALinkThatLeadsNowhere()
+{
+    QVERIFY(QFile::link(m_folder->filePath("gone.db"), file()));
+    const auto store = Store::openOrCreate(m_path);
+    QCOMPARE(outcomeOf(store), QString("CannotOpen"));
+    const QString sentence = QString::fromStdString(store.error().message);
+    QVERIFY2(sentence.contains("No such file or directory"), qPrintable(sentence));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::System),
+             QStringList("connections.db"));
+}
+
+void StoreFileTest::takesAnyNameForAName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("what SQLite reads as a parameter") << "mobile?mode=memory";
+    QTest::newRow("what ends a name there") << "mobile#1";
+    QTest::newRow("what stands for a letter there") << "mobile%41";
+    QTest::newRow("a blank and a letter of two bytes") << QString::fromUtf8("mob\xC3\xAEle 1");
+}
+
+void StoreFileTest::takesAnyNameForAName()
+{
+    QFETCH(QString, name);
+    const QString path = m_folder->filePath(name);
+    storeWith(path.toStdString(), {connection("kept", 1, 2)});
+    QCOMPARE(profilesIn(path.toStdString()), QString("kept"));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList(name));
 }
 
 void StoreFileTest::keepsWhatACrashLeftInTheLog()

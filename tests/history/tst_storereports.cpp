@@ -5,6 +5,8 @@
 #include "history/ConnectionSpool.h"
 #include "history/StoreReports.h"
 
+#include <SQLiteCpp/Database.h>
+
 #include <QTest>
 
 #include <limits>
@@ -80,7 +82,11 @@ private slots:
     void storesNothingOfASpoolWithABadRecord();
     void refusesOpenConnectionsThatCannotBe();
     void copiesTheHistory();
+    void saysThatItsCopyIsInUse();
     void knowsWhatWasTakenOver();
+    void keepsWhatLinksShow();
+    void tellsWhatIsWrongWithTheFile_data();
+    void tellsWhatIsWrongWithTheFile();
 };
 
 void StoreReportsTest::sumsUpWhereBytesWereMoved()
@@ -218,6 +224,21 @@ void StoreReportsTest::copiesTheHistory()
     QCOMPARE(nameOf(failed.error().kind), "WriteFailed");
 }
 
+void StoreReportsTest::saysThatItsCopyIsInUse()
+{
+    const Store store = storeWith(m_path, numberedConnections(3));
+    const std::string copy = m_path + ".copy";
+    SQLite::Database other(copy, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    other.exec("BEGIN");
+    QCOMPARE(other.execAndGet("SELECT count(*) FROM sqlite_schema").getInt(), 0);
+    const auto failed = store.copyTo(copy);
+    QVERIFY(!failed);
+    QCOMPARE(nameOf(failed.error().kind), "WriteFailed");
+    const QString sentence = QString::fromStdString(failed.error().message);
+    QVERIFY2(sentence.contains("database is locked"), qPrintable(sentence));
+    QCOMPARE(profilesIn(m_path), QString("0 1 2"));
+}
+
 void StoreReportsTest::knowsWhatWasTakenOver()
 {
     Store store = storeWith(m_path, {});
@@ -229,6 +250,59 @@ void StoreReportsTest::knowsWhatWasTakenOver()
     QVERIFY(!store.wasTakenOver("file 2").value());
     QCOMPARE(store.forgetOrigins().value(), std::int64_t(1));
     QVERIFY(!store.wasTakenOver("file 1").value());
+}
+
+void StoreReportsTest::keepsWhatLinksShow()
+{
+    Store store = storeWith(m_path, {});
+    const SeenLink gone{"boot 1", 3, "wwan0", 5, 6, hour};
+    const SeenLink other{"boot 1", 4, "usb0", 7, 8, hour};
+    QCOMPARE(store.see({gone, other}).value(), std::size_t(0));
+    // The same name after a restart.
+    const SeenLink anew{"boot 2", 2, "wwan0", 1, 2, hour + 60};
+    QCOMPARE(store.see({anew}, {used("nobody has watched", "", 9)}).value(), std::size_t(1));
+    QCOMPARE(profilesIn(m_path), QString("nobody has watched"));
+    QVERIFY(!store.see({gone}, {used("no roaming", "nowhere", 9)}));
+    const auto seen = store.listSeen().value();
+    QCOMPARE(seen.size(), std::size_t(2));
+    QCOMPARE(seen[0].interfaceName, std::string("usb0"));
+    QCOMPARE(seen[1].bootId, std::string("boot 2"));
+    QCOMPARE(seen[1].downloaded, std::int64_t(2));
+    QCOMPARE(seen[1].seenUtc, hour + 60);
+}
+
+void StoreReportsTest::tellsWhatIsWrongWithTheFile_data()
+{
+    QTest::addColumn<QByteArray>("unusedPages");
+    QTest::addColumn<QString>("sql");
+    QTest::addColumn<QString>("problem");
+
+    const QByteArray none(4, '\0');
+    QTest::newRow("nothing") << none << "SELECT 1"
+                             << "";
+    QTest::newRow("a value that cannot be")
+        << none << "UPDATE connection SET uploaded_bytes = -1 WHERE key = 2"
+        << "Key 2: ";
+    QTest::newRow("pages that are not there") << QByteArray("\0\0\0\5", 4) << "SELECT 1"
+                                              << "5";
+}
+
+void StoreReportsTest::tellsWhatIsWrongWithTheFile()
+{
+    QFETCH(QByteArray, unusedPages);
+    QFETCH(QString, sql);
+    QFETCH(QString, problem);
+    storeWith(m_path, numberedConnections(3));
+    runSql(m_path, sql.toStdString());
+    const QString file = QString::fromStdString(m_path);
+    constexpr int unusedPagesOffset = 36;
+    writeFile(file, contentsOf(file).replace(unusedPagesOffset, 4, unusedPages));
+    const auto examined = Store::openForReading(m_path).value().examine();
+    QVERIFY(examined);
+    QCOMPARE(examined.value().connections, std::size_t(3));
+    QCOMPARE(examined.value().problems.size(), std::size_t(problem.isEmpty() ? 0 : 1));
+    if (!problem.isEmpty())
+        QVERIFY(QString::fromStdString(examined.value().problems[0]).contains(problem));
 }
 
 QTEST_GUILESS_MAIN(StoreReportsTest)

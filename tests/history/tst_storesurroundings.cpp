@@ -116,6 +116,9 @@ void StoreSurroundingsTest::aFolderThatMayNotBeWrittenIsAnError()
     QVERIFY(peer);
     QVERIFY(
         isFailure(peer->tell("add " + m_path + " 7"), "CannotOpen", {m_path, "Permission denied"}));
+    const QString folder = m_place + "/folder";
+    QVERIFY(isFailure(peer->tell("add " + folder + "/connections.db 7"), "CannotOpen",
+                      {folder + '"', "Permission denied"}));
     QCOMPARE(peer->tell("count " + m_path), QString("ok 0"));
     QVERIFY(!QFile::exists(m_path));
 }
