@@ -1101,7 +1101,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::PlanMenu</name>
     <message>
         <source>&amp;Plans</source>
-        <translation>&amp;Тарифы</translation>
+        <translation>&amp;Планы</translation>
     </message>
     <message>
         <source>&amp;Data plans…</source>

@@ -1169,7 +1169,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>Heading for %1</source>
-        <translation>%1 yolunda</translation>
+        <translation>Gidişat: %1</translation>
     </message>
     <message>
         <source>%1 % reached</source>
