@@ -7,6 +7,7 @@
 #include "apps/refdialer/PlanWatch.h"
 #include "apps/refdialer/RecordingSettings.h"
 #include "apps/refdialer/SettingsDialog.h"
+#include "apps/refdialer/ViewMenu.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -73,6 +74,14 @@ void lookAtAFailedStart(const Look &look)
     }
 }
 
+/// One that has ended can be asked for nothing.
+void lookAtAPluginThatTellsNoStatistics(HistoryWindow &history, const Look &look)
+{
+    history.plugin().end();
+    auto *const menu = history.window().findChild<refdialer::ViewMenu *>();
+    lookAtModal("no statistics", look, [menu] { emit menu->statisticsWanted(); });
+}
+
 } // namespace
 
 void lookAtEveryMessage(HistoryWindow &history, const Look &look)
@@ -81,4 +90,5 @@ void lookAtEveryMessage(HistoryWindow &history, const Look &look)
     lookAtSettingsThatAreNotStored(history, look);
     lookAtARemovalThatFails(history, look);
     lookAtAFailedStart(look);
+    lookAtAPluginThatTellsNoStatistics(history, look);
 }

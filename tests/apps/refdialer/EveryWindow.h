@@ -25,7 +25,7 @@ bool makeItTheUsersOwn(const HistoryWindow &history, const QString &home);
 /// A new window, page or state gets a line there.
 void lookAtEveryWindow(HistoryWindow &history, const Look &look);
 
-/// Parts of that.
+/// Parts of that; after the last one the plug-in has ended.
 void lookAtEveryPage(HistoryWindow &history, const Look &look);
 void lookAtEveryDialog(HistoryWindow &history, const Look &look);
 void lookAtEveryPlan(HistoryWindow &history, const Look &look);
