@@ -111,12 +111,20 @@ QString PlanText::details(const StandingPlan &standing, const QLocale &locale)
         tr("The period is from %1 to %2.")
             .arg(dayText(status.period.first, locale), dayText(status.period.last(), locale))};
     if (status.left)
-        sentences.append(tr("%1 left.").arg(usage::sizeText(*status.left, Rounding::Down)));
+        sentences.append(leftText(*status.left));
     // What takes off more than was used makes it less than nothing.
     if (status.pace && *status.pace >= 0)
         sentences.append(tr("At this pace it will be %1 in the end.")
                              .arg(usage::sizeText(*status.pace, Rounding::Down)));
     return sentences.join(QLatin1Char(' '));
+}
+
+QString PlanText::leftText(std::int64_t left)
+{
+    if (left >= 0)
+        return tr("%1 left.").arg(usage::sizeText(left, Rounding::Down));
+    return tr("%1 over.")
+        .arg(usage::sizeText(usage::saturatingDifference(0, left), Rounding::Down));
 }
 
 QString PlanText::period(const PeriodRule &rule, const QLocale &locale)

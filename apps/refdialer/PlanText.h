@@ -37,6 +37,7 @@ private:
     static QString ofUnlimited(const usage::PlanStatus &status);
     static QString outsidePeriods(const history::PeriodRule &rule, const QDate &today,
                                   const QLocale &locale);
+    static QString leftText(std::int64_t left);
 };
 
 /// How much of its amount is used, from 0 up and rounded down; nothing for a plan without one,

@@ -1225,6 +1225,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Once from %1 to %2</source>
         <translation>مرة واحدة من %1 إلى %2</translation>
     </message>
+    <message>
+        <source>%1 over.</source>
+        <translation>بزيادة ‎%1‎.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PluginHandle</name>

@@ -1209,6 +1209,10 @@ Es wurde gelesen als: %2. Ist es etwas anderes, wählen Sie die Art zusammen mit
         <source>Once from %1 to %2</source>
         <translation>Einmal von %1 bis %2</translation>
     </message>
+    <message>
+        <source>%1 over.</source>
+        <translation>Um %1 überschritten.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PluginHandle</name>

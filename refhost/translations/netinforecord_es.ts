@@ -1209,6 +1209,10 @@ Se ha leído como: %2. Si es otra cosa, elija su tipo junto con el archivo.</tra
         <source>Once from %1 to %2</source>
         <translation>Una vez, del %1 al %2</translation>
     </message>
+    <message>
+        <source>%1 over.</source>
+        <translation>%1 de más.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PluginHandle</name>

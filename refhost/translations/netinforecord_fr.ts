@@ -1209,6 +1209,10 @@ Il a été lu comme&#xa0;: %2. Si c’est autre chose, choisissez son type avec 
         <source>Once from %1 to %2</source>
         <translation>Une fois, du %1 au %2</translation>
     </message>
+    <message>
+        <source>%1 over.</source>
+        <translation>%1 en trop.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PluginHandle</name>

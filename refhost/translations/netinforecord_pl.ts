@@ -1213,6 +1213,10 @@ Odczytano to jako: %2. Jeśli to coś innego, wybierz rodzaj razem z plikiem.</t
         <source>Once from %1 to %2</source>
         <translation>Jednorazowo od %1 do %2</translation>
     </message>
+    <message>
+        <source>%1 over.</source>
+        <translation>Przekroczono o %1.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PluginHandle</name>

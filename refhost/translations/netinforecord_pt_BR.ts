@@ -1209,6 +1209,10 @@ Foi lido como: %2. Se for outra coisa, escolha o tipo junto com o arquivo.</tran
         <source>Once from %1 to %2</source>
         <translation>Uma vez, de %1 a %2</translation>
     </message>
+    <message>
+        <source>%1 over.</source>
+        <translation>%1 a mais.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PluginHandle</name>

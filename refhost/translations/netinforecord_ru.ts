@@ -1213,6 +1213,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Once from %1 to %2</source>
         <translation>Один раз с %1 по %2</translation>
     </message>
+    <message>
+        <source>%1 over.</source>
+        <translation>Сверх плана %1.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PluginHandle</name>

@@ -1205,6 +1205,10 @@ It was taken to be: %2. If it is something else, choose its kind together with t
         <source>Once from %1 to %2</source>
         <translation>一次性，%1 至 %2</translation>
     </message>
+    <message>
+        <source>%1 over.</source>
+        <translation>超出 %1。</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::PluginHandle</name>

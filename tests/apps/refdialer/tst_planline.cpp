@@ -222,6 +222,7 @@ void TestPlanLine::marksHowMuchIsUsedWithTheBar()
     readPlans();
     QCOMPARE(bar->value(), bar->maximum());
     QVERIFY(shownText(*m_line).contains("|200 %|"));
+    QVERIFY2(bar->toolTip().contains(" 2.00 GB over. "), qPrintable(bar->toolTip()));
 }
 
 void TestPlanLine::tellsNoPaceOfLessThanNothing()
