@@ -64,6 +64,7 @@ private slots:
     void aListedPppConnectionBeginsWithTheLink();
     void aLinkMadeWhileMessagesWereLostBeginsAtNothing();
     void aDumpedConnectionBeginsNowThoughTheDumpWasRepeated();
+    void aTableThatHasForgottenAllIsAsInTheBeginning();
     void theMarkOfAConnectionChangesWithLineAndAddresses();
 
     void aDumpFindsALinkThatIsGone();
@@ -282,6 +283,18 @@ void LinkTableTest::aDumpedConnectionBeginsNowThoughTheDumpWasRepeated()
     tell(running(500));
     tell(address(true));
     m_table.endDump();
+    QCOMPARE(base(), std::int64_t{500});
+}
+
+void LinkTableTest::aTableThatHasForgottenAllIsAsInTheBeginning()
+{
+    m_table.beginDump();
+    tell(running(100));
+    m_table.forgetAll();
+    QVERIFY(m_table.links().empty());
+    // In the midst of a dump, all that a PPP link has moved would be its connection's.
+    tell(running(500, true));
+    tell(address(true));
     QCOMPARE(base(), std::int64_t{500});
 }
 
