@@ -31,6 +31,7 @@ private slots:
     void measuresTimeWithAClockThatNeverJumps_data();
     void measuresTimeWithAClockThatNeverJumps();
     void aConnectionBearsItsInterfacesNameOrTheGivenOne();
+    void tellsHowManyBytesASecondHaveMoved();
     void saysNothingFromWithinACall();
     void worksOnAThreadOfItsOwn();
     void saysWhyItCannotStart();
@@ -236,6 +237,20 @@ void ConnectionRecorderTest::aConnectionBearsItsInterfacesNameOrTheGivenOne()
     m_links->tell(downLink(4, "wwan1", 0, 0));
     QTRY_COMPARE(m_disconnections->size(), 2);
     QCOMPARE(m_disconnections->last().first().value<Connection>().profile, std::string("internet"));
+}
+
+void ConnectionRecorderTest::tellsHowManyBytesASecondHaveMoved()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    const QSignalSpy states(m_recorder.get(), &ConnectionRecorder::stateChanged);
+    QTRY_VERIFY(!m_links->requests.empty()); // with a tick
+    m_clock->pass(4000);
+    m_links->tell(runningLink(3, "wwan0", 4004, 9002));
+    QTRY_COMPARE(states.size(), 1);
+    const auto state = states.first().first().value<recorder::ConnectionState>();
+    QCOMPARE(state.uploadRate, qint64(1001));
+    QCOMPARE(state.downloadRate, qint64(2250));
 }
 
 void ConnectionRecorderTest::saysNothingFromWithinACall()
