@@ -136,7 +136,6 @@ bool takeTimeOfDay(TextScanner &scanner, CalendarTime &time, bool secondsOptiona
         return false;
     time.hour = *hour;
     time.minute = *minute;
-    time.second = 0;
     if (!scanner.take(':'))
         return secondsOptional;
     const auto second = scanner.takeNumber(2, 2);

@@ -33,7 +33,8 @@ struct CalendarTime {
 /// Whether there is such a time; without a year, whether there is in some year.
 bool isValid(const CalendarTime &time);
 
-/// Takes hh:mm:ss, the seconds left out if `secondsOptional`; a fraction is cut.
+/// Takes hh:mm:ss; the seconds may be missing if `secondsOptional`, and then stay as they
+/// are. A fraction is cut.
 bool takeTimeOfDay(TextScanner &scanner, CalendarTime &time, bool secondsOptional);
 
 /// Takes yyyy-MM-ddThh:mm:ss, a space allowed for the T, with or without a

@@ -243,6 +243,8 @@ void CsvFormatTest::tellsAWrongHeader_data()
     QTest::newRow("no header") << toCsv({sample()}).mid(header.size()) << "1 profile:";
     QTest::newRow("a column missing")
         << QByteArray(header).replace(",interface", "") << "1 interface:";
+    QTest::newRow("one that ends early")
+        << header.left(header.indexOf(",uploaded_bytes")) << "1 uploaded_bytes:";
     QTest::newRow("columns in another order")
         << QByteArray(header).replace("start,end", "end,start") << "1 start:";
     QTest::newRow("a column more")

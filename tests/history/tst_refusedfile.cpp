@@ -5,6 +5,7 @@
 #include "StoreSamples.h"
 #include "StoreTestCase.h"
 #include "history/Store.h"
+#include "history/StoreSchema.h"
 #include "refhost/libsdk/KoraStatus.h"
 
 #include <SQLiteCpp/Database.h>
@@ -143,6 +144,10 @@ void RefusedFileTest::refusesAndKeepsUntouched_data()
             storeWith(live, numberedConnections(3));
             makeWithLog(path, "PRAGMA user_version = 1000");
         });
+    row("a store's mark alone", "Damaged", refhost::KoraDamaged, [](const QString &path) {
+        runSql(path.toStdString(),
+               "PRAGMA application_id = " + std::to_string(history::storeApplicationId));
+    });
     row("a store without a version", "Damaged", refhost::KoraDamaged, [](const QString &path) {
         makeStore(path.toStdString());
         runSql(path.toStdString(), "PRAGMA user_version = 0");
