@@ -309,7 +309,8 @@ void StoredPlansTest::ofAnotherProgramAreToldAndCanBeRemoved_data()
     row("unknown coverage", "UPDATE plan SET covers = ''", "The coverage of the plan \"home\"");
     row("an unknown direction", "UPDATE plan SET counts = 'up'",
         "The direction of the plan \"home\"");
-    row("no period", "UPDATE plan SET month_day = NULL", "The period of the plan \"home\"");
+    row("no period", "UPDATE plan SET month_day = NULL",
+        "The period of the plan \"home\" is not a day of the month");
     row("two periods", "UPDATE plan SET cycle_days = 1, first_day = 2461000",
         "The period of the plan \"home\"");
     row("a number out of its range", "UPDATE plan SET month_day = 4294967297",
