@@ -58,11 +58,13 @@ void appendValue(bool value, std::string &text)
     text += value ? "true" : "false";
 }
 
+} // namespace
+
 /// What stands around members, which are on a line each or all on one.
-class Spacing
+class JsonSpacing
 {
 public:
-    explicit Spacing(JsonObject::Layout layout)
+    explicit JsonSpacing(JsonObject::Layout layout)
         : m_isIndented(layout == JsonObject::Layout::Indented)
     {
     }
@@ -84,8 +86,11 @@ private:
     const bool m_isIndented;
 };
 
+namespace
+{
+
 template <typename Kind>
-void appendMember(const Spacing &spacing, std::string &text, std::string_view name,
+void appendMember(const JsonSpacing &spacing, std::string &text, std::string_view name,
                   std::int64_t number)
 {
     spacing.beginMember(text, indentOfHourMember, name);
@@ -94,7 +99,7 @@ void appendMember(const Spacing &spacing, std::string &text, std::string_view na
 }
 
 /// The members by their names, as all our JSON has them.
-void appendHour(const HourlyBytes &hour, const Spacing &spacing, std::string &text)
+void appendHour(const HourlyBytes &hour, const JsonSpacing &spacing, std::string &text)
 {
     spacing.beginLine(text, indentOfHour);
     text += '{';
@@ -109,7 +114,7 @@ void appendHour(const HourlyBytes &hour, const Spacing &spacing, std::string &te
     text += "},";
 }
 
-void appendHours(const Exported &exported, const Spacing &spacing, std::string &text)
+void appendHours(const Exported &exported, const JsonSpacing &spacing, std::string &text)
 {
     text += '[';
     for (const HourlyBytes &hour : exported.connection.hours)
@@ -119,29 +124,29 @@ void appendHours(const Exported &exported, const Spacing &spacing, std::string &
     text += ']';
 }
 
-void appendKey(const Exported &exported, const Spacing & /*spacing*/, std::string &text)
+void appendKey(const Exported &exported, const JsonSpacing & /*spacing*/, std::string &text)
 {
     text += std::to_string(exported.connection.key);
 }
 
-void appendMachine(const Exported &exported, const Spacing & /*spacing*/, std::string &text)
+void appendMachine(const Exported &exported, const JsonSpacing & /*spacing*/, std::string &text)
 {
     appendValue(kind::Text(), *exported.machine, text);
 }
 
-void appendRunning(const Exported &exported, const Spacing & /*spacing*/, std::string &text)
+void appendRunning(const Exported &exported, const JsonSpacing & /*spacing*/, std::string &text)
 {
     appendValue(exported.running != nullptr, text);
 }
 
-void appendUpdated(const Exported &exported, const Spacing & /*spacing*/, std::string &text)
+void appendUpdated(const Exported &exported, const JsonSpacing & /*spacing*/, std::string &text)
 {
     appendValue(kind::Time(), exported.running->updatedUtc, text);
 }
 
 /// What only finished connections have, is null.
 template <std::size_t Place>
-void appendField(const Exported &exported, const Spacing & /*spacing*/, std::string &text)
+void appendField(const Exported &exported, const JsonSpacing & /*spacing*/, std::string &text)
 {
     constexpr auto field = std::get<Place>(connectionFields);
     using Field = std::decay_t<decltype(field)>;
@@ -153,11 +158,16 @@ void appendField(const Exported &exported, const Spacing & /*spacing*/, std::str
         text += "null";
 }
 
-struct Member {
+} // namespace
+
+struct JsonMember {
     const char *name;
-    void (*append)(const Exported &exported, const Spacing &spacing, std::string &text);
+    void (*append)(const Exported &exported, const JsonSpacing &spacing, std::string &text);
     bool (*isThere)(const Exported &exported);
 };
+
+namespace
+{
 
 bool isAlwaysThere(const Exported & /*exported*/)
 {
@@ -165,9 +175,9 @@ bool isAlwaysThere(const Exported & /*exported*/)
 }
 
 template <std::size_t... Places>
-std::vector<Member> membersByName(std::index_sequence<Places...> /*places*/)
+std::vector<JsonMember> membersByName(std::index_sequence<Places...> /*places*/)
 {
-    std::vector<Member> members = {
+    std::vector<JsonMember> members = {
         {jsonKeyName, appendKey, isAlwaysThere},
         {jsonHoursName, appendHours,
          [](const Exported &exported) { return !exported.connection.hours.empty(); }},
@@ -178,7 +188,7 @@ std::vector<Member> membersByName(std::index_sequence<Places...> /*places*/)
         {jsonUpdatedName, appendUpdated,
          [](const Exported &exported) { return exported.running != nullptr; }},
         {std::get<Places>(connectionFields).name, appendField<Places>, isAlwaysThere}...};
-    std::sort(members.begin(), members.end(), [](const Member &left, const Member &right) {
+    std::sort(members.begin(), members.end(), [](const JsonMember &left, const JsonMember &right) {
         return std::strcmp(left.name, right.name) < 0;
     });
     return members;
@@ -196,7 +206,7 @@ public:
 
     void add(const Exported &exported, std::string &text) const
     {
-        for (const Member &member : m_members) {
+        for (const JsonMember &member : m_members) {
             if (!member.isThere(exported))
                 continue;
             m_spacing.beginMember(text, indentOfMember, member.name);
@@ -207,8 +217,8 @@ public:
     }
 
 private:
-    const Spacing m_spacing;
-    const std::vector<Member> m_members =
+    const JsonSpacing m_spacing;
+    const std::vector<JsonMember> m_members =
         membersByName(std::make_index_sequence<std::tuple_size_v<decltype(connectionFields)>>());
 };
 

@@ -87,10 +87,10 @@ history::Connection finishedFrom(const history::OpenConnection &row, const std::
 }
 
 /// Takes over what is known and fits into the store.
-void learn(std::string &known, const QString &text, std::size_t maximumBytes)
+void learn(std::string &known, const QString &text, std::size_t mostBytes)
 {
     const std::string bytes = text.toStdString();
-    if (!bytes.empty() && bytes.size() <= maximumBytes)
+    if (!bytes.empty() && bytes.size() <= mostBytes)
         known = bytes;
 }
 

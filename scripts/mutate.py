@@ -114,6 +114,7 @@ def build(changes, targets):
     unoptimised = WORK / "unoptimised.cmake"
     unoptimised.write_text(UNOPTIMISED, encoding="utf-8")
     configured = subprocess.run(["cmake", "--preset", "dev", "-DNETINFORECORD_WIRE_STATISTICS=ON",
+                                 "-DCMAKE_UNITY_BUILD=OFF", # a fault is that file's alone
                                  f"-DCMAKE_PROJECT_NetInfoRecord_INCLUDE={unoptimised}"],
                                 cwd=SOURCE, capture_output=True, text=True, check=False)
     if configured.returncode != 0:

@@ -11,9 +11,9 @@ namespace
 {
 
 // As the menu lists them.
-constexpr HistoryColumn columns[] = {HistoryColumn::Start,    HistoryColumn::End,
-                                     HistoryColumn::Profile,  HistoryColumn::ConnectedTime,
-                                     HistoryColumn::Uploaded, HistoryColumn::Downloaded};
+constexpr HistoryColumn listedColumns[] = {HistoryColumn::Start,    HistoryColumn::End,
+                                           HistoryColumn::Profile,  HistoryColumn::ConnectedTime,
+                                           HistoryColumn::Uploaded, HistoryColumn::Downloaded};
 
 } // namespace
 
@@ -21,7 +21,7 @@ SortMenu::SortMenu(QWidget *parent)
     : QMenu(parent)
 {
     auto *const columnGroup = new QActionGroup(this);
-    for (const HistoryColumn column : columns) {
+    for (const HistoryColumn column : listedColumns) {
         QAction *const action = addChoice(columnGroup, column == m_order.column);
         connect(action, &QAction::triggered, this, [this, column] { chooseColumn(column); });
         m_columnActions.push_back(action);
@@ -74,7 +74,7 @@ void SortMenu::retranslate()
 void SortMenu::showChoice()
 {
     for (std::size_t i = 0; i < m_columnActions.size(); ++i)
-        m_columnActions[i]->setChecked(columns[i] == m_order.column);
+        m_columnActions[i]->setChecked(listedColumns[i] == m_order.column);
     m_ascendingAction->setChecked(m_order.direction == Qt::AscendingOrder);
     m_descendingAction->setChecked(m_order.direction == Qt::DescendingOrder);
 }

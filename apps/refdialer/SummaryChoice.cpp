@@ -13,8 +13,8 @@ namespace
 // The plug-in's own names.
 const char *const pluginGroup = "NetInfoRecordUIPlugin";
 const char *const summaryKey = "WhetherShowNotesbox";
-const char *const wanted = "true";
-const char *const unwanted = "false";
+const char *const summaryWanted = "true";
+const char *const summaryUnwanted = "false";
 
 QString storedChoice()
 {
@@ -25,17 +25,18 @@ QString storedChoice()
 
 bool isSummaryWanted()
 {
-    return storedChoice().compare(QLatin1String(wanted), Qt::CaseInsensitive) == 0;
+    return storedChoice().compare(QLatin1String(summaryWanted), Qt::CaseInsensitive) == 0;
 }
 
 bool storeSummaryChoice(bool isWanted)
 {
-    return refhost::storeSetting(pluginGroup, summaryKey, isWanted ? wanted : unwanted);
+    return refhost::storeSetting(pluginGroup, summaryKey,
+                                 isWanted ? summaryWanted : summaryUnwanted);
 }
 
 refhost::TemporarySetting suppressSummary()
 {
-    return {pluginGroup, summaryKey, unwanted};
+    return {pluginGroup, summaryKey, summaryUnwanted};
 }
 
 void offerSummary()
