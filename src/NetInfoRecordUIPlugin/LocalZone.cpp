@@ -9,26 +9,26 @@ using LocalZone::secondsPerDay;
 namespace
 {
 
-/// The offset at the begin of a day of UTC, as a look at the zone has found it.
+/// What a look at the zone has found of a day of UTC. What earlier ones found counts no more.
 struct Day {
-    unsigned int look = 0;
-    std::optional<Offset> offset;
+    unsigned int lookAtBegin = 0;
+    unsigned int lookAtAll = 0;
+    std::optional<Offset> atBegin;
+    bool isSteady = false; // until the begin of the next day
 };
 
 std::array<Day, LocalZone::endOfAgreement / secondsPerDay + 1> days;
-unsigned int currentLook = 0; // what earlier ones have found counts no more
+unsigned int currentLook = 0;
 int holds = 0;
+bool isLookDue = true;
 
-void look()
+void lookIfDue()
 {
+    if (!isLookDue)
+        return;
     tzset(); // localtime_r need not do it
     ++currentLook;
-}
-
-void lookUnlessHeld()
-{
-    if (holds == 0)
-        look();
+    isLookDue = holds == 0;
 }
 
 bool isWithinAgreement(std::time_t moment)
@@ -45,12 +45,28 @@ std::optional<Offset> offsetByTheCLibrary(std::time_t moment)
     return Offset{static_cast<int>(local.tm_gmtoff), local.tm_isdst > 0};
 }
 
-const std::optional<Offset> &offsetAtBegin(std::time_t dayNumber)
+Day &dayFromItsBegin(std::time_t number)
 {
-    Day &day = days[static_cast<std::size_t>(dayNumber)];
-    if (day.look != currentLook)
-        day = {currentLook, offsetByTheCLibrary(dayNumber * secondsPerDay)};
-    return day.offset;
+    Day &day = days[static_cast<std::size_t>(number)];
+    if (day.lookAtBegin != currentLook) {
+        day.lookAtBegin = currentLook;
+        day.atBegin = offsetByTheCLibrary(number * secondsPerDay);
+    }
+    return day;
+}
+
+// Clocks do not change twice within a day, so what holds at its begin and at the next
+// day's holds in between.
+const Day &dayAt(std::time_t moment)
+{
+    const std::time_t number = moment / secondsPerDay;
+    Day &day = days[static_cast<std::size_t>(number)];
+    if (day.lookAtAll != currentLook) {
+        const auto atBegin = dayFromItsBegin(number).atBegin;
+        day.lookAtAll = currentLook;
+        day.isSteady = atBegin && atBegin == dayFromItsBegin(number + 1).atBegin;
+    }
+    return day;
 }
 
 } // namespace
@@ -59,35 +75,30 @@ std::optional<Offset> LocalZone::offsetAt(std::time_t moment)
 {
     if (!isWithinAgreement(moment))
         return std::nullopt;
-    if (const auto offset = steadyOffset(moment, moment))
-        return offset;
-    return offsetByTheCLibrary(moment);
+    lookIfDue();
+    const Day &day = dayAt(moment);
+    return day.isSteady ? day.atBegin : offsetByTheCLibrary(moment);
 }
 
-// Clocks do not change twice within a day, so what holds at its begin and at the next
-// day's holds in between.
 std::optional<Offset> LocalZone::steadyOffset(std::time_t from, std::time_t until)
 {
     if (!isWithinAgreement(from) || !isWithinAgreement(until))
         return std::nullopt;
-    lookUnlessHeld();
-    const std::time_t firstDay = from / secondsPerDay;
-    const std::time_t lastDay = until / secondsPerDay + 1;
-    const std::optional<Offset> &offset = offsetAtBegin(firstDay);
-    for (std::time_t day = firstDay + 1; day <= lastDay; ++day) {
-        if (!(offsetAtBegin(day) == offset))
+    lookIfDue();
+    for (std::time_t day = from / secondsPerDay; day <= until / secondsPerDay; ++day) {
+        if (!dayAt(day * secondsPerDay).isSteady)
             return std::nullopt;
     }
-    return offset;
+    return dayAt(from).atBegin;
 }
 
 LocalZone::Hold::Hold()
 {
-    lookUnlessHeld();
     ++holds;
 }
 
 LocalZone::Hold::~Hold()
 {
     --holds;
+    isLookDue = holds == 0;
 }

@@ -34,9 +34,9 @@ std::optional<Offset> offsetAt(std::time_t moment);
 /// certain to be the same all the time.
 std::optional<Offset> steadyOffset(std::time_t from, std::time_t until);
 
-/// While one lives, the zone is that of the moment when the first was made. Without
-/// one, each question looks whether the user has chosen another zone meanwhile, for
-/// which the C library may have to ask the file system.
+/// While one lives, the zone is that of the first question. Without one, each question
+/// looks whether the user has chosen another zone meanwhile, for which the C library may
+/// have to ask the file system.
 class Hold
 {
 public:

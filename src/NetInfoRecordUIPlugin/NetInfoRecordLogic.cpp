@@ -36,7 +36,9 @@ double kilobytes(double bytes)
 /// Negative values get the leading zero too ("0-5"); that is meant.
 void addTwoDigits(ShortText &text, qint64 value)
 {
-    if (value <= 9)
+    if (value >= 0 && value <= 99)
+        return text.addTwoDigits(static_cast<int>(value));
+    if (value < 0)
         text.add('0');
     text.add(value);
 }

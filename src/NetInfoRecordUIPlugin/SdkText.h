@@ -42,11 +42,11 @@ std::optional<qint64> plainNumber(const char (&field)[Size])
     constexpr std::size_t longest = 15; // such a number is exact as a double too
     qint64 number = 0;
     for (std::size_t i = 0; i < Size && i <= longest; ++i) {
-        if (field[i] == '\0' && i > 0)
-            return number;
-        if (field[i] < '0' || field[i] > '9')
-            return std::nullopt;
-        number = number * 10 + (field[i] - '0');
+        const unsigned int digit = static_cast<unsigned char>(field[i]) - unsigned{'0'};
+        if (digit <= 9)
+            number = number * 10 + digit;
+        else
+            return field[i] == '\0' && i > 0 ? std::optional(number) : std::nullopt;
     }
     return std::nullopt;
 }

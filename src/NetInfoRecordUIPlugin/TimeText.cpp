@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "TimeText.h"
 
+#include "CalendarDay.h"
 #include "LocalTime.h"
 #include "LocalZone.h"
 
 #include <QLocale>
 
-#include <algorithm>
 #include <optional>
 
 namespace
@@ -14,42 +14,36 @@ namespace
 
 constexpr int textLength = 14;
 
-constexpr std::time_t hour = 3600;
+constexpr std::time_t minute = 60;
+constexpr std::time_t hour = 60 * minute;
 constexpr std::time_t day = LocalZone::secondsPerDay;
 
 // In both years every moment has a known offset, however far its clocks are from UTC.
 constexpr int firstYear = 1971;
 constexpr int lastYear = LocalZone::lastYearOfAgreement - 1;
 
-qint64 epoch()
-{
-    static const qint64 julianDay = QDate(1970, 1, 1).toJulianDay();
-    return julianDay;
-}
-
 QString format()
 {
     return QStringLiteral("yyyyMMddhhmmss");
 }
 
-bool isAsciiDigit(QChar character)
+bool areAsciiDigits(const QChar *text, int length)
 {
-    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
-}
-
-/// The number that `length` ASCII digits name.
-int number(const QChar *digits, int length)
-{
-    int value = 0;
+    bool areDigits = true;
     for (int i = 0; i < length; ++i)
-        value = value * 10 + (digits[i].unicode() - u'0');
-    return value;
+        areDigits &= text[i].unicode() >= u'0' && text[i].unicode() <= u'9';
+    return areDigits;
 }
 
-void writeNumber(int value, QChar *digits, int length)
+int twoDigits(const QChar *digits)
 {
-    for (int i = length - 1; i >= 0; --i, value /= 10)
-        digits[i] = QChar(u'0' + value % 10);
+    return digits[0].unicode() * 10 + digits[1].unicode() - u'0' * 11;
+}
+
+void writeTwoDigits(int number, QChar *digits)
+{
+    digits[0] = QChar(u'0' + number / 10);
+    digits[1] = QChar(u'0' + number % 10);
 }
 
 /// The offset when local clocks show what UTC does at this moment; nothing if they show
@@ -64,6 +58,9 @@ std::optional<LocalZone::Offset> offsetWhenShown(std::time_t asUtc)
         return offset;
     const auto before = LocalZone::offsetAt(earliest);
     const auto after = LocalZone::offsetAt(latest);
+    // Clocks that change do not change back within a day or two.
+    if (before == after)
+        return before;
     if (!before || !after || before->seconds == after->seconds)
         return std::nullopt;
     const bool isBefore = LocalZone::offsetAt(asUtc - before->seconds) == before;
@@ -77,13 +74,16 @@ std::optional<LocalZone::Offset> offsetWhenShown(std::time_t asUtc)
 /// does not exist or exists twice, as the clocks change.
 std::optional<QDateTime> ordinaryTime(const QChar *digits)
 {
-    const int year = number(digits, 4);
-    const QDate date(year, number(digits + 4, 2), number(digits + 6, 2));
-    const QTime time(number(digits + 8, 2), number(digits + 10, 2), number(digits + 12, 2));
-    if (year < firstYear || year > lastYear || !date.isValid() || !time.isValid())
+    const CalendarDay date{twoDigits(digits) * 100 + twoDigits(digits + 2), twoDigits(digits + 4),
+                           twoDigits(digits + 6)};
+    const int hours = twoDigits(digits + 8);
+    const int minutes = twoDigits(digits + 10);
+    const int seconds = twoDigits(digits + 12);
+    const bool isTime = hours < 24 && minutes < 60 && seconds < 60;
+    if (date.year < firstYear || date.year > lastYear || !date.exists() || !isTime)
         return std::nullopt;
     const std::time_t asUtc =
-        (date.toJulianDay() - epoch()) * day + time.msecsSinceStartOfDay() / 1000;
+        date.daysSince1970() * day + hours * hour + minutes * minute + seconds;
     const auto offset = offsetWhenShown(asUtc);
     if (!offset)
         return std::nullopt;
@@ -95,7 +95,7 @@ std::optional<QDateTime> ordinaryTime(const QChar *digits)
 QDateTime TimeText::parsed(const QString &text)
 {
     const QChar *digits = text.constData();
-    if (text.size() == textLength && std::all_of(digits, digits + textLength, isAsciiDigit)) {
+    if (text.size() == textLength && areAsciiDigits(digits, textLength)) {
         if (const auto time = ordinaryTime(digits))
             return *time;
     }
@@ -108,17 +108,15 @@ QString TimeText::of(quint32 secondsSinceEpoch)
     if (!offset)
         return QLocale::c().toString(QDateTime::fromSecsSinceEpoch(secondsSinceEpoch), format());
     const qint64 local = secondsSinceEpoch + qint64(offset->seconds) + day; // not negative
-    int year = 0;
-    int month = 0;
-    int dayOfMonth = 0;
-    QDate::fromJulianDay(epoch() - 1 + local / day).getDate(&year, &month, &dayOfMonth);
+    const CalendarDay date = CalendarDay::at(static_cast<int>(local / day) - 1);
     const auto time = static_cast<int>(local % day);
-    QChar digits[textLength];
-    writeNumber(year, digits, 4);
-    writeNumber(month, digits + 4, 2);
-    writeNumber(dayOfMonth, digits + 6, 2);
-    writeNumber(time / 3600, digits + 8, 2);
-    writeNumber(time / 60 % 60, digits + 10, 2);
-    writeNumber(time % 60, digits + 12, 2);
-    return QString(digits, textLength);
+    QString text(textLength, Qt::Uninitialized);
+    QChar *digits = text.data();
+    const int pairs[] = {date.year / 100, date.year % 100, date.month, date.day,
+                         time / 3600,     time / 60 % 60,  time % 60};
+    for (const int pair : pairs) {
+        writeTwoDigits(pair, digits);
+        digits += 2;
+    }
+    return text;
 }

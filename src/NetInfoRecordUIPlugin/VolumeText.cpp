@@ -23,8 +23,7 @@ QString VolumeText::of(double number, const char *unit)
     ShortText text;
     text.add(static_cast<qint64>(hundredths / 100));
     text.add('.');
-    text.add(static_cast<char>('0' + hundredths / 10 % 10));
-    text.add(static_cast<char>('0' + hundredths % 10));
+    text.addTwoDigits(static_cast<int>(hundredths % 100));
     for (; *unit; ++unit)
         text.add(*unit);
     return text.toString();

@@ -223,6 +223,8 @@ void tst_TimeText::parsesEachSecondAroundClockChangesLikeQt()
                 for (int seconds = -1; seconds <= 1; ++seconds)
                     QVERIFY(isParsedAlike(change.addSecs(60 * minutes + seconds).toString(format)));
             }
+            for (int hours = -30; hours <= 30; hours += 5)
+                QVERIFY(isParsedAlike(change.addSecs(3600 * hours).toString(format)));
         }
     }
 }
