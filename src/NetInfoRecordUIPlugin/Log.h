@@ -2,12 +2,11 @@
 #pragma once
 
 #include "ClockText.h"
+#include "LogText.h"
 
 #include <QLoggingCategory>
 #include <QMessageLogger>
 
-#include <array>
-#include <cstdio>
 #include <initializer_list>
 
 /// The plug-in's lines on Qt's default debug output. Formats, paths, function names and
@@ -43,7 +42,7 @@ void line(const char *, Arguments...)
 {
 }
 #else
-/// Writes one line in printf's format. While debug output is off, this costs
+/// Writes one line in the format of a LogText. While debug output is off, this costs
 /// the question alone: nothing is formatted and no clock is read.
 template <typename... Arguments>
 void line(const char *format, Arguments... arguments)
@@ -53,10 +52,9 @@ void line(const char *format, Arguments... arguments)
     if (!category || !category->isDebugEnabled())
         return;
     const ClockText time;
-    std::array<char, 1024> text; // no line is a third as long
-    std::snprintf(text.data(), text.size(), format, Detail::printable(arguments, time)...);
+    const LogText text(format, Detail::printable(arguments, time)...);
     // Qt takes long to put a text together from several.
-    QMessageLogger().debug("%s", text.data());
+    QMessageLogger().debug("%s", text.text());
 }
 #endif
 
