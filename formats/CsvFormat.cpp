@@ -52,6 +52,11 @@ const ColumnNames &columnNames()
     return names;
 }
 
+bool hasText(const CsvField &field, const char *text)
+{
+    return field.text == text;
+}
+
 /// One row of a file on its way to a connection.
 class RowReader
 {
@@ -111,10 +116,12 @@ std::string RowReader::text() const
 
 void RowReader::checkHeader() const
 {
-    for (std::size_t column = 0; column < m_columns; ++column) {
-        if (column >= m_row.size() || m_row[column].text != columnNames()[column])
-            fail(column, "the first line has to be the header " + csvHeader());
-    }
+    const auto *const names = columnNames().data();
+    const auto *const right =
+        std::mismatch(m_row.begin(), m_row.end(), names, names + m_columns, hasText).second;
+    if (right != names + m_columns)
+        fail(static_cast<std::size_t>(right - names),
+             "the first line has to be the header " + csvHeader());
     checkColumnCount();
 }
 

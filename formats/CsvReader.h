@@ -23,6 +23,8 @@ public:
     std::size_t size() const { return m_size; }
     const CsvField &operator[](std::size_t column) const { return m_fields[column]; }
     const CsvField &front() const { return m_fields.front(); }
+    const CsvField *begin() const { return m_fields.data(); }
+    const CsvField *end() const { return begin() + m_size; }
 
     void clear() { m_size = 0; }
     /// The field behind the last one, with an empty text.
