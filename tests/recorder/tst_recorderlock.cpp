@@ -7,7 +7,9 @@
 #include <QTest>
 
 #include <fcntl.h>
+#include <sched.h>
 #include <sys/file.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -45,6 +47,32 @@ public:
 
 private:
     const bool m_isNobody;
+};
+
+/// What the kernel tells of locks and processes, which this thread sees an empty folder instead
+/// of while it lasts.
+class HiddenLocks
+{
+public:
+    HiddenLocks()
+        : m_areHidden(unshare(CLONE_NEWNS) == 0 &&
+                      mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                      mount("none", place, "tmpfs", 0, nullptr) == 0)
+    {
+    }
+    ~HiddenLocks()
+    {
+        if (m_areHidden)
+            umount2(place, MNT_DETACH);
+    }
+    HiddenLocks(const HiddenLocks &) = delete;
+    HiddenLocks &operator=(const HiddenLocks &) = delete;
+
+    bool areHidden() const { return m_areHidden; }
+
+private:
+    static constexpr const char *place = "/proc";
+    const bool m_areHidden;
 };
 
 bool write(const QString &path, const QByteArray &text)
@@ -88,6 +116,7 @@ private slots:
     void leavesAnotherUsersFileInTheirFolder();
     void leavesAFileThatAnotherProcessReplaces();
     void removesNothingThatWasPutInAFilesPlace();
+    void leavesAFileWhereNoLocksAreShown();
     void theSuperuserLeavesAUsersFile();
     void saysWhyItCannotBeTaken();
 
@@ -319,6 +348,22 @@ void RecorderLockTest::removesNothingThatWasPutInAFilesPlace()
     QCOMPARE(textIn(m_file), QByteArray("new"));
     QCOMPARE(recorder::removeUnlocked(path, *recorder::statusAt(path)), recorder::Removal::Done);
     QVERIFY(!QFile::exists(m_file));
+}
+
+/// It may be held.
+void RecorderLockTest::leavesAFileWhereNoLocksAreShown()
+{
+    QVERIFY(write(m_file, introduction));
+    const std::string path = QFile::encodeName(m_file).toStdString();
+    const auto file = recorder::statusAt(path);
+    {
+        const HiddenLocks hidden;
+        if (!hidden.areHidden())
+            QSKIP("a mount of its own is not permitted", "");
+        QCOMPARE(recorder::removeUnlocked(path, *file), recorder::Removal::Busy);
+        QVERIFY(recorder::isRecordedInto(m_store));
+    }
+    QCOMPARE(textIn(m_file), introduction);
 }
 
 void RecorderLockTest::theSuperuserLeavesAUsersFile()
