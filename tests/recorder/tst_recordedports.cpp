@@ -33,6 +33,7 @@ private slots:
     void countsEveryByteOnceOverBearersOfOneLink();
     void waitsForTheBearer();
     void lastsWhenTheDaemonEnds();
+    void lastsOverASecondBearerWhenTheDaemonEnds();
     void staysEndedWhenTheDaemonEnds();
     void staysEndedWhenTheModemIsGone();
     void tellsWhatAPortMovedUnwatched();
@@ -176,6 +177,23 @@ void RecordedPortsTest::lastsWhenTheDaemonEnds()
     m_links->tell(downLink(3, "enx0c5b8f279a64", 105, 206));
     QCOMPARE(recordsIn(m_path), QStringList("enx0c5b8f279a64 up 5 down 6 normal"));
     QCOMPARE(firstRecord().profile, std::string("internet.example"));
+}
+
+void RecordedPortsTest::lastsOverASecondBearerWhenTheDaemonEnds()
+{
+    QVERIFY(start());
+    m_ports->comeAvailable();
+    m_ports->tell("wwan0", true, "internet.example");
+    connectLink(3, "wwan0", 100, 200);
+    m_ports->tell("wwan0", false);
+    m_links->tell(runningLink(3, "wwan0", 150, 260));
+    m_ports->tell("wwan0", true, "internet.example");
+    m_ports->goAway();
+    m_links->tell(runningLink(3, "wwan0", 157, 268));
+    QCOMPARE(openRowsIn(m_path).size(), std::size_t{1});
+    m_links->tell(downLink(3, "wwan0", 160, 270));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"wwan0 up 50 down 60 normal", "wwan0 up 10 down 10 normal"}));
 }
 
 void RecordedPortsTest::staysEndedWhenTheDaemonEnds()

@@ -19,6 +19,7 @@ private slots:
     void bringsTheRowUpToDate();
     void writesNothingWhileNothingIsMoved();
     void asksForNothingWhileNoLineIsUp();
+    void asksForWhatALineMovesWithoutAConnection();
     void bringsTheStoreUpToDateWithEachTickThatNobodyWatches();
     void leavesTheRowOpenWhenTheProgramEnds();
     void takesWhatHasHappenedWhenTheProgramEnds();
@@ -116,6 +117,17 @@ void RecordedRowsTest::asksForNothingWhileNoLineIsUp()
     m_atStart = {downLink(3, "wwan0", 7, 8)};
     QVERIFY(start());
     QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 5 down 6 normal"));
+}
+
+/// The next one begins with the counters known last.
+void RecordedRowsTest::asksForWhatALineMovesWithoutAConnection()
+{
+    QVERIFY(start());
+    m_links->tell(runningLink(3, "wwan0", 5, 6));
+    m_links->tell(runningLink(4, "eth0", 5, 6));
+    QTRY_VERIFY(!m_links->requests.empty());
+    QCOMPARE(m_links->requests.front(), 3);
+    QVERIFY(m_connections->isEmpty());
 }
 
 void RecordedRowsTest::bringsTheStoreUpToDateWithEachTickThatNobodyWatches()

@@ -3,6 +3,8 @@
 #include "StoreLock.h"
 #include "recorder/RecorderLock.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTimer>
 
 #include <atomic>
@@ -27,6 +29,7 @@ private slots:
     void recordsWhateverAKilledRecorderLeftOfItsLock();
     void leavesNoLockBehind();
     void saysWhyItCannotLock();
+    void saysWhatIsWrongWithAStoreThatAnotherRecordsInto();
     void settlesNothingWhileItCannotSeeTheLinks();
     void leavesTheRecordingToTheFirstRecorder();
     void takesOverWhenTheFirstRecorderEnds();
@@ -188,6 +191,19 @@ void RecorderObstaclesTest::saysWhyItCannotLock()
     QCOMPARE(problem.kind, Problem::Kind::LockObstructed);
     QCOMPARE(problem.path, lock);
     QCOMPARE(problem.obstacle, Problem::Obstacle::NotAFile);
+}
+
+/// Only who waits for the other one to end leaves the store alone.
+void RecorderObstaclesTest::saysWhatIsWrongWithAStoreThatAnotherRecordsInto()
+{
+    QVERIFY(QDir().mkdir(m_path));
+    RecorderLock another(m_path);
+    QCOMPARE(another.take(), RecorderLock::Outcome::Taken);
+    QVERIFY(!start());
+    QVERIFY(QDir().rmdir(m_path));
+    QVERIFY(QFile::link("nowhere", m_path));
+    QTRY_COMPARE(m_failures->size(), 2);
+    QCOMPARE(lastProblemSeenBy(*m_failures).kind, Problem::Kind::HistoryFailed);
 }
 
 void RecorderObstaclesTest::takesOverWhenTheFirstRecorderEnds()

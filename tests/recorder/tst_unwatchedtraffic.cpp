@@ -39,6 +39,7 @@ private slots:
     void isFoundAfterARowThatAnOlderVersionLeft();
     void isFoundOnALinkThatHadNoConnection();
     void isNothingOfAConnectionThatIsResumed();
+    void isNothingOfAConnectionThatBeginsLater();
     void isNothingOfALinkThatWasNeverSeen();
     void isAllThatACounterShowsThatBeganAnew();
     void isAllThatALinkShowsInAnotherRunOfTheSystem();
@@ -208,6 +209,18 @@ void UnwatchedTrafficTest::isNothingOfAConnectionThatIsResumed()
     start({runningLink(3, "wwan0", 1050, 2060), addressOn(3)});
     m_links->tell(downLink(3, "wwan0", 1057, 2068));
     QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 57 down 68 normal"));
+}
+
+void UnwatchedTrafficTest::isNothingOfAConnectionThatBeginsLater()
+{
+    start({downLink(3, "wwan0", 1000, 2000)});
+    end();
+    start({downLink(3, "wwan0", 1050, 2060)});
+    m_links->tell(addressOn(3));
+    m_links->tell(runningLink(3, "wwan0", 1057, 2068));
+    m_links->tell(downLink(3, "wwan0", 1060, 2070));
+    QCOMPARE(recordsIn(m_path),
+             QStringList({"wwan0 up 50 down 60 not watched", "wwan0 up 10 down 10 normal"}));
 }
 
 void UnwatchedTrafficTest::isNothingOfALinkThatWasNeverSeen()
