@@ -207,8 +207,11 @@ void PlanTable::checkNameIsFree(const DataPlan &plan)
     query.bind(1, plan.name);
     query.bind(2, plan.key);
     if (query.next())
-        throw badRow(historyAt(m_path) + " has " + planCalled(plan.name) +
-                     " already; nothing was changed, choose another name.");
+        throw StoreFailure(
+            Kind::BadRecord,
+            Sentence{translatable("history", "The connection history \"%1\" has the plan \"%2\" "
+                                             "already; nothing was changed, choose another name."),
+                     {m_path, beginningOf(plan.name)}});
 }
 
 std::int64_t PlanTable::insert(const DataPlan &plan)
@@ -226,9 +229,12 @@ void PlanTable::update(const DataPlan &plan, const std::vector<int> &reached)
     bindPlan(statement, plan);
     statement.bind(13, plan.key);
     if (statement.exec() == 0)
-        throw StoreFailure(Kind::NoSuchRecord,
-                           historyAt(m_path) + " has " + planCalled(plan.name) +
-                               " no longer; another program has removed it, make it again.");
+        throw StoreFailure(
+            Kind::NoSuchRecord,
+            Sentence{translatable("history", "The connection history \"%1\" has the plan \"%2\" no "
+                                             "longer; another program has removed it, make it "
+                                             "again."),
+                     {m_path, beginningOf(plan.name)}});
 }
 
 void PlanTable::forgetWarningsOfAnotherAmount(const DataPlan &plan, const std::vector<int> &reached)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Sentence.h"
+
 #include <string>
 #include <utility>
 #include <variant>
@@ -9,7 +11,7 @@ namespace history
 {
 
 /// Why the store could not do what was asked: a kind for programs and one whole
-/// sentence for people (what, where, what to do).
+/// sentence for people (what, where, what to do), in English and in parts.
 struct StoreError {
     enum class Kind {
         CannotOpen,   ///< no permission, no folder, read-only disk
@@ -24,6 +26,7 @@ struct StoreError {
 
     Kind kind;
     std::string message;
+    Sentence sentence; ///< what the message is made of; without parts where few meet it
 };
 
 /// A value or the reason why there is none. value() may be asked for only when

@@ -49,9 +49,11 @@ void checkVersion(const std::string &path, std::int32_t version, std::size_t new
     if (static_cast<std::size_t>(version) > newest)
         throw StoreFailure(
             Kind::NewerStore,
-            historyAt(path) + " has version " + std::to_string(version) +
-                ", but this program knows only versions up to " + std::to_string(newest) +
-                "; it was left as it is, update and restart this program to use it.");
+            Sentence{translatable("history", "The connection history \"%1\" has version %2, but "
+                                             "this program knows only versions up to %3; it was "
+                                             "left as it is, update and restart this program to "
+                                             "use it."),
+                     {path, std::to_string(version), std::to_string(newest)}});
 }
 
 /// Something that a database consists of.
@@ -124,7 +126,7 @@ std::size_t stepsTaken(const std::string &path, SQLite::Database &database,
     if (isNew(state))
         return 0;
     if (state.applicationId != storeApplicationId)
-        throw notAStore(path, "a database of another program");
+        throw anotherDatabase(path);
     checkVersion(path, state.version, steps.size());
     const auto taken = static_cast<std::size_t>(state.version);
     checkObjects(path, database, steps, taken);

@@ -18,6 +18,8 @@ namespace history
 namespace
 {
 
+using Kind = StoreError::Kind;
+
 /// Absolute, so that a later change of the working directory changes nothing and
 /// SQLite takes no file name for one of its special ones.
 std::string absolutePath(const std::string &path)
@@ -33,10 +35,34 @@ void checkPath(const std::string &path)
         return;
     std::string shown;
     utf8::replace_invalid(path.begin(), path.end(), std::back_inserter(shown));
-    throw StoreFailure(StoreError::Kind::CannotOpen,
-                       historyAt(shown) + " cannot be opened because its path is not UTF-8; rename "
-                                          "the file or folder whose name is not, or name another "
-                                          "file.");
+    throw StoreFailure(
+        Kind::CannotOpen,
+        Sentence{translatable("history", "The connection history \"%1\" cannot be opened because "
+                                         "its path is not UTF-8; rename the file or folder whose "
+                                         "name is not, or name another file."),
+                 {shown}});
+}
+
+StoreFailure replacedInUse(const std::string &path, const std::string &log)
+{
+    return {Kind::CannotOpen,
+            Sentence{translatable("history", "The connection history \"%1\" was replaced while it "
+                                             "was in use, and \"%2\" still holds records of the "
+                                             "former file; close all programs that use it and put "
+                                             "the former file back, or move the log away."),
+                     {path, log}}};
+}
+
+StoreFailure changedOutsideLog(const std::string &path, const std::string &log)
+{
+    return {Kind::CannotOpen,
+            Sentence{translatable("history", "The connection history \"%1\" was changed from "
+                                             "outside or replaced, so the changes in its log "
+                                             "\"%2\" may be those of a former file; both were left "
+                                             "as they are, move the log away to use the history "
+                                             "as it is, or, if the file was never replaced, touch "
+                                             "the log to keep its changes."),
+                     {path, log}}};
 }
 
 /// The file's name as SQLite takes it together with parameters.
@@ -103,25 +129,14 @@ void StoreDatabase::checkLogAfterReplacement() const
 {
     const std::string path = resolvedPath(m_path);
     if (hasLog(path))
-        throw StoreFailure(StoreError::Kind::CannotOpen,
-                           historyAt(m_path) + " was replaced while it was in use, and \"" +
-                               logOf(path) +
-                               "\" still holds records of the former file; close all programs "
-                               "that use it and put the former file back, or move the log away.");
+        throw replacedInUse(m_path, logOf(path));
 }
 
 /// The changes in it would undo those of the file, or damage it.
 void StoreDatabase::checkLogBase()
 {
     if (!m_logBase->isOfThisFile())
-        throw StoreFailure(StoreError::Kind::CannotOpen,
-                           historyAt(m_path) +
-                               " was changed from outside or replaced, so the changes in its log "
-                               "\"" +
-                               logOf(resolvedPath(m_path)) +
-                               "\" may be those of a former file; both were left as they are, "
-                               "move the log away to use the history as it is, or, if the file was "
-                               "never replaced, touch the log to keep its changes.");
+        throw changedOutsideLog(m_path, logOf(resolvedPath(m_path)));
 }
 
 void StoreDatabase::connect()
@@ -240,7 +255,7 @@ StoreFailure StoreDatabase::failure(Access access, const SQLite::Exception &exce
     const int code = exception.getErrorCode();
     StoreFailure reason =
         sqliteFailure(m_path, access, code, systemErrorBehind(code), exception.what());
-    if (m_database && reason.error().kind == StoreError::Kind::Damaged)
+    if (m_database && reason.error().kind == Kind::Damaged)
         setCheckpointOnClose(false);
     return reason;
 }

@@ -47,29 +47,38 @@ bool isFullDisk(int code, int systemError)
 
 StoreFailure locked(const std::string &path)
 {
-    return {Kind::Locked, historyAt(path) + " has been locked by another program for " +
-                              std::to_string(lockTimeoutSeconds) +
-                              " seconds; close that program or try again later."};
+    return {Kind::Locked,
+            Sentence{translatable("history", "The connection history \"%1\" has been locked by "
+                                             "another program for %2 seconds; close that program "
+                                             "or try again later."),
+                     {path, std::to_string(lockTimeoutSeconds)}}};
 }
 
 StoreFailure diskFull(const std::string &path)
 {
-    return {Kind::WriteFailed, historyAt(path) + " cannot be written because the disk is full; " +
-                                   "nothing was changed, free some space and try again."};
+    return {Kind::WriteFailed,
+            Sentence{translatable("history", "The connection history \"%1\" cannot be written "
+                                             "because the disk is full; nothing was changed, free "
+                                             "some space and try again."),
+                     {path}}};
 }
 
 StoreFailure writeFailed(const std::string &path, const std::string &reason)
 {
-    return {Kind::WriteFailed, historyAt(path) + " cannot be written (" + reason +
-                                   "); nothing was changed, check the disk and the permissions " +
-                                   "of the file and its folder."};
+    return {Kind::WriteFailed,
+            Sentence{translatable("history", "The connection history \"%1\" cannot be written "
+                                             "(%2); nothing was changed, check the disk and the "
+                                             "permissions of the file and its folder."),
+                     {path, reason}}};
 }
 
 StoreFailure cannotOpenBecause(const std::string &path, const std::string &reason)
 {
-    return {Kind::CannotOpen, historyAt(path) + " cannot be opened (" + reason +
-                                  "); check the disk and the permissions of the file and its " +
-                                  "folder, or name another file."};
+    return {Kind::CannotOpen,
+            Sentence{translatable("history", "The connection history \"%1\" cannot be opened (%2); "
+                                             "check the disk and the permissions of the file and "
+                                             "its folder, or name another file."),
+                     {path, reason}}};
 }
 
 } // namespace
@@ -79,16 +88,25 @@ std::string historyAt(const std::string &path)
     return "The connection history \"" + path + "\"";
 }
 
-StoreFailure notAStore(const std::string &path, const std::string &what)
+StoreFailure notAStore(const std::string &path, const char *text)
 {
-    return {Kind::NotAStore, "\"" + path + "\" is not a connection history but " + what +
-                                 "; it was left as it is, move it away or name another file."};
+    return {Kind::NotAStore, Sentence{text, {path}}};
+}
+
+StoreFailure anotherDatabase(const std::string &path)
+{
+    return notAStore(path, translatable("history", "\"%1\" is not a connection history but a "
+                                                   "database of another program; it was left as "
+                                                   "it is, move it away or name another file."));
 }
 
 StoreFailure damaged(const std::string &path, const std::string &reason)
 {
-    return {Kind::Damaged, historyAt(path) + " is damaged (" + reason +
-                               "); it was left as it is, move it away or put a copy in its place."};
+    return {Kind::Damaged,
+            Sentence{translatable("history", "The connection history \"%1\" is damaged (%2); it "
+                                             "was left as it is, move it away or put a copy in its "
+                                             "place."),
+                     {path, reason}}};
 }
 
 StoreFailure cannotOpen(const std::string &path, int errorNumber)
@@ -116,13 +134,20 @@ StoreFailure sqliteFailure(const std::string &path, Access access, int code, int
 
 StoreFailure outOfMemory(const std::string &path)
 {
-    return interrupted(path, "there is not enough memory");
+    return {Kind::CannotOpen,
+            Sentence{translatable("history", "The connection history \"%1\" could not be worked on "
+                                             "(there is not enough memory); nothing was changed, "
+                                             "close other programs and try again."),
+                     {path}}};
 }
 
 StoreFailure interrupted(const std::string &path, const std::string &reason)
 {
-    return {Kind::CannotOpen, historyAt(path) + " could not be worked on (" + reason +
-                                  "); nothing was changed, close other programs and try again."};
+    return {Kind::CannotOpen,
+            Sentence{translatable("history", "The connection history \"%1\" could not be worked on "
+                                             "(%2); nothing was changed, close other programs and "
+                                             "try again."),
+                     {path, reason}}};
 }
 
 } // namespace history

@@ -16,7 +16,11 @@ class StoreFailure : public std::exception
 {
 public:
     StoreFailure(StoreError::Kind kind, std::string message)
-        : m_error{kind, std::move(message)}
+        : m_error{kind, std::move(message), {}}
+    {
+    }
+    StoreFailure(StoreError::Kind kind, Sentence sentence)
+        : m_error{kind, filled(sentence.text, sentence.arguments), std::move(sentence)}
     {
     }
 
@@ -41,8 +45,10 @@ constexpr int shortLockTimeoutMilliseconds = 100;
 /// The file's path the way a sentence names it.
 std::string historyAt(const std::string &path);
 
-/// The error for a file that is `what` instead of a store, which stays untouched.
-StoreFailure notAStore(const std::string &path, const std::string &what);
+/// The errors for a file that is something else than a store, which stays untouched.
+/// `text` says what it is, and names its path.
+StoreFailure notAStore(const std::string &path, const char *text);
+StoreFailure anotherDatabase(const std::string &path);
 
 /// The error for a store whose contents are broken.
 StoreFailure damaged(const std::string &path, const std::string &reason);

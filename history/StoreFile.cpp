@@ -123,13 +123,43 @@ bool holdsNoTable(const FileHead &head)
            head[cellCountOffset + 1] == 0;
 }
 
+StoreFailure anotherFile(const std::string &path)
+{
+    return notAStore(path, translatable("history", "\"%1\" is not a connection history but some "
+                                                   "other file; it was left as it is, move it "
+                                                   "away or name another file."));
+}
+
+StoreFailure aFolder(const std::string &path)
+{
+    return notAStore(path, translatable("history", "\"%1\" is not a connection history but a "
+                                                   "folder; it was left as it is, move it away or "
+                                                   "name another file."));
+}
+
+StoreFailure aDevice(const std::string &path)
+{
+    return notAStore(path, translatable("history", "\"%1\" is not a connection history but a "
+                                                   "device; it was left as it is, move it away or "
+                                                   "name another file."));
+}
+
+StoreFailure emptyWithLog(const std::string &path)
+{
+    return {Kind::Damaged,
+            Sentence{translatable("history", "The connection history \"%1\" is empty, but \"%2\" "
+                                             "holds records of it; both were left as they are, "
+                                             "put a copy in its place or move both away."),
+                     {path, logOf(path)}}};
+}
+
 FileContent inspectUnmarked(const std::string &path, const FileHead &head)
 {
     const bool isUntouched = bigEndian32(head, applicationIdOffset) == 0 &&
                              bigEndian32(head, userVersionOffset) == 0 && holdsNoTable(head) &&
                              !hasLog(path);
     if (!isUntouched)
-        throw notAStore(path, "a database of another program");
+        throw anotherDatabase(path);
     return FileContent::Nothing;
 }
 
@@ -148,7 +178,7 @@ FileContent inspectHead(const std::string &path, const FileHead &head)
     if (isCutWhileMade(path, head))
         return FileContent::Nothing;
     if (std::memcmp(head.data(), magic.data(), magic.size()) != 0)
-        throw notAStore(path, "some other file");
+        throw anotherFile(path);
     if (bigEndian32(head, applicationIdOffset) != storeApplicationId)
         return inspectUnmarked(path, head);
     checkSchemaVersion(path, bigEndian32(head, userVersionOffset));
@@ -253,18 +283,15 @@ FileContent inspectFile(const std::string &path)
     if (!status)
         throw cannotOpen(path, ENOENT);
     if (S_ISDIR(status->stx_mode))
-        throw notAStore(path, "a folder");
+        throw aFolder(path);
     if (!S_ISREG(status->stx_mode))
-        throw notAStore(path, "a device");
+        throw aDevice(path);
     if (status->stx_size == 0 && isLogged)
-        throw StoreFailure(Kind::Damaged,
-                           historyAt(path) + " is empty, but \"" + logOf(path) +
-                               "\" holds records of it; both were left as they are, put a " +
-                               "copy in its place or move both away.");
+        throw emptyWithLog(path);
     if (status->stx_size == 0)
         return FileContent::Nothing;
     if (static_cast<std::size_t>(status->stx_size) < headerSize)
-        throw notAStore(path, "some other file");
+        throw anotherFile(path);
     return inspectHead(path, headOf(path));
 }
 

@@ -15,7 +15,7 @@ namespace recorder
 /// user. Of the details, those are set that the kind names.
 struct Problem {
     enum class Kind {
-        HistoryFailed,       ///< reason: the history's own sentence
+        HistoryFailed,       ///< reason: the history's own sentence, and its parts
         BootIdUnreadable,    ///< nothing tells this run of the system from others
         RecordedByAnother,   ///< program and process, where they are known
         LockUnwritable,      ///< path, reason
@@ -36,7 +36,8 @@ struct Problem {
     QString reason; ///< in the system's or the history's words
     QString program;
     qint64 process = 0;
-    qint64 standInUtc = 0; ///< the time that connections get instead
+    qint64 standInUtc = 0;      ///< the time that connections get instead
+    history::Sentence sentence; ///< the parts of the history's reason, which is other for others
 };
 
 /// What the history says of itself.
@@ -45,6 +46,7 @@ inline Problem historyProblem(const history::StoreError &error)
     Problem problem;
     problem.kind = Problem::Kind::HistoryFailed;
     problem.reason = QString::fromStdString(error.message);
+    problem.sentence = error.sentence;
     return problem;
 }
 

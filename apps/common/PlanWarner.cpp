@@ -3,6 +3,7 @@
 
 #include "NotificationService.h"
 #include "RecordingChoices.h"
+#include "StoreErrorText.h"
 #include "UserLanguage.h"
 #include "WarningText.h"
 #include "history/Store.h"
@@ -165,7 +166,7 @@ void PlanWarner::fail(const history::StoreError &error)
     if (error.kind == history::StoreError::Kind::Locked)
         m_throttle.request();
     else if (std::exchange(m_failure, error.message) != error.message)
-        emit failed(QString::fromStdString(error.message));
+        emit failed(storeErrorText(error));
 }
 
 } // namespace common

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProblemText.h"
 
+#include "StoreErrorText.h"
 #include "recorder/Problem.h"
 
 #include <QCoreApplication>
@@ -32,7 +33,7 @@ QString ProblemText::of(const Problem &problem)
 {
     switch (problem.kind) {
     case Problem::Kind::HistoryFailed:
-        return problem.reason;
+        return storeErrorText(problem.sentence, problem.reason);
     case Problem::Kind::BootIdUnreadable:
         return tr("\"/proc/sys/kernel/random/boot_id\" cannot be read, so connections are not "
                   "recorded; mount /proc.");

@@ -11,6 +11,7 @@
 #include "SummaryChoice.h"
 #include "WindowView.h"
 #include "apps/common/RecordingChoices.h"
+#include "apps/common/StoreErrorText.h"
 #include "refhost/libcore/Host.h"
 
 #include "history/Store.h"
@@ -85,7 +86,7 @@ void Application::checkStore() const
 {
     const auto store = history::Store::openForReading(history::Store::defaultPath());
     if (!store)
-        throw Failure{ExitCode::StoreNotUsable, QString::fromStdString(store.error().message)};
+        throw Failure{ExitCode::StoreNotUsable, common::storeErrorText(store.error())};
 }
 
 void Application::loadDialupService()

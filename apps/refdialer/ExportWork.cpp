@@ -6,6 +6,7 @@
 #include "apps/common/FilePlace.h"
 #include "apps/common/MachineId.h"
 #include "apps/common/ReplacementFile.h"
+#include "apps/common/StoreErrorText.h"
 
 #include <optional>
 #include <system_error>
@@ -22,7 +23,7 @@ template <typename T>
 T valueOrFailure(history::Result<T> result)
 {
     if (!result)
-        throw TransferFailure{QString::fromStdString(result.error().message)};
+        throw TransferFailure{common::storeErrorText(result.error())};
     return std::move(result.value());
 }
 

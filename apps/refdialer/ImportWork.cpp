@@ -2,6 +2,7 @@
 #include "ImportWork.h"
 
 #include "TransferFile.h"
+#include "apps/common/StoreErrorText.h"
 #include "formats/InputError.h"
 #include "formats/Utf8Text.h"
 
@@ -73,7 +74,7 @@ history::Store::Merged ImportWork::store(const formats::Imported &imported,
         return merged.value();
     // The store tells of an end by the progress as of any other error.
     progress.check();
-    throw TransferFailure{QString::fromStdString(merged.error().message)};
+    throw TransferFailure{common::storeErrorText(merged.error())};
 }
 
 QString ImportWork::summary(const formats::Imported &imported, const history::Store::Merged &merged)

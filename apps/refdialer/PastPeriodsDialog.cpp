@@ -3,6 +3,7 @@
 
 #include "PlanWatch.h"
 #include "SizeDelegate.h"
+#include "apps/common/StoreErrorText.h"
 #include "usage/SizeText.h"
 
 #include <QClipboard>
@@ -141,7 +142,7 @@ void PastPeriodsDialog::read()
 void PastPeriodsDialog::showUses(const Result<std::vector<PeriodUse>> &uses)
 {
     if (!uses)
-        m_message->setText(QString::fromStdString(uses.error().message));
+        m_message->setText(common::storeErrorText(uses.error()));
     else if (uses.value().empty())
         m_message->setText(tr("No period of this plan has begun."));
     else

@@ -7,6 +7,7 @@
 #include "PlanText.h"
 #include "PlanWatch.h"
 #include "SizeDelegate.h"
+#include "apps/common/StoreErrorText.h"
 #include "usage/SizeText.h"
 
 #include <QHBoxLayout>
@@ -248,7 +249,7 @@ void PlanDialog::removePlan(const std::string &name)
             m_plans.look();
             if (!removed)
                 MessageBox(QMessageBox::Warning, windowTitle(),
-                           QString::fromStdString(removed.error().message), this)
+                           common::storeErrorText(removed.error()), this)
                     .exec();
         });
 }

@@ -6,6 +6,7 @@
 #include "PeriodEdit.h"
 #include "PlanWatch.h"
 #include "SizeEdit.h"
+#include "apps/common/StoreErrorText.h"
 #include "usage/BillingPeriod.h"
 #include "usage/PlanChange.h"
 #include "usage/PlanWarnings.h"
@@ -310,7 +311,7 @@ void PlanEditor::fail(const StoreError &error)
     // Another program has removed it, so the next OK makes it again.
     if (error.kind == StoreError::Kind::NoSuchRecord)
         m_plan.key = 0;
-    tell(*m_problem, QString::fromStdString(error.message));
+    tell(*m_problem, common::storeErrorText(error));
 }
 
 void PlanEditor::setStoring(bool isStoring)

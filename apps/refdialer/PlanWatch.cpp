@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PlanWatch.h"
 
+#include "apps/common/StoreErrorText.h"
 #include "usage/LocalDays.h"
 
 #include <QDateTime>
@@ -99,7 +100,7 @@ void PlanWatch::fail(const StoreError &error)
     if (error.kind == StoreError::Kind::Locked)
         return;
     m_occasion.reset();
-    const QString problem = QString::fromStdString(error.message);
+    const QString problem = common::storeErrorText(error);
     if (std::exchange(m_problem, problem) == problem)
         return;
     m_plans.clear();

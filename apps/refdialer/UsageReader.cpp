@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UsageReader.h"
 
+#include "apps/common/StoreErrorText.h"
+
 #include <QDateTime>
 #include <QTimeZone>
 
@@ -81,7 +83,7 @@ void UsageReader::fail(const StoreError &error)
 {
     m_occasion.reset();
     if (error.kind != StoreError::Kind::Locked)
-        emit failed(QString::fromStdString(error.message));
+        emit failed(common::storeErrorText(error));
 }
 
 } // namespace refdialer

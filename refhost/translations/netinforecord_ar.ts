@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>يحتوي سجل الاتصالات «‎%1‎» على الباقة «%2» بالفعل. لم يتغير شيء؛ اختر اسمًا آخر.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>لم يعد سجل الاتصالات «‎%1‎» يحتوي على الباقة «%2» لأن برنامجًا آخر أزالها. أنشئها من جديد.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>إصدار سجل الاتصالات «‎%1‎» هو %2، لكن هذا البرنامج لا يعرف إلا الإصدارات حتى %3. تُرك كما هو؛ حدّث هذا البرنامج وأعد تشغيله لاستخدامه.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>يتعذر فتح سجل الاتصالات «‎%1‎» لأن مساره ليس بترميز ‎UTF-8‎. أعد تسمية الملف أو المجلد الذي ليس اسمه كذلك، أو حدد ملفًا آخر.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>استُبدل سجل الاتصالات «‎%1‎» أثناء استخدامه، وما زال «‎%2‎» يحتوي على تسجيلات من الملف السابق. أغلق كل البرامج التي تستخدمه وأعد الملف السابق إلى مكانه، أو انقل ملف التغييرات إلى مكان آخر.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>عُدّل سجل الاتصالات «‎%1‎» من الخارج أو استُبدل، ولذلك قد تكون التغييرات في ملف تغييراته «‎%2‎» من ملف سابق. تُرك كلاهما كما هو. انقل ملف التغييرات إلى مكان آخر لاستخدام السجل بحالته هذه؛ وإذا لم يُستبدل الملف قط، فجدّد وقت ملف التغييرات بالأمر «touch» للاحتفاظ بتغييراته.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>ظل سجل الاتصالات «‎%1‎» مقفلًا من برنامج آخر لمدة %2 ثوانٍ. أغلق ذلك البرنامج أو أعد المحاولة لاحقًا.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>تتعذر الكتابة في سجل الاتصالات «‎%1‎» لأن القرص ممتلئ. لم يتغير شيء؛ وفّر مساحة وأعد المحاولة.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>تتعذر الكتابة في سجل الاتصالات «‎%1‎» (‎%2‎). لم يتغير شيء؛ تحقق من القرص ومن أذونات الملف ومجلده.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>يتعذر فتح سجل الاتصالات «‎%1‎» (‎%2‎). تحقق من القرص ومن أذونات الملف ومجلده، أو حدد ملفًا آخر.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>«‎%1‎» ليس سجل اتصالات بل قاعدة بيانات لبرنامج آخر. تُركت كما هي؛ انقلها إلى مكان آخر أو حدد ملفًا آخر.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>سجل الاتصالات «‎%1‎» تالف (‎%2‎). تُرك كما هو؛ انقله إلى مكان آخر أو ضع نسخة مكانه.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>تعذر العمل على سجل الاتصالات «‎%1‎» (الذاكرة لا تكفي). لم يتغير شيء؛ أغلق برامج أخرى وأعد المحاولة.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>تعذر العمل على سجل الاتصالات «‎%1‎» (‎%2‎). لم يتغير شيء؛ أغلق برامج أخرى وأعد المحاولة.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>«‎%1‎» ليس سجل اتصالات بل ملف آخر. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>«‎%1‎» ليس سجل اتصالات بل مجلد. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>«‎%1‎» ليس سجل اتصالات بل جهاز. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>سجل الاتصالات «‎%1‎» فارغ، لكن «‎%2‎» يحتوي على تسجيلات منه. تُرك كلاهما كما هو؛ ضع نسخة مكانه أو انقل كليهما إلى مكان آخر.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

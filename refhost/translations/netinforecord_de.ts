@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>Der Verbindungsverlauf „%1“ hat den Tarif „%2“ schon. Nichts wurde geändert; wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>Der Verbindungsverlauf „%1“ hat den Tarif „%2“ nicht mehr, denn ein anderes Programm hat ihn entfernt. Legen Sie ihn neu an.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>Der Verbindungsverlauf „%1“ hat die Version %2, dieses Programm kennt aber nur Versionen bis %3. Er blieb, wie er ist; aktualisieren Sie dieses Programm und starten Sie es neu, um ihn zu verwenden.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Der Verbindungsverlauf „%1“ lässt sich nicht öffnen, weil sein Pfad kein UTF-8 ist. Benennen Sie die Datei oder den Ordner um, deren Name keines ist, oder nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>Der Verbindungsverlauf „%1“ wurde ersetzt, während er in Gebrauch war, und „%2“ enthält noch Einträge der früheren Datei. Schließen Sie alle Programme, die ihn verwenden, und legen Sie die frühere Datei zurück, oder verschieben Sie das Protokoll an einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>Der Verbindungsverlauf „%1“ wurde von außen geändert oder ersetzt, daher gehören die Änderungen in seinem Protokoll „%2“ vielleicht zu einer früheren Datei. Beide blieben, wie sie sind. Verschieben Sie das Protokoll, um den Verlauf so zu verwenden, wie er ist; oder erneuern Sie, falls die Datei nie ersetzt wurde, mit „touch“ die Zeit des Protokolls, um dessen Änderungen zu behalten.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>Der Verbindungsverlauf „%1“ war %2 Sekunden lang von einem anderen Programm gesperrt. Schließen Sie dieses Programm, oder versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>Der Verbindungsverlauf „%1“ lässt sich nicht schreiben, weil der Datenträger voll ist. Nichts wurde geändert; schaffen Sie Platz, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>Der Verbindungsverlauf „%1“ lässt sich nicht schreiben (%2). Nichts wurde geändert; prüfen Sie den Datenträger und die Rechte der Datei und ihres Ordners.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>Der Verbindungsverlauf „%1“ lässt sich nicht öffnen (%2). Prüfen Sie den Datenträger und die Rechte der Datei und ihres Ordners, oder nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>„%1“ ist kein Verbindungsverlauf, sondern eine Datenbank eines anderen Programms. Sie blieb, wie sie ist; verschieben Sie sie, oder nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>Der Verbindungsverlauf „%1“ ist beschädigt (%2). Er blieb, wie er ist; verschieben Sie ihn, oder setzen Sie eine Kopie an seine Stelle.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>Mit dem Verbindungsverlauf „%1“ ließ sich nicht arbeiten (der Speicher reicht nicht). Nichts wurde geändert; schließen Sie andere Programme, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>Mit dem Verbindungsverlauf „%1“ ließ sich nicht arbeiten (%2). Nichts wurde geändert; schließen Sie andere Programme, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>„%1“ ist kein Verbindungsverlauf, sondern eine andere Datei. Sie blieb, wie sie ist; verschieben Sie sie, oder nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>„%1“ ist kein Verbindungsverlauf, sondern ein Ordner. Er blieb, wie er ist; verschieben Sie ihn, oder nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>„%1“ ist kein Verbindungsverlauf, sondern ein Gerät. Es blieb, wie es ist; verschieben Sie es, oder nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>Der Verbindungsverlauf „%1“ ist leer, aber „%2“ enthält Einträge von ihm. Beide blieben, wie sie sind; setzen Sie eine Kopie an seine Stelle, oder verschieben Sie beide.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>El historial de conexiones «%1» ya tiene el plan «%2». No se ha cambiado nada; elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>El historial de conexiones «%1» ya no tiene el plan «%2», porque otro programa lo ha eliminado. Créelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>El historial de conexiones «%1» tiene la versión %2, pero este programa solo conoce versiones hasta la %3. Se ha dejado como estaba; actualice este programa y reinícielo para usarlo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>El historial de conexiones «%1» no se puede abrir porque su ruta no es UTF-8. Cambie el nombre del archivo o de la carpeta que no lo sea, o indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>El historial de conexiones «%1» se sustituyó mientras estaba en uso, y «%2» todavía contiene registros del archivo anterior. Cierre todos los programas que lo usan y vuelva a poner el archivo anterior, o mueva el registro de cambios a otro sitio.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>El historial de conexiones «%1» se ha cambiado desde fuera o se ha sustituido, así que los cambios de su registro «%2» pueden ser los de un archivo anterior. Ambos se han dejado como estaban. Mueva el registro a otro sitio para usar el historial tal como está; o, si el archivo nunca se sustituyó, renueve la fecha del registro con «touch» para conservar sus cambios.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>Otro programa ha mantenido bloqueado el historial de conexiones «%1» durante %2 segundos. Cierre ese programa o vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>El historial de conexiones «%1» no se puede escribir porque el disco está lleno. No se ha cambiado nada; libere espacio y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>El historial de conexiones «%1» no se puede escribir (%2). No se ha cambiado nada; compruebe el disco y los permisos del archivo y de su carpeta.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>El historial de conexiones «%1» no se puede abrir (%2). Compruebe el disco y los permisos del archivo y de su carpeta, o indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>«%1» no es un historial de conexiones, sino una base de datos de otro programa. Se ha dejado como estaba; muévala a otro sitio o indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>El historial de conexiones «%1» está dañado (%2). Se ha dejado como estaba; muévalo a otro sitio o ponga una copia en su lugar.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>No se pudo trabajar con el historial de conexiones «%1» (no hay memoria suficiente). No se ha cambiado nada; cierre otros programas y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>No se pudo trabajar con el historial de conexiones «%1» (%2). No se ha cambiado nada; cierre otros programas y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>«%1» no es un historial de conexiones, sino otro archivo. Se ha dejado como estaba; muévalo a otro sitio o indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>«%1» no es un historial de conexiones, sino una carpeta. Se ha dejado como estaba; muévala a otro sitio o indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>«%1» no es un historial de conexiones, sino un dispositivo. Se ha dejado como estaba; muévalo a otro sitio o indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>El historial de conexiones «%1» está vacío, pero «%2» contiene registros suyos. Ambos se han dejado como estaban; ponga una copia en su lugar o mueva ambos a otro sitio.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» a déjà le forfait «&#xa0;%2&#xa0;». Rien n’a été modifié&#xa0;; choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» n’a plus le forfait «&#xa0;%2&#xa0;»&#xa0;: un autre programme l’a supprimé. Créez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» est de la version %2, mais ce programme ne connaît que les versions jusqu’à %3. Il a été laissé tel quel&#xa0;; mettez ce programme à jour et redémarrez-le pour l’utiliser.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» ne peut pas être ouvert, car son chemin n’est pas en UTF-8. Renommez le fichier ou le dossier dont le nom ne l’est pas, ou indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» a été remplacé pendant son utilisation, et «&#xa0;%2&#xa0;» contient encore des entrées de l’ancien fichier. Fermez tous les programmes qui l’utilisent et remettez l’ancien fichier en place, ou déplacez le journal ailleurs.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» a été modifié de l’extérieur ou remplacé&#xa0;; les modifications de son journal «&#xa0;%2&#xa0;» sont donc peut-être celles d’un ancien fichier. Les deux ont été laissés tels quels. Déplacez le journal ailleurs pour utiliser l’historique tel qu’il est&#xa0;; ou, si le fichier n’a jamais été remplacé, renouvelez la date du journal avec «&#xa0;touch&#xa0;» pour conserver ses modifications.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» est resté verrouillé par un autre programme pendant %2&#xa0;secondes. Fermez ce programme, ou réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» ne peut pas être écrit, car le disque est plein. Rien n’a été modifié&#xa0;; libérez de la place et réessayez.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» ne peut pas être écrit (%2). Rien n’a été modifié&#xa0;; vérifiez le disque et les droits du fichier et de son dossier.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» ne peut pas être ouvert (%2). Vérifiez le disque et les droits du fichier et de son dossier, ou indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un historique des connexions, mais une base de données d’un autre programme. Elle a été laissée telle quelle&#xa0;; déplacez-la ailleurs, ou indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» est endommagé (%2). Il a été laissé tel quel&#xa0;; déplacez-le ailleurs, ou mettez une copie à sa place.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>Impossible de travailler sur l’historique des connexions «&#xa0;%1&#xa0;» (la mémoire ne suffit pas). Rien n’a été modifié&#xa0;; fermez d’autres programmes et réessayez.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>Impossible de travailler sur l’historique des connexions «&#xa0;%1&#xa0;» (%2). Rien n’a été modifié&#xa0;; fermez d’autres programmes et réessayez.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un historique des connexions, mais un autre fichier. Il a été laissé tel quel&#xa0;; déplacez-le ailleurs, ou indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un historique des connexions, mais un dossier. Il a été laissé tel quel&#xa0;; déplacez-le ailleurs, ou indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un historique des connexions, mais un périphérique. Il a été laissé tel quel&#xa0;; déplacez-le ailleurs, ou indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>L’historique des connexions «&#xa0;%1&#xa0;» est vide, mais «&#xa0;%2&#xa0;» contient des entrées qui en font partie. Les deux ont été laissés tels quels&#xa0;; mettez une copie à sa place, ou déplacez les deux ailleurs.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

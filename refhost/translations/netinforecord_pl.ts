@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>Historia połączeń „%1” ma już plan „%2”. Nic nie zmieniono; wybierz inną nazwę.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>Historia połączeń „%1” nie ma już planu „%2”, ponieważ usunął go inny program. Utwórz go ponownie.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>Historia połączeń „%1” ma wersję %2, a ten program zna tylko wersje do %3. Plik pozostawiono bez zmian; aby go używać, zaktualizuj ten program i uruchom go ponownie.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Nie można otworzyć historii połączeń „%1”, ponieważ jej ścieżka nie jest w UTF-8. Zmień nazwę pliku lub folderu, która nie jest, albo wskaż inny plik.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>Historię połączeń „%1” podmieniono w trakcie używania, a „%2” nadal zawiera wpisy poprzedniego pliku. Zamknij wszystkie programy, które jej używają, i przywróć poprzedni plik albo przenieś dziennik gdzie indziej.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>Historię połączeń „%1” zmieniono z zewnątrz lub podmieniono, więc zmiany w jej dzienniku „%2” mogą pochodzić z poprzedniego pliku. Oba pliki pozostawiono bez zmian. Aby używać historii takiej, jaka jest, przenieś dziennik gdzie indziej; jeśli pliku nigdy nie podmieniono, odśwież datę dziennika poleceniem „touch”, aby zachować jego zmiany.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>Historia połączeń „%1” była przez %2 sekund zablokowana przez inny program. Zamknij ten program albo spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>Nie można zapisać historii połączeń „%1”, ponieważ dysk jest pełny. Nic nie zmieniono; zwolnij miejsce i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>Nie można zapisać historii połączeń „%1” (%2). Nic nie zmieniono; sprawdź dysk oraz uprawnienia pliku i jego folderu.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>Nie można otworzyć historii połączeń „%1” (%2). Sprawdź dysk oraz uprawnienia pliku i jego folderu albo wskaż inny plik.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>„%1” to nie historia połączeń, lecz baza danych innego programu. Pozostawiono ją bez zmian; przenieś ją gdzie indziej albo wskaż inny plik.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>Historia połączeń „%1” jest uszkodzona (%2). Pozostawiono ją bez zmian; przenieś ją gdzie indziej albo umieść w jej miejscu kopię.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>Nie udało się pracować z historią połączeń „%1” (za mało pamięci). Nic nie zmieniono; zamknij inne programy i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>Nie udało się pracować z historią połączeń „%1” (%2). Nic nie zmieniono; zamknij inne programy i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>„%1” to nie historia połączeń, lecz inny plik. Pozostawiono go bez zmian; przenieś go gdzie indziej albo wskaż inny plik.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>„%1” to nie historia połączeń, lecz folder. Pozostawiono go bez zmian; przenieś go gdzie indziej albo wskaż inny plik.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>„%1” to nie historia połączeń, lecz urządzenie. Pozostawiono je bez zmian; przenieś je gdzie indziej albo wskaż inny plik.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>Historia połączeń „%1” jest pusta, ale „%2” zawiera jej wpisy. Oba pliki pozostawiono bez zmian; umieść w jej miejscu kopię albo przenieś oba gdzie indziej.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

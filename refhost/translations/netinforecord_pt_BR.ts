@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>O histórico de conexões “%1” já tem o plano “%2”. Nada foi alterado; escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>O histórico de conexões “%1” não tem mais o plano “%2”, pois outro programa o removeu. Crie-o de novo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>O histórico de conexões “%1” tem a versão %2, mas este programa só conhece versões até a %3. Ele foi deixado como estava; atualize este programa e reinicie-o para usá-lo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Não é possível abrir o histórico de conexões “%1”, porque o caminho dele não está em UTF-8. Renomeie o arquivo ou a pasta cujo nome não está, ou indique outro arquivo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>O histórico de conexões “%1” foi substituído enquanto estava em uso, e “%2” ainda contém registros do arquivo anterior. Feche todos os programas que o usam e coloque o arquivo anterior de volta, ou mova o registro de alterações para outro lugar.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>O histórico de conexões “%1” foi alterado por fora ou substituído; por isso, as alterações no registro “%2” podem ser de um arquivo anterior. Ambos foram deixados como estavam. Mova o registro para outro lugar para usar o histórico como está; ou, se o arquivo nunca foi substituído, renove a data do registro com “touch” para manter as alterações.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>O histórico de conexões “%1” ficou bloqueado por outro programa durante %2 segundos. Feche esse programa ou tente de novo mais tarde.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>Não é possível gravar o histórico de conexões “%1”, porque o disco está cheio. Nada foi alterado; libere espaço e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>Não é possível gravar o histórico de conexões “%1” (%2). Nada foi alterado; verifique o disco e as permissões do arquivo e da pasta dele.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>Não é possível abrir o histórico de conexões “%1” (%2). Verifique o disco e as permissões do arquivo e da pasta dele, ou indique outro arquivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>“%1” não é um histórico de conexões, mas um banco de dados de outro programa. Ele foi deixado como estava; mova-o para outro lugar ou indique outro arquivo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>O histórico de conexões “%1” está danificado (%2). Ele foi deixado como estava; mova-o para outro lugar ou coloque uma cópia no lugar dele.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>Não foi possível trabalhar com o histórico de conexões “%1” (não há memória suficiente). Nada foi alterado; feche outros programas e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>Não foi possível trabalhar com o histórico de conexões “%1” (%2). Nada foi alterado; feche outros programas e tente de novo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>“%1” não é um histórico de conexões, mas outro arquivo. Ele foi deixado como estava; mova-o para outro lugar ou indique outro arquivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>“%1” não é um histórico de conexões, mas uma pasta. Ela foi deixada como estava; mova-a para outro lugar ou indique outro arquivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>“%1” não é um histórico de conexões, mas um dispositivo. Ele foi deixado como estava; mova-o para outro lugar ou indique outro arquivo.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>O histórico de conexões “%1” está vazio, mas “%2” contém registros dele. Ambos foram deixados como estavam; coloque uma cópia no lugar dele ou mova ambos para outro lugar.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

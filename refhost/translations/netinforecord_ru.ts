@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>В истории соединений «%1» уже есть тарифный план «%2». Ничего не изменено; выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>В истории соединений «%1» больше нет тарифного плана «%2»: его удалила другая программа. Создайте его заново.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>История соединений «%1» имеет версию %2, а эта программа знает только версии до %3. Файл оставлен как есть; чтобы использовать его, обновите и перезапустите эту программу.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>Не удаётся открыть историю соединений «%1», потому что путь к ней не в UTF-8. Переименуйте файл или папку, имя которых не в UTF-8, или укажите другой файл.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>Историю соединений «%1» заменили во время работы с ней, а «%2» всё ещё содержит записи прежнего файла. Закройте все программы, которые её используют, и верните прежний файл или переместите журнал.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>Историю соединений «%1» изменили извне или заменили, поэтому изменения в её журнале «%2», возможно, относятся к прежнему файлу. Оба файла оставлены как есть. Чтобы использовать историю в её нынешнем виде, переместите журнал; если же файл никогда не заменяли, обновите время журнала командой «touch», чтобы сохранить его изменения.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>История соединений «%1» была заблокирована другой программой в течение %2 секунд. Закройте эту программу или повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>Не удаётся записать историю соединений «%1»: диск заполнен. Ничего не изменено; освободите место и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>Не удаётся записать историю соединений «%1» (%2). Ничего не изменено; проверьте диск и права доступа к файлу и его папке.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>Не удаётся открыть историю соединений «%1» (%2). Проверьте диск и права доступа к файлу и его папке или укажите другой файл.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>«%1» — не история соединений, а база данных другой программы. Она оставлена как есть; переместите её или укажите другой файл.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>История соединений «%1» повреждена (%2). Она оставлена как есть; переместите её или поместите на её место копию.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>Не удалось выполнить работу с историей соединений «%1» (недостаточно памяти). Ничего не изменено; закройте другие программы и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>Не удалось выполнить работу с историей соединений «%1» (%2). Ничего не изменено; закройте другие программы и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>«%1» — не история соединений, а какой-то другой файл. Он оставлен как есть; переместите его или укажите другой файл.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>«%1» — не история соединений, а папка. Она оставлена как есть; переместите её или укажите другой файл.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>«%1» — не история соединений, а устройство. Оно оставлено как есть; переместите его или укажите другой файл.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>История соединений «%1» пуста, но «%2» содержит её записи. Оба файла оставлены как есть; поместите на место истории копию или переместите оба файла.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

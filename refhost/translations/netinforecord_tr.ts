@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>“%1” bağlantı geçmişinde “%2” planı zaten var. Hiçbir şey değiştirilmedi; başka bir ad seçin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>“%1” bağlantı geçmişinde “%2” planı artık yok, çünkü başka bir program onu kaldırdı. Planı yeniden oluşturun.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>“%1” bağlantı geçmişinin sürümü %2, ancak bu program yalnızca %3 sürümüne kadar olanları tanıyor. Olduğu gibi bırakıldı; kullanmak için bu programı güncelleyip yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>“%1” bağlantı geçmişi açılamıyor, çünkü yolu UTF-8 değil. Adı UTF-8 olmayan dosyanın ya da klasörün adını değiştirin veya başka bir dosya verin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>“%1” bağlantı geçmişi kullanılırken değiştirildi ve “%2” hâlâ önceki dosyanın kayıtlarını içeriyor. Onu kullanan tüm programları kapatıp önceki dosyayı geri koyun ya da günlüğü başka yere taşıyın.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>“%1” bağlantı geçmişi dışarıdan düzenlendi ya da yerine başka bir dosya kondu; bu yüzden “%2” günlüğündeki değişiklikler önceki bir dosyaya ait olabilir. İkisi de olduğu gibi bırakıldı. Geçmişi bu hâliyle kullanmak için günlüğü başka yere taşıyın; dosyanın yerine hiç başkası konmadıysa, günlükteki değişiklikleri korumak için “touch” ile günlüğün zamanını yenileyin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>“%1” bağlantı geçmişi başka bir program tarafından %2 saniye boyunca kilitli tutuldu. O programı kapatın ya da daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>“%1” bağlantı geçmişi yazılamıyor, çünkü disk dolu. Hiçbir şey değiştirilmedi; yer açıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>“%1” bağlantı geçmişi yazılamıyor (%2). Hiçbir şey değiştirilmedi; diski, dosyanın ve klasörünün izinlerini denetleyin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>“%1” bağlantı geçmişi açılamıyor (%2). Diski, dosyanın ve klasörünün izinlerini denetleyin ya da başka bir dosya verin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>“%1” bir bağlantı geçmişi değil, başka bir programın veri tabanı. Olduğu gibi bırakıldı; onu başka yere taşıyın ya da başka bir dosya verin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>“%1” bağlantı geçmişi bozuk (%2). Olduğu gibi bırakıldı; onu başka yere taşıyın ya da yerine bir kopya koyun.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>“%1” bağlantı geçmişiyle çalışılamadı (bellek yetmiyor). Hiçbir şey değiştirilmedi; başka programları kapatıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>“%1” bağlantı geçmişiyle çalışılamadı (%2). Hiçbir şey değiştirilmedi; başka programları kapatıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>“%1” bir bağlantı geçmişi değil, başka bir dosya. Olduğu gibi bırakıldı; onu başka yere taşıyın ya da başka bir dosya verin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>“%1” bir bağlantı geçmişi değil, bir klasör. Olduğu gibi bırakıldı; onu başka yere taşıyın ya da başka bir dosya verin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>“%1” bir bağlantı geçmişi değil, bir aygıt. Olduğu gibi bırakıldı; onu başka yere taşıyın ya da başka bir dosya verin.</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>“%1” bağlantı geçmişi boş, ancak “%2” onun kayıtlarını içeriyor. İkisi de olduğu gibi bırakıldı; yerine bir kopya koyun ya da ikisini de başka yere taşıyın.</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

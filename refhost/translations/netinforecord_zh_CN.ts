@@ -259,6 +259,81 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
+        <translation>连接历史记录“%1”中已有套餐“%2”。未做任何更改，请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
+        <translation>连接历史记录“%1”中已没有套餐“%2”，其他程序已将其移除。请重新创建。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
+        <translation>连接历史记录“%1”的版本为 %2，但此程序只支持到版本 %3。该文件保持原样，请更新并重新启动此程序后再使用。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
+        <translation>无法打开连接历史记录“%1”，因为其路径不是 UTF-8 编码。请重命名名称不是 UTF-8 的文件或文件夹，或指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
+        <translation>连接历史记录“%1”在使用过程中被替换，而“%2”中仍有原文件的记录。请关闭所有使用它的程序并放回原文件，或将该日志移走。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
+        <translation>连接历史记录“%1”被外部更改或替换，因此其日志“%2”中的更改可能属于以前的文件。两者均保持原样。要按现状使用历史记录，请将日志移走；如果文件从未被替换，请用“touch”更新日志的时间以保留其中的更改。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
+        <translation>连接历史记录“%1”已被其他程序锁定 %2 秒。请关闭该程序，或稍后重试。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
+        <translation>无法写入连接历史记录“%1”，因为磁盘已满。未做任何更改，请腾出空间后重试。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
+        <translation>无法写入连接历史记录“%1”（%2）。未做任何更改，请检查磁盘以及该文件及其文件夹的权限。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
+        <translation>无法打开连接历史记录“%1”（%2）。请检查磁盘以及该文件及其文件夹的权限，或指定其他文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
+        <translation>“%1”不是连接历史记录，而是其他程序的数据库。该文件保持原样，请将其移走，或指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
+        <translation>连接历史记录“%1”已损坏（%2）。该文件保持原样，请将其移走，或用副本替换。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
+        <translation>无法处理连接历史记录“%1”（内存不足）。未做任何更改，请关闭其他程序后重试。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
+        <translation>无法处理连接历史记录“%1”（%2）。未做任何更改，请关闭其他程序后重试。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
+        <translation>“%1”不是连接历史记录，而是其他文件。该文件保持原样，请将其移走，或指定其他文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
+        <translation>“%1”不是连接历史记录，而是文件夹。该文件夹保持原样，请将其移走，或指定其他文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
+        <translation>“%1”不是连接历史记录，而是设备。该设备保持原样，请将其移走，或指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
+        <translation>连接历史记录“%1”为空，但“%2”中有它的记录。两者均保持原样，请放入副本替换，或将两者都移走。</translation>
+    </message>
+</context>
+<context>
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>

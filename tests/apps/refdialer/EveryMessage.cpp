@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EveryWindow.h"
+#include "apps/common/StoreErrorText.h"
 #include "apps/refdialer/Failure.h"
 #include "apps/refdialer/FailureReport.h"
 #include "apps/refdialer/HistoryNotice.h"
@@ -8,6 +9,7 @@
 #include "apps/refdialer/RecordingSettings.h"
 #include "apps/refdialer/SettingsDialog.h"
 #include "apps/refdialer/ViewMenu.h"
+#include "history/StoreFailure.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -15,6 +17,8 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTreeWidget>
+
+#include <sqlite3.h>
 
 using history::DataPlan;
 using history::Store;
@@ -74,6 +78,20 @@ void lookAtAFailedStart(const Look &look)
     }
 }
 
+/// Whatever is wrong with it.
+void lookAtAHistoryOfNoUse(const HistoryWindow &history, const Look &look)
+{
+    const std::string path = history.storePath();
+    for (const int code :
+         {SQLITE_BUSY, SQLITE_FULL, SQLITE_CANTOPEN, SQLITE_NOMEM, SQLITE_CORRUPT}) {
+        const auto error =
+            history::sqliteFailure(path, history::Access::Opening, code, 0, sqlite3_errstr(code));
+        const refdialer::Failure failure{refdialer::ExitCode::StoreNotUsable,
+                                         common::storeErrorText(error.error())};
+        lookAtModal("history of no use", look, [&failure] { refdialer::reportInWindow(failure); });
+    }
+}
+
 /// One that has ended can be asked for nothing.
 void lookAtAPluginThatTellsNoStatistics(HistoryWindow &history, const Look &look)
 {
@@ -90,5 +108,6 @@ void lookAtEveryMessage(HistoryWindow &history, const Look &look)
     lookAtSettingsThatAreNotStored(history, look);
     lookAtARemovalThatFails(history, look);
     lookAtAFailedStart(look);
+    lookAtAHistoryOfNoUse(history, look);
     lookAtAPluginThatTellsNoStatistics(history, look);
 }

@@ -9,8 +9,6 @@
 #include <QTest>
 #include <QWindow>
 
-#include <algorithm>
-
 using refdialer::UsagePage;
 
 void UsagePageCase::init()
@@ -38,12 +36,19 @@ void UsagePageCase::open()
     QTRY_VERIFY(!chart().bars().empty());
 }
 
+QStringList UsagePageCase::shownTexts() const
+{
+    QStringList texts;
+    for (const QLabel *const label : m_page->findChildren<QLabel *>()) {
+        if (label->isVisible())
+            texts.append(label->text());
+    }
+    return texts;
+}
+
 bool UsagePageCase::shows(const QString &text) const
 {
-    const auto labels = m_page->findChildren<QLabel *>();
-    return std::any_of(labels.begin(), labels.end(), [&text](const QLabel *label) {
-        return label->isVisible() && label->text() == text;
-    });
+    return shownTexts().contains(text);
 }
 
 void UsagePageCase::press(Qt::Key key, Qt::KeyboardModifiers modifiers)

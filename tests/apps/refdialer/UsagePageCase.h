@@ -7,6 +7,7 @@
 #include "history/Store.h"
 
 #include <QPushButton>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -47,6 +48,7 @@ protected:
         qFatal("There is no \"%s\".", qPrintable(text));
     }
     refdialer::UsageChart &chart() const { return *m_page->findChild<refdialer::UsageChart *>(); }
+    QStringList shownTexts() const;
     bool shows(const QString &text) const;
     /// As the window system does: whoever has the focus gets it.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -38,6 +38,7 @@ private slots:
     void keepsUpWithARunningConnection();
     void followsTheZone();
     void saysThatThereIsNothingYet();
+    void saysWhyThereAreNoFigures_data();
     void saysWhyThereAreNoFigures();
     void speaksTheLanguageOfTheProgram();
     void writesMonthsAsDatesDo();
@@ -308,20 +309,34 @@ void UsagePageTest::saysThatThereIsNothingYet()
     QVERIFY(shows("All connections: nothing"));
 }
 
+void UsagePageTest::saysWhyThereAreNoFigures_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("English") << "en"
+                             << "is not a connection history but some other file; it was left as "
+                                "it is, move it away or name another file.";
+    QTest::newRow("German") << "de"
+                            << "kein Verbindungsverlauf, sondern eine andere Datei.";
+    QTest::newRow("Arabic") << "ar" << QStringLiteral("ليس سجل اتصالات بل ملف آخر.");
+}
+
 void UsagePageTest::saysWhyThereAreNoFigures()
 {
+    QFETCH(QString, language);
+    QFETCH(QString, reason);
+    QVERIFY(refhost::setLanguage(language));
     writeFile(m_folder->filePath("text.db"), "This is no history.");
     m_path = m_folder->filePath("text.db").toStdString();
     m_page = std::make_unique<UsagePage>(m_path);
     m_page->show();
-    const auto opened = history::Store::openForWatching(m_path);
-    QVERIFY(!opened);
-    QTRY_VERIFY(shows(QString::fromStdString(opened.error().message)));
+    QTRY_COMPARE(int(shownTexts().filter(reason).size()), 1);
+    QVERIFY(shownTexts().filter(reason).first().contains(QString::fromStdString(m_path)));
     // It is there as soon as it can be read.
     QVERIFY(QFile::remove(QString::fromStdString(m_path)));
     storeWith(m_path, {movedOn(today(), megabyte, megabyte)});
-    QTRY_VERIFY(shows("All connections: received 1.00 MB, sent 1.00 MB"));
-    QVERIFY(!shows(QString::fromStdString(opened.error().message)));
+    QTRY_VERIFY(!shownTexts().filter("1.00 MB").isEmpty());
+    QVERIFY(shownTexts().filter(reason).isEmpty());
 }
 
 void UsagePageTest::speaksTheLanguageOfTheProgram()

@@ -145,7 +145,7 @@ void addLanguageRows()
 void addFileRows()
 {
     const QStringList identifiers("refhost/translations/Identifiers.h");
-    const QStringList program{"refhost/libcore", "formats/Formats.h", "apps/common",
+    const QStringList program{"refhost/libcore", "history", "formats/Formats.h", "apps/common",
                               "apps/refdialer"};
     QTest::addColumn<QString>("file");
     QTest::addColumn<QStringList>("sources");
@@ -228,7 +228,8 @@ void TestTranslations::areCompleteAndUpToDate()
     QVERIFY(QFile::copy(translationFile(file), copy));
     QProcess lupdate;
     lupdate.setWorkingDirectory(PROJECT_SOURCES);
-    lupdate.start(LUPDATE, sources + QStringList({"-silent", "-ts", copy}));
+    lupdate.start(LUPDATE, sources + QStringList({"-silent", "-tr-function-alias",
+                                                  "QT_TRANSLATE_NOOP+=translatable", "-ts", copy}));
     QVERIFY(lupdate.waitForFinished());
     QCOMPARE(lupdate.exitCode(), 0);
     const auto messages = messagesIn(copy);
