@@ -66,7 +66,7 @@ QVariant HistoryCells::data(const ConnectionRecord &record, int column)
 
 QVariant HistoryCells::link(const ConnectionRecord *record)
 {
-    return QVariant::fromValue<qulonglong>(reinterpret_cast<quintptr>(record));
+    return QVariant(static_cast<qulonglong>(reinterpret_cast<quintptr>(record)));
 }
 
 ConnectionRecord *HistoryCells::linkedRecord(const QTableWidgetItem &item)

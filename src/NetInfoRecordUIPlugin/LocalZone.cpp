@@ -13,8 +13,10 @@ namespace
 struct Day {
     unsigned int lookAtBegin = 0;
     unsigned int lookAtAll = 0;
+    unsigned int lookAround = 0;
     std::optional<Offset> atBegin;
-    bool isSteady = false; // until the begin of the next day
+    bool isSteady = false;       // until the begin of the next day
+    bool isSteadyAround = false; // from the begin of the day before until the end of the next
 };
 
 std::array<Day, LocalZone::endOfAgreement / secondsPerDay + 1> days;
@@ -57,14 +59,24 @@ Day &dayFromItsBegin(std::time_t number)
 
 // Clocks do not change twice within a day, so what holds at its begin and at the next
 // day's holds in between.
-const Day &dayAt(std::time_t moment)
+const Day &wholeDay(std::time_t number)
 {
-    const std::time_t number = moment / secondsPerDay;
     Day &day = days[static_cast<std::size_t>(number)];
     if (day.lookAtAll != currentLook) {
         const auto atBegin = dayFromItsBegin(number).atBegin;
         day.lookAtAll = currentLook;
         day.isSteady = atBegin && atBegin == dayFromItsBegin(number + 1).atBegin;
+    }
+    return day;
+}
+
+const Day &dayAmongOthers(std::time_t number)
+{
+    Day &day = days[static_cast<std::size_t>(number)];
+    if (day.lookAround != currentLook) {
+        day.lookAround = currentLook;
+        day.isSteadyAround = wholeDay(number - 1).isSteady && wholeDay(number).isSteady &&
+                             wholeDay(number + 1).isSteady;
     }
     return day;
 }
@@ -76,20 +88,17 @@ std::optional<Offset> LocalZone::offsetAt(std::time_t moment)
     if (!isWithinAgreement(moment))
         return std::nullopt;
     lookIfDue();
-    const Day &day = dayAt(moment);
+    const Day &day = wholeDay(moment / secondsPerDay);
     return day.isSteady ? day.atBegin : offsetByTheCLibrary(moment);
 }
 
-std::optional<Offset> LocalZone::steadyOffset(std::time_t from, std::time_t until)
+std::optional<Offset> LocalZone::steadyOffsetAround(std::time_t moment)
 {
-    if (!isWithinAgreement(from) || !isWithinAgreement(until))
+    if (!isWithinAgreement(moment - secondsPerDay) || !isWithinAgreement(moment + secondsPerDay))
         return std::nullopt;
     lookIfDue();
-    for (std::time_t day = from / secondsPerDay; day <= until / secondsPerDay; ++day) {
-        if (!dayAt(day * secondsPerDay).isSteady)
-            return std::nullopt;
-    }
-    return dayAt(from).atBegin;
+    const Day &day = dayAmongOthers(moment / secondsPerDay);
+    return day.isSteadyAround ? day.atBegin : std::nullopt;
 }
 
 LocalZone::Hold::Hold()

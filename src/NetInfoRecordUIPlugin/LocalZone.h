@@ -30,9 +30,9 @@ constexpr std::time_t endOfAgreement = 2145916800;
 /// 1970 to the end of agreement.
 std::optional<Offset> offsetAt(std::time_t moment);
 
-/// The offset from one moment to another, not more than some days later, if it is
-/// certain to be the same all the time.
-std::optional<Offset> steadyOffset(std::time_t from, std::time_t until);
+/// The offset at a moment and for a day before and after it, if it is certain to be the
+/// same all the time.
+std::optional<Offset> steadyOffsetAround(std::time_t moment);
 
 /// While one lives, the zone is that of the first question. Without one, each question
 /// looks whether the user has chosen another zone meanwhile, for which the C library may

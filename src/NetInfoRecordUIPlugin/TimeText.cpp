@@ -50,12 +50,12 @@ void writeTwoDigits(int number, QChar *digits)
 /// it never or twice.
 std::optional<LocalZone::Offset> offsetWhenShown(std::time_t asUtc)
 {
+    if (const auto offset = LocalZone::steadyOffsetAround(asUtc))
+        return offset;
     // Clocks are at most 14 hours ahead of UTC and 12 behind it, so the moment
     // lies between these two.
     const std::time_t earliest = asUtc - 15 * hour;
     const std::time_t latest = asUtc + 13 * hour;
-    if (const auto offset = LocalZone::steadyOffset(earliest, latest))
-        return offset;
     const auto before = LocalZone::offsetAt(earliest);
     const auto after = LocalZone::offsetAt(latest);
     // Clocks that change do not change back within a day or two.
@@ -70,10 +70,13 @@ std::optional<LocalZone::Offset> offsetWhenShown(std::time_t asUtc)
     return isBefore ? before : after;
 }
 
-/// The time that fourteen ASCII digits name; nothing if they name none, or one that
-/// does not exist or exists twice, as the clocks change.
-std::optional<QDateTime> ordinaryTime(const QChar *digits)
+/// The moment at which UTC shows what the text says; nothing if that is no time of fourteen
+/// ASCII digits in the years in question.
+std::optional<std::time_t> timeAsUtc(const QString &text)
 {
+    const QChar *digits = text.constData();
+    if (text.size() != textLength || !areAsciiDigits(digits, textLength))
+        return std::nullopt;
     const CalendarDay date{twoDigits(digits) * 100 + twoDigits(digits + 2), twoDigits(digits + 4),
                            twoDigits(digits + 6)};
     const int hours = twoDigits(digits + 8);
@@ -82,24 +85,18 @@ std::optional<QDateTime> ordinaryTime(const QChar *digits)
     const bool isTime = hours < 24 && minutes < 60 && seconds < 60;
     if (date.year < firstYear || date.year > lastYear || !date.exists() || !isTime)
         return std::nullopt;
-    const std::time_t asUtc =
-        date.daysSince1970() * day + hours * hour + minutes * minute + seconds;
-    const auto offset = offsetWhenShown(asUtc);
-    if (!offset)
-        return std::nullopt;
-    return LocalTime::at(asUtc - offset->seconds, *offset);
+    return date.daysSince1970() * day + hours * hour + minutes * minute + seconds;
 }
 
 } // namespace
 
 QDateTime TimeText::parsed(const QString &text)
 {
-    const QChar *digits = text.constData();
-    if (text.size() == textLength && areAsciiDigits(digits, textLength)) {
-        if (const auto time = ordinaryTime(digits))
-            return *time;
-    }
-    return QDateTime::fromString(text, format());
+    const auto asUtc = timeAsUtc(text);
+    const auto offset = asUtc ? offsetWhenShown(*asUtc) : std::nullopt;
+    if (!offset)
+        return QDateTime::fromString(text, format());
+    return LocalTime::at(*asUtc - offset->seconds, *offset);
 }
 
 QString TimeText::of(quint32 secondsSinceEpoch)
