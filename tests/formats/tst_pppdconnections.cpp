@@ -28,6 +28,7 @@ private slots:
     void countsWhatCannotBeUsed();
     void quotesTheFirstOfSeveralLines();
     void passesOverAWrongTimeThatIsNotNeeded();
+    void takesARepeatedLineAsOftenAsOneFileHasIt();
 };
 
 namespace
@@ -336,6 +337,15 @@ void PppdConnectionsTest::passesOverAWrongTimeThatIsNotNeeded()
     QCOMPARE(outcome.connections[0].interfaceName, std::string("ppp0"));
     // It is said all the same: the log is not quite what it should be.
     QCOMPARE(outcome.unusable.size(), std::size_t(1));
+}
+
+void PppdConnectionsTest::takesARepeatedLineAsOftenAsOneFileHasIt()
+{
+    const auto fileOf = [](const QStringList &lines) {
+        return formats::LogFile{pppdLogOf(dated(lines)), 2147483647};
+    };
+    const std::vector<formats::LogFile> files = {fileOf({counted}), fileOf({counted, counted})};
+    QCOMPARE(joinLogs(files, {}).events.size(), std::size_t(2));
 }
 
 QTEST_GUILESS_MAIN(PppdConnectionsTest)

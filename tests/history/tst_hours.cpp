@@ -82,6 +82,7 @@ private slots:
     void haveToAddUp();
     void areRefusedBetweenTheHours();
     void goWithTheirConnection();
+    void goWithEachOfManyConnections();
     void countAtTheStartWithoutAny();
     void areExamined();
     void agreeWithAModel();
@@ -166,6 +167,18 @@ void HoursTest::goWithTheirConnection()
     QCOMPARE(hoursIn(store), QString());
     QCOMPARE(SQLite::Database(m_path).execAndGet("SELECT count(*) FROM connection_hour").getInt(),
              0);
+}
+
+void HoursTest::goWithEachOfManyConnections()
+{
+    Store store = storeWith(m_path, {});
+    std::vector<Connection> given = numberedConnections(40);
+    for (Connection &each : given) {
+        each.uploadedBytes = 5;
+        each.hours = {{firstHour, false, 5, 0}};
+    }
+    QCOMPARE(outcomeOf(store.addMissing(given)), QString("40"));
+    QCOMPARE(hoursIn(store).count(" 0 home 5/0"), 40);
 }
 
 void HoursTest::countAtTheStartWithoutAny()
