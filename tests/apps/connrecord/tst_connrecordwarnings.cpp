@@ -3,6 +3,8 @@
 #include "RecordedPlanTest.h"
 #include "SystemZone.h"
 
+#include <SQLiteCpp/Database.h>
+
 #include <QDateTime>
 #include <QTimeZone>
 
@@ -23,6 +25,7 @@ private slots:
     void warnsOnceThoughItIsKilled();
     void warnsOnceThoughAnotherTakesOver();
     void warnsOfAPlanThatIsMadeLater();
+    void saysWhatIsWrongWithAPlan();
     void followsTheZoneOfTheSystem();
 };
 
@@ -117,6 +120,15 @@ void ConnrecordWarningsTest::warnsOfAPlanThatIsMadeLater()
     addPlan("travel", {10});
     QTRY_COMPARE_WITH_TIMEOUT(titles(), (QStringList{title("home", 50), title("travel", 10)}),
                               checkpointTimeout);
+}
+
+void ConnrecordWarningsTest::saysWhatIsWrongWithAPlan()
+{
+    addPlan("home", {50});
+    SQLite::Database(m_path.toStdString(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE plan SET network = 'another'");
+    const Program program = start();
+    QTRY_VERIFY(program->said().contains("\"another\", is none of "));
 }
 
 /// The two zones are 25 hours apart, so no moment is of the same day in both.
