@@ -87,6 +87,10 @@ void StoredPlansTest::areKept_data()
     every.warnAtPercent = {};
     QTest::newRow("all as it is without being said")
         << planCalled("plain") << "plain|everything||both|both|none|monthly 1|none|80,100";
+    DataPlan close = planCalled("close");
+    close.warnAtPercent = {99, 100};
+    QTest::newRow("warnings close together")
+        << close << "close|everything||both|both|none|monthly 1|none|99,100";
     QTest::newRow("28 days") << every
                              << "every|profile|internet|home|received|0|every 28 from "
                                 "2025-11-20|none|";

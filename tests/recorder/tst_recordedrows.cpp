@@ -17,6 +17,7 @@ class RecordedRowsTest : public RecorderTest
 private slots:
     void aConnectionIsARowFromTheMomentItBegins();
     void bringsTheRowUpToDate();
+    void leavesTheRowAsItIsBetweenCheckpoints();
     void writesNothingWhileNothingIsMoved();
     void asksForNothingWhileNoLineIsUp();
     void asksForWhatALineMovesWithoutAConnection();
@@ -74,6 +75,15 @@ void RecordedRowsTest::bringsTheRowUpToDate()
 }
 
 /// However often the kernel is asked.
+void RecordedRowsTest::leavesTheRowAsItIsBetweenCheckpoints()
+{
+    QVERIFY(start());
+    connectLink(3, "wwan0", 0, 0);
+    for (const int uploaded : {5, 7})
+        m_links->tell(runningLink(3, "wwan0", uploaded, 0));
+    QCOMPARE(openRowsIn(m_path).front().uploadedBytes, std::int64_t{0});
+}
+
 void RecordedRowsTest::writesNothingWhileNothingIsMoved()
 {
     QVERIFY(start());
@@ -367,7 +377,9 @@ void RecordedRowsTest::recordsBesideARowThatTheStoreDoesNotTake()
     addRow(rowOf("another", 4));
     changeRow(3, "interface_name = 'a name of more than thirty-one bytes'");
     QVERIFY(start());
+    const QSignalSpy successes(m_recorder.get(), &ConnectionRecorder::succeeded);
     QTRY_COMPARE(m_failures->size(), 1);
+    QVERIFY(successes.isEmpty());
     QVERIFY(lastProblemSeenBy(*m_failures).reason.contains("thirty-one"));
     connectLink(5, "wwan1", 0, 0);
     m_links->tell(downLink(5, "wwan1", 1, 2));

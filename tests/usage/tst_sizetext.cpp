@@ -156,14 +156,15 @@ void SizeTextTest::writesAPartAsTheWholeOnlyOnceItIs_data()
     const qint64 gigabyte = 1 << 30;
     const qint64 ten = 10 * gigabyte;
     const qint64 odd = ten + gigabyte / 25; // 10.04
+    const qint64 up = ten + gigabyte / 17;
     row("a part", 3 * gigabyte, ten, "3 GB of 10 GB");
     row("a byte less", ten - 1, ten, "9.99 GB of 10 GB");
     row("the whole", ten, ten, "10 GB of 10 GB");
     row("less than a whole of more digits", odd - gigabyte / 100, odd, "10.02 GB of 10.04 GB");
     row("a byte less than that", odd - 1, odd, "10.03 GB of 10.04 GB");
     row("that", odd, odd, "10 GB of 10 GB");
-    row("more than a whole that is rounded up", ten + gigabyte / 10 - 1, ten + gigabyte / 17,
-        "10.1 GB of 10.1 GB");
+    row("a whole that is rounded up", up, up, "10.1 GB of 10.1 GB");
+    row("more than that", ten + gigabyte / 10 - 1, up, "10.1 GB of 10.1 GB");
     row("of nothing", 0, 0, "0 KB of 0 KB");
 }
 
