@@ -56,7 +56,7 @@ function(netinforecord_header_library target)
 endfunction()
 
 # Most of what a sanitized build takes to compile are the headers of libraries, so its
-# files share those compiled once. The other builds show what a file does not include.
+# files share those compiled once.
 function(netinforecord_shared_headers target kind)
     netinforecord_header_library(${target})
     set_target_properties(${target} PROPERTIES

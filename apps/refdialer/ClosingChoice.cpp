@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ClosingChoice.h"
 
+#include "apps/common/RecordingChoices.h"
 #include "refhost/libcore/Host.h"
 
 #include "CommonUtils.h"
@@ -16,7 +17,6 @@ namespace refdialer
 namespace
 {
 
-const char *const settingsGroup = "refdialer";
 const char *const closingKey = "whenClosing";
 const char *const inBackground = "background";
 const char *const stopping = "stop";
@@ -61,7 +61,8 @@ ClosingChoice ClosingQuestion::ask()
         return ClosingChoice::StayOpen;
     // Where it cannot be stored, it is only asked again.
     if (m_remember->isChecked())
-        refhost::storeSetting(settingsGroup, closingKey, isBackground ? inBackground : stopping);
+        refhost::storeSetting(common::settingsGroup, closingKey,
+                              isBackground ? inBackground : stopping);
     return isBackground ? ClosingChoice::RecordInBackground : ClosingChoice::StopRecording;
 }
 
@@ -69,7 +70,7 @@ ClosingChoice ClosingQuestion::ask()
 
 ClosingChoice chooseClosing(QWidget *window)
 {
-    const QString stored = CommonUtils::GetSettings(settingsGroup, closingKey);
+    const QString stored = CommonUtils::GetSettings(common::settingsGroup, closingKey);
     if (stored == QLatin1String(inBackground))
         return ClosingChoice::RecordInBackground;
     if (stored == QLatin1String(stopping))
@@ -79,7 +80,7 @@ ClosingChoice chooseClosing(QWidget *window)
 
 void forgetClosingChoice()
 {
-    refhost::storeSetting(settingsGroup, closingKey, QString());
+    refhost::storeSetting(common::settingsGroup, closingKey, QString());
 }
 
 } // namespace refdialer

@@ -23,7 +23,7 @@ namespace refdialer
 namespace
 {
 
-constexpr std::chrono::seconds lookInterval(1);
+constexpr std::chrono::seconds clockInterval(1);
 
 // As the box lists them.
 enum Days { AllDays, ThisMonth, LastMonth, ThisYear, ChosenDays };
@@ -68,7 +68,7 @@ HistorySearch::HistorySearch(std::unique_ptr<recorder::SystemClock> clock, QWidg
     for (const QDateEdit *const day : {m_first, m_last})
         connect(day, &QDateEdit::dateChanged, this, &HistorySearch::tell);
     connect(&m_timer, &QTimer::timeout, this, &HistorySearch::look);
-    m_timer.start(lookInterval);
+    m_timer.start(clockInterval);
     auto *const escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, &HistorySearch::end);

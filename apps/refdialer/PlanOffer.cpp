@@ -2,6 +2,7 @@
 #include "PlanOffer.h"
 
 #include "ElidedLabel.h"
+#include "apps/common/RecordingChoices.h"
 #include "refhost/libcore/Host.h"
 
 #include "CommonUtils.h"
@@ -16,7 +17,6 @@ namespace refdialer
 namespace
 {
 
-const char *const settingsGroup = "refdialer";
 const char *const offerKey = "offerPlan";
 const char *const unwelcome = "false";
 
@@ -24,7 +24,8 @@ const char *const unwelcome = "false";
 
 PlanOffer::PlanOffer(QWidget *parent)
     : QWidget(parent)
-    , m_isWelcome(CommonUtils::GetSettings(settingsGroup, offerKey) != QLatin1String(unwelcome))
+    , m_isWelcome(CommonUtils::GetSettings(common::settingsGroup, offerKey) !=
+                  QLatin1String(unwelcome))
     , m_text(new ElidedLabel(Qt::ElideRight))
     , m_accept(new QPushButton)
     , m_decline(new QPushButton)
@@ -58,7 +59,7 @@ void PlanOffer::retranslate()
 void PlanOffer::decline()
 {
     m_isWelcome = false;
-    refhost::storeSetting(settingsGroup, offerKey, unwelcome);
+    refhost::storeSetting(common::settingsGroup, offerKey, unwelcome);
     emit declined();
 }
 

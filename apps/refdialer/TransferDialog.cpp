@@ -19,7 +19,7 @@ namespace
 
 // Byte counts may be larger than what a bar counts in.
 constexpr int barSteps = 1000;
-constexpr int charactersInLine = 60;
+constexpr int charactersInMessage = 60;
 constexpr int detailLines = 6;
 
 int stepOf(const TransferState &state)
@@ -57,7 +57,7 @@ TransferDialog::TransferDialog(TransferKind kind, QWidget *parent)
     layout->addWidget(m_bar);
     layout->addWidget(m_details, 1);
     layout->addWidget(buttons);
-    setMinimumWidth(fontMetrics().averageCharWidth() * charactersInLine);
+    setMinimumWidth(fontMetrics().averageCharWidth() * charactersInMessage);
     retranslate();
 }
 

@@ -31,7 +31,7 @@ namespace refdialer
 namespace
 {
 
-constexpr std::chrono::seconds lookInterval(1);
+constexpr std::chrono::seconds refreshInterval(1);
 
 QComboBox *comboBox(QBoxLayout &layout, QLabel *&label)
 {
@@ -113,7 +113,7 @@ void UsagePage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     m_reader->look();
-    m_timer.start(lookInterval);
+    m_timer.start(refreshInterval);
 }
 
 QLayout *UsagePage::createChoices()

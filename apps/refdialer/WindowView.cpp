@@ -21,7 +21,7 @@ const char *const orderKey = "order";
 const char *const ascending = "ascending";
 const char *const descending = "descending";
 
-constexpr int charactersInLine = 148;
+constexpr int charactersInWindow = 148;
 constexpr int linesInWindow = 36;
 
 /// As HistoryColumn counts them.
@@ -57,7 +57,7 @@ HistoryOrder orderIn(const QString &text)
 QSize usualSizeOf(const QWidget &window)
 {
     const QFontMetrics font = window.fontMetrics();
-    return {charactersInLine * font.averageCharWidth(), linesInWindow * font.lineSpacing()};
+    return {charactersInWindow * font.averageCharWidth(), linesInWindow * font.lineSpacing()};
 }
 
 WindowView storedWindowView()
