@@ -381,7 +381,7 @@ void ConnrecordTest::tellsThatThereIsNotEnoughMemory()
                                      .arg(arguments),
                                  connrecordProgram(), folder});
     };
-    constexpr int step = 8192;
+    constexpr int step = 1024;
     int least = step;
     while (limited(least, "--version").exitCode != 0)
         least += step;
