@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ConnectionHistoryDlg.h"
 
+#include "FetchedAhead.h"
 #include "HistoryCells.h"
 #include "LocalZone.h"
 #include "Log.h"
@@ -98,7 +99,9 @@ void ConnectionHistoryDlg::populateTable()
     const ChangedAsOne change(*m_pConnectionTblTreeWidget);
     // The rows follow the map's own order; sorting is deliberately left out.
     int row = 0;
+    FetchedAhead ahead(records);
     for (ConnectionRecord *record : records) {
+        ahead.advance();
         if (log.isMissing(record, __LINE__))
             return;
         PopulateTableRowOfConnectionRecord(record, row);
