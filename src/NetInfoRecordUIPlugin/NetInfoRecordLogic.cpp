@@ -107,25 +107,34 @@ bool NetInfoRecordLogic::GetAllConnectedRecords()
     log.line("<======= %s: %s: %s: %d: Finished KORA_Statistics_GetAllConnRecord(), retVal=%ld",
              269, static_cast<long>(status));
     const bool succeeded = status == 0;
-    if (succeeded) {
-        const LocalZone::Hold zone;
-        // A null array has no second element: its first one is reported as missing,
-        // and that is all.
-        const int convertible = records ? count : std::min(count, 1);
-        for (int i = 0; i < convertible; ++i)
-            populateSDKtoUIStructure(i, records ? records + i : nullptr);
-#ifdef NETINFORECORD_WIRE_STATISTICS
-        m_totals.emplace();
-        for (int i = 0; records && i < count; ++i) {
-            const ConnectionRecord &shown = *m_records.value(i);
-            m_totals->add(records[i], shown.m_strProfileName, shown.m_strStartTime);
-        }
-        m_monthOfRows = QDate();
-#endif
-    }
+    if (succeeded)
+        convertRecords(records, count);
     KORA_Statistics_ReleaseConnRecord(records);
     log.exit(282);
     return succeeded;
+}
+
+void NetInfoRecordLogic::convertRecords(const _KORA_ST_CONNRECORD *records, int count)
+{
+    const LocalZone::Hold zone;
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    m_totals.emplace();
+    m_monthOfRows = QDate();
+#endif
+    // A null array has no second element: its first one is reported as missing,
+    // and that is all.
+    const int convertible = records ? count : std::min(count, 1);
+    for (int i = 0; i < convertible; ++i) {
+        const _KORA_ST_CONNRECORD *const record = records ? records + i : nullptr;
+        populateSDKtoUIStructure(i, record);
+#ifdef NETINFORECORD_WIRE_STATISTICS
+        // At once, while the record is in the processor's caches.
+        if (record) {
+            const ConnectionRecord &shown = *m_records.value(i);
+            m_totals->add(*record, shown.m_strProfileName, shown.m_strStartTime);
+        }
+#endif
+    }
 }
 
 void NetInfoRecordLogic::populateSDKtoUIStructure(int id, const _KORA_ST_CONNRECORD *record)

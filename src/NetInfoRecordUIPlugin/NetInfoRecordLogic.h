@@ -73,6 +73,7 @@ private:
     ~NetInfoRecordLogic();
     Q_DISABLE_COPY(NetInfoRecordLogic)
 
+    void convertRecords(const _KORA_ST_CONNRECORD *records, int count);
     void convertFields(const _KORA_ST_CONNRECORD &from, ConnectionRecord &to);
 
     RecurringTexts m_recurringTexts;
