@@ -167,7 +167,7 @@ bool LiveConnection::adopt(const history::OpenConnection &stored)
     if (stored.startBootMilliseconds == m_row.startBootMilliseconds) {
         m_row.key = stored.key;
         m_row.linkMark = m_connectionMark;
-        return false;
+        return stored.linkMark != m_connectionMark;
     }
     const history::OpenConnection own = std::exchange(m_row, withinRange(stored));
     m_row.interfaceName = own.interfaceName;

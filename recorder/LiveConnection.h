@@ -52,7 +52,7 @@ public:
 
     /// It is in the store under this row's key now; if an earlier process has begun
     /// it, it resumes that one's start, totals and, unless one was set here,
-    /// profile. Whether that is so: then the row lacks what has happened since.
+    /// profile. Whether the store's row lacks something that has happened since.
     bool adopt(const history::OpenConnection &stored);
     /// Leaves out what the link's counters showed up to these values, because it is
     /// in another record, unless they had begun anew before this one began.

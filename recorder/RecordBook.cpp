@@ -83,14 +83,14 @@ bool RecordBook::save(LiveConnection &connection)
 
 history::Result<std::int64_t> RecordBook::begin(LiveConnection &connection)
 {
-    const auto isResumed = attach(connection);
-    if (!isResumed)
-        return isResumed.error();
-    return isResumed.value() ? m_store.checkpoint(connection.row()) : connection.row().key;
+    const auto isOutdated = attach(connection);
+    if (!isOutdated)
+        return isOutdated.error();
+    return isOutdated.value() ? m_store.checkpoint(connection.row()) : connection.row().key;
 }
 
 /// Gives it its row: a new one, or the one that an earlier process has left of the same
-/// connection, which then lacks what has happened since. Whether that is so.
+/// connection. Whether that one lacks something that has happened since.
 history::Result<bool> RecordBook::attach(LiveConnection &connection)
 {
     leaveOutWhatIsRecorded(connection);

@@ -41,6 +41,7 @@ private slots:
     void bringsARowIntoTheRangeOfTheStore();
     void bringsARowUpToDateAtOnce();
     void addsUpWhatALateRowMissed();
+    void keepsTheMarkThatALateRowMissed();
 };
 
 void RecordedRowsTest::aConnectionIsARowFromTheMomentItBegins()
@@ -447,6 +448,23 @@ void RecordedRowsTest::addsUpWhatALateRowMissed()
     // 100 before the first reset, 5 and 1 after it; 2010 before the second, 1 after it.
     QTRY_COMPARE_WITH_TIMEOUT(
         recordsIn(m_path), QStringList("wwan0 up 106 down 2011 counter reset"), checkpointTimeout);
+}
+
+/// Or the next process would take it for another connection.
+void RecordedRowsTest::keepsTheMarkThatALateRowMissed()
+{
+    QVERIFY(start());
+    StoreLock lock(m_path);
+    connectLink(3, "wwan0", 0, 0);
+    m_links->tell(recorder::AddressReport{3, "another address", true, false, 101});
+    m_links->tell(addressGoneFrom(3));
+    lock.release();
+    const auto rowsAfterAnswer = [this] {
+        m_links->tell(runningLink(3, "wwan0", 0, 0));
+        return openRowsIn(m_path);
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(rowsAfterAnswer().size(), std::size_t{1}, checkpointTimeout);
+    QCOMPARE(openRowsIn(m_path).front().linkMark, std::string("0/101"));
 }
 
 QTEST_GUILESS_MAIN(RecordedRowsTest)
