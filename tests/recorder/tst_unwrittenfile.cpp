@@ -62,12 +62,14 @@ private slots:
     void keepsWhatEndedWhileTheStoreWasLocked();
     void isOfItsUserAlone();
     void keepsWhatLasts();
+    void keepsAConnectionThatCouldNotEvenBegin_data();
     void keepsAConnectionThatCouldNotEvenBegin();
     void keepsWhatIsStillInItForALaterStart();
     void isTakenOverOnceHoweverOftenItIsThere();
     void isTakenOverWhereItWasLeftOff();
     void letsWhatHadBeenLeftBeforeComeFirst_data();
     void letsWhatHadBeenLeftBeforeComeFirst();
+    void leavesWhatOtherLinksHaveLeftAlone();
     void leavesAFileThatItCannotReadAlone_data();
     void leavesAFileThatItCannotReadAlone();
     void leavesWhatIsNoFileAlone_data();
@@ -197,16 +199,31 @@ void UnwrittenFileTest::keepsWhatLasts()
              QStringList({"wwan0 up 5 down 6 recovered", "wwan0 up 2 down 3 not watched"}));
 }
 
+void UnwrittenFileTest::keepsAConnectionThatCouldNotEvenBegin_data()
+{
+    QTest::addColumn<bool>("isAddressReplaced");
+    QTest::newRow("with one address") << false;
+    QTest::newRow("with one that another has replaced") << true;
+}
+
 void UnwrittenFileTest::keepsAConnectionThatCouldNotEvenBegin()
 {
+    QFETCH(bool, isAddressReplaced);
     start({downLink(3, "wwan0", 1000, 2000)});
     lock();
     m_links->tell(addressOn(3));
     m_links->tell(runningLink(3, "wwan0", 1000, 2000));
+    recorder::AddressReport address = addressOn(3);
+    if (isAddressReplaced) {
+        address.address = "another address";
+        address.createdAt = 101;
+        m_links->tell(address);
+        m_links->tell(addressGoneFrom(3));
+    }
     m_links->toCome = {runningLink(3, "wwan0", 1005, 2006)};
     end();
     unlock();
-    start({runningLink(3, "wwan0", 1007, 2009), addressOn(3)});
+    start({runningLink(3, "wwan0", 1007, 2009), address});
     m_links->tell(downLink(3, "wwan0", 1008, 2010));
     QCOMPARE(recordsIn(m_path), QStringList("wwan0 up 8 down 10 normal"));
 }
@@ -297,6 +314,24 @@ void UnwrittenFileTest::letsWhatHadBeenLeftBeforeComeFirst()
     start();
     QTEST(recordsIn(m_path), "records");
     QVERIFY(openRowsIn(m_path).empty());
+}
+
+void UnwrittenFileTest::leavesWhatOtherLinksHaveLeftAlone()
+{
+    start(
+        {runningLink(3, "wwan0", 0, 0), addressOn(3), runningLink(4, "wwan1", 0, 0), addressOn(4)});
+    end();
+    lock();
+    LinkReport again = runningLink(3, "wwan0", 15, 26);
+    again.carrierLosses = 1;
+    start({again, addressOn(3)});
+    m_links->tell(goneLink(3, "wwan0", 16, 28));
+    end();
+    unlock();
+    start({runningLink(4, "wwan1", 7, 8), addressOn(4)});
+    m_links->tell(goneLink(4, "wwan1", 9, 10));
+    QVERIFY(recordsIn(m_path).contains(QStringLiteral("wwan0 up 1 down 2 normal")));
+    QVERIFY(recordsIn(m_path).contains(QStringLiteral("wwan1 up 9 down 10 normal")));
 }
 
 void UnwrittenFileTest::leavesAFileThatItCannotReadAlone_data()
