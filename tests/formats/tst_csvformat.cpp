@@ -22,6 +22,7 @@ private slots:
     void readsBackWhatItHasWritten_data();
     void readsBackWhatItHasWritten();
     void readsTimesInOtherZones();
+    void tellsOfAConnectionThatStillLasts();
     void passesOverBlankLinesAtTheEnd_data();
     void passesOverBlankLinesAtTheEnd();
     void tellsWhatIsWrongWithALine_data();
@@ -139,6 +140,24 @@ void CsvFormatTest::readsTimesInOtherZones()
         readBack(earlierHeader + "x,2024-05-31T20:30:00+02:00,2024-05-31T21:30:00,1,2,3,normal,\n");
     QCOMPARE(read.at(0).startUtc, std::int64_t(1717180200));
     QCOMPARE(read.at(0).endUtc, std::int64_t(1717183800));
+}
+
+void CsvFormatTest::tellsOfAConnectionThatStillLasts()
+{
+    const QByteArray lasting = "x,2024-05-31T18:30:00Z,,1,2,3,normal,ppp0,,,,home,";
+    QByteArray csv = toCsv({sample()}) + lasting + '\n';
+    QBuffer buffer(&csv);
+    buffer.open(QIODevice::ReadOnly);
+    LineReader lines(buffer, longestCsvLine + 1);
+    QStringList told;
+    std::size_t finished = 0;
+    readCsv(
+        lines, [&finished](const history::Connection &) { ++finished; },
+        [&told](std::int64_t line, const std::string &text) {
+            told << QString::number(line) + ' ' + QString::fromStdString(text);
+        });
+    QCOMPARE(told, QStringList("3 " + lasting));
+    QCOMPARE(finished, std::size_t(1));
 }
 
 void CsvFormatTest::passesOverBlankLinesAtTheEnd_data()

@@ -29,6 +29,7 @@ private slots:
     void quotesTheFirstOfSeveralLines();
     void passesOverAWrongTimeThatIsNotNeeded();
     void takesARepeatedLineAsOftenAsOneFileHasIt();
+    void takesALineOfTheJournalAndOfALogOnce();
 };
 
 namespace
@@ -346,6 +347,19 @@ void PppdConnectionsTest::takesARepeatedLineAsOftenAsOneFileHasIt()
     };
     const std::vector<formats::LogFile> files = {fileOf({counted}), fileOf({counted, counted})};
     QCOMPARE(joinLogs(files, {}).events.size(), std::size_t(2));
+}
+
+/// Also where neither names a process id.
+void PppdConnectionsTest::takesALineOfTheJournalAndOfALogOnce()
+{
+    const QByteArray log = "<30>1 2024-05-31T10:10:00Z gw pppd - - - Connect time 9.9 minutes.\n";
+    const QByteArray journal = "{\"__REALTIME_TIMESTAMP\":\"1717150200000000\",\"_HOSTNAME\":"
+                               "\"gw\",\"SYSLOG_IDENTIFIER\":\"pppd\",\"MESSAGE\":"
+                               "\"Connect time 9.9 minutes.\"}\n";
+    const std::vector<formats::LogFile> files = {{pppdLogOf(log), 2147483647},
+                                                 {pppdLogOf(journal), 2147483647}};
+    QCOMPARE(joinLogs({files[1]}, {}).events.size(), std::size_t(1));
+    QCOMPARE(joinLogs(files, {}).events.size(), std::size_t(1));
 }
 
 QTEST_GUILESS_MAIN(PppdConnectionsTest)

@@ -13,6 +13,7 @@ class YearResolverTest : public QObject
 
 private slots:
     void knowsThePlaceOfEachDay();
+    void knowsALogWhoseNewestLineIsTheFirst();
     void givesEachLineItsYear_data();
     void givesEachLineItsYear();
     void takesTheYearThatIsGiven_data();
@@ -97,6 +98,18 @@ void YearResolverTest::knowsThePlaceOfEachDay()
                  std::int64_t(first.daysTo(day)) * secondsPerDay + 3723);
 }
 
+/// One line out of order changes nothing.
+void YearResolverTest::knowsALogWhoseNewestLineIsTheFirst()
+{
+    ClockRuns clock;
+    for (const char *const line :
+         {"11-10 17:02:09", "11-10 17:02:05", "11-10 17:02:07", "11-10 17:02:01"})
+        clock.add(timeOf(line));
+    QVERIFY(clock.goesBackwards());
+    clock.reverse();
+    QVERIFY(clock.goesForwards());
+}
+
 void YearResolverTest::givesEachLineItsYear_data()
 {
     QTest::addColumn<QStringList>("lines");
@@ -144,6 +157,10 @@ void YearResolverTest::givesEachLineItsYear_data()
     QTest::newRow("a clock that started on 1 January and was set")
         << QStringList{"2023-11-10 17:00:00", "2023-01-01 00:00:12", "2023-11-10 17:02:00"}
         << autumn;
+    QTest::newRow("a clock that started on 1 January and was set a day later")
+        << QStringList{"2023-11-10 17:00:00", "2023-01-01 00:00:12", "2023-01-02 00:00:12",
+                       "2023-11-12 08:00:00"}
+        << autumn;
     QTest::newRow("a clock that started three times in 1970, here")
         << QStringList{"2023-03-05 17:00:00", "2023-01-01 01:00:12", "2023-03-06 09:00:00",
                        "2023-01-01 01:00:12", "2023-11-10 17:00:00", "2023-01-01 01:00:12",
@@ -156,6 +173,8 @@ void YearResolverTest::givesEachLineItsYear_data()
         << QStringList{"2023-11-10 17:00:00", "2023-01-01 00:00:12"} << "2023-11-10 17:05:00";
     QTest::newRow("a log that ends early in the year")
         << QStringList{"2023-11-10 17:00:00", "2024-01-01 00:20:00"} << "2024-01-01 00:25:00";
+    QTest::newRow("a log that ends early in the year, a day before its file changed")
+        << QStringList{"2022-11-10 17:00:00", "2023-01-01 00:20:00"} << "2023-01-02 00:20:00";
     QTest::newRow("early in the year, and on from there")
         << QStringList{"2022-11-10 17:00:00", "2023-01-01 00:20:00", "2023-01-01 20:20:00",
                        "2023-01-02 18:00:00", "2023-01-03 17:00:00"}
