@@ -14,6 +14,8 @@ private slots:
     void init();
     void leavesTheTerminalAloneDuringAShortOperation();
     void showsHowFarALongOperationIs();
+    void showsNoMoreThanAll_data();
+    void showsNoMoreThanAll();
     void showsTheAmountWhereTheTotalIsNotKnown();
     void showsNothingWithoutATerminal();
 
@@ -48,6 +50,24 @@ void ProgressLineTest::showsHowFarALongOperationIs()
         line.update(300);
     }
     QCOMPARE(m_terminal.data(), QByteArray("\r\x1b[KReading: 25 %\r\x1b[KReading: 75 %\r\x1b[K"));
+}
+
+void ProgressLineTest::showsNoMoreThanAll_data()
+{
+    QTest::addColumn<qint64>("total");
+
+    QTest::newRow("all of the smallest total") << qint64(1);
+    // As of a file that has grown meanwhile.
+    QTest::newRow("more than all") << qint64(99);
+    QTest::newRow("all") << qint64(100);
+}
+
+void ProgressLineTest::showsNoMoreThanAll()
+{
+    QFETCH(qint64, total);
+    ProgressLine line(&m_terminal, "Reading", 1, total);
+    line.update(std::max<qint64>(total, 100));
+    QCOMPARE(m_terminal.data(), QByteArray("\r\x1b[KReading: 100 %"));
 }
 
 void ProgressLineTest::showsTheAmountWhereTheTotalIsNotKnown()
