@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPainter>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStyleOptionViewItem>
 #include <QTest>
@@ -52,7 +53,7 @@ private Q_SLOTS:
     void appliesTheTextsAgain();
     void translatesInAFixedOrder();
     void showsItselfAtTheRectangle();
-    void opensAtTheFirstRowWithoutACurrentCell();
+    void opensAtTheFirstCellWithoutACurrentOne();
     void movesBeforeItResizes();
     void hidesAndKeepsItsRows();
     void showsNoFocusRectangle();
@@ -180,18 +181,21 @@ void tst_HistoryWindow::showsItselfAtTheRectangle()
     QVERIFY(container->isVisible());
 }
 
-void tst_HistoryWindow::opensAtTheFirstRowWithoutACurrentCell()
+void tst_HistoryWindow::opensAtTheFirstCellWithoutACurrentOne()
 {
     Host::instance().records.fill(scripted::record("a", "1", "2", "1", "0", "0"), 200);
     LoadedPlugin plugin;
-    plugin.show(QSize(700, 300));
+    plugin.show(QSize(400, 300));
     QVERIFY(QTest::qWaitForWindowExposed(plugin.area()));
-    plugin.table()->setCurrentCell(150, 2);
+    plugin.table()->setCurrentCell(150, 5);
     plugin.table()->scrollToBottom();
     QVERIFY(plugin.table()->rowAt(0) > 0);
-    QRect rect(0, 0, 700, 300);
+    const QScrollBar *const columns = plugin.table()->horizontalScrollBar();
+    QVERIFY(columns->value() > 0);
+    QRect rect(0, 0, 400, 300);
     plugin.ui()->ShowWindow(plugin.area(), rect);
     QCOMPARE(plugin.table()->rowAt(0), 0);
+    QCOMPARE(columns->value(), 0);
     QCOMPARE(plugin.table()->currentRow(), -1);
     QCOMPARE(plugin.table()->currentColumn(), -1);
 }
