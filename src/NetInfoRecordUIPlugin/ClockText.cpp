@@ -33,8 +33,12 @@ void writeDigits(int number, char *to, int count)
 } // namespace
 
 ClockText::ClockText()
+    : ClockText(millisecondsOfDay())
 {
-    const int milliseconds = millisecondsOfDay();
+}
+
+ClockText::ClockText(int milliseconds)
+{
     std::fill(std::begin(m_text), std::end(m_text), ':');
     writeDigits(milliseconds / 3600000, m_text, 2);
     writeDigits(milliseconds / 60000 % 60, m_text + 3, 2);

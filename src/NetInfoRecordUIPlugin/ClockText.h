@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The local time of day when it is made, as "hh:mm:ss:zzz" in ASCII digits.
+/// A time of day as "hh:mm:ss:zzz" in ASCII digits.
 class ClockText
 {
 public:
+    /// Local time, when it is made.
     ClockText();
+    /// So long after midnight.
+    explicit ClockText(int milliseconds);
     const char *text() const { return m_text; }
 
 private:
