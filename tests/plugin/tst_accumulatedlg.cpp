@@ -146,6 +146,10 @@ void tst_AccumulateDlg::setsItsTexts()
     QCOMPARE(dlg()->m_pMonthSelectionComboBox->itemText(2), "t:IDS_COMBO_BEFORELASTMONTH");
     QCOMPARE(frame()->windowTitle(),
              QStringLiteral("t:IDS_TITLE_TOTAL ( 01/03/2025 - 31/03/2025 ) "));
+    // The profiles come back with the figures.
+    QCOMPARE(dlg()->m_pProfileSelectionComboBox->count(), 1);
+    dlg()->uiSetText();
+    QCOMPARE(dlg()->m_pProfileSelectionComboBox->count(), 0);
 }
 
 void tst_AccumulateDlg::translatesInAFixedOrder()

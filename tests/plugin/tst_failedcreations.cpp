@@ -100,6 +100,7 @@ void tst_FailedCreations::saysWhatIsMissing()
 {
     QFETCH(std::function<void()>, operation);
     const auto record = scripted::record("a", "1267795800", "1267799400", "3600", "1", "2");
+    const auto widgets = QApplication::allWidgets().size();
     int failures = 0;
     for (bool hasFailed = true; hasFailed; ++failures) {
         Host::instance().records = {record};
@@ -112,6 +113,7 @@ void tst_FailedCreations::saysWhatIsMissing()
         creationsLeft = -1;
         QCOMPARE(!log.take().filter(QStringLiteral("Arg is NULL")).isEmpty(), hasFailed);
         ConnectionHistoryDlg::Destroy();
+        QCOMPARE(QApplication::allWidgets().size(), widgets);
     }
     QVERIFY(failures > 1);
 }

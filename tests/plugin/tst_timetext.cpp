@@ -15,13 +15,13 @@ namespace
 
 const QString format = QStringLiteral("yyyyMMddhhmmss");
 
-/// Zones whose clocks change in many ways: by an hour and by half of one, at
-/// midnight, in the other half of the year, across the date line, not at all. The
-/// last one counts leap seconds, where the system has such zones.
-const char *const zones[] = {"Europe/Berlin",      "America/New_York", "Australia/Lord_Howe",
-                             "America/Sao_Paulo",  "Pacific/Apia",     "Africa/Casablanca",
-                             "Asia/Kathmandu",     "Africa/Monrovia",  "UTC",
-                             "Pacific/Kiritimati", "Etc/GMT+12",       "right/Europe/Berlin"};
+/// Zones whose clocks change in many ways: by an hour and by half of one, at midnight, on
+/// another day than UTC's, in the other half of the year, across the date line, not at
+/// all. The last one counts leap seconds, where the system has such zones.
+const char *const zones[] = {"Europe/Berlin",      "America/Nuuk",    "Australia/Lord_Howe",
+                             "America/Sao_Paulo",  "Pacific/Apia",    "Africa/Casablanca",
+                             "Asia/Kathmandu",     "Africa/Monrovia", "UTC",
+                             "Pacific/Kiritimati", "Etc/GMT+12",      "right/Europe/Berlin"};
 
 void useZone(const char *zone)
 {
