@@ -109,6 +109,7 @@ private slots:
     void isPrivate();
     void takesAFileThatItsOwnerMayNotOpen();
     void leavesAnothersFileAlone();
+    void freesAFileThatWasMoved();
     void leavesAloneWhatIsNoLockFile_data();
     void leavesAloneWhatIsNoLockFile();
     void replacesAnotherUsersFileThatNobodyHolds();
@@ -232,6 +233,18 @@ void RecorderLockTest::leavesAnothersFileAlone()
     QCOMPARE(second.take(), Outcome::Taken);
     first.free();
     QCOMPARE(first.take(), Outcome::HeldByAnother);
+}
+
+/// Or a store that was moved with it would seem to be recorded into.
+void RecorderLockTest::freesAFileThatWasMoved()
+{
+    RecorderLock lock(m_store);
+    QCOMPARE(lock.take(), Outcome::Taken);
+    const QString moved = m_folder->filePath("moved.db");
+    QVERIFY(QFile::rename(m_file, moved + ".recorder"));
+    QVERIFY(recorder::isRecordedInto(moved));
+    lock.free();
+    QVERIFY(!recorder::isRecordedInto(moved));
 }
 
 void RecorderLockTest::leavesAloneWhatIsNoLockFile_data()
