@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "formats/YearResolver.h"
 
+#include "tests/usage/LocalZone.h"
+
 #include <QTest>
 
 using namespace formats;
@@ -13,9 +15,9 @@ class YearResolverTest : public QObject
 
 private slots:
     void knowsThePlaceOfEachDay();
-    void knowsALogWhoseNewestLineIsTheFirst();
     void givesEachLineItsYear_data();
     void givesEachLineItsYear();
+    void knowsAClockThatStartedIn1970InTheWest();
     void takesTheYearThatIsGiven_data();
     void takesTheYearThatIsGiven();
     void keepsAYearThatIsWritten();
@@ -25,6 +27,7 @@ private slots:
     void saysWhereTheYearIsAGuess();
     void findsAnImpossibleDay();
     void keepsTheYearInTheHourThatComesTwice();
+    void goesBackToTheFirstLeapYearAtMost();
     void survivesAnyClock_data();
     void survivesAnyClock();
 };
@@ -96,18 +99,6 @@ void YearResolverTest::knowsThePlaceOfEachDay()
     for (QDate day = first; day.year() == first.year(); day = day.addDays(1))
         QCOMPARE(placeInYear({0, day.month(), day.day(), 1, 2, 3, {}}),
                  std::int64_t(first.daysTo(day)) * secondsPerDay + 3723);
-}
-
-/// One line out of order changes nothing.
-void YearResolverTest::knowsALogWhoseNewestLineIsTheFirst()
-{
-    ClockRuns clock;
-    for (const char *const line :
-         {"11-10 17:02:09", "11-10 17:02:05", "11-10 17:02:07", "11-10 17:02:01"})
-        clock.add(timeOf(line));
-    QVERIFY(clock.goesBackwards());
-    clock.reverse();
-    QVERIFY(clock.goesForwards());
 }
 
 void YearResolverTest::givesEachLineItsYear_data()
@@ -199,6 +190,15 @@ void YearResolverTest::givesEachLineItsYear()
     QCOMPARE(log.resolved(log.years({}, changed)), lines);
 }
 
+/// There it shows the last evening of a year. It was set, if to a day before.
+void YearResolverTest::knowsAClockThatStartedIn1970InTheWest()
+{
+    const LocalZone west("America/New_York");
+    const QStringList lines = {"2023-11-10 17:00:00", "2022-12-31 19:00:12", "2023-11-09 17:00:00"};
+    const Log log(withoutYears(lines));
+    QCOMPARE(log.resolved(log.years({}, "2023-11-09 18:00:00")), lines);
+}
+
 void YearResolverTest::takesTheYearThatIsGiven_data()
 {
     QTest::addColumn<QStringList>("lines");
@@ -288,6 +288,18 @@ void YearResolverTest::keepsTheYearInTheHourThatComesTwice()
     const QStringList lines = {"2024-10-27 02:50:00", "2024-10-27 02:10:00"};
     const Log log(withoutYears(lines));
     QCOMPARE(log.resolved(log.years({}, "2024-10-28 00:00:00")), lines);
+}
+
+void YearResolverTest::goesBackToTheFirstLeapYearAtMost()
+{
+    QStringList lines;
+    for (int turn = 0; turn < 2100; ++turn)
+        lines << "11-30 00:00:00"
+              << "02-29 00:00:00";
+    const Log log(lines);
+    const QStringList resolved = log.resolved(log.years({}, "2023-11-12 08:00:00"));
+    QCOMPARE(resolved.at(0), QString("0004-11-30 00:00:00"));
+    QCOMPARE(resolved.at(1), QString("0004-02-29 00:00:00"));
 }
 
 void YearResolverTest::survivesAnyClock_data()
