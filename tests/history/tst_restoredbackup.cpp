@@ -157,9 +157,15 @@ void RestoredBackupTest::aLogOfAFormerFileIsNotPlayed_data()
         copyOver(backup, path);
         setWrittenLongAgo(path);
     };
+    // With the log, it is no database any more.
+    const Restorer compacted = [](const QString &backup, const QString &path) {
+        runSql(backup.toStdString(), "VACUUM");
+        copyOver(backup, path);
+    };
     QTest::newRow("a backup copied over it") << 2 << Restorer(copyOver);
     QTest::newRow("a backup in its place") << 2 << renamed;
     QTest::newRow("a backup with its old time") << 2 << aged;
+    QTest::newRow("a backup that was compacted") << 2 << compacted;
     // So much that the log was played into the former file, too.
     QTest::newRow("a backup copied over a larger file") << 20000 << Restorer(copyOver);
 }
