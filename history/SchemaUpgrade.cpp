@@ -45,7 +45,8 @@ bool isNew(const SchemaState &state)
 void checkVersion(const std::string &path, std::int32_t version, std::size_t newest)
 {
     if (version < 1)
-        throw damaged(path, "it says that its version is " + std::to_string(version));
+        throw damaged(path, Sentence{translatable("history", "it says that its version is %1"),
+                                     {std::to_string(version)}});
     if (static_cast<std::size_t>(version) > newest)
         throw StoreFailure(
             Kind::NewerStore,
@@ -113,8 +114,9 @@ void checkObjects(const std::string &path, SQLite::Database &database, const Sch
     for (const SchemaObject &object : objectsIn(database)) {
         const bool isOurs = std::find(ours.begin(), ours.end(), object) != ours.end();
         if (!isOurs && !isPlainIndex(database, object))
-            throw damaged(path, "its " + object.type + " \"" + object.name +
-                                    "\" is not one that this program makes");
+            throw damaged(path, Sentence{translatable("history", "its %1 \"%2\" is not one that "
+                                                                 "this program makes"),
+                                         {object.type, object.name}});
     }
 }
 

@@ -88,7 +88,7 @@ std::string historyAt(const std::string &path)
     return "The connection history \"" + path + "\"";
 }
 
-StoreFailure notAStore(const std::string &path, const char *text)
+StoreFailure notAStore(const std::string &path, Translatable text)
 {
     return {Kind::NotAStore, Sentence{text, {path}}};
 }
@@ -100,7 +100,7 @@ StoreFailure anotherDatabase(const std::string &path)
                                                    "it is, move it away or name another file."));
 }
 
-StoreFailure damaged(const std::string &path, const std::string &reason)
+StoreFailure damaged(const std::string &path, const Part &reason)
 {
     return {Kind::Damaged,
             Sentence{translatable("history", "The connection history \"%1\" is damaged (%2); it "

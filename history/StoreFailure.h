@@ -20,7 +20,7 @@ public:
     {
     }
     StoreFailure(StoreError::Kind kind, Sentence sentence)
-        : m_error{kind, filled(sentence.text, sentence.arguments), std::move(sentence)}
+        : m_error{kind, inEnglish(sentence), std::move(sentence)}
     {
     }
 
@@ -47,11 +47,11 @@ std::string historyAt(const std::string &path);
 
 /// The errors for a file that is something else than a store, which stays untouched.
 /// `text` says what it is, and names its path.
-StoreFailure notAStore(const std::string &path, const char *text);
+StoreFailure notAStore(const std::string &path, Translatable text);
 StoreFailure anotherDatabase(const std::string &path);
 
 /// The error for a store whose contents are broken.
-StoreFailure damaged(const std::string &path, const std::string &reason);
+StoreFailure damaged(const std::string &path, const Part &reason);
 
 /// The error for a file or folder that the system call behind `errorNumber`
 /// could not reach or make.

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "StoreErrorText.h"
 
+#include "SentenceText.h"
 #include "history/Result.h"
-
-#include <QCoreApplication>
 
 namespace common
 {
@@ -15,10 +14,7 @@ QString storeErrorText(const history::StoreError &error)
 
 QString storeErrorText(const history::Sentence &sentence, const QString &english)
 {
-    if (!sentence.text)
-        return english;
-    const QString text = QCoreApplication::translate("history", sentence.text);
-    return QString::fromStdString(history::filled(text.toStdString(), sentence.arguments));
+    return sentence.text.text ? sentenceText(sentence) : english;
 }
 
 } // namespace common

@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
-        <translation>تتعذر الكتابة في «‎%1‎» (‎%2‎)، ولذلك تضيع الاتصالات التي لم يتمكن السجل من حفظها. امنح نفسك إذن الكتابة هناك.</translation>
+        <translation>تتعذر الكتابة في «‎%1‎»‏ (‎%2‎)، ولذلك تضيع الاتصالات التي لم يتمكن السجل من حفظها. امنح نفسك إذن الكتابة هناك.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
@@ -294,11 +294,11 @@
     </message>
     <message>
         <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
-        <translation>تتعذر الكتابة في سجل الاتصالات «‎%1‎» (‎%2‎). لم يتغير شيء؛ تحقق من القرص ومن أذونات الملف ومجلده.</translation>
+        <translation>تتعذر الكتابة في سجل الاتصالات «‎%1‎»‏ (‎%2‎). لم يتغير شيء؛ تحقق من القرص ومن أذونات الملف ومجلده.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
-        <translation>يتعذر فتح سجل الاتصالات «‎%1‎» (‎%2‎). تحقق من القرص ومن أذونات الملف ومجلده، أو حدد ملفًا آخر.</translation>
+        <translation>يتعذر فتح سجل الاتصالات «‎%1‎»‏ (‎%2‎). تحقق من القرص ومن أذونات الملف ومجلده، أو حدد ملفًا آخر.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
@@ -314,7 +314,7 @@
     </message>
     <message>
         <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
-        <translation>تعذر العمل على سجل الاتصالات «‎%1‎» (‎%2‎). لم يتغير شيء؛ أغلق برامج أخرى وأعد المحاولة.</translation>
+        <translation>تعذر العمل على سجل الاتصالات «‎%1‎»‏ (‎%2‎). لم يتغير شيء؛ أغلق برامج أخرى وأعد المحاولة.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
@@ -331,6 +331,14 @@
     <message>
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>سجل الاتصالات «‎%1‎» فارغ، لكن «‎%2‎» يحتوي على تسجيلات منه. تُرك كلاهما كما هو؛ ضع نسخة مكانه أو انقل كليهما إلى مكان آخر.</translation>
+    </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>الإصدار المذكور هو ‎%1‎</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>‏«‎%2‎»‏ (‎%1‎) ليس من صنع هذا البرنامج</translation>
     </message>
 </context>
 <context>

@@ -332,6 +332,14 @@
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>Der Verbindungsverlauf „%1“ ist leer, aber „%2“ enthält Einträge von ihm. Beide blieben, wie sie sind; setzen Sie eine Kopie an seine Stelle, oder verschieben Sie beide.</translation>
     </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>als Version ist %1 angegeben</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>„%2“ (%1) stammt nicht von diesem Programm</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

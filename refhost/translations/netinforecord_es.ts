@@ -332,6 +332,14 @@
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>El historial de conexiones «%1» está vacío, pero «%2» contiene registros suyos. Ambos se han dejado como estaban; ponga una copia en su lugar o mueva ambos a otro sitio.</translation>
     </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>la versión indicada es %1</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>«%2» (%1) no es de este programa</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

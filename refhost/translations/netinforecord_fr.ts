@@ -332,6 +332,14 @@
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>L’historique des connexions «&#xa0;%1&#xa0;» est vide, mais «&#xa0;%2&#xa0;» contient des entrées qui en font partie. Les deux ont été laissés tels quels&#xa0;; mettez une copie à sa place, ou déplacez les deux ailleurs.</translation>
     </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>la version indiquée est %1</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>«&#xa0;%2&#xa0;» (%1) ne vient pas de ce programme</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -332,6 +332,14 @@
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>Historia połączeń „%1” jest pusta, ale „%2” zawiera jej wpisy. Oba pliki pozostawiono bez zmian; umieść w jej miejscu kopię albo przenieś oba gdzie indziej.</translation>
     </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>podana wersja to %1</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>„%2” (%1) nie pochodzi z tego programu</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

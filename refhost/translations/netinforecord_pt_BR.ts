@@ -332,6 +332,14 @@
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>O histórico de conexões “%1” está vazio, mas “%2” contém registros dele. Ambos foram deixados como estavam; coloque uma cópia no lugar dele ou mova ambos para outro lugar.</translation>
     </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>a versão indicada é %1</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>“%2” (%1) não é deste programa</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

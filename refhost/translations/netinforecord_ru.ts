@@ -332,6 +332,14 @@
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>История соединений «%1» пуста, но «%2» содержит её записи. Оба файла оставлены как есть; поместите на место истории копию или переместите оба файла.</translation>
     </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>указана версия %1</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>«%2» (%1) создано не этой программой</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -332,6 +332,14 @@
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>“%1” bağlantı geçmişi boş, ancak “%2” onun kayıtlarını içeriyor. İkisi de olduğu gibi bırakıldı; yerine bir kopya koyun ya da ikisini de başka yere taşıyın.</translation>
     </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>belirtilen sürüm %1</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>“%2” (%1) bu programdan değil</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -332,6 +332,14 @@
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
         <translation>连接历史记录“%1”为空，但“%2”中有它的记录。两者均保持原样，请放入副本替换，或将两者都移走。</translation>
     </message>
+    <message>
+        <source>it says that its version is %1</source>
+        <translation>注明的版本为 %1</translation>
+    </message>
+    <message>
+        <source>its %1 &quot;%2&quot; is not one that this program makes</source>
+        <translation>“%2”（%1）不是由此程序创建的</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "apps/common/ProblemText.h"
 #include "apps/common/StoreErrorText.h"
+#include "history/SchemaUpgrade.h"
 #include "history/StoreFailure.h"
 #include "recorder/Problem.h"
 #include "refhost/libcore/Host.h"
@@ -36,6 +37,16 @@ StoreError writing(int code)
     return history::sqliteFailure(path, Access::Writing, code, 0, "disk I/O error").error();
 }
 
+StoreError versionThatCannotBe()
+{
+    try {
+        history::checkSchemaVersion(path, 0);
+    } catch (const history::StoreFailure &failure) {
+        return failure.error();
+    }
+    return {};
+}
+
 void addRow(const char *name, const char *language, const StoreError &error, const char *part)
 {
     QTest::newRow(name) << QString(language) << error << QString::fromUtf8(part);
@@ -60,6 +71,10 @@ void StoreErrorTextTest::speaksTheLanguageOfTheProgram_data()
     addRow("full disk, German", "de", writing(SQLITE_FULL), "weil der Datenträger voll");
     addRow("failing disk, German", "de", writing(SQLITE_IOERR), "(disk I/O error). Nichts wurde");
     addRow("no memory, German", "de", writing(SQLITE_NOMEM), "(der Speicher reicht nicht)");
+    addRow("failing disk, Arabic", "ar", writing(SQLITE_IOERR),
+           "«\u200e/100%2/a.db\u200e»\u200f (\u200edisk I/O error\u200e)");
+    addRow("a version that cannot be, German", "de", versionThatCannotBe(),
+           "(als Version ist 0 angegeben). Er blieb");
     addRow("damage, Arabic", "ar", writing(SQLITE_CORRUPT), "تالف (\u200edisk I/O error\u200e)");
     addRow("another program's database, Arabic", "ar", history::anotherDatabase(path).error(),
            "ليس سجل اتصالات بل قاعدة بيانات لبرنامج آخر. تُركت كما هي؛ انقلها إلى مكان آخر");
