@@ -8,8 +8,9 @@
 #include <sys/types.h>
 #include <zlib.h>
 
-#include <array>
 #include <cerrno>
+#include <string>
+#include <utility>
 
 namespace formats
 {
@@ -17,13 +18,24 @@ namespace formats
 namespace
 {
 
+using history::Part;
+using history::Sentence;
+using history::translatable;
+
 constexpr int pieceBytes = 64 * 1024;
+
+/// What a library says of an error; it may have nothing to say.
+std::string wordsOf(const char *message)
+{
+    return message ? message : "";
+}
 
 /// A device that cannot go back, on another one that is read in pieces.
 class Decompressor : public QIODevice
 {
 public:
     bool isSequential() const override { return true; }
+    const Part &error() const { return m_error; }
 
 protected:
     explicit Decompressor(QIODevice &compressed)
@@ -40,15 +52,16 @@ protected:
     char *piece() { return m_piece.data(); }
     QString deviceError() const { return m_compressed.errorString(); }
 
-    qint64 failed(const QString &reason)
+    qint64 failed(Part reason)
     {
-        setErrorString(reason);
+        m_error = std::move(reason);
         return -1;
     }
 
 private:
     QIODevice &m_compressed;
     QByteArray m_piece;
+    Part m_error = std::string();
 };
 
 /// gzip through zlib, which checks the sums that the other library passes over.
@@ -70,12 +83,14 @@ protected:
         const uInt wanted = m_stream.avail_out;
         while (m_stream.avail_out == wanted && !m_isBroken) {
             if (m_stream.avail_in == 0 && !refill())
-                return m_isAtMemberEnd ? 0 : failed(QStringLiteral("its end is missing"));
+                return m_isAtMemberEnd
+                           ? 0
+                           : failed(Sentence(translatable("formats", "its end is missing")));
             if (m_isAtMemberEnd && !beginMember())
                 return 0;
             inflateOn();
         }
-        return m_isBroken ? failed(QString::fromLatin1(m_stream.msg)) : wanted - m_stream.avail_out;
+        return m_isBroken ? failed(wordsOf(m_stream.msg)) : wanted - m_stream.avail_out;
     }
 
 private:
@@ -136,7 +151,7 @@ protected:
             m_state == ARCHIVE_OK
                 ? archive_read_data(m_reader.get(), data, static_cast<std::size_t>(maxSize))
                 : -1;
-        return count < 0 ? failed(QString::fromUtf8(archive_error_string(m_reader.get()))) : count;
+        return count < 0 ? failed(reason()) : count;
     }
 
 private:
@@ -148,11 +163,15 @@ private:
         archive_entry *entry = nullptr;
         const int code = archive_read_next_header(m_reader.get(), &entry);
         // Too short to be known for what it is, it would pass as plain text.
-        if (archive_filter_code(m_reader.get(), 0) == ARCHIVE_FILTER_NONE) {
-            archive_set_error(m_reader.get(), EINVAL, "its beginning is broken");
-            return ARCHIVE_FATAL;
-        }
-        return code;
+        m_isBeginningBroken = archive_filter_code(m_reader.get(), 0) == ARCHIVE_FILTER_NONE;
+        return m_isBeginningBroken ? ARCHIVE_FATAL : code;
+    }
+
+    Part reason() const
+    {
+        if (m_isBeginningBroken)
+            return Sentence(translatable("formats", "its beginning is broken"));
+        return wordsOf(archive_error_string(m_reader.get()));
     }
 
     static ssize_t readNext(archive *reader, void *self, const void **piece)
@@ -167,6 +186,7 @@ private:
 
     std::unique_ptr<archive, int (*)(archive *)> m_reader;
     int m_state = ARCHIVE_RETRY; ///< until start() has been called
+    bool m_isBeginningBroken = false;
 };
 
 } // namespace
@@ -183,6 +203,12 @@ std::unique_ptr<QIODevice> decompressed(QIODevice &device)
             return std::make_unique<ArchiveInput>(device);
     }
     return nullptr;
+}
+
+Part readError(const QIODevice &device)
+{
+    const auto *const decompressor = dynamic_cast<const Decompressor *>(&device);
+    return decompressor ? decompressor->error() : device.errorString().toStdString();
 }
 
 } // namespace formats

@@ -22,6 +22,8 @@ namespace
 using history::connectionFields;
 using history::forEachField;
 using history::KindOf;
+using history::Sentence;
+using history::translatable;
 
 constexpr std::size_t columnCount = std::tuple_size_v<decltype(connectionFields)>;
 
@@ -80,7 +82,7 @@ public:
     void checkColumnCount() const;
 
 private:
-    [[noreturn]] void fail(std::size_t column, const std::string &reason) const;
+    [[noreturn]] void fail(std::size_t column, const Sentence &reason) const;
     void checkBytes(std::size_t column) const;
 
     const CsvRow &m_row;
@@ -121,11 +123,11 @@ void RowReader::checkHeader() const
         std::mismatch(m_row.begin(), m_row.end(), names, names + m_columns, hasText).second;
     if (right != names + m_columns)
         fail(static_cast<std::size_t>(right - names),
-             "the first line has to be the header " + csvHeader());
+             {translatable("formats", "the first line has to be the header %1"), {csvHeader()}});
     checkColumnCount();
 }
 
-void RowReader::fail(std::size_t column, const std::string &reason) const
+void RowReader::fail(std::size_t column, const Sentence &reason) const
 {
     throw CsvError{m_row[std::min(column, m_row.size() - 1)].line, column, reason};
 }
@@ -134,8 +136,8 @@ void RowReader::checkColumnCount() const
 {
     if (m_row.size() != m_columns)
         fail(std::min<std::size_t>(m_row.size(), m_columns),
-             "the line has " + std::to_string(m_row.size()) + " columns and should have " +
-                 std::to_string(m_columns));
+             {translatable("formats", "the line has %1 columns and should have %2"),
+              {std::to_string(m_row.size()), std::to_string(m_columns)}});
 }
 
 void RowReader::checkBytes(std::size_t column) const
@@ -144,9 +146,9 @@ void RowReader::checkBytes(std::size_t column) const
     if (isPlainAscii(text))
         return;
     if (text.find('\0') != std::string::npos)
-        fail(column, "the text holds a NUL byte");
+        fail(column, translatable("formats", "the text holds a NUL byte"));
     if (!isUtf8(text))
-        fail(column, "the text is not UTF-8");
+        fail(column, translatable("formats", "the text is not UTF-8"));
 }
 
 bool isBlank(const CsvRow &row)
@@ -185,7 +187,9 @@ void readCsv(LineReader &lines, const ConnectionTaker &take, const RunningVisito
     CsvRow row;
     if (!reader.next(row))
         throw CsvError{1, 0,
-                       "the file is empty, the first line has to be the header " + csvHeader()};
+                       Sentence{translatable("formats", "the file is empty, the first line has to "
+                                                        "be the header %1"),
+                                {csvHeader()}}};
     // Files of earlier versions lack the last ones.
     const std::size_t columns = std::clamp(row.size(), fewestColumns, columnCount);
     RowReader(row, columns).checkHeader();

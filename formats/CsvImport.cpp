@@ -27,9 +27,10 @@ void CsvImport::read(const ImportSource &source, const ReadProgress &progress)
         lines.checkReadToTheEnd(source.name);
     } catch (const CsvError &error) {
         lines.checkReadToTheEnd(source.name);
-        throw InputError(source.name + ", line " + std::to_string(error.line) + ", column " +
-                         csvColumnName(error.column) + ": " + error.reason +
-                         ". Nothing was imported.");
+        throw InputError(
+            {history::translatable("formats", "%1, line %2, column %3: %4. Nothing "
+                                              "was imported."),
+             {source.name, std::to_string(error.line), csvColumnName(error.column), error.reason}});
     }
 }
 

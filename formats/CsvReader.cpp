@@ -8,6 +8,9 @@
 namespace formats
 {
 
+using history::Sentence;
+using history::translatable;
+
 CsvReader::CsvReader(LineReader &lines, std::size_t mostColumns)
     : m_lines(lines)
     , m_mostColumns(mostColumns)
@@ -44,7 +47,8 @@ bool CsvReader::nextLine()
     m_rest = m_lines.line();
     if (m_rest.size() > longestCsvLine)
         throw CsvError{m_lines.lineNumber(), 0,
-                       "the line has more than " + std::to_string(longestCsvLine) + " bytes"};
+                       Sentence{translatable("formats", "the line has more than %1 bytes"),
+                                {std::to_string(longestCsvLine)}}};
     return true;
 }
 
@@ -52,14 +56,16 @@ void CsvReader::checkColumns(const CsvRow &row) const
 {
     if (row.size() == m_mostColumns)
         throw CsvError{m_lines.lineNumber(), row.size(),
-                       "the line has more than " + std::to_string(m_mostColumns) + " columns"};
+                       Sentence{translatable("formats", "the line has more than %1 columns"),
+                                {std::to_string(m_mostColumns)}}};
 }
 
 void CsvReader::checkText(std::size_t column, const CsvField &field) const
 {
     if (field.text.size() > largestCsvText)
         throw CsvError{field.line, column,
-                       "the text has more than " + std::to_string(largestCsvText) + " bytes"};
+                       Sentence{translatable("formats", "the text has more than %1 bytes"),
+                                {std::to_string(largestCsvText)}}};
 }
 
 bool CsvReader::isAtRowEnd() const
@@ -87,10 +93,13 @@ void CsvReader::takePlainText(std::size_t column, CsvField &field)
         text.remove_suffix(1);
     if (text.find('"') != std::string_view::npos)
         throw CsvError{m_lines.lineNumber(), column,
-                       "a quotation mark stands in a text that is not quoted as a whole"};
+                       translatable("formats",
+                                    "a quotation mark stands in a text that is not quoted "
+                                    "as a whole")};
     if (text.find('\r') != std::string_view::npos)
         throw CsvError{m_lines.lineNumber(), column,
-                       "a carriage return stands in a text that is not quoted"};
+                       translatable("formats", "a carriage return stands in a text that is not "
+                                               "quoted")};
     field.text = text;
 }
 
@@ -112,14 +121,17 @@ void CsvReader::takeQuotedText(std::size_t column, CsvField &field)
     }
     if (!isAtRowEnd() && m_rest.front() != ',')
         throw CsvError{m_lines.lineNumber(), column,
-                       "something stands between the closing quotation mark and the next comma"};
+                       translatable("formats",
+                                    "something stands between the closing quotation mark "
+                                    "and the next comma")};
 }
 
 void CsvReader::takeLineBreak(std::size_t column, CsvField &field)
 {
     checkText(column, field);
     if (!nextLine())
-        throw CsvError{field.line, column, "the quotation mark is never closed"};
+        throw CsvError{field.line, column,
+                       translatable("formats", "the quotation mark is never closed")};
     field.text += '\n';
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "history/Sentence.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -45,9 +47,9 @@ private:
 
 /// What is wrong, and where. Thrown by everything that reads CSV.
 struct CsvError {
-    std::int64_t line;  ///< line of the file, from 1
-    std::size_t column; ///< counted from 0
-    std::string reason; ///< to be read after "column NAME: "
+    std::int64_t line;        ///< line of the file, from 1
+    std::size_t column;       ///< counted from 0
+    history::Sentence reason; ///< a clause, to be read after "column NAME: "
 };
 
 /// The most bytes that a text may have, and those of a line of the file, which holds

@@ -12,9 +12,11 @@ namespace formats
 namespace
 {
 
-std::string quotedText(const std::string &text)
+using history::translatable;
+
+std::string utcText(std::int64_t utc)
 {
-    return '"' + printable(text) + '"';
+    return usage::utcText(utc).toStdString();
 }
 
 } // namespace
@@ -23,11 +25,14 @@ std::int64_t fieldNumber(const std::string &text, std::int64_t largest)
 {
     const auto number = usage::wholeNumber(text);
     if (!number)
-        throw FieldError{quotedText(text) + " is not a whole number", true};
+        throw FieldError{
+            {translatable("formats", "\"%1\" is not a whole number"), {printable(text)}}, true};
     if (text.front() == '-')
-        throw FieldError{quotedText(text) + " is negative", false};
+        throw FieldError{{translatable("formats", "\"%1\" is negative"), {printable(text)}}, false};
     if (!number->isInRange || number->value > largest)
-        throw FieldError{quotedText(text) + " is more than " + std::to_string(largest), false};
+        throw FieldError{{translatable("formats", "\"%1\" is more than %2"),
+                          {printable(text), std::to_string(largest)}},
+                         false};
     return number->value;
 }
 
@@ -35,10 +40,13 @@ std::int64_t fieldTime(const std::string &text)
 {
     const auto utc = usage::utcFromIso(text);
     if (!utc)
-        throw FieldError{quotedText(text) + " is not a time such as 2024-05-31T18:30:00Z", true};
+        throw FieldError{
+            {translatable("formats", "\"%1\" is not a time such as 2024-05-31T18:30:00Z"),
+             {printable(text)}},
+            true};
     if (*utc < 0 || *utc > history::largestTime)
-        throw FieldError{quotedText(text) + " is not between " + usage::utcText(0).toStdString() +
-                             " and " + usage::utcText(history::largestTime).toStdString(),
+        throw FieldError{{translatable("formats", "\"%1\" is not between %2 and %3"),
+                          {printable(text), utcText(0), utcText(history::largestTime)}},
                          false};
     return *utc;
 }
@@ -47,8 +55,8 @@ std::int64_t fieldEnd(const std::string &text, std::int64_t startUtc)
 {
     const std::int64_t utc = fieldTime(text);
     if (utc < startUtc)
-        throw FieldError{quotedText(text) + " is before the start, " +
-                             usage::utcText(startUtc).toStdString(),
+        throw FieldError{{translatable("formats", "\"%1\" is before the start, %2"),
+                          {printable(text), utcText(startUtc)}},
                          false};
     return utc;
 }
@@ -59,7 +67,9 @@ QDate fieldDay(const std::string &text)
     const QDate date = QDate::fromString(day, Qt::ISODate);
     // Other separators and what follows a date are read as well.
     if (date.toString(Qt::ISODate) != day || date.isNull())
-        throw FieldError{quotedText(text) + " is not a day such as 2024-05-31", true};
+        throw FieldError{
+            {translatable("formats", "\"%1\" is not a day such as 2024-05-31"), {printable(text)}},
+            true};
     return date;
 }
 
@@ -67,8 +77,8 @@ std::string parsedValue(history::kind::Text /*kind*/, const std::string &text, s
                         const history::Connection & /*connection*/)
 {
     if (text.size() > static_cast<std::size_t>(maximum))
-        throw FieldError{"the text has " + std::to_string(text.size()) + " bytes, at most " +
-                             std::to_string(maximum) + " are allowed",
+        throw FieldError{{translatable("formats", "the text has %1 bytes, at most %2 are allowed"),
+                          {std::to_string(text.size()), std::to_string(maximum)}},
                          false};
     return text;
 }
@@ -77,9 +87,10 @@ std::string parsedValue(history::kind::Roaming /*kind*/, const std::string &text
                         std::int64_t /*maximum*/, const history::Connection & /*connection*/)
 {
     if (!history::isRoamingText(text))
-        throw FieldError{'"' + printable(text) + "\" is neither \"" + history::atHome +
-                             "\" nor \"" + history::abroad + "\" nor empty",
-                         true};
+        throw FieldError{
+            {translatable("formats", "\"%1\" is neither \"%2\" nor \"%3\" nor empty"),
+             {printable(text), std::string(history::atHome), std::string(history::abroad)}},
+            true};
     return text;
 }
 

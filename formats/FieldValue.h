@@ -2,6 +2,7 @@
 #pragma once
 
 #include "history/ConnectionFields.h"
+#include "history/Sentence.h"
 
 #include <QDate>
 
@@ -14,8 +15,8 @@ namespace formats
 /// Why a text is not the value that its place asks for. Thrown by the functions
 /// below.
 struct FieldError {
-    std::string reason; ///< a clause that quotes the text
-    bool isMalformed;   ///< not such a value at all, rather than out of range
+    history::Sentence reason; ///< a clause, mostly one that quotes the text
+    bool isMalformed;         ///< not such a value at all, rather than out of range
 };
 
 /// A whole number from 0 to `largest`, in decimal digits.

@@ -31,7 +31,7 @@ public:
 /// A file as it is given to a reader.
 struct ImportSource {
     QIODevice &device;
-    std::string name; ///< for messages
+    history::Sentence name; ///< for messages
     std::int64_t changedUtc;
 };
 

@@ -3,6 +3,7 @@
 
 #include "LogCompletion.h"
 #include "history/ConnectionSpool.h"
+#include "history/Sentence.h"
 #include "history/Store.h"
 
 #include <cstdint>
@@ -16,7 +17,7 @@ namespace formats
 
 /// What a file holds and no connection can be made of.
 struct Unusable {
-    std::string reason;
+    history::Sentence reason; ///< a clause
     std::size_t count = 0;
     std::size_t firstPlace = 0; ///< of the first such event
     std::size_t firstFile = 0;  ///< the place of its file among those that were read
@@ -26,7 +27,7 @@ struct Unusable {
 
 /// A year that does not follow from what a log shows.
 struct GuessedYear {
-    std::string log; ///< its name, for messages
+    history::Sentence log; ///< its name, for messages
     int lastYear = 0;
 };
 

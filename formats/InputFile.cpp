@@ -20,10 +20,14 @@ namespace formats
 namespace
 {
 
-InputError cannotRead(const std::string &name, int errorNumber)
+using history::Sentence;
+using history::translatable;
+
+InputError cannotRead(const Sentence &name, int errorNumber)
 {
-    return InputError(name + " cannot be read: " + std::generic_category().message(errorNumber) +
-                      ". Check its name and its permissions.");
+    return InputError({translatable("formats", "%1 cannot be read: %2. Check its name and its "
+                                               "permissions."),
+                       {name, std::generic_category().message(errorNumber)}});
 }
 
 } // namespace
@@ -41,7 +45,7 @@ InputFile::InputFile(const std::string &path)
 
 void InputFile::openStandardInput()
 {
-    m_name = "standard input";
+    m_name = translatable("formats", "standard input");
     m_modifiedUtc = QDateTime::currentSecsSinceEpoch();
     if (!m_file.open(STDIN_FILENO, QIODevice::ReadOnly))
         throw cannotRead(m_name, EBADF);
@@ -49,7 +53,7 @@ void InputFile::openStandardInput()
 
 void InputFile::open(const std::string &path)
 {
-    m_name = '"' + printable(path, static_cast<int>(path.size())) + '"';
+    m_name = {translatable("formats", "\"%1\""), {printable(path, static_cast<int>(path.size()))}};
     // By descriptor: the bytes of a name need not be text in any encoding.
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0)

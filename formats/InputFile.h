@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "history/Sentence.h"
+
 #include <QFile>
 
 #include <cstdint>
@@ -19,7 +21,7 @@ public:
 
     QIODevice &device() { return m_decompressed ? *m_decompressed : m_file; }
     /// For messages.
-    const std::string &name() const { return m_name; }
+    const history::Sentence &name() const { return m_name; }
     /// Of what is to be read, in bytes; 0 if it is not known.
     std::int64_t size() const { return m_size; }
     /// Seconds since 1970-01-01 00:00 UTC; of standard input, now.
@@ -31,7 +33,7 @@ private:
 
     QFile m_file;
     std::unique_ptr<QIODevice> m_decompressed;
-    std::string m_name;
+    history::Sentence m_name;
     std::int64_t m_size = 0;
     std::int64_t m_modifiedUtc = 0;
 };

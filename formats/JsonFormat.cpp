@@ -22,20 +22,23 @@ using history::connectionFields;
 using history::forEachField;
 using history::HourlyBytes;
 using history::KindOf;
+using history::Sentence;
+using history::translatable;
 namespace kind = history::kind;
 
-[[noreturn]] void fail(const std::string &member, const std::string &reason)
+[[noreturn]] void fail(const std::string &member, const Sentence &reason)
 {
-    throw FieldError{"member \"" + printable(member) + "\": " + reason, true};
+    throw FieldError{{translatable("formats", "member \"%1\": %2"), {printable(member), reason}},
+                     true};
 }
 
 const Json &memberOf(const Json &json, const char *name)
 {
     if (!json.is_object())
-        throw FieldError{"it is no object", true};
+        throw noObject();
     const auto found = json.find(name);
     if (found == json.end())
-        fail(name, "it is missing");
+        fail(name, translatable("formats", "it is missing"));
     return *found;
 }
 
@@ -43,10 +46,12 @@ const Json &memberOf(const Json &json, const char *name)
 std::string textOf(const Json &value, bool isNumber)
 {
     if (isNumber ? !value.is_number() : !value.is_string())
-        throw FieldError{std::string("it is no ") + (isNumber ? "number" : "text"), true};
+        throw FieldError{isNumber ? translatable("formats", "it is no number")
+                                  : translatable("formats", "it is no text"),
+                         true};
     std::string text = isNumber ? value.dump() : value.get<std::string>();
     if (text.find('\0') != std::string::npos)
-        throw FieldError{"the text holds a NUL character", true};
+        throw FieldError{translatable("formats", "the text holds a NUL character"), true};
     return text;
 }
 
@@ -74,10 +79,10 @@ HourlyBytes hourFrom(const Json &json)
     HourlyBytes hour;
     hour.hourUtc = memberValue(json, "hour", false, fieldTime);
     if (history::startOfHour(hour.hourUtc) != hour.hourUtc)
-        fail("hour", "it is no whole hour of UTC");
+        fail("hour", translatable("formats", "it is no whole hour of UTC"));
     const Json &roaming = memberOf(json, "roaming");
     if (!roaming.is_boolean())
-        fail("roaming", "it is neither true nor false");
+        fail("roaming", translatable("formats", "it is neither true nor false"));
     hour.isRoaming = roaming.get<bool>();
     hour.uploadedBytes = bytesOf(json, "uploaded_bytes");
     hour.downloadedBytes = bytesOf(json, "downloaded_bytes");
@@ -96,20 +101,22 @@ void checkHours(const history::Connection &connection)
     std::int64_t downloaded = 0;
     for (const HourlyBytes &hour : connection.hours) {
         if (&hour != &connection.hours.front() && !comesBefore(*(&hour - 1), hour))
-            fail(jsonHoursName, "an hour is there twice");
+            fail(jsonHoursName, translatable("formats", "an hour is there twice"));
         if (__builtin_add_overflow(uploaded, hour.uploadedBytes, &uploaded) ||
             __builtin_add_overflow(downloaded, hour.downloadedBytes, &downloaded))
-            fail(jsonHoursName, "the hours add up to more than 64 bits hold");
+            fail(jsonHoursName,
+                 translatable("formats", "the hours add up to more than 64 bits hold"));
     }
     if (!connection.hours.empty() &&
         (uploaded != connection.uploadedBytes || downloaded != connection.downloadedBytes))
-        fail(jsonHoursName, "the hours do not add up to the bytes of the connection");
+        fail(jsonHoursName,
+             translatable("formats", "the hours do not add up to the bytes of the connection"));
 }
 
 std::vector<HourlyBytes> hoursFrom(const Json &json)
 {
     if (!json.is_array())
-        fail(jsonHoursName, "it is no array");
+        fail(jsonHoursName, translatable("formats", "it is no array"));
     std::vector<HourlyBytes> hours;
     for (const Json &hour : json)
         hours.push_back(hourFrom(hour));
@@ -120,14 +127,14 @@ std::vector<HourlyBytes> hoursFrom(const Json &json)
 void checkMembers(const Json &json)
 {
     if (!json.is_object())
-        throw FieldError{"it is no object", true};
+        throw noObject();
     for (const auto &member : json.items()) {
         const std::string &name = member.key();
         bool isKnown = name == jsonKeyName || name == jsonHoursName || name == jsonMachineName ||
                        name == jsonRunningName;
         forEachField(connectionFields, [&](const auto &field) { isKnown |= name == field.name; });
         if (!isKnown)
-            fail(name, "a connection has no such member");
+            fail(name, translatable("formats", "a connection has no such member"));
     }
 }
 
@@ -161,7 +168,7 @@ history::Connection connectionFromJson(const Json &json)
 {
     checkMembers(json);
     if (json.contains(jsonRunningName) && json[jsonRunningName] != false)
-        fail(jsonRunningName, "it is neither true nor false");
+        fail(jsonRunningName, translatable("formats", "it is neither true nor false"));
     history::Connection connection;
     forEachField(connectionFields, [&](const auto &field) {
         using Kind = KindOf<decltype(field)>;
@@ -177,6 +184,16 @@ history::Connection connectionFromJson(const Json &json)
         connection.hours = hoursFrom(json[jsonHoursName]);
     checkHours(connection);
     return connection;
+}
+
+FieldError noObject()
+{
+    return {translatable("formats", "it is no object"), true};
+}
+
+FieldError longerThan(std::int64_t bytes)
+{
+    return {{translatable("formats", "it is longer than %1 bytes"), {std::to_string(bytes)}}, true};
 }
 
 } // namespace formats

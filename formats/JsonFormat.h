@@ -4,10 +4,13 @@
 #include "Json.h"
 #include "history/Connection.h"
 
+#include <cstdint>
 #include <string_view>
 
 namespace formats
 {
+
+struct FieldError;
 
 /// The members of a connection's object that are no fields of it.
 constexpr const char *jsonKeyName = "key";
@@ -28,5 +31,9 @@ bool isStillRunning(const Json &json);
 /// What jsonWriter() makes of a connection, read back; its key and its machine are
 /// passed over. Throws FieldError.
 history::Connection connectionFromJson(const Json &json);
+
+/// The errors for what stands in the place of a connection and can be none.
+FieldError noObject();
+FieldError longerThan(std::int64_t bytes);
 
 } // namespace formats

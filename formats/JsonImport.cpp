@@ -10,12 +10,16 @@
 
 #include <cstddef>
 #include <iterator>
+#include <optional>
 
 namespace formats
 {
 
 namespace
 {
+
+using history::Sentence;
+using history::translatable;
 
 /// No connection with its hours is longer, in bytes of the file.
 constexpr std::int64_t longestConnection = 16777216;
@@ -39,8 +43,7 @@ public:
         m_line += current() == '\n' ? 1 : 0;
         ++m_position;
         if (++m_sinceConnection > longestConnection)
-            throw FieldError{"it is longer than " + std::to_string(longestConnection) + " bytes",
-                             true};
+            throw longerThan(longestConnection);
     }
     void startConnection() { m_sinceConnection = 0; }
     bool hasFailed() const { return m_hasFailed; }
@@ -115,19 +118,21 @@ private:
 void JsonImport::read(const ImportSource &source, const ReadProgress &progress)
 {
     DeviceBytes bytes(source.device, progress);
-    std::string reason;
+    std::optional<InputError> refusal;
     try {
         parse(bytes);
     } catch (const Json::parse_error &error) {
-        reason = ": " + reasonOf(error);
+        refusal.emplace(Sentence{translatable("formats", "%1: %2. Nothing was imported."),
+                                 {source.name, reasonOf(error)}});
     } catch (const FieldError &error) {
-        reason = ", connection " + std::to_string(m_taken + 1) + ": " + error.reason;
+        refusal.emplace(
+            Sentence{translatable("formats", "%1, connection %2: %3. Nothing was imported."),
+                     {source.name, std::to_string(m_taken + 1), error.reason}});
     }
     if (bytes.hasFailed())
-        throw InputError(source.name + " cannot be read to its end: " +
-                         source.device.errorString().toStdString() + ". Nothing was imported.");
-    if (!reason.empty())
-        throw InputError(source.name + reason + ". Nothing was imported.");
+        throw notReadToTheEnd(source.name, source.device);
+    if (refusal)
+        throw *refusal;
 }
 
 void JsonImport::parse(DeviceBytes &bytes)
@@ -136,7 +141,7 @@ void JsonImport::parse(DeviceBytes &bytes)
         return take(bytes, level, event, parsed);
     };
     if (!Json::parse(ByteIterator(&bytes), ByteIterator(), callback).is_array())
-        throw FieldError{"the file has to be an array of objects", true};
+        throw FieldError{translatable("formats", "the file has to be an array of objects"), true};
 }
 
 /// Whether the parser is to keep it: connections are done with when they end.
@@ -145,9 +150,10 @@ bool JsonImport::take(DeviceBytes &bytes, int level, Json::parse_event_t event, 
     using Event = Json::parse_event_t;
     const bool isStart = event == Event::object_start || event == Event::array_start;
     if (isStart && level > deepestLevel)
-        throw FieldError{"it is nested more deeply than a connection", true};
+        throw FieldError{translatable("formats", "it is nested more deeply than a connection"),
+                         true};
     if (level == 1 && (event == Event::array_start || event == Event::value))
-        throw FieldError{"it is no object", true};
+        throw noObject();
     if (level != 1 || event != Event::object_end)
         return true;
     if (isStillRunning(parsed))

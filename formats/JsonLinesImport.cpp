@@ -15,6 +15,8 @@ namespace formats
 namespace
 {
 
+using history::translatable;
+
 /// No connection with its hours is longer, in bytes.
 constexpr std::size_t longestJsonLine = 16777216;
 
@@ -30,9 +32,9 @@ private:
 void JsonLinesImport::read(const ImportSource &source, const ReadProgress &progress)
 {
     LineReader lines(source.device, longestJsonLine + 1, progress);
-    const auto fail = [&](const std::string &reason) {
-        throw InputError(source.name + ", line " + std::to_string(lines.lineNumber()) + ": " +
-                         reason + ". Nothing was imported.");
+    const auto fail = [&](const history::Part &reason) {
+        throw InputError({translatable("formats", "%1, line %2: %3. Nothing was imported."),
+                          {source.name, std::to_string(lines.lineNumber()), reason}});
     };
     try {
         while (lines.next())
@@ -49,7 +51,7 @@ void JsonLinesImport::read(const ImportSource &source, const ReadProgress &progr
 void JsonLinesImport::take(std::string_view line, std::int64_t number)
 {
     if (line.size() > longestJsonLine)
-        throw FieldError{"it is longer than " + std::to_string(longestJsonLine) + " bytes", true};
+        throw longerThan(longestJsonLine);
     const std::string_view text = number == 1 ? withoutByteOrderMark(line) : line;
     if (text.find_first_not_of(" \t\r") == std::string_view::npos)
         return;

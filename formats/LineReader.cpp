@@ -53,11 +53,10 @@ std::string_view LineReader::takeBytes(std::uint64_t count)
     return m_line;
 }
 
-void LineReader::checkReadToTheEnd(const std::string &name) const
+void LineReader::checkReadToTheEnd(const history::Sentence &name) const
 {
     if (m_hasFailed)
-        throw InputError(name + " cannot be read to its end: " +
-                         m_device.errorString().toStdString() + ". Nothing was imported.");
+        throw notReadToTheEnd(name, m_device);
 }
 
 bool LineReader::hasBytes()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "history/Sentence.h"
+
 #include <QByteArray>
 
 #include <cstdint>
@@ -37,7 +39,7 @@ public:
     /// Whether the lines ended because the device cannot be read.
     bool hasFailed() const { return m_hasFailed; }
     /// Throws InputError in that case, with a sentence that names the source.
-    void checkReadToTheEnd(const std::string &name) const;
+    void checkReadToTheEnd(const history::Sentence &name) const;
 
 private:
     bool hasBytes();

@@ -10,12 +10,15 @@ namespace
 {
 
 using Kind = PppdMessage::Kind;
+using history::Translatable;
+using history::translatable;
 
-constexpr const char *neverEnds = "a connection does not end in the log";
-constexpr const char *noByteCounts = "a connect time has no byte counts";
-constexpr const char *noConnectTime = "byte counts have no connect time";
-constexpr const char *unreadableTime = "the time stamp cannot be read";
-constexpr const char *outOfRangeReason = "a number or time is out of range";
+constexpr Translatable neverEnds = translatable("formats", "a connection does not end in the log");
+constexpr Translatable noByteCounts = translatable("formats", "a connect time has no byte counts");
+constexpr Translatable noConnectTime = translatable("formats", "byte counts have no connect time");
+constexpr Translatable unreadableTime = translatable("formats", "the time stamp cannot be read");
+constexpr Translatable outOfRangeReason =
+    translatable("formats", "a number or time is out of range");
 
 constexpr std::size_t longestInterface = 31;
 /// How a connection ended whose process says nothing else before its own end.
@@ -210,10 +213,12 @@ ProfileSource PppdConnections::nameProfile(history::Connection &connection,
     return ProfileSource::Placeholder;
 }
 
-void PppdConnections::count(const char *reason, const PppdEvent &event)
+void PppdConnections::count(Translatable reason, const PppdEvent &event)
 {
-    auto entry = std::find_if(m_unusable.begin(), m_unusable.end(),
-                              [reason](const Unusable &known) { return known.reason == reason; });
+    auto entry =
+        std::find_if(m_unusable.begin(), m_unusable.end(), [reason](const Unusable &known) {
+            return known.reason.text.text == reason.text;
+        });
     if (entry == m_unusable.end())
         entry = m_unusable.insert(entry,
                                   {reason, 0, event.place, event.file, event.line, event.lineText});

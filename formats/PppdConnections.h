@@ -61,7 +61,7 @@ private:
                                      const std::string &apn);
     std::int64_t startOf(const Dial &dial, const history::Connection &connection) const;
     ProfileSource nameProfile(history::Connection &connection, const std::string &apn) const;
-    void count(const char *reason, const PppdEvent &event);
+    void count(history::Translatable reason, const PppdEvent &event);
 
     std::string m_fallbackProfile;
     std::unordered_map<std::string, Host> m_hosts;

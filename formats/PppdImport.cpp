@@ -13,6 +13,9 @@ namespace formats
 namespace
 {
 
+using history::Sentence;
+using history::translatable;
+
 class PppdImport : public ImportReader
 {
 public:
@@ -25,13 +28,13 @@ public:
     Imported imported() override;
 
 private:
-    std::string name() const;
+    Sentence name() const;
     void checkIsOfPppd(const JoinedLog &log) const;
     void checkYear(const JoinedLog &log) const;
 
     ImportOptions m_options;
     std::vector<LogFile> m_files;
-    std::vector<std::string> m_names;
+    std::vector<Sentence> m_names;
     std::size_t m_sizeLeft = largestLogSize;
 };
 
@@ -43,10 +46,11 @@ void PppdImport::read(const ImportSource &source, const ReadProgress &progress)
         m_files.push_back({readPppdLog(lines, m_sizeLeft), source.changedUtc});
         m_sizeLeft -= m_files.back().log.size();
     } catch (const LogTooLarge &) {
-        throw InputError(source.name + " is too much: together, more than " +
-                         std::to_string(largestLogSize) +
-                         " messages of pppd and jumps of a clock cannot be read at once. Nothing "
-                         "was imported; import fewer or smaller files.");
+        throw InputError(
+            {translatable("formats", "%1 is too much: together, more than %2 messages of pppd "
+                                     "and jumps of a clock cannot be read at once. Nothing was "
+                                     "imported; import fewer or smaller files."),
+             {source.name, std::to_string(largestLogSize)}});
     }
     lines.checkReadToTheEnd(source.name);
 }
@@ -67,9 +71,10 @@ Imported PppdImport::imported()
     return imported;
 }
 
-std::string PppdImport::name() const
+Sentence PppdImport::name() const
 {
-    return m_names.size() == 1 ? m_names.front() : "The log of these files";
+    return m_names.size() == 1 ? m_names.front()
+                               : translatable("formats", "The log of these files");
 }
 
 void PppdImport::checkIsOfPppd(const JoinedLog &log) const
@@ -78,8 +83,10 @@ void PppdImport::checkIsOfPppd(const JoinedLog &log) const
         std::any_of(log.events.begin(), log.events.end(),
                     [](const PppdEvent &event) { return isOfConnection(event.message); });
     if (!isOfPppd)
-        throw InputError(name() + " holds no line in which pppd tells of a connection; "
-                                  "give a system log of a machine that dials with it.");
+        throw InputError(
+            {translatable("formats", "%1 holds no line in which pppd tells of a connection; "
+                                     "give a system log of a machine that dials with it."),
+             {name()}});
 }
 
 void PppdImport::checkYear(const JoinedLog &log) const
@@ -89,10 +96,10 @@ void PppdImport::checkYear(const JoinedLog &log) const
         return;
     const std::string text = std::to_string(*given);
     if (log.lastYear != *given)
-        throw YearError(text + " is wrong: the last line of " + name() + " shows " +
+        throw YearError(text + " is wrong: the last line of " + inEnglish(name()) + " shows " +
                         std::to_string(log.lastYear) + ".");
     if (log.hasImpossibleDay)
-        throw YearError(text + " cannot be: " + name() +
+        throw YearError(text + " cannot be: " + inEnglish(name()) +
                         " has a 29 February in a year that has none then.");
 }
 

@@ -49,7 +49,8 @@ class TerminalProgress : public common::ImportProgress
 public:
     void beginReading(const std::string & /*path*/, const formats::InputFile &file) override
     {
-        m_line.emplace(m_terminal.device(), "Reading " + file.name(), bytesPerStep, file.size());
+        m_line.emplace(m_terminal.device(), "Reading " + inEnglish(file.name()), bytesPerStep,
+                       file.size());
     }
     void beginStoring(std::int64_t connections) override
     {
@@ -84,7 +85,7 @@ Import importFiles(const std::string &storePath, const ImportRequest &request)
 
 void warnOfGuess(const formats::GuessedYear &guess)
 {
-    warn(guess.log + " does not show its years; its last line was taken to be of " +
+    warn(inEnglish(guess.log) + " does not show its years; its last line was taken to be of " +
          std::to_string(guess.lastYear) +
          ". If that is wrong, remove what was added and give the year with --year.");
 }
@@ -99,7 +100,7 @@ std::string reportText(const formats::Imported &imported, const history::Store::
     if (merged.completed > 0)
         text += "Of these, completed: " + std::to_string(merged.completed) + '\n';
     for (const formats::Unusable &unusable : imported.unusable)
-        text += "Not used, " + unusable.reason + ": " + std::to_string(unusable.count) +
+        text += "Not used, " + inEnglish(unusable.reason) + ": " + std::to_string(unusable.count) +
                 "; first in line " + std::to_string(unusable.firstLine) +
                 (paths.size() > 1 ? " of " + formats::printable(paths[unusable.firstFile])
                                   : std::string()) +
@@ -113,7 +114,7 @@ formats::Json reportJson(const formats::Imported &imported, const history::Store
     const std::size_t read = imported.size();
     formats::Json unusable = formats::Json::array();
     for (const formats::Unusable &entry : imported.unusable)
-        unusable.push_back({{"reason", entry.reason},
+        unusable.push_back({{"reason", inEnglish(entry.reason)},
                             {"count", entry.count},
                             {"first_file", formats::printable(paths[entry.firstFile])},
                             {"first_line", entry.firstLine},

@@ -11,6 +11,12 @@
 namespace connrecord
 {
 
+/// The end for a value of an option; `reason` is a clause.
+inline Failure optionFailure(ExitCode code, const std::string &option, const std::string &reason)
+{
+    return Failure(code, "For " + option + ", " + reason + ".");
+}
+
 /// The value of an option, read by `read`, one of the functions of FieldValue.h;
 /// what that one throws becomes a Failure that names the option.
 template <typename Read>
@@ -19,8 +25,8 @@ auto optionValue(const std::string &option, const std::string &text, Read read)
     try {
         return read(text);
     } catch (const formats::FieldError &error) {
-        throw Failure(error.isMalformed ? ExitCode::Usage : ExitCode::Refused,
-                      "For " + option + ", " + error.reason + ".");
+        throw optionFailure(error.isMalformed ? ExitCode::Usage : ExitCode::Refused, option,
+                            inEnglish(error.reason));
     }
 }
 
@@ -36,7 +42,7 @@ inline std::int64_t optionNumber(const std::string &option, const std::string &t
 inline const std::string &optionText(const std::string &option, const std::string &text)
 {
     if (!formats::isUtf8(text))
-        throw Failure(ExitCode::Refused, "For " + option + ", the text is not UTF-8.");
+        throw optionFailure(ExitCode::Refused, option, "the text is not UTF-8");
     return text;
 }
 

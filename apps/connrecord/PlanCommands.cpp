@@ -29,37 +29,33 @@ constexpr const char *nothing = "none";
 
 std::int64_t optionSize(const std::string &option, const std::string &text)
 {
-    return optionValue(option, text, [](const std::string &value) {
-        const auto bytes = usage::bytesIn(value);
-        const std::string quoted = '"' + formats::printable(value) + '"';
-        if (!bytes)
-            throw formats::FieldError{quoted + " is not a size such as 10GB or 500MB", true};
-        if (!bytes->isInRange)
-            throw formats::FieldError{quoted + " is more than can be counted", false};
-        return bytes->value;
-    });
+    const auto bytes = usage::bytesIn(text);
+    const std::string quoted = '"' + formats::printable(text) + '"';
+    if (!bytes)
+        throw optionFailure(ExitCode::Usage, option,
+                            quoted + " is not a size such as 10GB or 500MB");
+    if (!bytes->isInRange)
+        throw optionFailure(ExitCode::Refused, option, quoted + " is more than can be counted");
+    return bytes->value;
 }
 
 /// A day that plans keep to.
 JulianDay optionDay(const std::string &option, const std::string &text)
 {
-    return optionValue(option, text, [](const std::string &value) {
-        const JulianDay day = formats::fieldDay(value).toJulianDay();
-        if (day < history::firstPlanDay || day > history::lastPlanDay)
-            throw formats::FieldError{value + " is not between 1970-01-01 and 9999-12-31", false};
-        return day;
-    });
+    const JulianDay day = optionValue(option, text, formats::fieldDay).toJulianDay();
+    if (day < history::firstPlanDay || day > history::lastPlanDay)
+        throw optionFailure(ExitCode::Refused, option,
+                            text + " is not between 1970-01-01 and 9999-12-31");
+    return day;
 }
 
 /// One at least.
 std::int64_t optionCount(const std::string &option, const std::string &text, std::int64_t largest)
 {
-    return optionValue(option, text, [largest](const std::string &value) {
-        const std::int64_t number = formats::fieldNumber(value, largest);
-        if (number == 0)
-            throw formats::FieldError{'"' + value + "\" is less than 1", false};
-        return number;
-    });
+    const std::int64_t number = optionNumber(option, text, largest);
+    if (number == 0)
+        throw optionFailure(ExitCode::Refused, option, '"' + text + "\" is less than 1");
+    return number;
 }
 
 std::vector<int> percentagesIn(const std::string &text)

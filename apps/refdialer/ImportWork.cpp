@@ -2,6 +2,7 @@
 #include "ImportWork.h"
 
 #include "TransferFile.h"
+#include "apps/common/SentenceText.h"
 #include "apps/common/StoreErrorText.h"
 #include "formats/InputError.h"
 #include "formats/Utf8Text.h"
@@ -62,7 +63,7 @@ formats::Imported ImportWork::read(const common::ImportRequest &request,
         throw TransferFailure{
             tr("%1\n\nIt was taken to be: %2. If it is something else, choose its "
                "kind together with the file.")
-                .arg(QString::fromUtf8(error.what()), title)};
+                .arg(common::sentenceText(error.sentence()), title)};
     }
 }
 
@@ -93,8 +94,8 @@ QString ImportWork::details(const formats::Imported &imported) const
         lines.append(tr("%1 does not show its years; its last line was taken to be of %2. If that "
                         "is wrong, delete what was added and import with \"connrecord import "
                         "--year\".")
-                         .arg(QString::fromStdString(imported.guessedYear->log))
-                         .arg(imported.guessedYear->lastYear));
+                         .arg(common::sentenceText(imported.guessedYear->log),
+                              QString::number(imported.guessedYear->lastYear)));
     for (const formats::Unusable &unusable : imported.unusable)
         lines.append(lineFor(unusable));
     return lines.join(QLatin1Char('\n'));
@@ -103,10 +104,9 @@ QString ImportWork::details(const formats::Imported &imported) const
 QString ImportWork::lineFor(const formats::Unusable &unusable) const
 {
     return tr("Not used, %1: %2; first in line %3 of \"%4\": %5")
-        .arg(QString::fromStdString(unusable.reason))
-        .arg(unusable.count)
-        .arg(unusable.firstLine)
-        .arg(m_choice.files.at(static_cast<int>(unusable.firstFile)),
+        .arg(common::sentenceText(unusable.reason), QString::number(unusable.count),
+             QString::number(unusable.firstLine),
+             m_choice.files.at(static_cast<int>(unusable.firstFile)),
              QString::fromStdString(formats::printable(unusable.firstText)));
 }
 

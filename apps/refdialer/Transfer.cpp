@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Transfer.h"
 
+#include "apps/common/SentenceText.h"
 #include "formats/InputError.h"
 
 #include <QCoreApplication>
@@ -49,7 +50,7 @@ TransferResult Transfer::resultOfWork()
     } catch (const TransferFailure &failure) {
         return {TransferResult::Kind::Failed, {}, failure.sentence};
     } catch (const formats::InputError &error) {
-        return {TransferResult::Kind::Failed, {}, QString::fromUtf8(error.what())};
+        return {TransferResult::Kind::Failed, {}, common::sentenceText(error.sentence())};
     } catch (const std::bad_alloc &) {
         return {TransferResult::Kind::Failed,
                 {},

@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>JSON مع البايتات لكل ساعة</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>نهايته مفقودة</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>بدايته تالفة</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>يجب أن يكون السطر الأول الترويسة ‎%1‎</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>عدد أعمدة السطر ‎%1‎، والمطلوب ‎%2‎</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>يحتوي النص على بايت ‎NUL‎</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>النص ليس بترميز ‎UTF-8‎</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>الملف فارغ؛ يجب أن يكون السطر الأول الترويسة ‎%1‎</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1، السطر ‎%2‎، العمود ‎%3‎‏: %4. لم يُستورد شيء.</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>السطر أطول من ‎%1‎ بايت</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>عدد أعمدة السطر أكبر من ‎%1‎</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>النص أطول من ‎%1‎ بايت</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>توجد علامة اقتباس في نص ليس بأكمله بين علامتي اقتباس</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>يوجد رمز إرجاع السطر في نص ليس بين علامتي اقتباس</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>يوجد شيء بين علامة الاقتباس الختامية والفاصلة التالية</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>علامة الاقتباس لا تُغلق أبدًا</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>«‎%1‎» ليس عددًا صحيحًا</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>«‎%1‎» عدد سالب</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>«‎%1‎» أكبر من ‎%2‎</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>«‎%1‎» ليس وقتًا بالشكل ‎2024-05-31T18:30:00Z‎</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>«‎%1‎» ليس بين ‎%2‎ و‎%3‎</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>«‎%1‎» قبل البداية، ‎%2‎</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>«‎%1‎» ليس يومًا بالشكل ‎2024-05-31‎</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>عدد بايتات النص ‎%1‎، والحد الأقصى ‎%2‎</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>«‎%1‎» ليس «‎%2‎» ولا «‎%3‎» ولا فارغًا</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>تتعذر قراءة %1 حتى النهاية: ⁨%2⁩. لم يُستورد شيء.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>تتعذر قراءة %1‏: ‎%2‎. تحقق من الاسم ومن الأذونات.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>الدخل القياسي</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>«‎%1‎»</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>الحقل «‎%1‎»‏: %2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>مفقود</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>ليس عددًا</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>ليس نصًا</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>يحتوي النص على رمز ‎NUL‎</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>ليست ساعة كاملة بتوقيت ‎UTC‎</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>ليس «‎true‎» ولا «‎false‎»</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>إحدى الساعات مكررة</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>مجموع الساعات لا تتسع له ‎64‎ بتًا</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>مجموع الساعات لا يساوي بايتات الاتصال</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>ليس مصفوفة</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>ليس للاتصال حقل كهذا</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>ليس كائنًا</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>أطول من ‎%1‎ بايت</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1‏: ‎%2‎. لم يُستورد شيء.</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1، الاتصال ‎%2‎‏: %3. لم يُستورد شيء.</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>يجب أن يكون الملف مصفوفة من الكائنات</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>أعمق تداخلًا من اتصال</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1، السطر ‎%2‎‏: ⁨%3⁩. لم يُستورد شيء.</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>اتصال لا ينتهي في سجل النظام</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>مدة اتصال بلا أعداد بايتات</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>أعداد بايتات بلا مدة اتصال</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>تتعذر قراءة الطابع الزمني</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>عدد أو وقت خارج النطاق</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1 أكثر مما يمكن: لا تُقرأ معًا أكثر من ‎%2‎ من رسائل ‎pppd‎ وقفزات الساعة. لم يُستورد شيء؛ استورد ملفات أقل أو أصغر.</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>سجل النظام من هذه الملفات</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1 لا يحتوي على أي سطر يذكر فيه ‎pppd‎ اتصالًا. حدد سجل نظام لجهاز يتصل بواسطته.</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>يتعذر حفظ ما يُقرأ في المجلد «‎%1‎» حتى يُضاف إلى السجل: ‎%2‎. لم يُستورد شيء؛ وفّر مساحة هناك أو حدد مجلدًا آخر في ‎TMPDIR‎.</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>كان الاتصال ما زال قائمًا</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>JSON mit den Bytes je Stunde</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>das Ende fehlt</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>der Anfang ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>die erste Zeile muss die Kopfzeile %1 sein</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>Spalten der Zeile: %1, nötig: %2</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>der Text enthält ein NUL-Byte</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>der Text ist kein UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>die Datei ist leer; die erste Zeile muss die Kopfzeile %1 sein</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1, Zeile %2, Spalte %3: %4. Nichts wurde importiert.</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>die Zeile ist länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>die Zeile hat mehr als %1 Spalten</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>der Text ist länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>ein Anführungszeichen steht in einem Text, der nicht als Ganzes in Anführungszeichen steht</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>ein Wagenrücklauf steht in einem Text, der nicht in Anführungszeichen steht</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>zwischen dem schließenden Anführungszeichen und dem nächsten Komma steht etwas</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>das Anführungszeichen wird nie geschlossen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>„%1“ ist negativ</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>„%1“ ist mehr als %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>„%1“ ist kein Zeitpunkt wie 2024-05-31T18:30:00Z</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>„%1“ liegt nicht zwischen %2 und %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>„%1“ liegt vor dem Beginn, %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>„%1“ ist kein Tag wie 2024-05-31</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>Bytes des Textes: %1, erlaubt: höchstens %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>„%1“ ist weder „%2“ noch „%3“ noch leer</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>%1 lässt sich nicht bis zum Ende lesen: %2. Nichts wurde importiert.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>%1 lässt sich nicht lesen: %2. Prüfen Sie Namen und Rechte.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>Feld „%1“: %2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>keine Zahl</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>kein Text</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>der Text enthält ein NUL-Zeichen</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>keine volle Stunde in UTC</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>weder „true“ noch „false“</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>eine Stunde ist doppelt vorhanden</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>die Summe der Stunden ist größer, als 64 Bit fassen</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>die Summe der Stunden ergibt nicht die Bytes der Verbindung</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>keine Liste</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>eine Verbindung hat kein solches Feld</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>kein Objekt</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1: %2. Nichts wurde importiert.</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1, Verbindung %2: %3. Nichts wurde importiert.</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>die Datei muss eine Liste von Objekten sein</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>tiefer verschachtelt als eine Verbindung</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1, Zeile %2: %3. Nichts wurde importiert.</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>eine Verbindung endet nicht im Protokoll</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>zu einer Verbindungsdauer fehlen die Bytes</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>zu Bytes fehlt die Verbindungsdauer</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>der Zeitstempel ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>eine Zahl oder Zeit ist außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1 ist zu viel: Zusammen lassen sich höchstens %2 Meldungen von pppd und Sprünge einer Uhr auf einmal lesen. Nichts wurde importiert; importieren Sie weniger oder kleinere Dateien.</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>Das Protokoll aus diesen Dateien</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1 enthält keine Zeile, in der pppd von einer Verbindung berichtet. Geben Sie das Systemprotokoll eines Rechners an, der sich damit einwählt.</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>Im Ordner „%1“ lässt sich nicht ablegen, was bis zum Speichern gelesen wird: %2. Nichts wurde importiert; schaffen Sie dort Platz, oder nennen Sie in TMPDIR einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>die Verbindung bestand noch</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

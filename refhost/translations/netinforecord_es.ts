@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>JSON con los bytes por hora</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>falta el final</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>el principio está dañado</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>la primera línea tiene que ser el encabezado %1</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>columnas de la línea: %1; debe haber: %2</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>el texto contiene un byte NUL</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>el texto no es UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>el archivo está vacío; la primera línea tiene que ser el encabezado %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1, línea %2, columna %3: %4. No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>la línea tiene más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>la línea tiene más de %1 columnas</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>el texto tiene más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>hay una comilla en un texto que no está entero entre comillas</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>hay un retorno de carro en un texto que no está entre comillas</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>hay algo entre la comilla de cierre y la coma siguiente</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>la comilla no se cierra nunca</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>«%1» no es un número entero</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>«%1» es negativo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>«%1» es más que %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>«%1» no es una fecha y hora como 2024-05-31T18:30:00Z</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>«%1» no está entre %2 y %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>«%1» es anterior al inicio, %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>«%1» no es un día como 2024-05-31</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>bytes del texto: %1; como máximo: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>«%1» no es «%2» ni «%3» ni está vacío</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>No se puede leer %1 hasta el final: %2. No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>No se puede leer %1: %2. Compruebe el nombre y los permisos.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>la entrada estándar</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>campo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>no es un número</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>no es un texto</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>el texto contiene un carácter NUL</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>no es una hora en punto de UTC</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>no es «true» ni «false»</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>una hora aparece dos veces</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>la suma de las horas no cabe en 64 bits</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>la suma de las horas no da los bytes de la conexión</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>no es una lista</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>una conexión no tiene ese campo</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>no es un objeto</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1: %2. No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1, conexión %2: %3. No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>el archivo tiene que ser una lista de objetos</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>está anidado más profundamente que una conexión</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1, línea %2: %3. No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>una conexión no termina en el registro</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>una duración de conexión no tiene recuentos de bytes</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>unos recuentos de bytes no tienen duración de conexión</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>la marca de tiempo no se puede leer</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>un número o una hora está fuera de los límites</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1 es demasiado: en total solo se pueden leer a la vez %2 mensajes de pppd y saltos de un reloj. No se ha importado nada; importe menos archivos o más pequeños.</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>El registro de estos archivos</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1 no contiene ninguna línea en la que pppd hable de una conexión. Indique el registro del sistema de un equipo que se conecte con él.</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>Lo que se lee no se puede guardar en la carpeta «%1» hasta pasar al historial: %2. No se ha importado nada; libere espacio ahí o indique otra carpeta en TMPDIR.</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>la conexión aún duraba</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>JSON avec les octets par heure</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>la fin manque</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>le début est endommagé</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>la première ligne doit être l’en-tête %1</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>colonnes de la ligne&#xa0;: %1, attendues&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>le texte contient un octet NUL</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>le texte n’est pas en UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>le fichier est vide&#xa0;; la première ligne doit être l’en-tête %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1, ligne %2, colonne %3&#xa0;: %4. Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>la ligne dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>la ligne a plus de %1 colonnes</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>le texte dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>un guillemet se trouve dans un texte qui n’est pas entièrement entre guillemets</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>un retour chariot se trouve dans un texte qui n’est pas entre guillemets</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>il y a quelque chose entre le guillemet fermant et la virgule suivante</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>le guillemet n’est jamais fermé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>«&#xa0;%1&#xa0;» est négatif</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>«&#xa0;%1&#xa0;» est supérieur à %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une date et heure comme 2024-05-31T18:30:00Z</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas compris entre %2 et %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>«&#xa0;%1&#xa0;» est avant le début, %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un jour comme 2024-05-31</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>octets du texte&#xa0;: %1, au plus&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>«&#xa0;%1&#xa0;» n’est ni «&#xa0;%2&#xa0;», ni «&#xa0;%3&#xa0;», ni vide</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>Impossible de lire %1 jusqu’à la fin&#xa0;: %2. Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>Impossible de lire %1&#xa0;: %2. Vérifiez le nom et les droits.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>l’entrée standard</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>«&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>champ «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>absent</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>ce n’est pas un nombre</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>ce n’est pas un texte</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>le texte contient un caractère NUL</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>ce n’est pas une heure entière en UTC</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>ce n’est ni «&#xa0;true&#xa0;» ni «&#xa0;false&#xa0;»</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>une heure s’y trouve deux fois</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>la somme des heures dépasse 64&#xa0;bits</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>la somme des heures ne donne pas les octets de la connexion</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>ce n’est pas un tableau</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>une connexion n’a pas un tel champ</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>ce n’est pas un objet</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>plus de %1 octets</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1&#xa0;: %2. Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1, connexion %2&#xa0;: %3. Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>le fichier doit être un tableau d’objets</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>imbrication plus profonde que celle d’une connexion</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1, ligne %2&#xa0;: %3. Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>une connexion ne se termine pas dans le journal</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>une durée de connexion n’a pas de nombres d’octets</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>des nombres d’octets n’ont pas de durée de connexion</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>l’horodatage est illisible</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>un nombre ou une heure est hors limites</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1, c’est trop&#xa0;: au plus %2 messages de pppd et sauts d’horloge, ensemble, peuvent être lus à la fois. Rien n’a été importé&#xa0;; importez moins de fichiers ou de plus petits.</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>Le journal de ces fichiers</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1 ne contient aucune ligne où pppd parle d’une connexion. Donnez le journal système d’une machine qui se connecte avec lui.</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>Ce qui est lu ne peut pas être gardé dans le dossier «&#xa0;%1&#xa0;» jusqu’à son enregistrement&#xa0;: %2. Rien n’a été importé&#xa0;; libérez de la place, ou indiquez un autre dossier dans TMPDIR.</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>la connexion durait encore</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

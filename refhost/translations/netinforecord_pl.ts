@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>JSON z bajtami na godzinę</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>brakuje końca</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>początek jest uszkodzony</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>pierwszy wiersz musi być nagłówkiem %1</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>liczba kolumn w wierszu: %1, powinno być: %2</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>tekst zawiera bajt NUL</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>tekst nie jest w UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>plik jest pusty; pierwszy wiersz musi być nagłówkiem %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1, wiersz %2, kolumna %3: %4. Nic nie zaimportowano.</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>wiersz jest dłuższy niż %1 bajtów</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>kolumn w wierszu jest więcej niż %1</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>tekst jest dłuższy niż %1 bajtów</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>cudzysłów stoi w tekście, który nie jest w całości ujęty w cudzysłów</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>znak powrotu karetki stoi w tekście, który nie jest ujęty w cudzysłów</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>między cudzysłowem zamykającym a następnym przecinkiem coś stoi</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>cudzysłów nigdzie nie jest zamknięty</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>„%1” nie jest liczbą całkowitą</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>„%1” jest liczbą ujemną</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>„%1” to więcej niż %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>„%1” nie jest czasem takim jak 2024-05-31T18:30:00Z</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>„%1” nie leży między %2 a %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>„%1” jest przed początkiem, %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>„%1” nie jest dniem takim jak 2024-05-31</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>liczba bajtów tekstu: %1, najwyżej: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>„%1” to ani „%2”, ani „%3”, ani pusty tekst</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>Nie można odczytać %1 do końca: %2. Nic nie zaimportowano.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>Nie można odczytać %1: %2. Sprawdź nazwę i uprawnienia.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>standardowe wejście</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1”</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>pole „%1”: %2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>brak</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>to nie liczba</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>to nie tekst</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>tekst zawiera znak NUL</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>to nie pełna godzina UTC</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>to ani „true”, ani „false”</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>jedna z godzin występuje dwa razy</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>suma godzin nie mieści się w 64 bitach</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>suma godzin nie zgadza się z bajtami połączenia</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>to nie tablica</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>połączenie nie ma takiego pola</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>to nie obiekt</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>więcej niż %1 bajtów</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1: %2. Nic nie zaimportowano.</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1, połączenie %2: %3. Nic nie zaimportowano.</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>plik musi być tablicą obiektów</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>zagnieżdżenie głębsze niż w połączeniu</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1, wiersz %2: %3. Nic nie zaimportowano.</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>połączenie nie kończy się w dzienniku</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>do czasu połączenia brakuje liczby bajtów</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>do liczby bajtów brakuje czasu połączenia</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>nie można odczytać znacznika czasu</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>liczba lub czas jest poza zakresem</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1 to za dużo: łącznie można odczytać naraz najwyżej %2 komunikatów pppd i skoków zegara. Nic nie zaimportowano; zaimportuj mniej plików lub mniejsze.</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>Dziennik z tych plików</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1 nie zawiera wiersza, w którym pppd mówi o połączeniu. Wskaż dziennik systemowy komputera, który łączy się za jego pomocą.</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>Odczytanych danych nie można przechować w folderze „%1” do czasu zapisania: %2. Nic nie zaimportowano; zwolnij tam miejsce albo wskaż inny folder w TMPDIR.</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>połączenie jeszcze trwało</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>JSON com os bytes por hora</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>falta o final</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>o início está danificado</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>a primeira linha precisa ser o cabeçalho %1</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>colunas da linha: %1; deve haver: %2</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>o texto contém um byte NUL</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>o texto não está em UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>o arquivo está vazio; a primeira linha precisa ser o cabeçalho %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1, linha %2, coluna %3: %4. Nada foi importado.</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>a linha tem mais de %1 bytes</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>a linha tem mais de %1 colunas</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>o texto tem mais de %1 bytes</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>há uma aspa em um texto que não está inteiro entre aspas</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>há um retorno de carro em um texto que não está entre aspas</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>há algo entre a aspa de fechamento e a vírgula seguinte</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>a aspa nunca é fechada</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>“%1” não é um número inteiro</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>“%1” é negativo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>“%1” é maior que %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>“%1” não é uma data e hora como 2024-05-31T18:30:00Z</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>“%1” não está entre %2 e %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>“%1” é anterior ao início, %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>“%1” não é um dia como 2024-05-31</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>bytes do texto: %1; no máximo: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>“%1” não é “%2” nem “%3” nem está vazio</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>Não é possível ler %1 até o final: %2. Nada foi importado.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>Não é possível ler %1: %2. Verifique o nome e as permissões.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>a entrada padrão</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>campo “%1”: %2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>ausente</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>não é um número</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>não é um texto</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>o texto contém um caractere NUL</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>não é uma hora cheia em UTC</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>não é “true” nem “false”</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>uma hora aparece duas vezes</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>a soma das horas não cabe em 64 bits</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>a soma das horas não dá os bytes da conexão</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>não é uma lista</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>uma conexão não tem esse campo</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>não é um objeto</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>mais de %1 bytes</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1: %2. Nada foi importado.</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1, conexão %2: %3. Nada foi importado.</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>o arquivo precisa ser uma lista de objetos</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>está aninhado mais fundo que uma conexão</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1, linha %2: %3. Nada foi importado.</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>uma conexão não termina no log</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>uma duração de conexão não tem contagens de bytes</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>contagens de bytes não têm duração de conexão</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>não é possível ler o carimbo de data e hora</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>um número ou horário está fora dos limites</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1 é demais: no total, só é possível ler de uma vez %2 mensagens do pppd e saltos de um relógio. Nada foi importado; importe menos arquivos ou arquivos menores.</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>O log destes arquivos</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1 não contém nenhuma linha em que o pppd fale de uma conexão. Indique o log do sistema de uma máquina que se conecta com ele.</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>O que é lido não pode ser guardado na pasta “%1” até ser gravado: %2. Nada foi importado; libere espaço ali ou indique outra pasta em TMPDIR.</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>a conexão ainda durava</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

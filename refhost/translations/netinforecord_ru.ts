@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>JSON с байтами по часам</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>отсутствует конец</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>начало повреждено</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>первая строка должна быть заголовком %1</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>столбцов в строке: %1, должно быть: %2</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>текст содержит байт NUL</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>текст не в UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>файл пуст; первая строка должна быть заголовком %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1, строка %2, столбец %3: %4. Ничего не импортировано.</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>строка длиннее %1 байт</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>столбцов в строке больше %1</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>текст длиннее %1 байт</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>кавычка стоит в тексте, который не заключён в кавычки целиком</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>возврат каретки стоит в тексте, который не заключён в кавычки</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>между закрывающей кавычкой и следующей запятой что-то стоит</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>кавычка нигде не закрыта</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>«%1» — не целое число</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>«%1» — отрицательное число</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>«%1» больше, чем %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>«%1» — не время вида 2024-05-31T18:30:00Z</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>«%1» не между %2 и %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>«%1» раньше начала, %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>«%1» — не день вида 2024-05-31</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>байт в тексте: %1, допустимо не более: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>«%1» — не «%2», не «%3» и не пустой текст</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>Не удаётся прочитать %1 до конца: %2. Ничего не импортировано.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>Не удаётся прочитать %1: %2. Проверьте имя и права доступа.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>стандартный ввод</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>поле «%1»: %2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>отсутствует</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>не число</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>не текст</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>текст содержит символ NUL</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>не целый час UTC</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>не «true» и не «false»</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>один из часов указан дважды</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>сумма по часам не помещается в 64 бита</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>сумма по часам не равна байтам соединения</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>не массив</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>у соединения нет такого поля</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>не объект</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>длиннее %1 байт</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1: %2. Ничего не импортировано.</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1, соединение %2: %3. Ничего не импортировано.</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>файл должен быть массивом объектов</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>вложенность глубже, чем у соединения</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1, строка %2: %3. Ничего не импортировано.</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>соединение не завершается в журнале</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>для времени соединения нет числа байт</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>для числа байт нет времени соединения</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>метка времени не читается</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>число или время вне допустимых границ</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1 — это слишком много: за один раз можно прочитать в сумме не более %2 сообщений pppd и скачков часов. Ничего не импортировано; импортируйте меньше файлов или файлы поменьше.</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>Журнал из этих файлов</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1 не содержит ни одной строки, в которой pppd сообщает о соединении. Укажите системный журнал компьютера, который подключается с его помощью.</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>Прочитанное нельзя сохранить в папке «%1» до записи в историю: %2. Ничего не импортировано; освободите там место или укажите другую папку в TMPDIR.</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>соединение ещё не завершилось</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

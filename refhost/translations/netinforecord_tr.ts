@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>Saatlik baytlarla JSON</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>sonu eksik</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>başı bozuk</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>ilk satır şu başlık olmalı: %1</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>satırdaki sütun sayısı: %1, olması gereken: %2</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>metin bir NUL baytı içeriyor</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>metin UTF-8 değil</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>dosya boş; ilk satır şu başlık olmalı: %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1, satır %2, sütun %3: %4. Hiçbir şey içe aktarılmadı.</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>satır %1 bayttan uzun</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>satırda %1 sütundan fazlası var</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>metin %1 bayttan uzun</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>tamamı tırnak içinde olmayan bir metinde tırnak işareti var</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>tırnak içinde olmayan bir metinde satır başı karakteri var</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>kapanış tırnağı ile sonraki virgül arasında bir şey var</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>tırnak hiç kapatılmıyor</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>“%1” bir tam sayı değil</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>“%1” negatif</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>“%1”, %2 değerinden büyük</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>“%1”, 2024-05-31T18:30:00Z gibi bir zaman değil</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>“%1”, %2 ile %3 arasında değil</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>“%1”, %2 olan başlangıçtan önce</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>“%1”, 2024-05-31 gibi bir gün değil</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>metnin bayt sayısı: %1, en çok: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>“%1” ne “%2”, ne “%3”, ne de boş</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>%1 sonuna kadar okunamıyor: %2. Hiçbir şey içe aktarılmadı.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>%1 okunamıyor: %2. Adını ve izinlerini denetleyin.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>standart girdi</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>“%1” alanı: %2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>eksik</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>bir sayı değil</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>bir metin değil</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>metin bir NUL karakteri içeriyor</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>UTC’ye göre tam bir saat değil</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>ne “true” ne de “false”</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>bir saat iki kez var</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>saatlerin toplamı 64 bite sığmıyor</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>saatlerin toplamı bağlantının baytlarına eşit değil</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>bir dizi değil</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>bir bağlantının böyle bir alanı yok</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>bir nesne değil</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>%1 bayttan uzun</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1: %2. Hiçbir şey içe aktarılmadı.</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1, bağlantı %2: %3. Hiçbir şey içe aktarılmadı.</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>dosya bir nesne dizisi olmalı</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>bir bağlantıdan daha derin iç içe</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1, satır %2: %3. Hiçbir şey içe aktarılmadı.</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>bir bağlantı günlükte bitmiyor</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>bir bağlantı süresinin bayt sayıları yok</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>bayt sayılarının bağlantı süresi yok</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>zaman damgası okunamıyor</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>bir sayı ya da zaman aralık dışında</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1 çok fazla: toplamda en çok %2 pppd iletisi ve saat sıçraması bir kerede okunabilir. Hiçbir şey içe aktarılmadı; daha az veya daha küçük dosya içe aktarın.</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>Bu dosyaların günlüğü</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1, pppd’nin bir bağlantıdan söz ettiği hiçbir satır içermiyor. Onunla bağlanan bir makinenin sistem günlüğünü verin.</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>Okunanlar, geçmişe yazılana dek “%1” klasöründe tutulamıyor: %2. Hiçbir şey içe aktarılmadı; orada yer açın ya da TMPDIR içinde başka bir klasör verin.</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>bağlantı hâlâ sürüyordu</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

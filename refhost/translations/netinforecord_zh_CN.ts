@@ -257,6 +257,234 @@
         <source>JSON with the bytes by the hour</source>
         <translation>含每小时字节数的 JSON</translation>
     </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>缺少结尾</translation>
+    </message>
+    <message>
+        <source>its beginning is broken</source>
+        <translation>开头已损坏</translation>
+    </message>
+    <message>
+        <source>the first line has to be the header %1</source>
+        <translation>第一行必须是表头 %1</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns and should have %2</source>
+        <translation>该行有 %1 列，应有 %2 列</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL byte</source>
+        <translation>文本含有 NUL 字节</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>文本不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>the file is empty, the first line has to be the header %1</source>
+        <translation>文件为空，第一行必须是表头 %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4. Nothing was imported.</source>
+        <translation>%1，第 %2 行，%3 列：%4。未导入任何内容。</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 bytes</source>
+        <translation>该行超过 %1 个字节</translation>
+    </message>
+    <message>
+        <source>the line has more than %1 columns</source>
+        <translation>该行超过 %1 列</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 bytes</source>
+        <translation>文本超过 %1 个字节</translation>
+    </message>
+    <message>
+        <source>a quotation mark stands in a text that is not quoted as a whole</source>
+        <translation>引号出现在没有整体用引号括起的文本中</translation>
+    </message>
+    <message>
+        <source>a carriage return stands in a text that is not quoted</source>
+        <translation>回车符出现在没有用引号括起的文本中</translation>
+    </message>
+    <message>
+        <source>something stands between the closing quotation mark and the next comma</source>
+        <translation>右引号与下一个逗号之间有其他内容</translation>
+    </message>
+    <message>
+        <source>the quotation mark is never closed</source>
+        <translation>引号始终没有闭合</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is negative</source>
+        <translation>“%1”是负数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2</source>
+        <translation>“%1”大于 %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
+        <translation>“%1”不是 2024-05-31T18:30:00Z 这样的时间</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3</source>
+        <translation>“%1”不在 %2 和 %3 之间</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is before the start, %2</source>
+        <translation>“%1”早于开始时间 %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
+        <translation>“%1”不是 2024-05-31 这样的日期</translation>
+    </message>
+    <message>
+        <source>the text has %1 bytes, at most %2 are allowed</source>
+        <translation>文本有 %1 个字节，最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
+        <translation>“%1”既不是“%2”也不是“%3”，也不为空</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
+        <translation>无法将%1读到结尾：%2。未导入任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2. Check its name and its permissions.</source>
+        <translation>无法读取%1：%2。请检查其名称和权限。</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>member &quot;%1&quot;: %2</source>
+        <translation>字段“%1”：%2</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>不是数字</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>不是文本</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>文本含有 NUL 字符</translation>
+    </message>
+    <message>
+        <source>it is no whole hour of UTC</source>
+        <translation>不是 UTC 的整点</translation>
+    </message>
+    <message>
+        <source>it is neither true nor false</source>
+        <translation>既不是“true”也不是“false”</translation>
+    </message>
+    <message>
+        <source>an hour is there twice</source>
+        <translation>某个小时出现了两次</translation>
+    </message>
+    <message>
+        <source>the hours add up to more than 64 bits hold</source>
+        <translation>各小时之和超出 64 位</translation>
+    </message>
+    <message>
+        <source>the hours do not add up to the bytes of the connection</source>
+        <translation>各小时之和与该连接的字节数不符</translation>
+    </message>
+    <message>
+        <source>it is no array</source>
+        <translation>不是数组</translation>
+    </message>
+    <message>
+        <source>a connection has no such member</source>
+        <translation>连接没有这样的字段</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>不是对象</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>超过 %1 个字节</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nothing was imported.</source>
+        <translation>%1：%2。未导入任何内容。</translation>
+    </message>
+    <message>
+        <source>%1, connection %2: %3. Nothing was imported.</source>
+        <translation>%1，第 %2 个连接：%3。未导入任何内容。</translation>
+    </message>
+    <message>
+        <source>the file has to be an array of objects</source>
+        <translation>文件必须是对象数组</translation>
+    </message>
+    <message>
+        <source>it is nested more deeply than a connection</source>
+        <translation>嵌套层次比连接更深</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3. Nothing was imported.</source>
+        <translation>%1，第 %2 行：%3。未导入任何内容。</translation>
+    </message>
+    <message>
+        <source>a connection does not end in the log</source>
+        <translation>有连接在日志中没有结束</translation>
+    </message>
+    <message>
+        <source>a connect time has no byte counts</source>
+        <translation>有连接时长但没有字节数</translation>
+    </message>
+    <message>
+        <source>byte counts have no connect time</source>
+        <translation>有字节数但没有连接时长</translation>
+    </message>
+    <message>
+        <source>the time stamp cannot be read</source>
+        <translation>无法读取时间戳</translation>
+    </message>
+    <message>
+        <source>a number or time is out of range</source>
+        <translation>数字或时间超出范围</translation>
+    </message>
+    <message>
+        <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
+        <translation>%1过大：一次最多共可读取 %2 条 pppd 消息和时钟跳变。未导入任何内容，请导入更少或更小的文件。</translation>
+    </message>
+    <message>
+        <source>The log of these files</source>
+        <translation>这些文件的日志</translation>
+    </message>
+    <message>
+        <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
+        <translation>%1中没有 pppd 说明连接的行。请指定用它拨号的计算机的系统日志。</translation>
+    </message>
+    <message>
+        <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
+        <translation>在存入历史记录之前，无法将读取的内容保存在文件夹“%1”中：%2。未导入任何内容，请在该处腾出空间，或在 TMPDIR 中指定其他文件夹。</translation>
+    </message>
+    <message>
+        <source>the connection still lasted</source>
+        <translation>连接仍在进行</translation>
+    </message>
 </context>
 <context>
     <name>history</name>

@@ -71,7 +71,7 @@ QString errorOf(const QByteArray &csv)
         return "none";
     } catch (const CsvError &error) {
         return QString::number(error.line) + ' ' +
-               QString::fromStdString(csvColumnName(error.column) + ": " + error.reason);
+               QString::fromStdString(csvColumnName(error.column) + ": " + inEnglish(error.reason));
     }
 }
 

@@ -138,7 +138,8 @@ void CsvReaderTest::tellsWhereTheQuotingIsWrong()
     } catch (const CsvError &error) {
         QCOMPARE(qint64(error.line), line);
         QCOMPARE(int(error.column), column);
-        QVERIFY2(QString::fromStdString(error.reason).contains(word), error.reason.c_str());
+        const QString reason = QString::fromStdString(inEnglish(error.reason));
+        QVERIFY2(reason.contains(word), qPrintable(reason));
     }
 }
 

@@ -57,7 +57,7 @@ std::vector<history::Connection> imported(QByteArray json)
     QBuffer device(&json);
     device.open(QIODevice::ReadOnly);
     const auto reader = jsonImport({});
-    reader->read({device, "input", 0}, [](std::int64_t) {});
+    reader->read({device, history::translatable("formats", "input"), 0}, [](std::int64_t) {});
     return connectionsOf(reader->imported());
 }
 

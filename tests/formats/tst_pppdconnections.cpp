@@ -311,7 +311,7 @@ void PppdConnectionsTest::countsWhatCannotBeUsed()
     QStringList unusable;
     for (const Unusable &entry : outcome.unusable)
         unusable << QString("%1 %2 ").arg(entry.count).arg(entry.firstLine) +
-                        QString::fromStdString(entry.reason);
+                        QString::fromStdString(inEnglish(entry.reason));
     QTEST(unusable, "unusable");
     QCOMPARE(int(outcome.connections.size()), usable);
 }

@@ -38,7 +38,7 @@ std::vector<Connection> throughCsv(const std::vector<Connection> &connections)
     try {
         return formats::connectionsFromCsv(lines);
     } catch (const formats::CsvError &error) {
-        fuzz::require(false, error.reason.c_str());
+        fuzz::require(false, inEnglish(error.reason).c_str());
         return {};
     }
 }

@@ -66,7 +66,8 @@ void importLog(QByteArray file)
         return;
     constexpr const auto &format = *formats::formatNamed(formats::importFormats, "pppd");
     try {
-        format.reader({})->read({*input, "input", 1700000000}, [](std::int64_t) {});
+        format.reader({})->read({*input, history::translatable("formats", "input"), 1700000000},
+                                [](std::int64_t) {});
     } catch (const formats::InputError &) {
         return;
     }

@@ -31,7 +31,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     constexpr std::int64_t now = 1700000000;
     const auto reader = format.reader({});
     try {
-        reader->read({device, "input", now}, [](std::int64_t) {});
+        reader->read({device, history::translatable("formats", "input"), now}, [](std::int64_t) {});
         fuzz::requireLossless(formats::connectionsOf(reader->imported()));
     } catch (const InputError &error) {
         fuzz::require(std::string_view(error.what()).substr(0, 5) == "input",

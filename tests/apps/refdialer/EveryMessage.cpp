@@ -4,10 +4,12 @@
 #include "apps/refdialer/Failure.h"
 #include "apps/refdialer/FailureReport.h"
 #include "apps/refdialer/HistoryNotice.h"
+#include "apps/refdialer/ImportWork.h"
 #include "apps/refdialer/PlanDialog.h"
 #include "apps/refdialer/PlanWatch.h"
 #include "apps/refdialer/RecordingSettings.h"
 #include "apps/refdialer/SettingsDialog.h"
+#include "apps/refdialer/TransferDialog.h"
 #include "apps/refdialer/ViewMenu.h"
 #include "history/StoreFailure.h"
 
@@ -15,10 +17,13 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
 
 #include <sqlite3.h>
+
+#include <atomic>
 
 using history::DataPlan;
 using history::Store;
@@ -92,6 +97,39 @@ void lookAtAHistoryOfNoUse(const HistoryWindow &history, const Look &look)
     }
 }
 
+/// What an import says in the end that can use little or nothing of the file.
+QString complaintOf(const HistoryWindow &history, const QString &path)
+{
+    const std::atomic<bool> isCancelled = false;
+    refdialer::TransferProgress progress(isCancelled, [](const refdialer::TransferState &) {});
+    const refdialer::ImportWork work(history.storePath(), {{path}, nullptr});
+    try {
+        return work(progress).details;
+    } catch (const refdialer::TransferFailure &failure) {
+        return failure.sentence;
+    }
+}
+
+void lookAtImportsOfLittleUse(HistoryWindow &history, const Look &look)
+{
+    const QTemporaryDir folder;
+    const QByteArray header = QByteArray::fromStdString(formats::csvHeader());
+    for (const QByteArray &contents :
+         {header + "\ninternet,soon", QByteArray("[{\"profile\": 7}]"),
+          QByteArray("{\"connected_seconds\":7,}"), QByteArray("\x1f\x8b"), QByteArray("log"),
+          QByteArray("May 31 10:00:00 gw pppd[7]: Connect: ppp0 <--> /dev/ttyUSB0")}) {
+        QFile file(folder.filePath(profileForEveryWindow));
+        QVERIFY(file.open(QFile::WriteOnly) && file.write(contents) == contents.size());
+        file.close();
+        refdialer::TransferDialog dialog(refdialer::TransferKind::Import, &history.window());
+        dialog.show();
+        dialog.showResult(
+            {refdialer::TransferResult::Kind::Failed, {}, complaintOf(history, file.fileName())});
+        settle();
+        look("import of little use", dialog);
+    }
+}
+
 /// One that has ended can be asked for nothing.
 void lookAtAPluginThatTellsNoStatistics(HistoryWindow &history, const Look &look)
 {
@@ -109,5 +147,6 @@ void lookAtEveryMessage(HistoryWindow &history, const Look &look)
     lookAtARemovalThatFails(history, look);
     lookAtAFailedStart(look);
     lookAtAHistoryOfNoUse(history, look);
+    lookAtImportsOfLittleUse(history, look);
     lookAtAPluginThatTellsNoStatistics(history, look);
 }

@@ -145,7 +145,7 @@ void addLanguageRows()
 void addFileRows()
 {
     const QStringList identifiers("refhost/translations/Identifiers.h");
-    const QStringList program{"refhost/libcore", "history", "formats/Formats.h", "apps/common",
+    const QStringList program{"refhost/libcore", "history", "formats", "apps/common",
                               "apps/refdialer"};
     QTest::addColumn<QString>("file");
     QTest::addColumn<QStringList>("sources");
