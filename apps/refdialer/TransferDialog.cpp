@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTextOption>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -75,8 +76,7 @@ void TransferDialog::showResult(const TransferResult &result)
 {
     m_result = result;
     m_bar->hide();
-    m_details->setPlainText(result.details);
-    m_details->setVisible(!result.details.isEmpty());
+    showDetails(result.details);
     m_button->setEnabled(true);
     retranslate();
     resize(sizeHint().width(), minimumSizeHint().height());
@@ -84,6 +84,16 @@ void TransferDialog::showResult(const TransferResult &result)
     m_button->setFocus();
     if (result.kind == TransferResult::Kind::Cancelled)
         reject();
+}
+
+void TransferDialog::showDetails(const QString &details)
+{
+    // Of itself it would take the direction of the name or the number that a line begins with.
+    QTextOption option = m_details->document()->defaultTextOption();
+    option.setTextDirection(layoutDirection());
+    m_details->document()->setDefaultTextOption(option);
+    m_details->setPlainText(details);
+    m_details->setVisible(!details.isEmpty());
 }
 
 void TransferDialog::reject()

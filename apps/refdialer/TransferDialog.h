@@ -40,6 +40,7 @@ protected:
 
 private:
     bool isImport() const { return m_kind == TransferKind::Import; }
+    void showDetails(const QString &details);
     QString failureText() const;
     void retranslate();
 

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "apps/refdialer/ImportWork.h"
+#include "apps/refdialer/TransferDialog.h"
 #include "formats/CsvFormat.h"
 #include "refhost/libcore/Host.h"
 
 #include <QFile>
+#include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 
 #include <memory>
 #include <optional>
@@ -24,6 +28,8 @@ private slots:
     void speakTheLanguageOfTheProgram_data();
     void speakTheLanguageOfTheProgram();
     void leaveNamesOfFilesAsTheyAre();
+    void runAsTheWindowDoes_data();
+    void runAsTheWindowDoes();
 
 private:
     /// Makes a file of that name; what holds nothing is not there.
@@ -160,6 +166,27 @@ void ImportMessagesTest::leaveNamesOfFilesAsTheyAre()
     const QString path = file("100%2", logWithoutYears);
     const QString details = resultOf({path}).details;
     QVERIFY2(details.startsWith('"' + path + "\" does not show its years"), qPrintable(details));
+}
+
+void ImportMessagesTest::runAsTheWindowDoes_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("from left to right") << Qt::LeftToRight;
+    QTest::newRow("from right to left") << Qt::RightToLeft;
+}
+
+/// Whatever a message begins with: here, in Arabic, with a mark before the name of a file.
+void ImportMessagesTest::runAsTheWindowDoes()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    refdialer::TransferDialog dialog(refdialer::TransferKind::Import);
+    dialog.setLayoutDirection(direction);
+    dialog.show();
+    dialog.showResult({TransferResult::Kind::Failed, {}, QStringLiteral("«\u200e/a\u200e» تالف")});
+    const auto *const details = dialog.findChild<QPlainTextEdit *>();
+    QTRY_COMPARE(details->document()->firstBlock().layout()->lineCount(), 1);
+    const QTextLine line = details->document()->firstBlock().layout()->lineAt(0);
+    QCOMPARE(line.cursorToX(0) < line.cursorToX(line.textLength()), direction == Qt::LeftToRight);
 }
 
 QTEST_MAIN(ImportMessagesTest)
