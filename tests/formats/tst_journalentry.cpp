@@ -12,6 +12,7 @@ class JournalEntryTest : public QObject
 private slots:
     void takesTimesThatALogCanShow_data();
     void takesTimesThatALogCanShow();
+    void isEmptyIfItIsBroken();
 };
 
 void JournalEntryTest::takesTimesThatALogCanShow_data()
@@ -35,6 +36,12 @@ void JournalEntryTest::takesTimesThatALogCanShow()
     entry.set("__REALTIME_TIMESTAMP", microseconds.toStdString());
     const auto time = entry.line().time;
     QTEST(time ? usage::utcText(usage::utcSpan(*time).earliest) : QString(), "time");
+}
+
+void JournalEntryTest::isEmptyIfItIsBroken()
+{
+    QVERIFY(!journalEntryFromJson("{\"MESSAGE\":\"Exit.\"}").isEmpty());
+    QVERIFY(journalEntryFromJson("{\"MESSAGE\":\"Exit.\"").isEmpty());
 }
 
 QTEST_GUILESS_MAIN(JournalEntryTest)

@@ -17,6 +17,7 @@ private slots:
     void cutsWhatIsLongerThanTheLongestLine();
     void readsLinesAcrossChunks();
     void countsLines();
+    void countsTheLinesOfBytesToo();
     void tellsHowFarItIsInTheMiddleOfALine();
     void tellsADeviceThatCannotBeRead();
 };
@@ -116,6 +117,19 @@ void LineReaderTest::countsLines()
     QVERIFY(reader.next());
     QVERIFY(reader.next());
     QCOMPARE(reader.lineNumber(), std::int64_t(3));
+}
+
+void LineReaderTest::countsTheLinesOfBytesToo()
+{
+    QByteArray contents = "a\nb\nc\nd";
+    QBuffer buffer(&contents);
+    buffer.open(QIODevice::ReadOnly);
+    LineReader reader(buffer);
+
+    QVERIFY(reader.next());
+    QCOMPARE(std::string(reader.takeBytes(4)), std::string("b\nc\n"));
+    QVERIFY(reader.next());
+    QCOMPARE(reader.lineNumber(), std::int64_t(4));
 }
 
 void LineReaderTest::tellsHowFarItIsInTheMiddleOfALine()
