@@ -53,7 +53,7 @@ void InputFile::openStandardInput()
 
 void InputFile::open(const std::string &path)
 {
-    m_name = {translatable("formats", "\"%1\""), {printable(path, static_cast<int>(path.size()))}};
+    m_name = {translatable("formats", "\"%1\""), {printable(path, unlimited)}};
     // By descriptor: the bytes of a name need not be text in any encoding.
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "JsonText.h"
+#include "Utf8Text.h"
 
 #include <string>
 
@@ -14,12 +15,12 @@ inline std::string lineOf(const Json &json)
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-/// What the parser says behind its own number of the error.
+/// What the parser says behind its own number of the error; it quotes the document.
 inline std::string reasonOf(const Json::parse_error &error)
 {
     const std::string text = error.what();
     const std::size_t end = text.find("] ");
-    return end == std::string::npos ? text : text.substr(end + 2);
+    return printable(end == std::string::npos ? text : text.substr(end + 2), unlimited);
 }
 
 } // namespace formats

@@ -43,7 +43,7 @@ TransferResult ExportWork::operator()(TransferProgress &progress) const
     progress.beginWriting(valueOrFailure(store.count()));
     const std::size_t count = write(store, progress);
     return {TransferResult::Kind::Done, tr("Connections exported: %1").arg(count),
-            tr("They are in \"%1\".").arg(m_choice.file)};
+            tr("They are in \"%1\".").arg(shownName(m_choice.file))};
 }
 
 formats::ExportOptions ExportWork::options() const
@@ -70,7 +70,7 @@ std::size_t ExportWork::write(const history::Store &store, TransferProgress &pro
         throw TransferFailure{
             tr("\"%1\" cannot be written: %2. Check the disk, the folder and its "
                "permissions.")
-                .arg(m_choice.file, QString::fromStdString(error.code().message()))};
+                .arg(shownName(m_choice.file), QString::fromStdString(error.code().message()))};
     }
 }
 

@@ -106,7 +106,7 @@ QString ImportWork::lineFor(const formats::Unusable &unusable) const
     return tr("Not used, %1: %2; first in line %3 of \"%4\": %5")
         .arg(common::sentenceText(unusable.reason), QString::number(unusable.count),
              QString::number(unusable.firstLine),
-             m_choice.files.at(static_cast<int>(unusable.firstFile)),
+             shownName(m_choice.files.at(static_cast<int>(unusable.firstFile))),
              QString::fromStdString(formats::printable(unusable.firstText)));
 }
 

@@ -3,6 +3,7 @@
 
 #include "TransferProgress.h"
 #include "apps/common/HistoryFiles.h"
+#include "formats/Utf8Text.h"
 
 #include <QFile>
 
@@ -34,14 +35,19 @@ std::string pathOf(const QString &file)
     return QFile::encodeName(file).toStdString();
 }
 
+QString shownName(const QString &file)
+{
+    return formats::printable(file, formats::unlimited);
+}
+
 void checkIsOrdinary(const QString &file, const std::string &storePath)
 {
     std::error_code hidden; // opening it tells why
     const auto status = std::filesystem::status(pathOf(file), hidden);
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
-        throw TransferFailure{FileProblem::noFile().arg(file)};
+        throw TransferFailure{FileProblem::noFile().arg(shownName(file))};
     if (common::belongsToHistory(pathOf(file), storePath))
-        throw TransferFailure{FileProblem::ofHistory().arg(file)};
+        throw TransferFailure{FileProblem::ofHistory().arg(shownName(file))};
 }
 
 } // namespace refdialer

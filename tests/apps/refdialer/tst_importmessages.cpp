@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "apps/refdialer/ExportWork.h"
 #include "apps/refdialer/ImportWork.h"
 #include "apps/refdialer/TransferDialog.h"
 #include "formats/CsvFormat.h"
 #include "refhost/libcore/Host.h"
 
+#include <QDir>
 #include <QFile>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
@@ -13,10 +15,11 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 using refdialer::TransferResult;
 
-/// What the window says of files and lines that it cannot use.
+/// What the window says of files, and of lines that it cannot use.
 class ImportMessagesTest : public QObject
 {
     Q_OBJECT
@@ -28,6 +31,12 @@ private slots:
     void speakTheLanguageOfTheProgram_data();
     void speakTheLanguageOfTheProgram();
     void leaveNamesOfFilesAsTheyAre();
+    void writeOutLineFeedsInNames_data();
+    void writeOutLineFeedsInNames();
+    void writeOutLineFeedsInTheNameOfTheHistory();
+    void writeOutLineFeedsInNamesOfExports();
+    void writeOutWhatTheParserQuotes_data();
+    void writeOutWhatTheParserQuotes();
     void runAsTheWindowDoes_data();
     void runAsTheWindowDoes();
 
@@ -35,6 +44,8 @@ private:
     /// Makes a file of that name; what holds nothing is not there.
     QString file(const QString &name, const QByteArray &contents) const;
     TransferResult resultOf(const QStringList &files) const;
+    TransferResult exportTo(const QString &file) const;
+    std::string store() const { return m_folder->filePath("connections.db").toStdString(); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -62,6 +73,22 @@ void addRow(const char *name, const char *language, const char *fileName,
                         << QString::fromUtf8(message);
 }
 
+TransferResult resultOfWork(refdialer::Transfer::Work work)
+{
+    refdialer::Transfer transfer(std::move(work));
+    std::optional<TransferResult> result;
+    QObject::connect(&transfer, &refdialer::Transfer::finished, &transfer,
+                     [&result](const TransferResult &finished) { result = finished; });
+    transfer.start();
+    [&result] { QTRY_VERIFY(result); }();
+    return result.value_or(TransferResult());
+}
+
+QString withLineFeedsWrittenOut(QString name)
+{
+    return name.replace('\n', "\\n");
+}
+
 } // namespace
 
 void ImportMessagesTest::init()
@@ -81,14 +108,12 @@ QString ImportMessagesTest::file(const QString &name, const QByteArray &contents
 
 TransferResult ImportMessagesTest::resultOf(const QStringList &files) const
 {
-    const std::string store = m_folder->filePath("connections.db").toStdString();
-    refdialer::Transfer transfer(refdialer::ImportWork(store, {files, nullptr}));
-    std::optional<TransferResult> result;
-    connect(&transfer, &refdialer::Transfer::finished, &transfer,
-            [&result](const TransferResult &finished) { result = finished; });
-    transfer.start();
-    [&result] { QTRY_VERIFY(result); }();
-    return result.value_or(TransferResult());
+    return resultOfWork(refdialer::ImportWork(store(), {files, nullptr}));
+}
+
+TransferResult ImportMessagesTest::exportTo(const QString &file) const
+{
+    return resultOfWork(refdialer::ExportWork(store(), {file}));
 }
 
 void ImportMessagesTest::speakTheLanguageOfTheProgram_data()
@@ -166,6 +191,68 @@ void ImportMessagesTest::leaveNamesOfFilesAsTheyAre()
     const QString path = file("100%2", logWithoutYears);
     const QString details = resultOf({path}).details;
     QVERIFY2(details.startsWith('"' + path + "\" does not show its years"), qPrintable(details));
+}
+
+void ImportMessagesTest::writeOutLineFeedsInNames_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<QString>("message"); // FILE stands for its path
+
+    QTest::newRow("not there") << QByteArray() << "\"FILE\" cannot be read: ";
+    QTest::newRow("a wrong line") << csvFile << "\"FILE\", line 2, column end: ";
+    QTest::newRow("a line of no use")
+        << runningFile << "Not used, the connection still lasted: 1; first in line 2 of \"FILE\": ";
+}
+
+/// However many, nothing of the name is left out.
+void ImportMessagesTest::writeOutLineFeedsInNames()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(QString, message);
+    const QString path = file("a\n\n\nb.csv", contents);
+    const QString details = resultOf({path}).details;
+    message.replace("FILE", withLineFeedsWrittenOut(path));
+    QVERIFY2(details.startsWith(message), qPrintable(details));
+}
+
+void ImportMessagesTest::writeOutLineFeedsInTheNameOfTheHistory()
+{
+    const QString path = file("a\nb.db", "\n");
+    const refdialer::ImportWork work(path.toStdString(), {{path}, nullptr});
+    QCOMPARE(resultOfWork(work).details,
+             '"' + withLineFeedsWrittenOut(path) +
+                 "\" belongs to the history that this window shows. Choose another file.");
+}
+
+void ImportMessagesTest::writeOutLineFeedsInNamesOfExports()
+{
+    QVERIFY(history::Store::openOrCreate(store()));
+    const QString folder = m_folder->filePath("a\nb");
+    QVERIFY(exportTo(folder + "/c.csv")
+                .details.startsWith('"' + withLineFeedsWrittenOut(folder) +
+                                    "/c.csv\" cannot be written: "));
+    QVERIFY(QDir().mkdir(folder));
+    QCOMPARE(exportTo(folder).details, '"' + withLineFeedsWrittenOut(folder) +
+                                           "\" is a folder, a pipe or a device. Choose a file.");
+    QCOMPARE(exportTo(folder + "/c.csv").details,
+             "They are in \"" + withLineFeedsWrittenOut(folder) + "/c.csv\".");
+}
+
+void ImportMessagesTest::writeOutWhatTheParserQuotes_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::newRow("JSON") << QByteArray("[{\"a\u202eb");
+    QTest::newRow("JSON, an object a line") << QByteArray("{\"connected_seconds\":\"a\u202eb");
+}
+
+/// The mark would turn what follows it.
+void ImportMessagesTest::writeOutWhatTheParserQuotes()
+{
+    QFETCH(QByteArray, contents);
+    const QString details = resultOf({file("a.json", contents)}).details;
+    QVERIFY2(details.contains("parse error"), qPrintable(details));
+    QVERIFY2(details.contains("a\\u202e"), qPrintable(details));
+    QVERIFY2(!details.contains(QChar(0x202e)), qPrintable(details));
 }
 
 void ImportMessagesTest::runAsTheWindowDoes_data()
