@@ -5,6 +5,8 @@
 
 #include <QHash>
 
+#include <cstddef>
+
 /// Asks the processor for the records that a walk over them comes to next. In the order of
 /// their map they lie anywhere in memory, and waiting for it is a quarter of a long fill.
 /// GCC leaves out calls of functions that do no more than ask; these step on as well.

@@ -10,6 +10,7 @@
 #include "VolumeText.h"
 
 #include <algorithm>
+#include <utility>
 
 using Log::Details;
 
@@ -118,8 +119,7 @@ void NetInfoRecordLogic::convertRecords(const _KORA_ST_CONNRECORD *records, int 
 {
     const LocalZone::Hold zone;
 #ifdef NETINFORECORD_WIRE_STATISTICS
-    m_totals.emplace();
-    m_monthOfRows = QDate();
+    AccumulateTotals totals;
 #endif
     // A null array has no second element: its first one is reported as missing,
     // and that is all.
@@ -131,10 +131,14 @@ void NetInfoRecordLogic::convertRecords(const _KORA_ST_CONNRECORD *records, int 
         // At once, while the record is in the processor's caches.
         if (record) {
             const ConnectionRecord &shown = *m_records.value(i);
-            m_totals->add(*record, shown.m_strProfileName, shown.m_strStartTime);
+            totals.add(*record, shown.m_strProfileName, shown.m_strStartTime);
         }
 #endif
     }
+#ifdef NETINFORECORD_WIRE_STATISTICS
+    m_totals = std::move(totals);
+    m_monthOfRows = QDate();
+#endif
 }
 
 void NetInfoRecordLogic::populateSDKtoUIStructure(int id, const _KORA_ST_CONNRECORD *record)
