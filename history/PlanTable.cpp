@@ -141,6 +141,21 @@ std::vector<int> percentagesIn(RowQuery &query)
     return percentages;
 }
 
+/// Of a plan that no program of this version would have stored. People in other languages
+/// are told which plan it is and what to do, but not what is wrong with it.
+StoreFailure strangePlan(const std::string &path, const std::string &name,
+                         const StoreFailure &failure)
+{
+    return StoreFailure(
+        {Kind::Damaged,
+         failure.error().message + " " + historyAt(path) +
+             " has it so from another program; remove this plan and make it again.",
+         Sentence{translatable("history", "The connection history \"%1\" has a plan \"%2\" from "
+                                          "another program that this one cannot use; remove "
+                                          "this plan and make it again."),
+                  {path, beginningOf(name)}}});
+}
+
 } // namespace
 
 PlanTable::PlanTable(SQLite::Database &database, std::string path)
@@ -157,10 +172,7 @@ std::vector<DataPlan> PlanTable::all()
         try {
             plans.push_back(planIn(query.row()));
         } catch (const StoreFailure &failure) {
-            throw StoreFailure(Kind::Damaged,
-                               failure.error().message + " " + historyAt(m_path) +
-                                   " has it so from another program; remove this plan and make "
-                                   "it again.");
+            throw strangePlan(m_path, std::string(query.row().text(1)), failure);
         }
     }
     return plans;

@@ -568,6 +568,10 @@
         <source>its %1 &quot;%2&quot; is not one that this program makes</source>
         <translation>‏«‎%2‎»‏ (‎%1‎) ليس من صنع هذا البرنامج</translation>
     </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
+        <translation>يحتوي سجل الاتصالات «⁦%1⁩» على الباقة «⁨%2⁩» التي حفظها برنامج آخر ولا يستطيع هذا البرنامج استخدامها. أزلها وأنشئها من جديد.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -568,6 +568,10 @@
         <source>its %1 &quot;%2&quot; is not one that this program makes</source>
         <translation>„%2“ (%1) stammt nicht von diesem Programm</translation>
     </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
+        <translation>Der Verbindungsverlauf „%1“ hat von einem anderen Programm den Tarif „%2“, den dieses nicht verwenden kann. Entfernen Sie ihn, und legen Sie ihn neu an.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -568,6 +568,10 @@
         <source>its %1 &quot;%2&quot; is not one that this program makes</source>
         <translation>«%2» (%1) no es de este programa</translation>
     </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
+        <translation>El historial de conexiones «%1» tiene el plan «%2», guardado por otro programa, que este no puede usar. Elimínelo y créelo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -568,6 +568,10 @@
         <source>its %1 &quot;%2&quot; is not one that this program makes</source>
         <translation>„%2” (%1) nie pochodzi z tego programu</translation>
     </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
+        <translation>Historia połączeń „%1” zawiera plan „%2”, zapisany przez inny program, którego ten program nie może użyć. Usuń go i utwórz ponownie.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

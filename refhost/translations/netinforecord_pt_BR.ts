@@ -568,6 +568,10 @@
         <source>its %1 &quot;%2&quot; is not one that this program makes</source>
         <translation>“%2” (%1) não é deste programa</translation>
     </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
+        <translation>O histórico de conexões “%1” tem o plano “%2”, gravado por outro programa, que este não consegue usar. Remova-o e crie-o de novo.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

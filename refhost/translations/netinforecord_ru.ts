@@ -568,6 +568,10 @@
         <source>its %1 &quot;%2&quot; is not one that this program makes</source>
         <translation>«%2» (%1) создано не этой программой</translation>
     </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
+        <translation>В истории соединений «%1» есть тарифный план «%2», записанный другой программой; эта программа не может его использовать. Удалите его и создайте заново.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -568,6 +568,10 @@
         <source>its %1 &quot;%2&quot; is not one that this program makes</source>
         <translation>“%2” (%1) bu programdan değil</translation>
     </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
+        <translation>“%1” bağlantı geçmişinde, başka bir programın kaydettiği ve bu programın kullanamadığı “%2” planı var. Bu planı kaldırın ve yeniden oluşturun.</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -568,6 +568,10 @@
         <source>its %1 &quot;%2&quot; is not one that this program makes</source>
         <translation>“%2”（%1）不是由此程序创建的</translation>
     </message>
+    <message>
+        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
+        <translation>连接历史记录“%1”中有其他程序保存的套餐“%2”，本程序无法使用。请将其移除并重新创建。</translation>
+    </message>
 </context>
 <context>
     <name>refdialer::Application</name>

@@ -2,12 +2,15 @@
 #include "apps/common/ProblemText.h"
 #include "apps/common/StoreErrorText.h"
 #include "history/SchemaUpgrade.h"
+#include "history/Store.h"
 #include "history/StoreFailure.h"
 #include "recorder/Problem.h"
 #include "refhost/libcore/Host.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
+#include <SQLiteCpp/Database.h>
 #include <sqlite3.h>
 
 using history::Access;
@@ -47,6 +50,21 @@ StoreError versionThatCannotBe()
     return {};
 }
 
+/// Of a store whose plan "Home" another program has changed.
+StoreError planThatCannotBe()
+{
+    const QTemporaryDir folder;
+    const std::string file = folder.filePath("connections.db").toStdString();
+    auto store = history::Store::openOrCreate(file);
+    history::DataPlan plan;
+    plan.name = "Home";
+    if (!store || !store.value().setPlan(plan))
+        return {};
+    SQLite::Database(file, SQLite::OPEN_READWRITE).exec("UPDATE plan SET month_day = 99");
+    const auto plans = store.value().plans();
+    return plans ? StoreError() : plans.error();
+}
+
 void addRow(const char *name, const char *language, const StoreError &error, const char *part)
 {
     QTest::newRow(name) << QString(language) << error << QString::fromUtf8(part);
@@ -75,6 +93,11 @@ void StoreErrorTextTest::speaksTheLanguageOfTheProgram_data()
            "«\u200e/100%2/a.db\u200e»\u200f (\u200edisk I/O error\u200e)");
     addRow("a version that cannot be, German", "de", versionThatCannotBe(),
            "(als Version ist 0 angegeben). Er blieb");
+    const StoreError plan = planThatCannotBe();
+    addRow("a plan that cannot be", "en", plan,
+           "has a plan \"Home\" from another program that this one cannot use; remove this plan");
+    addRow("a plan that cannot be, German", "de", plan,
+           "hat von einem anderen Programm den Tarif „Home“, den dieses nicht verwenden kann.");
     addRow("damage, Arabic", "ar", writing(SQLITE_CORRUPT), "تالف (\u200edisk I/O error\u200e)");
     addRow("another program's database, Arabic", "ar", history::anotherDatabase(path).error(),
            "ليس سجل اتصالات بل قاعدة بيانات لبرنامج آخر. تُركت كما هي؛ انقلها إلى مكان آخر");
