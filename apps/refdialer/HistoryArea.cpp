@@ -71,6 +71,7 @@ void HistoryArea::takeRows(TrueValues values)
     if (!table())
         return;
     adopt(*table());
+    m_isReadable = values.areAll();
     m_shown = shownIn(*table(), std::move(values));
     arrangeRows();
 }
@@ -269,8 +270,8 @@ void HistoryArea::compareWith(quint64 storeFingerprint)
     const bool isAnswerOld = m_shown.fingerprint() != m_shownWhenAsked;
     // A plug-in may show something else than the store has; loading that again and
     // again would change nothing.
-    const bool isLoaded =
-        storeFingerprint == m_shown.fingerprint() || storeFingerprint == m_loadedFor;
+    const bool isLoaded = (m_isReadable && storeFingerprint == m_shown.fingerprint()) ||
+                          storeFingerprint == m_loadedFor;
     if (isAnswerOld || isLoaded || isUserDeciding())
         return;
     refresh();

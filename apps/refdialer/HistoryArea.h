@@ -54,6 +54,8 @@ public:
 
     /// How many connections there are, listed or not.
     int connectionCount() const { return m_shown.count(); }
+    /// Whether the store could be read; if not, nobody knows how many there are.
+    bool isReadable() const { return m_isReadable; }
     /// Of what is selected, or else of what is listed.
     HistorySum sum() const;
     /// What is selected, as the rows show it.
@@ -96,6 +98,7 @@ private:
     QTimer m_changeTimer;
     bool m_hasHistory = false;
     ShownConnections m_shown;
+    bool m_isReadable = true;
     HistoryWatch m_watch;
     QTimer m_watchTimer;
     quint64 m_shownWhenAsked = 0;       ///< the fingerprint of what was shown then

@@ -78,7 +78,7 @@ void HistoryPage::giveColumnsRoom()
 void HistoryPage::showReason()
 {
     using Reason = HistoryNotice::Reason;
-    if (m_area->sum().count > 0)
+    if (m_area->sum().count > 0 || !m_area->isReadable())
         m_notice->setReason(Reason::None);
     else if (m_area->connectionCount() == 0)
         m_notice->setReason(Reason::NoConnections);

@@ -83,17 +83,19 @@ ShownConnection shownBy(const HistoryRow &row)
 TrueValues TrueValues::readFrom(const std::string &storePath)
 {
     TrueValues values;
+    TrueValues unknown;
+    unknown.m_areAll = false;
     const auto store = history::Store::openForReading(storePath);
     const auto count = store ? store.value().count() : store.error();
     if (!count)
-        return values;
+        return unknown;
     // All at once, since a growing list would be there twice for a while.
     values.reserve(std::size_t(count.value()));
     const usage::LocalClock clock;
     const auto visited = store.value().visit(
         {}, [&](const history::Connection &connection) { values.add(connection, clock); });
     if (!visited)
-        return {};
+        return unknown;
     values.sortByTimes();
     return values;
 }

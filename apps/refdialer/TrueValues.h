@@ -26,7 +26,8 @@ namespace refdialer
 class TrueValues
 {
 public:
-    /// The finished connections in the store at this path; none if it cannot be read.
+    /// The finished connections in the store at this path; none, and not all, if it cannot
+    /// be read.
     static TrueValues readFrom(const std::string &storePath);
     /// The same on a thread of its own, for who has something else to do meanwhile.
     static std::future<TrueValues> beginReading(const std::string &storePath);
@@ -38,6 +39,8 @@ public:
     /// with the key 0, where the store has none. Each connection is given once, so that rows which
     /// show the same still differ.
     ShownConnection take(const HistoryRow &row);
+    /// Whether these are all connections that there are.
+    bool areAll() const { return m_areAll; }
 
 private:
     /// Seconds as a clock on the wall shows them: a row knows no time zone, and at the
@@ -60,6 +63,7 @@ private:
     std::vector<ShownConnection> m_connections;
     std::vector<Entry> m_entries;   // by their times
     QHash<QString, int> m_profiles; // many connections share one
+    bool m_areAll = true;
 };
 
 /// What the rows of the plug-in's table show, from the top.

@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -57,6 +58,7 @@ private slots:
     void saysWhenNothingIsFound();
     void saysWhenAllAreTooShort();
     void saysWhatToDoWithoutConnections();
+    void saysNothingOfConnectionsThatCannotBeRead();
     void speaksAnotherLanguage();
 
 private:
@@ -403,6 +405,19 @@ void TestHistorySearch::saysWhatToDoWithoutConnections()
     QVERIFY(m_history->store({connection("one", 0)}));
     menuEntry(m_history->window(), {"View", "Refresh"})->trigger();
     QTRY_COMPARE(notice(), QString());
+}
+
+void TestHistorySearch::saysNothingOfConnectionsThatCannotBeRead()
+{
+    QVERIFY(m_history->store({}));
+    QFile store(QString::fromStdString(m_history->storePath()));
+    QVERIFY(store.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    const QByteArray empty = store.readAll();
+    QVERIFY(store.seek(0) && store.write(QByteArray(empty.size(), 'x')) == empty.size());
+    QVERIFY(m_history->open());
+    QCOMPARE(notice(), QString());
+    QVERIFY(store.seek(0) && store.write(empty) == empty.size());
+    QTRY_VERIFY2(notice().contains("appears here"), qPrintable(notice()));
 }
 
 void TestHistorySearch::speaksAnotherLanguage()
