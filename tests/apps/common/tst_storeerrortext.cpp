@@ -97,7 +97,7 @@ void StoreErrorTextTest::speaksTheLanguageOfTheProgram_data()
     addRow("a plan that cannot be", "en", plan,
            "has a plan \"Home\" from another program that this one cannot use; remove this plan");
     addRow("a plan that cannot be, German", "de", plan,
-           "hat von einem anderen Programm den Tarif „Home“, den dieses nicht verwenden kann.");
+           "den Tarif „Home“, den dieses nicht verwenden kann.");
     addRow("damage, Arabic", "ar", writing(SQLITE_CORRUPT), "تالف (\u200edisk I/O error\u200e)");
     addRow("another program's database, Arabic", "ar", history::anotherDatabase(path).error(),
            "ليس سجل اتصالات بل قاعدة بيانات لبرنامج آخر. تُركت كما هي؛ انقلها إلى مكان آخر");
