@@ -165,11 +165,11 @@
     </message>
     <message>
         <source>Connections are not recorded, for %1 cannot be written (%2); allow yourself to write there.</source>
-        <translation>لا تُسجَّل الاتصالات لتعذر الكتابة في ‎%1‎ (‎%2‎). امنح نفسك إذن الكتابة هناك.</translation>
+        <translation>لا تُسجَّل الاتصالات لتعذر الكتابة في ⁦%1⁩ (‎%2‎). امنح نفسك إذن الكتابة هناك.</translation>
     </message>
     <message>
         <source>Connections are not recorded, for %1 is in the way of the lock (%2); move it away.</source>
-        <translation>لا تُسجَّل الاتصالات لأن ‎%1‎ يشغل مكان القفل (‎%2‎). انقله إلى مكان آخر.</translation>
+        <translation>لا تُسجَّل الاتصالات لأن ⁦%1⁩ يشغل مكان القفل (‎%2‎). انقله إلى مكان آخر.</translation>
     </message>
     <message>
         <source>The network interfaces cannot be watched (%1), so connections are not recorded; that is tried again every other second.</source>
@@ -177,15 +177,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; may keep connections that are not in the history, but cannot be read (%2); it was left as it is, move it away.</source>
-        <translation>قد يحتوي «‎%1‎» على اتصالات ليست في السجل، لكن تتعذر قراءته (‎%2‎). تُرك كما هو؛ انقله إلى مكان آخر.</translation>
+        <translation>قد يحتوي «⁦%1⁩» على اتصالات ليست في السجل، لكن تتعذر قراءته (‎%2‎). تُرك كما هو؛ انقله إلى مكان آخر.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be written (%2), so connections that the history could not take are lost; allow yourself to write there.</source>
-        <translation>تتعذر الكتابة في «‎%1‎»‏ (‎%2‎)، ولذلك تضيع الاتصالات التي لم يتمكن السجل من حفظها. امنح نفسك إذن الكتابة هناك.</translation>
+        <translation>تتعذر الكتابة في «⁦%1⁩»‏ (‎%2‎)، ولذلك تضيع الاتصالات التي لم يتمكن السجل من حفظها. امنح نفسك إذن الكتابة هناك.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are in the way, so connections that the history could not take are lost; move them away.</source>
-        <translation>الملفان «‎%1‎» و«‎%2‎» في الطريق، ولذلك تضيع الاتصالات التي لم يتمكن السجل من حفظها. انقلهما إلى مكان آخر.</translation>
+        <translation>الملفان «⁦%1⁩» و«⁦%2⁩» في الطريق، ولذلك تضيع الاتصالات التي لم يتمكن السجل من حفظها. انقلهما إلى مكان آخر.</translation>
     </message>
     <message>
         <source>There can be no network interface &quot;%1&quot;: a name has at most 15 bytes, an alternative one 127, and neither &quot;/&quot; nor white space.</source>
@@ -307,7 +307,7 @@
     </message>
     <message>
         <source>a carriage return stands in a text that is not quoted</source>
-        <translation>يوجد رمز إرجاع السطر في نص ليس بين علامتي اقتباس</translation>
+        <translation>يوجد محرف إرجاع العربة في نص ليس بين علامتي اقتباس</translation>
     </message>
     <message>
         <source>something stands between the closing quotation mark and the next comma</source>
@@ -319,31 +319,31 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a whole number</source>
-        <translation>«‎%1‎» ليس عددًا صحيحًا</translation>
+        <translation>«⁨%1⁩» ليس عددًا صحيحًا</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is negative</source>
-        <translation>«‎%1‎» عدد سالب</translation>
+        <translation>«⁨%1⁩» عدد سالب</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is more than %2</source>
-        <translation>«‎%1‎» أكبر من ‎%2‎</translation>
+        <translation>«⁨%1⁩» أكبر من ‎%2‎</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a time such as 2024-05-31T18:30:00Z</source>
-        <translation>«‎%1‎» ليس وقتًا بالشكل ‎2024-05-31T18:30:00Z‎</translation>
+        <translation>«⁨%1⁩» ليس وقتًا بالشكل ‎2024-05-31T18:30:00Z‎</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not between %2 and %3</source>
-        <translation>«‎%1‎» ليس بين ‎%2‎ و‎%3‎</translation>
+        <translation>«⁨%1⁩» ليس بين ‎%2‎ و‎%3‎</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is before the start, %2</source>
-        <translation>«‎%1‎» قبل البداية، ‎%2‎</translation>
+        <translation>«⁨%1⁩» قبل البداية، ‎%2‎</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a day such as 2024-05-31</source>
-        <translation>«‎%1‎» ليس يومًا بالشكل ‎2024-05-31‎</translation>
+        <translation>«⁨%1⁩» ليس يومًا بالشكل ‎2024-05-31‎</translation>
     </message>
     <message>
         <source>the text has %1 bytes, at most %2 are allowed</source>
@@ -351,7 +351,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is neither &quot;%2&quot; nor &quot;%3&quot; nor empty</source>
-        <translation>«‎%1‎» ليس «‎%2‎» ولا «‎%3‎» ولا فارغًا</translation>
+        <translation>«⁨%1⁩» ليس «‎%2‎» ولا «‎%3‎» ولا فارغًا</translation>
     </message>
     <message>
         <source>%1 cannot be read to its end: %2. Nothing was imported.</source>
@@ -359,7 +359,7 @@
     </message>
     <message>
         <source>%1 cannot be read: %2. Check its name and its permissions.</source>
-        <translation>تتعذر قراءة %1‏: ‎%2‎. تحقق من الاسم ومن الأذونات.</translation>
+        <translation>تتعذر قراءة %1‏: ⁨%2⁩. تحقق من الاسم ومن الأذونات.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -367,11 +367,11 @@
     </message>
     <message>
         <source>&quot;%1&quot;</source>
-        <translation>«‎%1‎»</translation>
+        <translation>«⁦%1⁩»</translation>
     </message>
     <message>
         <source>member &quot;%1&quot;: %2</source>
-        <translation>الحقل «‎%1‎»‏: %2</translation>
+        <translation>الحقل «⁨%1⁩»‏: %2</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>the text holds a NUL character</source>
-        <translation>يحتوي النص على رمز ‎NUL‎</translation>
+        <translation>يحتوي النص على محرف ‎NUL‎</translation>
     </message>
     <message>
         <source>it is no whole hour of UTC</source>
@@ -403,11 +403,11 @@
     </message>
     <message>
         <source>the hours add up to more than 64 bits hold</source>
-        <translation>مجموع الساعات لا تتسع له ‎64‎ بتًا</translation>
+        <translation>مجموع بايتات الساعات لا تتسع له ‎64‎ بتًا</translation>
     </message>
     <message>
         <source>the hours do not add up to the bytes of the connection</source>
-        <translation>مجموع الساعات لا يساوي بايتات الاتصال</translation>
+        <translation>مجموع بايتات الساعات لا يساوي بايتات الاتصال</translation>
     </message>
     <message>
         <source>it is no array</source>
@@ -427,7 +427,7 @@
     </message>
     <message>
         <source>%1: %2. Nothing was imported.</source>
-        <translation>%1‏: ‎%2‎. لم يُستورد شيء.</translation>
+        <translation>%1‏: ⁨%2⁩. لم يُستورد شيء.</translation>
     </message>
     <message>
         <source>%1, connection %2: %3. Nothing was imported.</source>
@@ -467,7 +467,7 @@
     </message>
     <message>
         <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
-        <translation>%1 أكثر مما يمكن: لا تُقرأ معًا أكثر من ‎%2‎ من رسائل ‎pppd‎ وقفزات الساعة. لم يُستورد شيء؛ استورد ملفات أقل أو أصغر.</translation>
+        <translation>%1 أكثر مما يمكن: لا يُقرأ معًا أكثر من ‎%2‎ من رسائل ‎pppd‎ وقفزات الساعة. لم يُستورد شيء؛ استورد ملفات أقل أو أصغر.</translation>
     </message>
     <message>
         <source>The log of these files</source>
@@ -479,7 +479,7 @@
     </message>
     <message>
         <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
-        <translation>يتعذر حفظ ما يُقرأ في المجلد «‎%1‎» حتى يُضاف إلى السجل: ‎%2‎. لم يُستورد شيء؛ وفّر مساحة هناك أو حدد مجلدًا آخر في ‎TMPDIR‎.</translation>
+        <translation>يتعذر حفظ ما يُقرأ في المجلد «⁦%1⁩» حتى يُضاف إلى السجل: ⁨%2⁩. لم يُستورد شيء؛ وفّر مساحة هناك أو حدد مجلدًا آخر في ‎TMPDIR‎.</translation>
     </message>
     <message>
         <source>the connection still lasted</source>
@@ -490,75 +490,75 @@
     <name>history</name>
     <message>
         <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; already; nothing was changed, choose another name.</source>
-        <translation>يحتوي سجل الاتصالات «‎%1‎» على الباقة «%2» بالفعل. لم يتغير شيء؛ اختر اسمًا آخر.</translation>
+        <translation>يحتوي سجل الاتصالات «⁦%1⁩» على الباقة «%2» بالفعل. لم يتغير شيء؛ اختر اسمًا آخر.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; has the plan &quot;%2&quot; no longer; another program has removed it, make it again.</source>
-        <translation>لم يعد سجل الاتصالات «‎%1‎» يحتوي على الباقة «%2» لأن برنامجًا آخر أزالها. أنشئها من جديد.</translation>
+        <translation>لم يعد سجل الاتصالات «⁦%1⁩» يحتوي على الباقة «%2» لأن برنامجًا آخر أزالها. أنشئها من جديد.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; has version %2, but this program knows only versions up to %3; it was left as it is, update and restart this program to use it.</source>
-        <translation>إصدار سجل الاتصالات «‎%1‎» هو %2، لكن هذا البرنامج لا يعرف إلا الإصدارات حتى %3. تُرك كما هو؛ حدّث هذا البرنامج وأعد تشغيله لاستخدامه.</translation>
+        <translation>إصدار سجل الاتصالات «⁦%1⁩» هو %2، لكن هذا البرنامج لا يعرف إلا الإصدارات حتى %3. تُرك كما هو؛ حدّث هذا البرنامج وأعد تشغيله لاستخدامه.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; cannot be opened because its path is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
-        <translation>يتعذر فتح سجل الاتصالات «‎%1‎» لأن مساره ليس بترميز ‎UTF-8‎. أعد تسمية الملف أو المجلد الذي ليس اسمه كذلك، أو حدد ملفًا آخر.</translation>
+        <translation>يتعذر فتح سجل الاتصالات «⁦%1⁩» لأن مساره ليس بترميز ‎UTF-8‎. أعد تسمية الملف أو المجلد الذي ليس اسمه كذلك، أو حدد ملفًا آخر.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; was replaced while it was in use, and &quot;%2&quot; still holds records of the former file; close all programs that use it and put the former file back, or move the log away.</source>
-        <translation>استُبدل سجل الاتصالات «‎%1‎» أثناء استخدامه، وما زال «‎%2‎» يحتوي على تسجيلات من الملف السابق. أغلق كل البرامج التي تستخدمه وأعد الملف السابق إلى مكانه، أو انقل ملف التغييرات إلى مكان آخر.</translation>
+        <translation>استُبدل سجل الاتصالات «⁦%1⁩» أثناء استخدامه، وما زال «⁦%2⁩» يحتوي على تسجيلات من الملف السابق. أغلق كل البرامج التي تستخدمه وأعد الملف السابق إلى مكانه، أو انقل ملف التغييرات إلى مكان آخر.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; was changed from outside or replaced, so the changes in its log &quot;%2&quot; may be those of a former file; both were left as they are, move the log away to use the history as it is, or, if the file was never replaced, touch the log to keep its changes.</source>
-        <translation>عُدّل سجل الاتصالات «‎%1‎» من الخارج أو استُبدل، ولذلك قد تكون التغييرات في ملف تغييراته «‎%2‎» من ملف سابق. تُرك كلاهما كما هو. انقل ملف التغييرات إلى مكان آخر لاستخدام السجل بحالته هذه؛ وإذا لم يُستبدل الملف قط، فجدّد وقت ملف التغييرات بالأمر «touch» للاحتفاظ بتغييراته.</translation>
+        <translation>عُدّل سجل الاتصالات «⁦%1⁩» من الخارج أو استُبدل، ولذلك قد تكون التغييرات في ملف تغييراته «⁦%2⁩» من ملف سابق. تُرك كلاهما كما هو. انقل ملف التغييرات إلى مكان آخر لاستخدام السجل بحالته هذه؛ وإذا لم يُستبدل الملف قط، فجدّد وقت ملف التغييرات بالأمر «touch» للاحتفاظ بتغييراته.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; has been locked by another program for %2 seconds; close that program or try again later.</source>
-        <translation>ظل سجل الاتصالات «‎%1‎» مقفلًا من برنامج آخر لمدة %2 ثوانٍ. أغلق ذلك البرنامج أو أعد المحاولة لاحقًا.</translation>
+        <translation>ظل سجل الاتصالات «⁦%1⁩» مقفلًا من برنامج آخر لمدة %2 ثوانٍ. أغلق ذلك البرنامج أو أعد المحاولة لاحقًا.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; cannot be written because the disk is full; nothing was changed, free some space and try again.</source>
-        <translation>تتعذر الكتابة في سجل الاتصالات «‎%1‎» لأن القرص ممتلئ. لم يتغير شيء؛ وفّر مساحة وأعد المحاولة.</translation>
+        <translation>تتعذر الكتابة في سجل الاتصالات «⁦%1⁩» لأن القرص ممتلئ. لم يتغير شيء؛ وفّر مساحة وأعد المحاولة.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; cannot be written (%2); nothing was changed, check the disk and the permissions of the file and its folder.</source>
-        <translation>تتعذر الكتابة في سجل الاتصالات «‎%1‎»‏ (‎%2‎). لم يتغير شيء؛ تحقق من القرص ومن أذونات الملف ومجلده.</translation>
+        <translation>تتعذر الكتابة في سجل الاتصالات «⁦%1⁩»‏ (‎%2‎). لم يتغير شيء؛ تحقق من القرص ومن أذونات الملف ومجلده.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; cannot be opened (%2); check the disk and the permissions of the file and its folder, or name another file.</source>
-        <translation>يتعذر فتح سجل الاتصالات «‎%1‎»‏ (‎%2‎). تحقق من القرص ومن أذونات الملف ومجلده، أو حدد ملفًا آخر.</translation>
+        <translation>يتعذر فتح سجل الاتصالات «⁦%1⁩»‏ (‎%2‎). تحقق من القرص ومن أذونات الملف ومجلده، أو حدد ملفًا آخر.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a connection history but a database of another program; it was left as it is, move it away or name another file.</source>
-        <translation>«‎%1‎» ليس سجل اتصالات بل قاعدة بيانات لبرنامج آخر. تُركت كما هي؛ انقلها إلى مكان آخر أو حدد ملفًا آخر.</translation>
+        <translation>«⁦%1⁩» ليس سجل اتصالات بل قاعدة بيانات لبرنامج آخر. تُركت كما هي؛ انقلها إلى مكان آخر أو حدد ملفًا آخر.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; is damaged (%2); it was left as it is, move it away or put a copy in its place.</source>
-        <translation>سجل الاتصالات «‎%1‎» تالف (‎%2‎). تُرك كما هو؛ انقله إلى مكان آخر أو ضع نسخة مكانه.</translation>
+        <translation>سجل الاتصالات «⁦%1⁩» تالف (‎%2‎). تُرك كما هو؛ انقله إلى مكان آخر أو ضع نسخة مكانه.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; could not be worked on (there is not enough memory); nothing was changed, close other programs and try again.</source>
-        <translation>تعذر العمل على سجل الاتصالات «‎%1‎» (الذاكرة لا تكفي). لم يتغير شيء؛ أغلق برامج أخرى وأعد المحاولة.</translation>
+        <translation>تعذر العمل على سجل الاتصالات «⁦%1⁩» (الذاكرة لا تكفي). لم يتغير شيء؛ أغلق برامج أخرى وأعد المحاولة.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; could not be worked on (%2); nothing was changed, close other programs and try again.</source>
-        <translation>تعذر العمل على سجل الاتصالات «‎%1‎»‏ (‎%2‎). لم يتغير شيء؛ أغلق برامج أخرى وأعد المحاولة.</translation>
+        <translation>تعذر العمل على سجل الاتصالات «⁦%1⁩»‏ (‎%2‎). لم يتغير شيء؛ أغلق برامج أخرى وأعد المحاولة.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a connection history but some other file; it was left as it is, move it away or name another file.</source>
-        <translation>«‎%1‎» ليس سجل اتصالات بل ملف آخر. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
+        <translation>«⁦%1⁩» ليس سجل اتصالات بل ملف آخر. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a connection history but a folder; it was left as it is, move it away or name another file.</source>
-        <translation>«‎%1‎» ليس سجل اتصالات بل مجلد. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
+        <translation>«⁦%1⁩» ليس سجل اتصالات بل مجلد. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a connection history but a device; it was left as it is, move it away or name another file.</source>
-        <translation>«‎%1‎» ليس سجل اتصالات بل جهاز. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
+        <translation>«⁦%1⁩» ليس سجل اتصالات بل جهاز. تُرك كما هو؛ انقله إلى مكان آخر أو حدد ملفًا آخر.</translation>
     </message>
     <message>
         <source>The connection history &quot;%1&quot; is empty, but &quot;%2&quot; holds records of it; both were left as they are, put a copy in its place or move both away.</source>
-        <translation>سجل الاتصالات «‎%1‎» فارغ، لكن «‎%2‎» يحتوي على تسجيلات منه. تُرك كلاهما كما هو؛ ضع نسخة مكانه أو انقل كليهما إلى مكان آخر.</translation>
+        <translation>سجل الاتصالات «⁦%1⁩» فارغ، لكن «⁦%2⁩» يحتوي على تسجيلات منه. تُرك كلاهما كما هو؛ ضع نسخة مكانه أو انقل كليهما إلى مكان آخر.</translation>
     </message>
     <message>
         <source>it says that its version is %1</source>
@@ -577,7 +577,7 @@
     <name>refdialer::Application</name>
     <message>
         <source>The plug-in %1 could not start. &quot;refdialer --debug&quot; shows how far it came.</source>
-        <translation>تعذر بدء الملحق ‎%1‎. يبيّن «refdialer --debug» إلى أين وصل.</translation>
+        <translation>تعذر بدء الملحق ⁦%1⁩. يبيّن «refdialer --debug» إلى أين وصل.</translation>
     </message>
 </context>
 <context>
@@ -702,7 +702,7 @@
     </message>
     <message>
         <source>The path &quot;%1&quot; of the history is not UTF-8; rename the file or folder whose name is not, or name another file.</source>
-        <translation>المسار «‎%1‎» للسجل ليس بترميز UTF-8. غيّر اسم الملف أو المجلد الذي ليس اسمه كذلك، أو حدد ملفًا آخر.</translation>
+        <translation>المسار «⁦%1⁩» للسجل ليس بترميز UTF-8. غيّر اسم الملف أو المجلد الذي ليس اسمه كذلك، أو حدد ملفًا آخر.</translation>
     </message>
     <message>
         <source>--demo and --store exclude each other: the first shows a sample history, the second one of yours.</source>
@@ -763,14 +763,14 @@
     <name>refdialer::DemoStore</name>
     <message>
         <source>The sample history %1 cannot be copied to %2: %3. Install refdialer again, or make room there.</source>
-        <translation>يتعذر نسخ السجل النموذجي ‎%1‎ إلى ‎%2‎‏: ‎%3‎. أعد تثبيت refdialer أو وفّر مساحة هناك.</translation>
+        <translation>يتعذر نسخ السجل النموذجي ⁦%1⁩ إلى ⁦%2⁩‏: ‎%3‎. أعد تثبيت refdialer أو وفّر مساحة هناك.</translation>
     </message>
 </context>
 <context>
     <name>refdialer::ExportWork</name>
     <message>
         <source>This system has no number of its own in /etc/machine-id: %1.</source>
-        <translation>ليس لهذا النظام رقم خاص به في ‎/etc/machine-id‏: %1.</translation>
+        <translation>ليس لهذا النظام رقم خاص به في ‎/etc/machine-id‏: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Connections exported: %1</source>
@@ -778,11 +778,11 @@
     </message>
     <message>
         <source>They are in &quot;%1&quot;.</source>
-        <translation>وهي في «‎%1‎».</translation>
+        <translation>وهي في «⁦%1⁩».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be written: %2. Check the disk, the folder and its permissions.</source>
-        <translation>تتعذر الكتابة في «‎%1‎»‏: ‎%2‎. تحقق من القرص والمجلد وأذوناته.</translation>
+        <translation>تتعذر الكتابة في «⁦%1⁩»‏: ⁨%2⁩. تحقق من القرص والمجلد وأذوناته.</translation>
     </message>
 </context>
 <context>
@@ -867,11 +867,11 @@
     <name>refdialer::FileProblem</name>
     <message>
         <source>&quot;%1&quot; is a folder, a pipe or a device. Choose a file.</source>
-        <translation>«‎%1‎» مجلد أو أنبوب أو جهاز. اختر ملفًا.</translation>
+        <translation>«⁦%1⁩» مجلد أو أنبوب أو جهاز. اختر ملفًا.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; belongs to the history that this window shows. Choose another file.</source>
-        <translation>«‎%1‎» من ملفات السجل الذي تعرضه هذه النافذة. اختر ملفًا آخر.</translation>
+        <translation>«⁦%1⁩» من ملفات السجل الذي تعرضه هذه النافذة. اختر ملفًا آخر.</translation>
     </message>
 </context>
 <context>
@@ -882,7 +882,7 @@
     </message>
     <message>
         <source>The manual %1 cannot be opened here. &quot;man refdialer&quot; shows it in a terminal.</source>
-        <translation>يتعذر فتح الدليل ‎%1‎ هنا. يعرضه «man refdialer» في الطرفية.</translation>
+        <translation>يتعذر فتح الدليل ⁦%1⁩ هنا. يعرضه «man refdialer» في الطرفية.</translation>
     </message>
     <message>
         <source>The history of mobile-broadband connections.</source>
@@ -1037,11 +1037,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
-        <translation>‎%1‎ لا يبيّن السنوات؛ افتُرض أن سطره الأخير من سنة ‎%2‎. إن كان ذلك خطأ فاحذف ما أُضيف واستورد بالأمر «‎connrecord import --year‎».</translation>
+        <translation>%1 لا يبيّن السنوات؛ افتُرض أن سطره الأخير من سنة ‎%2‎. إن كان ذلك خطأ فاحذف ما أُضيف واستورد بالأمر «‎connrecord import --year‎».</translation>
     </message>
     <message>
         <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>
-        <translation>لم يُستخدم، ‎%1‎‏: ‎%2‎؛ أول مرة في السطر ‎%3‎ من «‎%4‎»‏: ‎%5‎</translation>
+        <translation>لم يُستخدم، ⁨%1⁩‏: ‎%2‎؛ أول مرة في السطر ‎%3‎ من «⁦%4⁩»‏: ⁨%5⁩</translation>
     </message>
 </context>
 <context>
@@ -1176,7 +1176,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::Picture</name>
     <message>
         <source>The picture %1 cannot be written: %2. Name a file in a folder that you may write to.</source>
-        <translation>تتعذر كتابة الصورة ‎%1‎‏: ‎%2‎. حدد ملفًا في مجلد يمكنك الكتابة فيه.</translation>
+        <translation>تتعذر كتابة الصورة ⁦%1⁩‏: ‎%2‎. حدد ملفًا في مجلد يمكنك الكتابة فيه.</translation>
     </message>
 </context>
 <context>
@@ -1549,23 +1549,23 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::PluginHandle</name>
     <message>
         <source>The plug-in %1 is not there.</source>
-        <translation>الملحق ‎%1‎ غير موجود.</translation>
+        <translation>الملحق ⁦%1⁩ غير موجود.</translation>
     </message>
     <message>
         <source>The plug-in %1 cannot be loaded: %2.</source>
-        <translation>يتعذر تحميل الملحق ‎%1‎‏: ‎%2‎.</translation>
+        <translation>يتعذر تحميل الملحق ⁦%1⁩‏: ‎%2‎.</translation>
     </message>
     <message>
         <source>The plug-in %1 does not offer the interfaces %2 and %3.</source>
-        <translation>لا يقدّم الملحق ‎%1‎ الواجهتين %2 و%3.</translation>
+        <translation>لا يقدّم الملحق ⁦%1⁩ الواجهتين %2 و%3.</translation>
     </message>
     <message>
         <source>%1 is not a plug-in for Qt %2: %3.</source>
-        <translation>‎%1‎ ليس ملحقًا لإصدار Qt %2: ‎%3‎.</translation>
+        <translation>⁦%1⁩ ليس ملحقًا لإصدار Qt %2: ‎%3‎.</translation>
     </message>
     <message>
         <source>The plug-in %1 is for something else: its interface is %2 and not %3.</source>
-        <translation>الملحق ‎%1‎ لغرض آخر: واجهته %2 وليست %3.</translation>
+        <translation>الملحق ⁦%1⁩ لغرض آخر: واجهته %2 وليست %3.</translation>
     </message>
     <message>
         <source>Install refdialer again, or name the file of a fitting plug-in with --plugin.</source>
@@ -1591,7 +1591,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::ServicePlugin</name>
     <message>
         <source>The dial-up service %1 cannot be loaded: %2. Install refdialer again, or leave the service out with --no-dialup-service.</source>
-        <translation>يتعذر تحميل خدمة الطلب الهاتفي ‎%1‎‏: ‎%2‎. أعد تثبيت refdialer، أو استغن عن الخدمة باستخدام ‎--no-dialup-service‎.</translation>
+        <translation>يتعذر تحميل خدمة الطلب الهاتفي ⁦%1⁩‏: ‎%2‎. أعد تثبيت refdialer، أو استغن عن الخدمة باستخدام ‎--no-dialup-service‎.</translation>
     </message>
 </context>
 <context>
@@ -1622,7 +1622,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>This lasts until the window closes only: the settings cannot be written to %1. Make room there, or allow yourself to write to it.</source>
-        <translation>يسري هذا حتى إغلاق النافذة فقط: تتعذر كتابة الإعدادات في ‎%1‎. وفّر مساحة هناك أو امنح نفسك إذن الكتابة.</translation>
+        <translation>يسري هذا حتى إغلاق النافذة فقط: تتعذر كتابة الإعدادات في ⁦%1⁩. وفّر مساحة هناك أو امنح نفسك إذن الكتابة.</translation>
     </message>
     <message>
         <source>These texts have not been reviewed by speakers of the language yet.</source>
@@ -1723,11 +1723,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>History in %1</source>
-        <translation>السجل في ‎%1</translation>
+        <translation>السجل في ⁦%1⁩</translation>
     </message>
     <message>
         <source>No connections recorded yet in %1</source>
-        <translation>لم تُسجَّل اتصالات بعد في ‎%1</translation>
+        <translation>لم تُسجَّل اتصالات بعد في ⁦%1⁩</translation>
     </message>
 </context>
 <context>
@@ -1780,11 +1780,11 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     <name>refdialer::TransferProgress</name>
     <message>
         <source>Reading &quot;%1&quot;: %2 of %3</source>
-        <translation>قراءة «‎%1‎»‏: ‎%2‎ من ‎%3‎</translation>
+        <translation>قراءة «⁦%1⁩»‏: ‎%2‎ من ‎%3‎</translation>
     </message>
     <message>
         <source>Reading &quot;%1&quot;: %2</source>
-        <translation>قراءة «‎%1‎»‏: ‎%2‎</translation>
+        <translation>قراءة «⁦%1⁩»‏: ‎%2‎</translation>
     </message>
     <message>
         <source>Adding connections to the history: %1 of %2</source>

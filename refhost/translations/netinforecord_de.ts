@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>the line has %1 columns and should have %2</source>
-        <translation>Spalten der Zeile: %1, nötig: %2</translation>
+        <translation>die Zeile hat %1 statt %2 Spalten</translation>
     </message>
     <message>
         <source>the text holds a NUL byte</source>
@@ -403,11 +403,11 @@
     </message>
     <message>
         <source>the hours add up to more than 64 bits hold</source>
-        <translation>die Summe der Stunden ist größer, als 64 Bit fassen</translation>
+        <translation>die Summe über die Stunden ist größer, als 64 Bit fassen</translation>
     </message>
     <message>
         <source>the hours do not add up to the bytes of the connection</source>
-        <translation>die Summe der Stunden ergibt nicht die Bytes der Verbindung</translation>
+        <translation>die Summe über die Stunden ergibt nicht die Bytes der Verbindung</translation>
     </message>
     <message>
         <source>it is no array</source>
@@ -463,11 +463,11 @@
     </message>
     <message>
         <source>a number or time is out of range</source>
-        <translation>eine Zahl oder Zeit ist außerhalb des Bereichs</translation>
+        <translation>eine Zahl oder Zeit liegt außerhalb des zulässigen Bereichs</translation>
     </message>
     <message>
         <source>%1 is too much: together, more than %2 messages of pppd and jumps of a clock cannot be read at once. Nothing was imported; import fewer or smaller files.</source>
-        <translation>%1 ist zu viel: Zusammen lassen sich höchstens %2 Meldungen von pppd und Sprünge einer Uhr auf einmal lesen. Nichts wurde importiert; importieren Sie weniger oder kleinere Dateien.</translation>
+        <translation>%1 ist zu viel: zusammen lassen sich höchstens %2 Meldungen von pppd und Sprünge einer Uhr auf einmal lesen. Nichts wurde importiert; importieren Sie weniger oder kleinere Dateien.</translation>
     </message>
     <message>
         <source>The log of these files</source>
@@ -479,7 +479,7 @@
     </message>
     <message>
         <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
-        <translation>Im Ordner „%1“ lässt sich nicht ablegen, was bis zum Speichern gelesen wird: %2. Nichts wurde importiert; schaffen Sie dort Platz, oder nennen Sie in TMPDIR einen anderen Ordner.</translation>
+        <translation>Was gelesen wird, lässt sich im Ordner „%1“ nicht bis zum Speichern aufbewahren: %2. Nichts wurde importiert; schaffen Sie dort Platz, oder nennen Sie in TMPDIR einen anderen Ordner.</translation>
     </message>
     <message>
         <source>the connection still lasted</source>

@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>the line has %1 columns and should have %2</source>
-        <translation>columnas de la línea: %1; debe haber: %2</translation>
+        <translation>la línea tiene %1 en lugar de %2 columnas</translation>
     </message>
     <message>
         <source>the text holds a NUL byte</source>
@@ -403,11 +403,11 @@
     </message>
     <message>
         <source>the hours add up to more than 64 bits hold</source>
-        <translation>la suma de las horas no cabe en 64 bits</translation>
+        <translation>la suma de los bytes por hora no cabe en 64 bits</translation>
     </message>
     <message>
         <source>the hours do not add up to the bytes of the connection</source>
-        <translation>la suma de las horas no da los bytes de la conexión</translation>
+        <translation>la suma de los bytes por hora no da los bytes de la conexión</translation>
     </message>
     <message>
         <source>it is no array</source>

@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>the line has %1 columns and should have %2</source>
-        <translation>colonnes de la ligne&#xa0;: %1, attendues&#xa0;: %2</translation>
+        <translation>%1 au lieu de %2 colonnes dans la ligne</translation>
     </message>
     <message>
         <source>the text holds a NUL byte</source>
@@ -403,11 +403,11 @@
     </message>
     <message>
         <source>the hours add up to more than 64 bits hold</source>
-        <translation>la somme des heures dépasse 64&#xa0;bits</translation>
+        <translation>la somme des octets par heure dépasse 64&#xa0;bits</translation>
     </message>
     <message>
         <source>the hours do not add up to the bytes of the connection</source>
-        <translation>la somme des heures ne donne pas les octets de la connexion</translation>
+        <translation>la somme des octets par heure ne donne pas les octets de la connexion</translation>
     </message>
     <message>
         <source>it is no array</source>

@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>the line has %1 columns and should have %2</source>
-        <translation>liczba kolumn w wierszu: %1, powinno być: %2</translation>
+        <translation>wiersz ma %1 zamiast %2 kolumn</translation>
     </message>
     <message>
         <source>the text holds a NUL byte</source>
@@ -303,15 +303,15 @@
     </message>
     <message>
         <source>a quotation mark stands in a text that is not quoted as a whole</source>
-        <translation>cudzysłów stoi w tekście, który nie jest w całości ujęty w cudzysłów</translation>
+        <translation>znak cudzysłowu znajduje się w tekście, który nie jest w całości ujęty w cudzysłów</translation>
     </message>
     <message>
         <source>a carriage return stands in a text that is not quoted</source>
-        <translation>znak powrotu karetki stoi w tekście, który nie jest ujęty w cudzysłów</translation>
+        <translation>znak powrotu karetki znajduje się w tekście, który nie jest ujęty w cudzysłów</translation>
     </message>
     <message>
         <source>something stands between the closing quotation mark and the next comma</source>
-        <translation>między cudzysłowem zamykającym a następnym przecinkiem coś stoi</translation>
+        <translation>między zamykającym znakiem cudzysłowu a następnym przecinkiem coś się znajduje</translation>
     </message>
     <message>
         <source>the quotation mark is never closed</source>
@@ -403,11 +403,11 @@
     </message>
     <message>
         <source>the hours add up to more than 64 bits hold</source>
-        <translation>suma godzin nie mieści się w 64 bitach</translation>
+        <translation>suma bajtów z poszczególnych godzin nie mieści się w 64 bitach</translation>
     </message>
     <message>
         <source>the hours do not add up to the bytes of the connection</source>
-        <translation>suma godzin nie zgadza się z bajtami połączenia</translation>
+        <translation>suma bajtów z poszczególnych godzin nie zgadza się z bajtami połączenia</translation>
     </message>
     <message>
         <source>it is no array</source>

@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>the line has %1 columns and should have %2</source>
-        <translation>colunas da linha: %1; deve haver: %2</translation>
+        <translation>a linha tem %1 em vez de %2 colunas</translation>
     </message>
     <message>
         <source>the text holds a NUL byte</source>
@@ -403,11 +403,11 @@
     </message>
     <message>
         <source>the hours add up to more than 64 bits hold</source>
-        <translation>a soma das horas não cabe em 64 bits</translation>
+        <translation>a soma dos bytes por hora não cabe em 64 bits</translation>
     </message>
     <message>
         <source>the hours do not add up to the bytes of the connection</source>
-        <translation>a soma das horas não dá os bytes da conexão</translation>
+        <translation>a soma dos bytes por hora não dá os bytes da conexão</translation>
     </message>
     <message>
         <source>it is no array</source>

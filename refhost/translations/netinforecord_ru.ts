@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>the line has %1 columns and should have %2</source>
-        <translation>столбцов в строке: %1, должно быть: %2</translation>
+        <translation>в строке %1 вместо %2 столбцов</translation>
     </message>
     <message>
         <source>the text holds a NUL byte</source>
@@ -1037,7 +1037,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
-        <translation>%1 не указывает годы; принято, что последняя строка относится к %2. Если это не так, удалите добавленное и импортируйте командой «connrecord import --year».</translation>
+        <translation>%1 не указывает годы; принято, что последняя строка относится к %2 году. Если это не так, удалите добавленное и импортируйте командой «connrecord import --year».</translation>
     </message>
     <message>
         <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>

@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>the line has %1 columns and should have %2</source>
-        <translation>satırdaki sütun sayısı: %1, olması gereken: %2</translation>
+        <translation>satırda %2 yerine %1 sütun var</translation>
     </message>
     <message>
         <source>the text holds a NUL byte</source>
@@ -403,11 +403,11 @@
     </message>
     <message>
         <source>the hours add up to more than 64 bits hold</source>
-        <translation>saatlerin toplamı 64 bite sığmıyor</translation>
+        <translation>saatlik baytların toplamı 64 bite sığmıyor</translation>
     </message>
     <message>
         <source>the hours do not add up to the bytes of the connection</source>
-        <translation>saatlerin toplamı bağlantının baytlarına eşit değil</translation>
+        <translation>saatlik baytların toplamı bağlantının baytlarına eşit değil</translation>
     </message>
     <message>
         <source>it is no array</source>

@@ -287,7 +287,7 @@
     </message>
     <message>
         <source>%1, line %2, column %3: %4. Nothing was imported.</source>
-        <translation>%1，第 %2 行，%3 列：%4。未导入任何内容。</translation>
+        <translation>%1，第 %2 行，“%3”列：%4。未导入任何内容。</translation>
     </message>
     <message>
         <source>the line has more than %1 bytes</source>
@@ -403,11 +403,11 @@
     </message>
     <message>
         <source>the hours add up to more than 64 bits hold</source>
-        <translation>各小时之和超出 64 位</translation>
+        <translation>各小时字节数之和超出 64 位</translation>
     </message>
     <message>
         <source>the hours do not add up to the bytes of the connection</source>
-        <translation>各小时之和与该连接的字节数不符</translation>
+        <translation>各小时字节数之和与该连接的字节数不符</translation>
     </message>
     <message>
         <source>it is no array</source>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>%1 holds no line in which pppd tells of a connection; give a system log of a machine that dials with it.</source>
-        <translation>%1中没有 pppd 说明连接的行。请指定用它拨号的计算机的系统日志。</translation>
+        <translation>%1中没有 pppd 报告连接的行。请指定用它拨号的计算机的系统日志。</translation>
     </message>
     <message>
         <source>What is read cannot be kept in the folder &quot;%1&quot; until it is stored: %2. Nothing was imported; make room there, or name another folder in TMPDIR.</source>
@@ -1037,7 +1037,7 @@ It was taken to be: %2. If it is something else, choose its kind together with t
     </message>
     <message>
         <source>%1 does not show its years; its last line was taken to be of %2. If that is wrong, delete what was added and import with &quot;connrecord import --year&quot;.</source>
-        <translation>%1 未显示年份；已假定其最后一行属于 %2 年。如果不对，请删除已添加的内容，并用“connrecord import --year”导入。</translation>
+        <translation>%1未显示年份；已假定其最后一行属于 %2 年。如果不对，请删除已添加的内容，并用“connrecord import --year”导入。</translation>
     </message>
     <message>
         <source>Not used, %1: %2; first in line %3 of &quot;%4&quot;: %5</source>

@@ -84,13 +84,13 @@ void StoreErrorTextTest::speaksTheLanguageOfTheProgram_data()
     addRow("locked, German", "de", writing(SQLITE_BUSY),
            "Der Verbindungsverlauf „/100%2/a.db“ war 5 Sekunden lang von einem anderen");
     addRow("locked, Arabic", "ar", writing(SQLITE_BUSY),
-           "ظل سجل الاتصالات «\u200e/100%2/a.db\u200e» مقفلًا من برنامج آخر لمدة 5 ثوانٍ. أغلق ذلك "
+           "ظل سجل الاتصالات «\u2066/100%2/a.db\u2069» مقفلًا من برنامج آخر لمدة 5 ثوانٍ. أغلق ذلك "
            "البرنامج أو أعد المحاولة لاحقًا.");
     addRow("full disk, German", "de", writing(SQLITE_FULL), "weil der Datenträger voll");
     addRow("failing disk, German", "de", writing(SQLITE_IOERR), "(disk I/O error). Nichts wurde");
     addRow("no memory, German", "de", writing(SQLITE_NOMEM), "(der Speicher reicht nicht)");
     addRow("failing disk, Arabic", "ar", writing(SQLITE_IOERR),
-           "«\u200e/100%2/a.db\u200e»\u200f (\u200edisk I/O error\u200e)");
+           "«\u2066/100%2/a.db\u2069»\u200f (\u200edisk I/O error\u200e)");
     addRow("a version that cannot be, German", "de", versionThatCannotBe(),
            "(als Version ist 0 angegeben). Er blieb");
     const StoreError plan = planThatCannotBe();

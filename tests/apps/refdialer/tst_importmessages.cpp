@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "apps/refdialer/ExportWork.h"
 #include "apps/refdialer/ImportWork.h"
-#include "apps/refdialer/TransferDialog.h"
+#include "apps/refdialer/Transfer.h"
 #include "formats/CsvFormat.h"
 #include "refhost/libcore/Host.h"
 
 #include <QDir>
 #include <QFile>
-#include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextBlock>
-#include <QTextLayout>
 
 #include <memory>
 #include <optional>
@@ -37,8 +34,6 @@ private slots:
     void writeOutLineFeedsInNamesOfExports();
     void writeOutWhatTheParserQuotes_data();
     void writeOutWhatTheParserQuotes();
-    void runAsTheWindowDoes_data();
-    void runAsTheWindowDoes();
 
 private:
     /// Makes a file of that name; what holds nothing is not there.
@@ -55,6 +50,7 @@ namespace
 
 const QByteArray csvFile = QByteArray::fromStdString(formats::csvHeader()) +
                            "\ninternet,2024-05-31T10:00:00Z,soon,600,10,20,exit,ppp0,,,,home,\n";
+const QByteArray shortFile = QByteArray::fromStdString(formats::csvHeader()) + "\ninternet,soon\n";
 const QByteArray runningFile = QByteArray::fromStdString(formats::csvHeader()) +
                                "\ninternet,2024-05-31T10:00:00Z,,600,10,20,exit,ppp0,,,,home,\n";
 const QByteArray jsonFile = "[{\"profile\": 7}]";
@@ -130,7 +126,7 @@ void ImportMessagesTest::speakTheLanguageOfTheProgram_data()
         "a file that is not there, German", "de", "there.csv", {},
         "„FILE“ lässt sich nicht lesen: No such file or directory. Prüfen Sie Namen und Rechte.");
     addRow("a file that is not there, Arabic", "ar", "there.csv", {},
-           "تتعذر قراءة «\u200eFILE\u200e»\u200f: \u200eNo such file or directory\u200e. تحقق من "
+           "تتعذر قراءة «\u2066FILE\u2069»\u200f: \u2068No such file or directory\u2069. تحقق من "
            "الاسم ومن الأذونات.");
     addRow("a broken archive, German", "de", "a.gz", "\x1f\x8b",
            "„FILE“ lässt sich nicht bis zum Ende lesen: das Ende fehlt. Nichts wurde importiert.");
@@ -144,14 +140,19 @@ void ImportMessagesTest::speakTheLanguageOfTheProgram_data()
            "„FILE“, Zeile 2, Spalte end: „soon“ ist kein Zeitpunkt wie 2024-05-31T18:30:00Z. "
            "Nichts wurde importiert.");
     addRow("a column, Arabic", "ar", "a.csv", csvFile,
-           "«\u200eFILE\u200e»، السطر \u200e2\u200e، العمود \u200eend\u200e\u200f: "
-           "«\u200esoon\u200e» ليس وقتًا بالشكل \u200e2024-05-31T18:30:00Z\u200e. لم يُستورد شيء.");
+           "«\u2066FILE\u2069»، السطر \u200e2\u200e، العمود \u200eend\u200e\u200f: "
+           "«\u2068soon\u2069» ليس وقتًا بالشكل \u200e2024-05-31T18:30:00Z\u200e. لم يُستورد شيء.");
+    addRow("a column, Chinese", "zh_CN", "a.csv", csvFile,
+           "“FILE”，第 2 行，“end”列：“soon”不是 2024-05-31T18:30:00Z 这样的时间。");
+    addRow("too few columns, German", "de", "a.csv", shortFile,
+           "„FILE“, Zeile 2, Spalte end: die Zeile hat 2 statt 13 Spalten. Nichts wurde "
+           "importiert.");
     addRow("a member", "en", "a.json", jsonFile,
            "\"FILE\", connection 1: member \"profile\": it is no text. Nothing was imported.");
     addRow("a member, German", "de", "a.json", jsonFile,
            "„FILE“, Verbindung 1: Feld „profile“: kein Text. Nichts wurde importiert.");
     addRow("a member, Arabic", "ar", "a.json", jsonFile,
-           "«\u200eFILE\u200e»، الاتصال \u200e1\u200e\u200f: الحقل «\u200eprofile\u200e»\u200f: "
+           "«\u2066FILE\u2069»، الاتصال \u200e1\u200e\u200f: الحقل «\u2068profile\u2069»\u200f: "
            "ليس نصًا. لم يُستورد شيء.");
     addRow("what is no JSON, German", "de", "a.jsonl", jsonLinesFile,
            "„FILE“, Zeile 1: parse error at line 1, column 24: syntax error while parsing object "
@@ -165,10 +166,14 @@ void ImportMessagesTest::speakTheLanguageOfTheProgram_data()
            "Nicht benutzt, eine Verbindung endet nicht im Protokoll: 1; zuerst in Zeile 1 von "
            "„FILE“: ");
     addRow("a line of a log, Arabic", "ar", "syslog", logWithoutEnd,
-           "لم يُستخدم، \u200eاتصال لا ينتهي في سجل النظام\u200e\u200f: \u200e1\u200e؛ أول مرة في "
-           "السطر \u200e1\u200e من «\u200eFILE\u200e»\u200f: ");
+           "لم يُستخدم، \u2068اتصال لا ينتهي في سجل النظام\u2069\u200f: \u200e1\u200e؛ أول مرة في "
+           "السطر \u200e1\u200e من «\u2066FILE\u2069»\u200f: \u2068");
     addRow("a connection that lasts, German", "de", "a.csv", runningFile,
            "Nicht benutzt, die Verbindung bestand noch: 1; zuerst in Zeile 2 von „FILE“: ");
+    addRow("what is no JSON, Arabic", "ar", "a.json", "[",
+           "«\u2066FILE\u2069»\u200f: \u2068parse error at line 1, column 2");
+    addRow("a log without years, Arabic", "ar", "syslog", logWithoutYears,
+           "«\u2066FILE\u2069» لا يبيّن السنوات؛ ");
     addRow("a log without years, German", "de", "syslog", logWithoutYears,
            "„FILE“ zeigt keine Jahre; als Jahr der letzten Zeile wurde ");
 }
@@ -253,27 +258,6 @@ void ImportMessagesTest::writeOutWhatTheParserQuotes()
     QVERIFY2(details.contains("parse error"), qPrintable(details));
     QVERIFY2(details.contains("a\\u202e"), qPrintable(details));
     QVERIFY2(!details.contains(QChar(0x202e)), qPrintable(details));
-}
-
-void ImportMessagesTest::runAsTheWindowDoes_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("from left to right") << Qt::LeftToRight;
-    QTest::newRow("from right to left") << Qt::RightToLeft;
-}
-
-/// Whatever a message begins with: here, in Arabic, with a mark before the name of a file.
-void ImportMessagesTest::runAsTheWindowDoes()
-{
-    QFETCH(Qt::LayoutDirection, direction);
-    refdialer::TransferDialog dialog(refdialer::TransferKind::Import);
-    dialog.setLayoutDirection(direction);
-    dialog.show();
-    dialog.showResult({TransferResult::Kind::Failed, {}, QStringLiteral("«\u200e/a\u200e» تالف")});
-    const auto *const details = dialog.findChild<QPlainTextEdit *>();
-    QTRY_COMPARE(details->document()->firstBlock().layout()->lineCount(), 1);
-    const QTextLine line = details->document()->firstBlock().layout()->lineAt(0);
-    QCOMPARE(line.cursorToX(0) < line.cursorToX(line.textLength()), direction == Qt::LeftToRight);
 }
 
 QTEST_MAIN(ImportMessagesTest)
