@@ -121,7 +121,7 @@ void JsonImport::read(const ImportSource &source, const ReadProgress &progress)
     std::optional<InputError> refusal;
     try {
         parse(bytes);
-    } catch (const Json::parse_error &error) {
+    } catch (const Json::exception &error) {
         refusal.emplace(Sentence{translatable("formats", "%1: %2. Nothing was imported."),
                                  {source.name, reasonOf(error)}});
     } catch (const FieldError &error) {

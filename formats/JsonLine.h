@@ -15,8 +15,9 @@ inline std::string lineOf(const Json &json)
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-/// What the parser says behind its own number of the error; it quotes the document.
-inline std::string reasonOf(const Json::parse_error &error)
+/// What the parser says behind its own number of the error; it quotes the document. A number
+/// that no double holds is another error to it than what is no JSON.
+inline std::string reasonOf(const Json::exception &error)
 {
     const std::string text = error.what();
     const std::size_t end = text.find("] ");

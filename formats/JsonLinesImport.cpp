@@ -39,7 +39,7 @@ void JsonLinesImport::read(const ImportSource &source, const ReadProgress &progr
     try {
         while (lines.next())
             take(lines.line(), lines.lineNumber());
-    } catch (const Json::parse_error &error) {
+    } catch (const Json::exception &error) {
         fail(reasonOf(error));
     } catch (const FieldError &error) {
         fail(error.reason);

@@ -161,6 +161,7 @@ void JsonImportTest::tellsWhereAndWhy_data()
     row("a fraction", second(":3,", ":3.5,"), "\"3.5\" is not a whole number");
     row("less than nothing", second(":3,", ":-3,"), "\"-3\" is negative");
     row("too much", second(":3,", ":9223372036854775808,"), "is more than 9223372036854775807");
+    row("more than a number can be", second(":3,", ":3e888,"), "number overflow parsing '3e888'");
     row("a NUL", second("\"a\"", "\"\\u0000\""), "the text holds a NUL character");
     row("no time", second("2024-01-31T23:00:00Z", "yesterday"), "member \"end\": ");
     row("an end before the start", second("2024-01-31T23:00:00Z", "2024-01-31T21:00:00Z"),

@@ -21,6 +21,7 @@ private slots:
     void exportsWhatIsAsked_data();
     void exportsWhatIsAsked();
     void tellsTheWrongMemberAndStoresNothing();
+    void refusesALineWithTooLargeANumber();
     void deliversAllThatHappens_data();
     void deliversAllThatHappens();
 };
@@ -104,6 +105,17 @@ void ConnrecordJsonTest::tellsTheWrongMemberAndStoresNothing()
     QVERIFY2(result.error.startsWith("connrecord: standard input, connection 3: member "),
              result.error);
     QVERIFY(!QFile::exists(other));
+}
+
+void ConnrecordJsonTest::refusesALineWithTooLargeANumber()
+{
+    const SampleHistory history;
+    const auto result =
+        connrecord({"--store", history.folder() + "/other.db", "import", "--format", "jsonl", "-"},
+                   "\n{\"uploaded_bytes\": 3e888}\n");
+    QCOMPARE(result.exitCode, 4);
+    QVERIFY2(result.error.contains("standard input, line 2: number overflow parsing '3e888'"),
+             result.error);
 }
 
 void ConnrecordJsonTest::deliversAllThatHappens_data()
