@@ -21,7 +21,7 @@ namespace
 // Byte counts may be larger than what a bar counts in.
 constexpr int barSteps = 1000;
 constexpr int charactersInMessage = 60;
-constexpr int detailLines = 6;
+constexpr int detailLines = 8;
 
 int stepOf(const TransferState &state)
 {
@@ -50,7 +50,9 @@ TransferDialog::TransferDialog(TransferKind kind, QWidget *parent)
     m_details->setReadOnly(true);
     m_details->setTabChangesFocus(true);
     m_details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_details->setMinimumHeight(m_details->fontMetrics().lineSpacing() * detailLines);
+    const int margins =
+        2 * (m_details->frameWidth() + int(m_details->document()->documentMargin()));
+    m_details->setMinimumHeight(m_details->fontMetrics().lineSpacing() * detailLines + margins);
     m_details->hide();
 
     auto *const layout = new QVBoxLayout(this);

@@ -2,11 +2,14 @@
 #include "apps/refdialer/ExportWork.h"
 #include "apps/refdialer/ImportWork.h"
 #include "apps/refdialer/Transfer.h"
+#include "apps/refdialer/TransferDialog.h"
 #include "formats/CsvFormat.h"
 #include "refhost/libcore/Host.h"
 
 #include <QDir>
 #include <QFile>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -34,6 +37,8 @@ private slots:
     void writeOutLineFeedsInNamesOfExports();
     void writeOutWhatTheParserQuotes_data();
     void writeOutWhatTheParserQuotes();
+    void areReadWithoutScrolling_data();
+    void areReadWithoutScrolling();
 
 private:
     /// Makes a file of that name; what holds nothing is not there.
@@ -258,6 +263,25 @@ void ImportMessagesTest::writeOutWhatTheParserQuotes()
     QVERIFY2(details.contains("parse error"), qPrintable(details));
     QVERIFY2(details.contains("a\\u202e"), qPrintable(details));
     QVERIFY2(!details.contains(QChar(0x202e)), qPrintable(details));
+}
+
+void ImportMessagesTest::areReadWithoutScrolling_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"en", "de", "fr", "es", "pt_BR", "pl", "ru", "tr", "ar", "zh_CN"})
+        QTest::newRow(language) << QString(language);
+}
+
+void ImportMessagesTest::areReadWithoutScrolling()
+{
+    QFETCH(QString, language);
+    QVERIFY(refhost::setLanguage(language));
+    refdialer::TransferDialog dialog(refdialer::TransferKind::Import);
+    dialog.show();
+    dialog.showResult(resultOf({file("short.csv", shortFile)}));
+    const auto &details = *dialog.findChild<QPlainTextEdit *>();
+    QTRY_VERIFY(details.isVisible() && details.viewport()->height() > 0);
+    QTRY_COMPARE(details.verticalScrollBar()->maximum(), 0);
 }
 
 QTEST_MAIN(ImportMessagesTest)
