@@ -141,19 +141,15 @@ std::vector<int> percentagesIn(RowQuery &query)
     return percentages;
 }
 
-/// Of a plan that no program of this version would have stored. People in other languages
-/// are told which plan it is and what to do, but not what is wrong with it.
-StoreFailure strangePlan(const std::string &path, const std::string &name,
-                         const StoreFailure &failure)
+/// Of a plan that no program of this version would have stored. What is wrong with it is told in
+/// English alone.
+StoreFailure strangePlan(const std::string &path, const StoreFailure &failure)
 {
-    return StoreFailure(
-        {Kind::Damaged,
-         failure.error().message + " " + historyAt(path) +
-             " has it so from another program; remove this plan and make it again.",
-         Sentence{translatable("history", "The connection history \"%1\" has a plan \"%2\" from "
-                                          "another program that this one cannot use; remove "
-                                          "this plan and make it again."),
-                  {path, beginningOf(name)}}});
+    return {Kind::Damaged,
+            Sentence{translatable("history", "%1 The connection history \"%2\" has it so from "
+                                             "another program; remove this plan and make it "
+                                             "again."),
+                     {failure.error().message, path}}};
 }
 
 } // namespace
@@ -172,7 +168,7 @@ std::vector<DataPlan> PlanTable::all()
         try {
             plans.push_back(planIn(query.row()));
         } catch (const StoreFailure &failure) {
-            throw strangePlan(m_path, std::string(query.row().text(1)), failure);
+            throw strangePlan(m_path, failure);
         }
     }
     return plans;

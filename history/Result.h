@@ -26,7 +26,7 @@ struct StoreError {
 
     Kind kind;
     std::string message;
-    Sentence sentence; ///< the message, or a shorter one; without parts where few meet it
+    Sentence sentence; ///< what the message is made of; without parts where few meet it
 };
 
 /// A value or the reason why there is none. value() may be asked for only when

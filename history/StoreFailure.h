@@ -24,11 +24,6 @@ public:
     {
     }
 
-    explicit StoreFailure(StoreError error)
-        : m_error(std::move(error))
-    {
-    }
-
     const StoreError &error() const { return m_error; }
     const char *what() const noexcept override { return m_error.message.c_str(); }
 

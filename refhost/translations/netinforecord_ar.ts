@@ -569,8 +569,8 @@
         <translation>‏«‎%2‎»‏ (‎%1‎) ليس من صنع هذا البرنامج</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>يحتوي سجل الاتصالات «⁦%1⁩» على الباقة «⁨%2⁩» التي حفظها برنامج آخر ولا يستطيع هذا البرنامج استخدامها. أزلها وأنشئها من جديد.</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>لا يمكن استخدام باقة في سجل الاتصالات «⁦%2⁩» حفظها برنامج آخر (⁨%1⁩). أزلها وأنشئها من جديد.</translation>
     </message>
 </context>
 <context>

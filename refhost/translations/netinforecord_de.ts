@@ -569,8 +569,8 @@
         <translation>„%2“ (%1) stammt nicht von diesem Programm</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>Der Verbindungsverlauf „%1“ hat von einem anderen Programm den Tarif „%2“, den dieses nicht verwenden kann. Entfernen Sie ihn, und legen Sie ihn neu an.</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>Ein Tarif im Verbindungsverlauf „%2“ stammt von einem anderen Programm und lässt sich nicht verwenden (%1). Entfernen Sie ihn, und legen Sie ihn neu an.</translation>
     </message>
 </context>
 <context>

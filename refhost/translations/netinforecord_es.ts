@@ -569,8 +569,8 @@
         <translation>«%2» (%1) no es de este programa</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>El historial de conexiones «%1» tiene el plan «%2», guardado por otro programa, que este no puede usar. Elimínelo y créelo de nuevo.</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>Un plan del historial de conexiones «%2», guardado por otro programa, no se puede usar (%1). Elimínelo y créelo de nuevo.</translation>
     </message>
 </context>
 <context>

@@ -569,8 +569,8 @@
         <translation>«&#xa0;%2&#xa0;» (%1) ne vient pas de ce programme</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>L’historique des connexions «&#xa0;%1&#xa0;» contient le forfait «&#xa0;%2&#xa0;», enregistré par un autre programme et inutilisable par celui-ci. Supprimez-le et créez-le de nouveau.</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>Un forfait de l’historique des connexions «&#xa0;%2&#xa0;», enregistré par un autre programme, est inutilisable (%1). Supprimez-le et créez-le de nouveau.</translation>
     </message>
 </context>
 <context>

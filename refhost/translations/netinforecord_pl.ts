@@ -569,8 +569,8 @@
         <translation>„%2” (%1) nie pochodzi z tego programu</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>Historia połączeń „%1” zawiera plan „%2”, zapisany przez inny program, którego ten program nie może użyć. Usuń go i utwórz ponownie.</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>Planu z historii połączeń „%2”, zapisanego przez inny program, nie można użyć (%1). Usuń go i utwórz ponownie.</translation>
     </message>
 </context>
 <context>

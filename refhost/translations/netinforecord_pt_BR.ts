@@ -569,8 +569,8 @@
         <translation>“%2” (%1) não é deste programa</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>O histórico de conexões “%1” tem o plano “%2”, gravado por outro programa, que este não consegue usar. Remova-o e crie-o de novo.</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>Um plano do histórico de conexões “%2”, gravado por outro programa, não pode ser usado (%1). Remova-o e crie-o de novo.</translation>
     </message>
 </context>
 <context>

@@ -569,8 +569,8 @@
         <translation>«%2» (%1) создано не этой программой</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>В истории соединений «%1» есть тарифный план «%2», записанный другой программой; эта программа не может его использовать. Удалите его и создайте заново.</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>Тарифный план в истории соединений «%2», записанный другой программой, нельзя использовать (%1). Удалите его и создайте заново.</translation>
     </message>
 </context>
 <context>

@@ -569,8 +569,8 @@
         <translation>“%2” (%1) bu programdan değil</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>“%1” bağlantı geçmişinde, başka bir programın kaydettiği ve bu programın kullanamadığı “%2” planı var. Bu planı kaldırın ve yeniden oluşturun.</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>“%2” bağlantı geçmişinde başka bir programın kaydettiği bir plan kullanılamıyor (%1). Bu planı kaldırın ve yeniden oluşturun.</translation>
     </message>
 </context>
 <context>

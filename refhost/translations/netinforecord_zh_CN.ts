@@ -569,8 +569,8 @@
         <translation>“%2”（%1）不是由此程序创建的</translation>
     </message>
     <message>
-        <source>The connection history &quot;%1&quot; has a plan &quot;%2&quot; from another program that this one cannot use; remove this plan and make it again.</source>
-        <translation>连接历史记录“%1”中有其他程序保存的套餐“%2”，本程序无法使用。请将其移除并重新创建。</translation>
+        <source>%1 The connection history &quot;%2&quot; has it so from another program; remove this plan and make it again.</source>
+        <translation>连接历史记录“%2”中有其他程序保存的套餐无法使用（%1）。请将其移除并重新创建。</translation>
     </message>
 </context>
 <context>

@@ -95,9 +95,9 @@ void StoreErrorTextTest::speaksTheLanguageOfTheProgram_data()
            "(als Version ist 0 angegeben). Er blieb");
     const StoreError plan = planThatCannotBe();
     addRow("a plan that cannot be", "en", plan,
-           "has a plan \"Home\" from another program that this one cannot use; remove this plan");
+           "The day of the month of the plan \"Home\" is 99, but must lie between 1 and 31. The ");
     addRow("a plan that cannot be, German", "de", plan,
-           "den Tarif „Home“, den dieses nicht verwenden kann.");
+           "lässt sich nicht verwenden (The day of the month of the plan \"Home\" is 99,");
     addRow("damage, Arabic", "ar", writing(SQLITE_CORRUPT), "تالف (\u200edisk I/O error\u200e)");
     addRow("another program's database, Arabic", "ar", history::anotherDatabase(path).error(),
            "ليس سجل اتصالات بل قاعدة بيانات لبرنامج آخر. تُركت كما هي؛ انقلها إلى مكان آخر");
